@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/Date.h"
+
+#include <concepts>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace NS {
+
+using Data = std::vector<std::uint8_t>;
+
+/// A property-list value of one of eight kinds. The kinds never blur: a boolean is not an integer and an
+/// integer is not a real, and asking for a kind that the value does not have gives nothing.
+class Value {
+public:
+    enum class Kind { Boolean, Integer, Real, String, Date, Data, Array, Dictionary };
+
+    using Array = std::vector<Value>;
+    using Dictionary = std::map<std::string, Value, std::less<>>;
+
+    Value(std::same_as<bool> auto value) : m_value(value) {}
+    /// Integers are 64-bit signed. An unsigned value beyond that range is held too, so that a file which has
+    /// one survives a rewrite; its kind is Integer and integer() gives nothing.
+    template<std::integral T>
+        requires(!std::same_as<T, bool>)
+    Value(T value) : m_value(std::int64_t{0})
+    {
+        if (std::in_range<std::int64_t>(value))
+            m_value = static_cast<std::int64_t>(value);
+        else
+            m_value = static_cast<std::uint64_t>(value);
+    }
+    Value(std::floating_point auto value) : m_value(static_cast<double>(value)) {}
+    /// UTF-8.
+    Value(std::string value) : m_value(std::move(value)) {}
+    Value(std::string_view value) : m_value(std::string(value)) {}
+    Value(const char* value) : m_value(std::string(value)) {}
+    Value(NS::Date value) : m_value(value) {}
+    Value(NS::Data value) : m_value(std::move(value)) {}
+    Value(Array value) : m_value(std::move(value)) {}
+    Value(Dictionary value) : m_value(std::move(value)) {}
+
+    [[nodiscard]] Kind kind() const;
+
+    [[nodiscard]] std::optional<bool> boolean() const;
+    [[nodiscard]] std::optional<std::int64_t> integer() const;
+    /// The magnitude of an integer too large for integer(); nothing for every other value.
+    [[nodiscard]] std::optional<std::uint64_t> largeInteger() const;
+    [[nodiscard]] std::optional<double> real() const;
+    [[nodiscard]] std::optional<NS::Date> date() const;
+    // The pointers live as long as the value is neither changed nor destroyed.
+    [[nodiscard]] const std::string* string() const { return std::get_if<std::string>(&m_value); }
+    [[nodiscard]] const NS::Data* data() const { return std::get_if<NS::Data>(&m_value); }
+    [[nodiscard]] const Array* array() const { return std::get_if<Array>(&m_value); }
+    [[nodiscard]] const Dictionary* dictionary() const { return std::get_if<Dictionary>(&m_value); }
+
+    friend bool operator==(const Value&, const Value&) = default;
+
+private:
+    std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NS::Date, NS::Data, Array, Dictionary>
+        m_value;
+};
+
+} // namespace NS
