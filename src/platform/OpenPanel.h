@@ -11,6 +11,16 @@ namespace NS {
 inline constexpr int ModalResponseCancel = 0;
 inline constexpr int ModalResponseOK = 1;
 
+class OpenPanel;
+
+/// Asked by a panel which items can be chosen.
+class OpenSavePanelDelegate {
+public:
+    virtual ~OpenSavePanelDelegate() = default;
+
+    [[nodiscard]] virtual bool panel_shouldEnableURL(OpenPanel& panel, const URL& url) = 0;
+};
+
 /// A chooser of existing files. Made by Platform::makeOpenPanel, set up, then run once. Files can be chosen
 /// unless told otherwise. Main thread.
 class OpenPanel {

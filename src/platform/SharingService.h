@@ -9,6 +9,12 @@ namespace NS {
 
 inline constexpr std::string_view SharingServiceNameComposeEmail = "compose-email";
 
+/// Told what a sharing service does with its items.
+class SharingServiceDelegate {
+public:
+    virtual ~SharingServiceDelegate() = default;
+};
+
 /// A desktop service that takes items from this program. Found by Platform::sharingServiceNamed. Main thread.
 class SharingService {
 public:

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "platform/TabViewController.h"
+
+/// The tabs of the start window, as their scene defines them.
+class tabviewcontroller : public NS::TabViewController {};

@@ -1,0 +1,74 @@
+#include "mail/AttachToMail.h"
+
+#include "platform/FatalError.h"
+#include "platform/Platform.h"
+#include "settings/SettingsKeys.h"
+#include "settings/SharedSuite.h"
+
+#include <optional>
+#include <string>
+
+namespace {
+
+/// In seconds. A request of exactly this age is stale.
+constexpr double freshness = 20.0;
+
+/// The path of a request that is well-formed and fresh.
+std::optional<std::string> pathOfFreshRequest(NS::UserDefaults& suite)
+{
+    const auto path = suite.objectForKey(SettingsKey::mailAttachPath);
+    if (!path || !path->string())
+        return std::nullopt;
+    const auto clicked = suite.objectForKey(SettingsKey::AttachClickedDate);
+    if (!clicked || !clicked->date())
+        return std::nullopt;
+    const double age = NS::platform().now().timeIntervalSinceDate(*clicked->date());
+    // An age that is not a number compares as stale.
+    if (!(age < freshness))
+        return std::nullopt;
+    return *path->string();
+}
+
+/// Takes the request out of the suite before anybody is asked, so that it can be acted on only once.
+std::optional<std::string> consumeRequest()
+{
+    const auto suite = openSharedSuite();
+    if (!suite)
+        return std::nullopt;
+    auto path = pathOfFreshRequest(*suite);
+    suite->removeObjectForKey(SettingsKey::mailAttachPath);
+    suite->removeObjectForKey(SettingsKey::AttachClickedDate);
+    return path;
+}
+
+} // namespace
+
+AttachToMailOutcome attachToMail()
+{
+    const auto path = consumeRequest();
+    if (!path)
+        return AttachToMailOutcome::NoRequest;
+
+    const auto panel = NS::platform().makeOpenPanel();
+    panel->setMessage("Please select the file that you want to send via email to allow sending");
+    panel->setCanChooseDirectories(true);
+    panel->setAllowsMultipleSelection(false);
+    panel->setShowsHiddenFiles(true);
+    panel->setDirectoryURL(NS::URL::fileURLWithPath(*path));
+    panel->setPrompt("Attach to Mail");
+
+    const int response = panel->runModal();
+    if (response == NS::ModalResponseCancel)
+        return AttachToMailOutcome::Abandoned;
+    if (response != NS::ModalResponseOK)
+        return AttachToMailOutcome::NoRequest;
+    const auto chosen = panel->URL();
+    if (!chosen)
+        return AttachToMailOutcome::Abandoned;
+
+    NS::SharingService* service = NS::platform().sharingServiceNamed(NS::SharingServiceNameComposeEmail);
+    if (!service)
+        NS::fatalError("there is no service to compose an e-mail with");
+    service->performWithItems({*chosen});
+    return AttachToMailOutcome::HandedOver;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/TableCellView.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace NS {
+
+class TableView;
+
+/// A column of a table; the tables of this program have one each.
+class TableColumn;
+
+/// Says how many rows a table has.
+class TableViewDataSource {
+public:
+    virtual ~TableViewDataSource() = default;
+
+    [[nodiscard]] virtual std::ptrdiff_t numberOfRowsInTableView(TableView& tableView) = 0;
+};
+
+/// Makes a table's row views.
+class TableViewDelegate {
+public:
+    virtual ~TableViewDelegate() = default;
+
+    /// A view got from makeViewWithIdentifier_owner and filled for the row, or nothing for an empty row.
+    [[nodiscard]] virtual TableCellView* tableView_viewForTableColumn_row(TableView& tableView,
+                                                                          const TableColumn* tableColumn,
+                                                                          std::ptrdiff_t row) = 0;
+};
+
+/// A list. Its scene connects it to its data source and delegate; it asks them for the rows in sight. Main thread.
+class TableView : public View {
+public:
+    /// Asks for the number of rows and for the rows in sight again, before it returns.
+    virtual void reloadData() = 0;
+
+    /// A row view to fill: one that has left sight and keeps what it showed, or a new one. Nothing when there is
+    /// no such scene. The table owns it.
+    [[nodiscard]] virtual TableCellView* makeViewWithIdentifier_owner(std::string_view identifier,
+                                                                      SceneObject* owner) = 0;
+};
+
+} // namespace NS

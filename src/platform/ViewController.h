@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Connections.h"
+
+#include <memory>
+#include <utility>
+
+namespace NS {
+
+/// What a storyboard scene is run by: a ViewController or a WindowController. Held by shared_ptr. Main thread.
+class Controller : public SceneObject {
+public:
+    /// The scene as the platform keeps it: the views and what connects them. It goes when the controller goes.
+    class Scene {
+    public:
+        virtual ~Scene() = default;
+    };
+
+    /// For storyboards.
+    void setScene(std::unique_ptr<Scene> scene) { m_scene = std::move(scene); }
+    [[nodiscard]] Scene* scene() const { return m_scene.get(); }
+
+private:
+    std::unique_ptr<Scene> m_scene;
+};
+
+/// Runs a screen.
+class ViewController : public Controller {
+public:
+    /// The scene's views exist and its outlets are filled. Called once.
+    virtual void viewDidLoad() {}
+};
+
+} // namespace NS

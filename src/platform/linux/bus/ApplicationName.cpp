@@ -1,0 +1,123 @@
+#include "platform/linux/bus/ApplicationName.h"
+
+#include "platform/linux/bus/ApplicationInterface.h"
+
+#include <QDBusMessage>
+
+#include <chrono>
+#include <utility>
+
+namespace LinuxDesktop
+{
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+/// The other instance may be busy, for example reading from a slow disk.
+constexpr std::chrono::milliseconds activationTimeout = 5s;
+
+// Flag and answers of the bus's RequestName.
+constexpr uint doNotQueue = 4;
+constexpr uint primaryOwner = 1;
+constexpr uint alreadyOwner = 4;
+
+QDBusMessage askBus(const QDBusConnection& connection, const QString& method, const QVariantList& arguments)
+{
+    auto call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                               QStringLiteral("/org/freedesktop/DBus"),
+                                               QStringLiteral("org.freedesktop.DBus"), method);
+    call.setArguments(arguments);
+    return connection.call(call);
+}
+
+bool isReply(const QDBusMessage& message)
+{
+    return message.type() == QDBusMessage::ReplyMessage;
+}
+
+QString objectPath(QString identifier)
+{
+    return u'/' + identifier.replace(u'.', u'/').replace(u'-', u'_');
+}
+
+} // namespace
+
+QVariantMap platformDataFromEnvironment()
+{
+    QVariantMap data;
+    if (const QString token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); !token.isEmpty())
+        data.insert(QStringLiteral("activation-token"), token);
+    if (const QString identifier = qEnvironmentVariable("DESKTOP_STARTUP_ID"); !identifier.isEmpty())
+        data.insert(QStringLiteral("desktop-startup-id"), identifier);
+    return data;
+}
+
+ApplicationName::ApplicationName(SessionBus& bus, std::string_view identifier)
+    : m_bus(bus), m_identifier(QString::fromUtf8(identifier)), m_path(objectPath(m_identifier))
+{
+}
+
+ApplicationName::~ApplicationName()
+{
+    if (!m_owned)
+        return;
+    if (auto connection = m_bus.connection()) {
+        askBus(*connection, QStringLiteral("ReleaseName"), {m_identifier});
+        connection->unregisterObject(m_path);
+    }
+}
+
+bool ApplicationName::ownedByAnother()
+{
+    const auto connection = m_bus.connection();
+    if (!connection)
+        return false;
+    const QDBusMessage owner = askBus(*connection, QStringLiteral("GetNameOwner"), {m_identifier});
+    return isReply(owner) && owner.arguments().value(0).toString() != connection->baseService();
+}
+
+bool ApplicationName::activateOther(const QVariantMap& platformData)
+{
+    const auto connection = m_bus.connection();
+    if (!connection)
+        return false;
+    auto call = QDBusMessage::createMethodCall(m_identifier, m_path, QStringLiteral("org.freedesktop.Application"),
+                                               QStringLiteral("Activate"));
+    call << platformData;
+    // An owner that has just gone is not started anew by the bus: this process is there to take its place.
+    call.setAutoStartService(false);
+    return isReply(connection->call(call, QDBus::Block, static_cast<int>(activationTimeout.count())));
+}
+
+ApplicationName::Claim ApplicationName::claim()
+{
+    auto connection = m_bus.connection();
+    if (!connection)
+        return Claim::NoBus;
+    if (m_owned)
+        return Claim::Owned;
+
+    // The object comes before the name, so that whoever sees the name can activate its owner.
+    auto* application = new ApplicationInterface(*this, *connection, [this](const QString& activationToken) {
+        if (m_activated)
+            m_activated(activationToken);
+    });
+    connection->registerObject(m_path, this, QDBusConnection::ExportAdaptors);
+    const QDBusMessage answer = askBus(*connection, QStringLiteral("RequestName"), {m_identifier, doNotQueue});
+    const uint result = answer.arguments().value(0).toUInt();
+    m_owned = isReply(answer) && (result == primaryOwner || result == alreadyOwner);
+    if (m_owned)
+        return Claim::Owned;
+    connection->unregisterObject(m_path);
+    delete application;
+    return isReply(answer) ? Claim::OwnedByAnother : Claim::NoBus;
+}
+
+void ApplicationName::whenActivated(std::function<void(QString)> activated)
+{
+    m_activated = std::move(activated);
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,272 @@
+#include "platform/linux/defaults/Domain.h"
+
+#include "platform/FatalError.h"
+#include "platform/linux/defaults/PropertyList.h"
+#include "platform/linux/defaults/SettingsFolder.h"
+
+#include <utility>
+#include <variant>
+
+namespace LinuxDesktop
+{
+
+namespace
+{
+
+constexpr std::chrono::milliseconds writeDelay{250};
+constexpr std::chrono::milliseconds retryDelay{1000};
+
+} // namespace
+
+Domain::Domain(std::shared_ptr<FileOperations> files, std::shared_ptr<DelayedQueue> queue, std::string folder,
+               std::string_view name)
+    : m_files(std::move(files)), m_queue(std::move(queue)), m_file(*m_files, std::move(folder), name),
+      m_lock(*m_files, m_file.lockPath())
+{
+}
+
+NS::Value::Dictionary Domain::Changes::over(const NS::Value::Dictionary& values) const
+{
+    NS::Value::Dictionary result;
+    if (cleared == 0)
+        result = values;
+    for (const auto& [key, change] : keys) {
+        if (change.value)
+            result.insert_or_assign(key, *change.value);
+        else
+            result.erase(key);
+    }
+    return result;
+}
+
+std::optional<NS::Value> Domain::objectForKey(std::string_view key)
+{
+    std::unique_lock state(m_state);
+    refresh(state);
+    if (const auto change = m_changes.keys.find(key); change != m_changes.keys.end())
+        return change->second.value;
+    if (m_changes.cleared != 0)
+        return std::nullopt;
+    const auto& values = m_snapshot.values();
+    const auto found = values.find(key);
+    return found == values.end() ? std::nullopt : std::optional(found->second);
+}
+
+void Domain::setObject_forKey(NS::Value value, std::string_view key)
+{
+    if (const auto reason = PropertyList::unstorableReason(value))
+        NS::fatalError("a value that cannot be stored: " + *reason);
+    change(key, PropertyList::inWholeSeconds(std::move(value)));
+}
+
+void Domain::removeObjectForKey(std::string_view key)
+{
+    change(key, std::nullopt);
+}
+
+void Domain::change(std::string_view key, std::optional<NS::Value> value)
+{
+    if (const auto reason = PropertyList::unstorableKeyReason(key))
+        NS::fatalError("a key that cannot be stored: " + *reason);
+    std::unique_lock state(m_state);
+    m_changes.keys.insert_or_assign(std::string(key), Change{std::move(value), ++m_serial});
+    writeSoon(std::move(state));
+}
+
+void Domain::replaceContents(const NS::Value::Dictionary& values)
+{
+    Changes changes;
+    std::unique_lock state(m_state);
+    changes.cleared = ++m_serial;
+    for (const auto& [key, value] : values)
+        changes.keys.emplace(key, Change{PropertyList::inWholeSeconds(value), m_serial});
+    m_changes = std::move(changes);
+    writeSoon(std::move(state));
+}
+
+std::optional<NS::Value::Dictionary> Domain::contents()
+{
+    std::unique_lock state(m_state);
+    refresh(state);
+    if (m_snapshot.state() == Snapshot::State::Absent && m_changes.empty())
+        return std::nullopt;
+    return m_changes.over(m_snapshot.values());
+}
+
+bool Domain::isAccessible()
+{
+    std::unique_lock state(m_state);
+    refresh(state);
+    return m_snapshot.state() != Snapshot::State::Inaccessible;
+}
+
+void Domain::writeSoon(std::unique_lock<std::mutex> state)
+{
+    if (std::exchange(m_writeIsDue, true))
+        return;
+    state.unlock();
+    if (!postWrite(writeDelay))
+        save(Clock::now() + DomainLock::longestWait);
+}
+
+/// False once the store is gone: then nobody writes later.
+bool Domain::postWrite(std::chrono::milliseconds delay)
+{
+    return m_queue->post(
+        [weak = weak_from_this()] {
+            const auto self = weak.lock();
+            if (!self)
+                return;
+            {
+                const std::lock_guard state(self->m_state);
+                self->m_writeIsDue = false;
+            }
+            self->synchronize();
+        },
+        delay);
+}
+
+bool Domain::synchronize()
+{
+    const Outcome outcome = save(Clock::now() + DomainLock::longestWait);
+    if (outcome == Outcome::LockBusy) {
+        const std::lock_guard state(m_state);
+        if (!m_writeIsDue)
+            m_writeIsDue = postWrite(retryDelay);
+    }
+    return outcome == Outcome::Saved;
+}
+
+/// Brings m_snapshot up to the file. Unlocks `state` for a while where a damaged file has to be repaired.
+void Domain::refresh(std::unique_lock<std::mutex>& state)
+{
+    if (m_snapshot.isCurrent(m_file.path()))
+        return;
+    Snapshot found = m_file.read();
+    if (found.state() == Snapshot::State::Damaged) {
+        // A damaged file that is still there could not be set aside; the next write tries that again.
+        if (m_snapshot.state() == Snapshot::State::Damaged && m_snapshot.version() == found.version()) {
+            m_snapshot.settleLike(found);
+            return;
+        }
+        state.unlock();
+        found = repair(Clock::now() + DomainLock::longestWait);
+        state.lock();
+    }
+    if (found.state() == Snapshot::State::Inaccessible)
+        found.standIn(m_snapshot);
+    m_snapshot = std::move(found);
+}
+
+std::optional<DomainLock::Hold> Domain::lockFiles(Clock::time_point deadline, Trouble& trouble)
+{
+    DomainLock::Attempt attempt = m_lock.acquire(deadline);
+    if (auto* hold = std::get_if<DomainLock::Hold>(&attempt))
+        return std::move(*hold);
+    if (const auto* failure = std::get_if<Failure>(&attempt))
+        trouble = {Outcome::Failed, failure->what};
+    else
+        trouble = {Outcome::LockBusy, "the settings lock " + m_lock.path() + " is held by another program"};
+    return std::nullopt;
+}
+
+Snapshot Domain::withStandIn(Snapshot damaged, const std::string& trouble)
+{
+    damaged.standIn(m_file.readBackup());
+    m_complaints.complain(m_file.path() + " is not a readable property list (" + damaged.why() +
+                          ") and could not be set aside: " + trouble +
+                          "; it is left as it is, and the last good copy is used where there is one");
+    return damaged;
+}
+
+Snapshot Domain::repair(Clock::time_point deadline)
+{
+    const std::unique_lock writing(m_writing, deadline);
+    Snapshot found = m_file.readPatiently();
+    if (found.state() != Snapshot::State::Damaged)
+        return found;
+    if (!writing)
+        return withStandIn(std::move(found), "another thread is writing");
+    Trouble trouble{};
+    const auto hold = lockFiles(deadline, trouble);
+    return hold ? repairLocked() : withStandIn(std::move(found), trouble.what);
+}
+
+/// For the holder of the lock: what the file holds, once a damaged one is set aside.
+Snapshot Domain::repairLocked()
+{
+    Snapshot found = m_file.readPatiently();
+    if (found.state() != Snapshot::State::Damaged)
+        return found;
+    const auto outcome = m_file.setAside(found);
+    if (!outcome)
+        return withStandIn(std::move(found), outcome.error());
+    report(*outcome);
+    return m_file.read();
+}
+
+Domain::Outcome Domain::save(Clock::time_point deadline)
+{
+    const std::unique_lock writing(m_writing, deadline);
+    if (!writing)
+        return Outcome::LockBusy;
+
+    Changes changes;
+    std::uint64_t serial = 0;
+    {
+        const std::lock_guard state(m_state);
+        if (m_changes.empty())
+            return Outcome::Saved;
+        changes = m_changes;
+        serial = m_serial;
+    }
+
+    Trouble trouble{};
+    auto written = write(changes, deadline, trouble);
+    if (!written) {
+        m_complaints.complain(trouble.what + "; what was written stays in memory and is tried again");
+        return trouble.outcome;
+    }
+    m_complaints.allIsWell();
+    const std::lock_guard state(m_state);
+    m_snapshot = std::move(*written);
+    std::erase_if(m_changes.keys, [&](const auto& entry) { return entry.second.serial <= serial; });
+    if (m_changes.cleared <= serial)
+        m_changes.cleared = 0;
+    return Outcome::Saved;
+}
+
+std::optional<Snapshot> Domain::write(const Changes& changes, Clock::time_point deadline, Trouble& trouble)
+{
+    trouble.outcome = Outcome::Failed;
+    if (const auto failure = makeFolders(*m_files, m_file.folder())) {
+        trouble.what = failure->what;
+        return std::nullopt;
+    }
+    const auto hold = lockFiles(deadline, trouble);
+    if (!hold)
+        return std::nullopt;
+
+    Snapshot found = repairLocked();
+    if (found.state() == Snapshot::State::Damaged || found.state() == Snapshot::State::Inaccessible) {
+        trouble.what = "could not read " + m_file.path() + ": " + found.why();
+        return std::nullopt;
+    }
+    NS::Value::Dictionary values = changes.over(found.values());
+    const bool fileIsWanted = found.state() == Snapshot::State::Readable || changes.cleared == 0;
+    if (fileIsWanted && PropertyList::identical(values, found.values())) {
+        if (const auto failure = m_file.flush(found)) {
+            trouble.what = failure->what;
+            return std::nullopt;
+        }
+        return found;
+    }
+    auto written = m_file.replace(std::move(values));
+    if (!written) {
+        trouble.what = written.error();
+        return std::nullopt;
+    }
+    return std::move(*written);
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "platform/UserDefaults.h"
+#include "platform/linux/defaults/Complaints.h"
+#include "platform/linux/defaults/DelayedQueue.h"
+#include "platform/linux/defaults/DomainLock.h"
+#include "platform/linux/defaults/FileOperations.h"
+#include "platform/linux/defaults/SettingsFile.h"
+#include "platform/linux/defaults/Snapshot.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace LinuxDesktop
+{
+
+/// A domain of settings: what its file held when it was last looked at, and over that what was written here and
+/// is not in the file yet. Every read looks whether the file has changed. Writes reach the file a quarter of a
+/// second later at the latest, or with synchronize(). Any thread; no read waits for another thread's write to
+/// the disk.
+class Domain final : public NS::UserDefaults, public std::enable_shared_from_this<Domain>
+{
+public:
+    Domain(std::shared_ptr<FileOperations> files, std::shared_ptr<DelayedQueue> queue, std::string folder,
+           std::string_view name);
+
+    [[nodiscard]] std::optional<NS::Value> objectForKey(std::string_view key) override;
+    /// Fatal for what PropertyList::unstorableReason() names. Dates are stored in whole seconds.
+    void setObject_forKey(NS::Value value, std::string_view key) override;
+    void removeObjectForKey(std::string_view key) override;
+    bool synchronize() override;
+
+    /// Everything in the domain; nothing when there is neither a file nor anything written.
+    [[nodiscard]] std::optional<NS::Value::Dictionary> contents();
+    /// Replaces everything in the domain, storable values all.
+    void replaceContents(const NS::Value::Dictionary& values);
+
+    /// Whether the file, if there is one, can be read at all.
+    [[nodiscard]] bool isAccessible();
+    [[nodiscard]] const std::string& path() const { return m_file.path(); }
+
+private:
+    using Clock = DomainLock::Clock;
+
+    struct Change {
+        /// Nothing: the key was removed.
+        std::optional<NS::Value> value;
+        std::uint64_t serial;
+    };
+    /// What was written here, to be laid over what the file holds.
+    struct Changes {
+        std::map<std::string, Change, std::less<>> keys;
+        /// The serial of the last replaceContents(), which hides all that the file holds; 0 when there was none.
+        std::uint64_t cleared = 0;
+        [[nodiscard]] bool empty() const { return keys.empty() && cleared == 0; }
+        [[nodiscard]] NS::Value::Dictionary over(const NS::Value::Dictionary& values) const;
+    };
+    enum class Outcome { Saved, LockBusy, Failed };
+    struct Trouble {
+        Outcome outcome;
+        std::string what;
+    };
+
+    void change(std::string_view key, std::optional<NS::Value> value);
+    void writeSoon(std::unique_lock<std::mutex> state);
+    [[nodiscard]] bool postWrite(std::chrono::milliseconds delay);
+    void refresh(std::unique_lock<std::mutex>& state);
+
+    // These wait for locks and for the disk; m_state must not be locked.
+    Outcome save(Clock::time_point deadline);
+    [[nodiscard]] Snapshot repair(Clock::time_point deadline);
+
+    // For the holder of m_writing; on failure they fill `trouble`.
+    [[nodiscard]] std::optional<Snapshot> write(const Changes& changes, Clock::time_point deadline, Trouble& trouble);
+    [[nodiscard]] std::optional<DomainLock::Hold> lockFiles(Clock::time_point deadline, Trouble& trouble);
+    [[nodiscard]] Snapshot repairLocked();
+    [[nodiscard]] Snapshot withStandIn(Snapshot damaged, const std::string& trouble);
+
+    const std::shared_ptr<FileOperations> m_files;
+    const std::shared_ptr<DelayedQueue> m_queue;
+    const SettingsFile m_file;
+    Complaints m_complaints;
+
+    /// Taken before m_state, by whoever changes the files.
+    std::timed_mutex m_writing;
+    DomainLock m_lock;
+
+    std::mutex m_state;
+    Snapshot m_snapshot;
+    Changes m_changes;
+    std::uint64_t m_serial = 0;
+    bool m_writeIsDue = false;
+};
+
+} // namespace LinuxDesktop

@@ -1,0 +1,69 @@
+#include "platform/linux/defaults/DomainLock.h"
+
+#include "platform/linux/defaults/ReplaceFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+
+namespace LinuxDesktop
+{
+
+namespace
+{
+
+constexpr std::chrono::microseconds firstPause{50};
+constexpr std::chrono::microseconds longestPause{1000};
+constexpr int longestStreak = 32;
+
+bool isStillAt(int descriptor, const std::string& path)
+{
+    struct stat held {
+    };
+    struct stat found {
+    };
+    return ::fstat(descriptor, &held) == 0 && ::stat(path.c_str(), &found) == 0 && held.st_dev == found.st_dev &&
+           held.st_ino == found.st_ino;
+}
+
+} // namespace
+
+DomainLock::Attempt DomainLock::acquire(Clock::time_point deadline)
+{
+    giveOthersATurn();
+    FileDescriptor file;
+    for (auto pause = firstPause;; pause = std::min(pause * 2, longestPause)) {
+        if (!file)
+            file = m_files.open(m_path, O_RDWR | O_CREAT, 0600);
+        if (!file)
+            return systemFailure("could not open the lock", m_path);
+        if (::flock(file.get(), LOCK_EX | LOCK_NB) == 0) {
+            if (isStillAt(file.get(), m_path))
+                return Hold(*this, std::move(file));
+            // Locked, but worthless: the file was removed meanwhile, and the next writer makes another.
+            file.reset();
+        } else if (errno != EWOULDBLOCK && errno != EINTR) {
+            return systemFailure("could not take the lock", m_path);
+        }
+        if (Clock::now() >= deadline)
+            return Busy{};
+        std::this_thread::sleep_for(pause);
+    }
+}
+
+/// Whoever writes without a break would win nearly every time against those who look once in a while; so now and
+/// then it leaves the lock alone for longer than they pause.
+void DomainLock::giveOthersATurn()
+{
+    if (Clock::now() - m_released > longestPause)
+        m_turnsInARow = 0;
+    if (++m_turnsInARow > longestStreak) {
+        m_turnsInARow = 0;
+        std::this_thread::sleep_for(longestPause + firstPause);
+    }
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,104 @@
+#include "platform/linux/defaults/ReplaceFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <random>
+#include <system_error>
+
+namespace LinuxDesktop
+{
+
+namespace
+{
+
+constexpr std::size_t uniqueDigits = 16;
+constexpr std::string_view hexadecimal = "0123456789abcdef";
+
+std::string uniqueSuffix()
+{
+    std::random_device random;
+    std::array<char, uniqueDigits + 1> digits{};
+    std::snprintf(digits.data(), digits.size(), "%08x%08x", random(), random());
+    return digits.data();
+}
+
+bool isTemporaryName(std::string_view name, std::string_view prefix)
+{
+    return name.starts_with(prefix) && name.size() == prefix.size() + uniqueDigits &&
+           name.find_first_not_of(hexadecimal, prefix.size()) == std::string_view::npos;
+}
+
+} // namespace
+
+Failure systemFailure(std::string_view what, const std::string& path)
+{
+    const std::string reason = std::generic_category().message(errno);
+    return {std::string(what) + " " + path + ": " + reason};
+}
+
+std::string folderOf(const std::string& path)
+{
+    return path.substr(0, std::max<std::size_t>(1, path.rfind('/')));
+}
+
+bool syncFolder(FileOperations& files, const std::string& folder)
+{
+    const FileDescriptor opened = files.open(folder, O_RDONLY | O_DIRECTORY);
+    return opened && files.syncFolder(opened.get()) == 0;
+}
+
+bool writeAll(FileOperations& files, int descriptor, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = files.write(descriptor, bytes.data(), bytes.size());
+        if (written <= 0) {
+            if (written == 0)
+                errno = ENOSPC;
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+Result<FileDescriptor> replaceFile(FileOperations& files, const Replacement& replacement)
+{
+    const bool durable = replacement.durability == Durability::Synchronous;
+    const std::string folder = folderOf(replacement.path);
+    const std::string temporary = folder + "/" + replacement.temporaryPrefix + uniqueSuffix();
+
+    constexpr mode_t ownerOnly = 0600;
+    FileDescriptor file = files.open(temporary, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, ownerOnly);
+    if (!file)
+        return systemFailure("could not create a file to replace", replacement.path);
+    const auto abandon = [&](std::string_view what) {
+        const Failure failure = systemFailure(what, replacement.path);
+        files.unlink(temporary);
+        return failure;
+    };
+    if (!writeAll(files, file.get(), replacement.bytes))
+        return abandon("could not write");
+    if (durable && files.syncFile(file.get()) != 0)
+        return abandon("could not flush");
+    if (files.rename(temporary, replacement.path) != 0)
+        return abandon("could not replace");
+    if (durable && !syncFolder(files, folder))
+        return systemFailure("could not flush", folder);
+    return file;
+}
+
+void removeStaleTemporaries(FileOperations& files, const std::string& path, std::string_view temporaryPrefix)
+{
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folderOf(path), error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (isTemporaryName(entry->path().filename().native(), temporaryPrefix))
+            files.unlink(entry->path().native());
+    }
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,137 @@
+#include "platform/linux/defaults/SettingsFile.h"
+
+#include "platform/linux/defaults/PropertyList.h"
+#include "platform/linux/defaults/ReplaceFile.h"
+#include "platform/linux/defaults/Salvage.h"
+#include "platform/linux/defaults/SettingsFolder.h"
+
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+#include <thread>
+
+namespace LinuxDesktop
+{
+
+namespace
+{
+
+/// Whether the file was changed within the last second.
+bool isFresh(const FileVersion& version)
+{
+    const auto modified = std::chrono::system_clock::time_point(std::chrono::seconds(version.modified.tv_sec)) +
+                          std::chrono::nanoseconds(version.modified.tv_nsec);
+    const auto age = std::chrono::system_clock::now() - modified;
+    return age < std::chrono::seconds(1) && age > -std::chrono::seconds(1);
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(FileOperations& files, std::string folder, std::string_view domain)
+    : m_files(files), m_folder(std::move(folder)), m_path(settingsPath(m_folder, domain))
+{
+}
+
+std::string SettingsFile::temporaryPrefix() const
+{
+    return m_path.substr(m_folder.size() + 1) + ".tmp-";
+}
+
+Snapshot SettingsFile::readPatiently() const
+{
+    constexpr std::chrono::milliseconds pause{10};
+    constexpr int pauses = 10;
+    Snapshot snapshot = read();
+    for (int i = 0; i < pauses && snapshot.state() == Snapshot::State::Damaged && isFresh(snapshot.version()); ++i) {
+        std::this_thread::sleep_for(pause);
+        snapshot = read();
+    }
+    return snapshot;
+}
+
+/// Where the symbolic links in the file's place lead, whether there is a file or not.
+Result<std::string> SettingsFile::target() const
+{
+    constexpr int mostLinks = 40;
+    std::filesystem::path path = m_path;
+    for (int i = 0; i < mostLinks; ++i) {
+        std::error_code error;
+        const auto link = std::filesystem::read_symlink(path, error);
+        // No link, or nothing at all.
+        if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
+            return path.native();
+        if (error)
+            return Failure{"could not follow " + path.native() + ": " + error.message()};
+        path = path.parent_path() / link;
+    }
+    errno = ELOOP;
+    return systemFailure("could not follow", m_path);
+}
+
+Result<Snapshot> SettingsFile::replace(NS::Value root) const
+{
+    const auto bytes = PropertyList::serialise(root);
+    if (!bytes)
+        return Failure{"could not store the settings in " + m_path + ": " + bytes.error()};
+    const auto path = target();
+    if (!path)
+        return Failure{path.error()};
+
+    removeStaleTemporaries(m_files, m_path, temporaryPrefix());
+    if (*path != m_path)
+        removeStaleTemporaries(m_files, *path, temporaryPrefix());
+    auto file = replaceFile(m_files, {*bytes, *path, temporaryPrefix(), Durability::Synchronous});
+    if (!file)
+        return Failure{file.error()};
+    // The settings are safe already; a copy that cannot be made is no reason to say otherwise.
+    static_cast<void>(replaceFile(m_files, {*bytes, backupPath(), temporaryPrefix(), Durability::Eventual}));
+    return Snapshot::written(std::move(root), std::move(*file));
+}
+
+std::optional<Failure> SettingsFile::flush(const Snapshot& current) const
+{
+    if (current.state() != Snapshot::State::Readable)
+        return std::nullopt;
+    if (m_files.syncFile(current.descriptor()) != 0)
+        return systemFailure("could not flush", m_path);
+    const auto path = target();
+    if (!path)
+        return Failure{path.error()};
+    if (!syncFolder(m_files, folderOf(*path)))
+        return systemFailure("could not flush", folderOf(*path));
+    return std::nullopt;
+}
+
+Result<std::string> SettingsFile::setAside(const Snapshot& damaged) const
+{
+    const auto path = target();
+    if (!path)
+        return Failure{path.error()};
+    const auto kept = keepDamagedFile(m_files, m_path, *path, damaged);
+    if (!kept)
+        return Failure{kept.error()};
+    if (!damaged.isNamed(m_path))
+        return Failure{m_path + " was changed by another program just now"};
+
+    std::string outcome =
+        m_path + " is not a readable property list (" + damaged.why() + "); it was kept as " + *kept;
+    const Snapshot backup = readBackup();
+    if (backup.state() == Snapshot::State::Readable) {
+        const auto bytes = PropertyList::serialise(backup.values());
+        if (!bytes)
+            return Failure{"could not bring back " + backupPath() + ": " + bytes.error()};
+        const auto file = replaceFile(m_files, {*bytes, *path, temporaryPrefix(), Durability::Synchronous});
+        if (!file)
+            return Failure{file.error()};
+        outcome += " and the last good copy took its place";
+    } else {
+        if (m_files.unlink(*path) != 0 || !syncFolder(m_files, folderOf(*path)))
+            return systemFailure("could not remove", *path);
+        outcome += "; there is no last good copy, so the settings start empty";
+    }
+    removeOldestDamagedFiles(m_files, m_path, *kept);
+    return outcome;
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,102 @@
+#include "platform/linux/filechooser/FileChooser.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QWindow>
+
+namespace LinuxDesktop
+{
+
+namespace
+{
+
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// Notices that the program is asked to quit, which closes its windows as a user would.
+class QuitWatch : public QObject
+{
+public:
+    QuitWatch() { QCoreApplication::instance()->installEventFilter(this); }
+
+    [[nodiscard]] bool quitting() const { return m_quitting; }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_quitting = m_quitting || event->type() == QEvent::Quit;
+        return false;
+    }
+
+private:
+    bool m_quitting = false;
+};
+
+void showInFront(QDialog& dialog)
+{
+    dialog.setWindowModality(Qt::ApplicationModal);
+    // It may be the program's only window, and an answer is no reason to quit.
+    dialog.setAttribute(Qt::WA_QuitOnClose, false);
+    dialog.winId();
+    dialog.windowHandle()->setTransientParent(QGuiApplication::focusWindow());
+    dialog.show();
+    dialog.raise();
+    dialog.activateWindow();
+}
+
+} // namespace
+
+void FileChooser::setMessage(std::string_view message)
+{
+    m_settings.message = textOf(message);
+}
+
+void FileChooser::setCanChooseDirectories(bool flag)
+{
+    m_settings.canChooseDirectories = flag;
+}
+
+void FileChooser::setAllowsMultipleSelection(bool flag)
+{
+    m_settings.allowsMultipleSelection = flag;
+}
+
+void FileChooser::setShowsHiddenFiles(bool flag)
+{
+    m_settings.hiddenFiles = flag ? HiddenFiles::Listed : HiddenFiles::Left;
+}
+
+void FileChooser::setDirectoryURL(const NS::URL& url)
+{
+    m_settings.directory = url.path();
+}
+
+void FileChooser::setPrompt(std::string_view prompt)
+{
+    m_settings.prompt = textOf(prompt);
+}
+
+int FileChooser::runModal()
+{
+    const ModalState::Session session(m_modalState);
+    const QuitWatch quit;
+    FileChooserDialog dialog(m_settings);
+    QEventLoop loop;
+    std::optional<int> answer;
+    QObject::connect(&dialog, &QDialog::finished, &loop, [&](int result) {
+        answer = result;
+        loop.quit();
+    });
+
+    showInFront(dialog);
+    loop.exec();
+
+    if (answer == QDialog::Accepted) {
+        m_url = NS::URL::fileURLWithPath(dialog.chosen().front());
+        return NS::ModalResponseOK;
+    }
+    return answer && !quit.quitting() ? NS::ModalResponseCancel : ModalResponseAborted;
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/linux/filechooser/FolderListing.h"
+
+#include <QHash>
+#include <QIcon>
+#include <QMimeDatabase>
+#include <QString>
+
+namespace LinuxDesktop
+{
+
+/// Icons of files by their kind and name alone; no file is opened. Main thread.
+class FileIcons
+{
+public:
+    [[nodiscard]] QIcon iconFor(const FileEntry& entry, const QString& name);
+
+private:
+    QMimeDatabase m_types;
+    QHash<QString, QIcon> m_byName;
+};
+
+} // namespace LinuxDesktop

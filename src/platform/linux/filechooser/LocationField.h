@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/linux/filechooser/FolderListing.h"
+
+#include <QLineEdit>
+
+#include <string>
+
+class QStringListModel;
+
+namespace LinuxDesktop
+{
+
+/// Shows the folder's path and takes another. Names are completed while typing; Tab takes over what all the
+/// proposals have in common. Main thread.
+class LocationField : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit LocationField(HiddenFiles hidden, QWidget* parent = nullptr);
+
+    void setFolder(const std::string& folder);
+
+signals:
+    /// The user confirmed a path by Enter. It need not exist.
+    void pathEntered(const std::string& path);
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void propose();
+    [[nodiscard]] QString commonPart(Qt::CaseSensitivity sensitivity) const;
+    bool completeCommonPart();
+
+    HiddenFiles m_hidden;
+    std::string m_folder;
+    QStringListModel* m_proposals;
+    QString m_proposalsFolder;
+};
+
+} // namespace LinuxDesktop

@@ -1,0 +1,62 @@
+#include "platform/linux/widgets/Accessibility.h"
+
+#include "platform/linux/widgets/RowList.h"
+#include "platform/linux/widgets/RowWidget.h"
+
+#include <QAccessibleWidget>
+
+namespace LinuxDesktop {
+
+namespace {
+
+/// A list whose children are its rows in sight, without the widgets that only carry them.
+class AccessibleRowList : public QAccessibleWidget {
+public:
+    explicit AccessibleRowList(RowList& list) : QAccessibleWidget(&list, QAccessible::List) {}
+
+    int childCount() const override { return static_cast<int>(rows().size()); }
+
+    QAccessibleInterface* child(int index) const override
+    {
+        const auto shown = rows();
+        return index >= 0 && index < shown.size() ? QAccessible::queryAccessibleInterface(shown.at(index)) : nullptr;
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return child ? static_cast<int>(rows().indexOf(qobject_cast<RowWidget*>(child->object()))) : -1;
+    }
+
+private:
+    QList<RowWidget*> rows() const { return static_cast<RowList*>(widget())->rowsInSight(); }
+};
+
+class AccessibleRow : public QAccessibleWidget {
+public:
+    explicit AccessibleRow(RowWidget& row) : QAccessibleWidget(&row, QAccessible::ListItem) {}
+
+    QAccessibleInterface* parent() const override
+    {
+        // The row's widget lies in the list's viewport.
+        QWidget* viewport = widget()->parentWidget();
+        return viewport ? QAccessible::queryAccessibleInterface(viewport->parentWidget()) : nullptr;
+    }
+};
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object)
+{
+    if (auto* list = qobject_cast<RowList*>(object))
+        return new AccessibleRowList(*list);
+    if (auto* row = qobject_cast<RowWidget*>(object))
+        return new AccessibleRow(*row);
+    return nullptr;
+}
+
+} // namespace
+
+void installAccessibility()
+{
+    QAccessible::installFactory(makeInterface);
+}
+
+} // namespace LinuxDesktop

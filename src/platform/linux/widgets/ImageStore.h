@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QPixmap>
+#include <QString>
+
+#include <string_view>
+
+namespace LinuxDesktop {
+
+/// The program's images, by the names that the code uses: SVG files in one folder, and the two template images,
+/// which come from the desktop's icon theme where it has them. Drawn when first shown, once a size. Main thread.
+class ImageStore {
+public:
+    /// `folder` holds NAME.svg.
+    explicit ImageStore(QString folder) : m_folder(std::move(folder)) {}
+
+    [[nodiscard]] bool contains(std::string_view name) const;
+    /// A square of `extent` logical pixels at `scale` device pixels each. A template image comes in `tint`.
+    [[nodiscard]] QPixmap pixmap(const QString& name, int extent, qreal scale, const QColor& tint);
+
+private:
+    [[nodiscard]] QString pathOf(const QString& name) const;
+    [[nodiscard]] QPixmap draw(const QString& name, int extent, qreal scale, const QColor& tint) const;
+
+    QString m_folder;
+    QHash<QString, QPixmap> m_drawn;
+};
+
+} // namespace LinuxDesktop

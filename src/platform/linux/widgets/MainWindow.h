@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Window.h"
+
+#include <QMainWindow>
+
+namespace LinuxDesktop {
+
+/// A window of a scene. Main thread.
+class MainWindow : public QMainWindow, public NS::Window {
+    Q_OBJECT
+
+public:
+    using QMainWindow::QMainWindow;
+
+    /// The delegate must outlive the window; null for none.
+    void setDelegate(NS::WindowDelegate* delegate) { m_delegate = delegate; }
+
+    void setContentViewController(std::shared_ptr<NS::ViewController> controller) override;
+    void makeKeyAndOrderFront() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    NS::WindowDelegate* m_delegate = nullptr;
+    std::shared_ptr<NS::ViewController> m_content;
+};
+
+} // namespace LinuxDesktop

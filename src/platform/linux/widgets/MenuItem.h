@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/Control.h"
+
+#include <QAction>
+
+namespace LinuxDesktop {
+
+/// The sender that an entry of a menu is for its action. Owned by the entry. Main thread.
+class MenuItem : public QObject, public NS::Control {
+    Q_OBJECT
+
+public:
+    explicit MenuItem(QAction& entry) : QObject(&entry)
+    {
+        connect(&entry, &QAction::triggered, this, [this] { sendAction(); });
+    }
+};
+
+} // namespace LinuxDesktop

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/TableView.h"
+
+#include <QAbstractScrollArea>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+class QLabel;
+
+namespace LinuxDesktop {
+
+class RowWidget;
+
+/// A list of a scene. It has row views for the rows in sight alone and uses those that leave sight again, so that
+/// a long list costs what a short one does. One row is current: Tab reaches its controls, the arrow keys, Home,
+/// End and the page keys move it. Main thread.
+class RowList : public QAbstractScrollArea, public NS::TableView {
+    Q_OBJECT
+    /// What an empty list says.
+    Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+
+public:
+    /// Makes a row for an identifier; null where there is no such scene.
+    using RowMaker = std::function<std::unique_ptr<RowWidget>(std::string_view identifier)>;
+
+    explicit RowList(QWidget* parent = nullptr);
+    ~RowList() override;
+
+    void setRowMaker(RowMaker maker) { m_makeRow = std::move(maker); }
+    /// Both must outlive the list.
+    void setDataSource(NS::TableViewDataSource* source) { m_dataSource = source; }
+    void setDelegate(NS::TableViewDelegate* delegate) { m_delegate = delegate; }
+
+    void reloadData() override;
+    NS::TableCellView* makeViewWithIdentifier_owner(std::string_view identifier, NS::SceneObject* owner) override;
+
+    [[nodiscard]] QString emptyText() const;
+    void setEmptyText(const QString& text);
+
+    /// The rows in sight, from the top.
+    [[nodiscard]] QList<RowWidget*> rowsInSight() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    enum class Refill { NewRows, AllRows };
+
+    void layOutRows(Refill refill);
+    void retireRow(int row);
+    void fillRow(int row);
+    RowWidget* newRow(std::string_view identifier);
+    void updateScrollRange();
+    void setCurrentRow(int row);
+    void moveTo(int row, qsizetype control);
+    bool handleKey(int key, qsizetype control);
+    [[nodiscard]] int rowHeight();
+    [[nodiscard]] int rowOf(const RowWidget& widget) const;
+
+    RowMaker m_makeRow;
+    NS::TableViewDataSource* m_dataSource = nullptr;
+    NS::TableViewDelegate* m_delegate = nullptr;
+
+    int m_rowCount = 0;
+    bool m_loaded = false;
+    int m_rowHeight = 0;
+    int m_currentRow = 0;
+    std::map<int, RowWidget*> m_rows;
+    std::vector<RowWidget*> m_spareRows;
+    /// Row views handed out while a row is being filled.
+    std::vector<RowWidget*> m_handedOut;
+    QLabel* m_emptyLabel;
+};
+
+} // namespace LinuxDesktop

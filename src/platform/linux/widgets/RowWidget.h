@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/TableCellView.h"
+
+#include <QList>
+#include <QWidget>
+
+#include <memory>
+
+namespace LinuxDesktop {
+
+/// A row of a list: the widgets of the row's scene, and the cell that the list's screen fills. Main thread.
+class RowWidget : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(bool current READ isCurrent)
+
+public:
+    explicit RowWidget(QWidget* parent = nullptr);
+
+    void setCell(std::unique_ptr<NS::TableCellView> cell) { m_cell = std::move(cell); }
+    [[nodiscard]] NS::TableCellView* cell() const { return m_cell.get(); }
+
+    /// Call once the row's widgets exist and those that its list does not use are hidden: finds the controls, and
+    /// gives each the row's title as its accessible name from now on.
+    void prepare();
+    /// The row's controls from left to right.
+    [[nodiscard]] const QList<QWidget*>& controls() const { return m_controls; }
+
+    /// The row that the keyboard is on: its controls alone are reached with Tab.
+    void setCurrent(bool current);
+    [[nodiscard]] bool isCurrent() const { return m_current; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::unique_ptr<NS::TableCellView> m_cell;
+    QList<QWidget*> m_controls;
+    bool m_current = false;
+};
+
+} // namespace LinuxDesktop

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/TabViewController.h"
+
+#include <QTabWidget>
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace LinuxDesktop {
+
+/// The tabs of a scene. A page names its screen's scene in its property "scene"; the screen is made when the page
+/// is first shown. Main thread.
+class TabPages : public QTabWidget, public NS::TabView {
+    Q_OBJECT
+
+public:
+    using Loader = std::function<std::shared_ptr<NS::ViewController>(std::string_view scene)>;
+
+    explicit TabPages(QWidget* parent = nullptr);
+
+    void setLoader(Loader loader) { m_loader = std::move(loader); }
+
+    void selectTabViewItemAtIndex(int index) override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void loadCurrentPage();
+
+    Loader m_loader;
+    std::vector<std::shared_ptr<NS::ViewController>> m_screens;
+};
+
+} // namespace LinuxDesktop

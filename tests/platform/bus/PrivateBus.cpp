@@ -1,0 +1,50 @@
+#include "PrivateBus.h"
+
+#include <QFile>
+
+#include <cstdlib>
+
+PrivateBus::PrivateBus()
+{
+    QFile configuration(m_folder.filePath(QStringLiteral("bus.conf")));
+    const QByteArray text = R"(<busconfig>
+  <type>session</type>
+  <listen>unix:path=)" + socketPath() +
+                            R"(</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+)";
+    if (!configuration.open(QIODevice::WriteOnly) || configuration.write(text) != text.size())
+        qFatal("cannot write the bus's configuration");
+    configuration.close();
+
+    m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_daemon.start(QStringLiteral("dbus-daemon"),
+                   {QStringLiteral("--config-file=") + configuration.fileName(), QStringLiteral("--print-address"),
+                    QStringLiteral("--nofork")});
+    if (!m_daemon.waitForReadyRead(10'000))
+        qFatal("dbus-daemon did not start");
+    m_address = m_daemon.readLine().trimmed();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", m_address);
+}
+
+PrivateBus::~PrivateBus()
+{
+    kill();
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+}
+
+void PrivateBus::kill()
+{
+    m_daemon.kill();
+    m_daemon.waitForFinished();
+}
+
+QByteArray PrivateBus::socketPath() const
+{
+    return m_folder.filePath(QStringLiteral("bus")).toUtf8();
+}

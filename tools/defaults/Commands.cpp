@@ -1,0 +1,299 @@
+#include "defaults/Commands.h"
+
+#include "defaults/ReadableText.h"
+#include "defaults/TypedValue.h"
+#include "platform/linux/defaults/PropertyList.h"
+#include "platform/linux/defaults/ReplaceFile.h"
+#include "settings/Deployment.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <limits>
+#include <memory>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace DefaultsTool {
+
+namespace PropertyList = LinuxDesktop::PropertyList;
+using LinuxDesktop::Domain;
+using LinuxDesktop::Failure;
+using LinuxDesktop::FileDescriptor;
+using LinuxDesktop::Result;
+using LinuxDesktop::Store;
+
+namespace {
+
+using Arguments = std::span<const std::string>;
+
+constexpr std::string_view usage = R"(Usage: orvik-defaults COMMAND [ARGUMENT]...
+Reads and writes the settings files of Orvik Menu.
+
+  domains                          list the domains that have a file
+  read [DOMAIN [KEY]]              print everything, a domain or one value
+  write DOMAIN KEY TYPE VALUE...   store a value; TYPE is one of
+      -bool true|false|yes|no|1|0
+      -int NUMBER                  64 bits, signed; 0x for hexadecimal
+      -float NUMBER
+      -string TEXT
+      -date YYYY-MM-DDTHH:MM:SSZ   or as `read` prints it
+      -data HEXADECIMAL
+      -array [TEXT]...
+      -dict [KEY TEXT]...
+      -xml FRAGMENT                any value as property-list XML
+  delete DOMAIN KEY                remove a value
+  export DOMAIN FILE|-             write a domain as an XML property list
+  import DOMAIN FILE|-             replace a domain by a property list
+  path DOMAIN                      print where a domain's file lies
+  --help                           print this text
+  --version                        print the version
+
+DOMAIN is a domain's name, or `suite` or `app` for the two of Orvik Menu.
+Exit status: 0 done; 1 no such domain or key, or not read or stored;
+2 wrong usage or bad value.
+)";
+
+Outcome success(std::string output = {})
+{
+    return {ExitStatus::Success, std::move(output), {}};
+}
+
+Outcome failed(std::string message)
+{
+    return {ExitStatus::Failed, {}, std::move(message)};
+}
+
+Outcome badUsage(const std::string& message)
+{
+    return {ExitStatus::Usage, {}, message};
+}
+
+std::string domainNamed(const std::string& name)
+{
+    if (name == "suite")
+        return std::string(Deployment::suiteName);
+    if (name == "app")
+        return std::string(Deployment::applicationIdentifier);
+    return name;
+}
+
+Outcome noHome()
+{
+    return failed("no home folder is known");
+}
+
+Outcome noSuchDomain(const std::string& name)
+{
+    return failed("no such domain: " + name);
+}
+
+Outcome noSuchKey(const std::string& name, const std::string& key)
+{
+    return failed("no such key in " + name + ": " + key);
+}
+
+Outcome cannotRead(const Store& store, const std::string& name)
+{
+    return failed("cannot read " + LinuxDesktop::settingsPath(*store.folder(), name));
+}
+
+Outcome stored(Domain& domain)
+{
+    if (domain.synchronize())
+        return success();
+    return failed("could not store in " + domain.path());
+}
+
+Outcome domains(Store& store, Arguments)
+{
+    const auto names = LinuxDesktop::domainsIn(*store.folder());
+    if (!names)
+        return failed(names.error());
+    std::string output;
+    for (const std::string& name : *names)
+        output += name + "\n";
+    return success(output);
+}
+
+Outcome readAll(Store& store)
+{
+    const auto names = LinuxDesktop::domainsIn(*store.folder());
+    if (!names)
+        return failed(names.error());
+    Outcome outcome;
+    NS::Value::Dictionary all;
+    for (const std::string& name : *names) {
+        const auto domain = store.open(name);
+        if (!domain)
+            outcome = cannotRead(store, name);
+        else if (auto contents = domain->contents())
+            all.emplace(name, std::move(*contents));
+    }
+    outcome.output = readableText(std::move(all)) + "\n";
+    return outcome;
+}
+
+Outcome read(Store& store, Arguments arguments)
+{
+    if (arguments.empty())
+        return readAll(store);
+    const std::string name = domainNamed(arguments[0]);
+    const auto domain = store.open(name);
+    if (!domain)
+        return cannotRead(store, name);
+    const auto contents = domain->contents();
+    if (!contents)
+        return noSuchDomain(name);
+    if (arguments.size() == 1)
+        return success(readableText(*contents) + "\n");
+    const auto found = contents->find(arguments[1]);
+    if (found == contents->end())
+        return noSuchKey(name, arguments[1]);
+    return success(readableText(found->second) + "\n");
+}
+
+Outcome write(Store& store, Arguments arguments)
+{
+    const std::string& key = arguments[1];
+    if (const auto reason = PropertyList::unstorableKeyReason(key))
+        return badUsage("a key cannot hold " + *reason);
+    auto value = typedValue(arguments[2], arguments.subspan(3));
+    if (!value)
+        return badUsage(value.error());
+    if (const auto reason = PropertyList::unstorableReason(*value))
+        return badUsage("a value cannot hold " + *reason);
+    const std::string name = domainNamed(arguments[0]);
+    const auto domain = store.open(name);
+    if (!domain)
+        return cannotRead(store, name);
+    domain->setObject_forKey(std::move(*value), key);
+    return stored(*domain);
+}
+
+Outcome remove(Store& store, Arguments arguments)
+{
+    const std::string name = domainNamed(arguments[0]);
+    const auto domain = store.open(name);
+    if (!domain)
+        return cannotRead(store, name);
+    const auto contents = domain->contents();
+    if (!contents)
+        return noSuchDomain(name);
+    if (!contents->contains(arguments[1]))
+        return noSuchKey(name, arguments[1]);
+    domain->removeObjectForKey(arguments[1]);
+    return stored(*domain);
+}
+
+Outcome exportDomain(Store& store, Arguments arguments)
+{
+    const std::string name = domainNamed(arguments[0]);
+    const auto domain = store.open(name);
+    if (!domain)
+        return cannotRead(store, name);
+    auto contents = domain->contents();
+    if (!contents)
+        return noSuchDomain(name);
+    auto bytes = PropertyList::serialise(std::move(*contents));
+    if (!bytes)
+        return failed("cannot export " + name + ": " + bytes.error());
+    const std::string& path = arguments[1];
+    if (path == "-")
+        return success(std::move(*bytes));
+
+    // Settings are their owner's alone, so a new file is too.
+    FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+    LinuxDesktop::FileOperations files;
+    if (!file || !LinuxDesktop::writeAll(files, file.get(), *bytes) || ::close(file.release()) != 0)
+        return failed(LinuxDesktop::systemFailure("could not write", path).what);
+    return success();
+}
+
+/// As much as a settings file may hold, and one byte more where there is more.
+Result<std::string> bytesOf(const std::string& path)
+{
+    const FileDescriptor file(path == "-" ? ::dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file)
+        return LinuxDesktop::systemFailure("could not read", path);
+    std::string bytes;
+    std::array<char, 65536> buffer{};
+    while (bytes.size() <= PropertyList::maximumBytes) {
+        const ssize_t count = ::read(file.get(), buffer.data(), buffer.size());
+        if (count == 0)
+            break;
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return LinuxDesktop::systemFailure("could not read", path);
+        bytes.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    return bytes;
+}
+
+Outcome importDomain(Store& store, Arguments arguments)
+{
+    const auto bytes = bytesOf(arguments[1]);
+    if (!bytes)
+        return badUsage(bytes.error());
+    const auto root = PropertyList::parse(*bytes);
+    if (!root)
+        return badUsage(arguments[1] + " is not a readable property list: " + root.error());
+    if (!root->dictionary())
+        return badUsage("the root of " + arguments[1] + " is not a dictionary");
+    const std::string name = domainNamed(arguments[0]);
+    const auto domain = store.open(name);
+    if (!domain)
+        return cannotRead(store, name);
+    domain->replaceContents(*root->dictionary());
+    return stored(*domain);
+}
+
+Outcome path(Store& store, Arguments arguments)
+{
+    return success(LinuxDesktop::settingsPath(*store.folder(), domainNamed(arguments[0])) + "\n");
+}
+
+struct Command {
+    std::string_view name;
+    std::size_t fewest;
+    std::size_t most;
+    Outcome (*run)(Store&, Arguments);
+};
+
+constexpr std::array<Command, 7> commands{{
+    {"domains", 0, 0, domains},
+    {"read", 0, 2, read},
+    {"write", 3, std::numeric_limits<std::size_t>::max(), write},
+    {"delete", 2, 2, remove},
+    {"export", 2, 2, exportDomain},
+    {"import", 2, 2, importDomain},
+    {"path", 1, 1, path},
+}};
+
+} // namespace
+
+Outcome run(Store& store, Arguments arguments)
+{
+    if (arguments.size() == 1 && arguments[0] == "--help")
+        return success(std::string(usage));
+    if (arguments.size() == 1 && arguments[0] == "--version")
+        return success("orvik-defaults " ORVIK_VERSION "\n");
+    if (arguments.empty())
+        return badUsage("a command is missing; see --help");
+    const auto* const command = std::ranges::find(commands, arguments[0], &Command::name);
+    if (command == commands.end())
+        return badUsage("unknown command " + arguments[0] + "; see --help");
+    const Arguments rest = arguments.subspan(1);
+    if (rest.size() < command->fewest || rest.size() > command->most)
+        return badUsage("wrong number of arguments for " + arguments[0] + "; see --help");
+    if (!rest.empty() && !LinuxDesktop::isDomainName(rest[0]))
+        return badUsage("not a domain name: " + rest[0]);
+    if (!store.folder())
+        return noHome();
+    return command->run(store, rest);
+}
+
+} // namespace DefaultsTool
