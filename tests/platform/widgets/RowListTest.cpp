@@ -245,7 +245,7 @@ TEST_F(RowListFixture, AnEmptyListSaysSoInWords)
 
 TEST_F(RowListFixture, AListThatShrinksShowsNoRowOfBefore)
 {
-    show(8);
+    show(8, 500);
     boxOf(QStringLiteral("Row 7"))->setFocus();
     states.assign(2, true);
     list.reloadData();

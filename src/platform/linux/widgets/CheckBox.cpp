@@ -1,15 +1,18 @@
 #include "platform/linux/widgets/CheckBox.h"
 
+#include <QSignalBlocker>
+
 namespace LinuxDesktop {
 
 CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent)
 {
-    // Unlike toggled, clicked comes from the user alone: by mouse, by keyboard or through accessibility.
-    connect(this, &QCheckBox::clicked, this, [this] { sendAction(); });
+    // Not clicked: assistive programs may toggle the box without a click.
+    connect(this, &QCheckBox::toggled, this, [this] { sendAction(); });
 }
 
 void CheckBox::setState(NS::ControlState state)
 {
+    const QSignalBlocker nobodyOperatesIt(this);
     setChecked(state == NS::ControlState::On);
 }
 
