@@ -5,6 +5,5 @@
 void UtilityKitWindow::windowDidLoad()
 {
     NS::WindowController::windowDidLoad();
-    window->setContentViewController(
-        m_registry.controller<NS::ViewController>(ControllerIdentifier::utilityKitvc));
+    window->setContentViewController(m_registry.controller<NS::ViewController>(ControllerIdentifier::utilityKitvc));
 }

@@ -28,8 +28,7 @@ std::shared_ptr<NS::ViewController> mainStartWindow::contentViewController()
 {
     // Any stored value counts: presence alone says that the first run is over. A build without the first-run
     // screen goes to the tabs at once.
-    const bool onboardingDone =
-        NS::platform().standardUserDefaults().objectForKey(SettingsKey::firstRun).has_value();
+    const bool onboardingDone = NS::platform().standardUserDefaults().objectForKey(SettingsKey::firstRun).has_value();
     if (!onboardingDone && m_registry.offers(ControllerIdentifier::firstRunvc))
         return m_registry.controller<NS::ViewController>(ControllerIdentifier::firstRunvc);
     return m_registry.controller<tabviewcontroller>(ControllerIdentifier::tabviewcontroller);

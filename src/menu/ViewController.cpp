@@ -36,8 +36,8 @@ std::ptrdiff_t ViewController::numberOfRowsInTableView(NS::TableView&)
     return std::ssize(arrItemsdic);
 }
 
-NS::TableCellView* ViewController::tableView_viewForTableColumn_row(NS::TableView& tableView,
-                                                                    const NS::TableColumn*, std::ptrdiff_t row)
+NS::TableCellView* ViewController::tableView_viewForTableColumn_row(NS::TableView& tableView, const NS::TableColumn*,
+                                                                    std::ptrdiff_t row)
 {
     auto* cell = dynamic_cast<tblcell*>(tableView.makeViewWithIdentifier_owner("tblcell", nullptr));
     if (!cell)

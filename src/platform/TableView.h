@@ -26,9 +26,8 @@ public:
     virtual ~TableViewDelegate() = default;
 
     /// A view got from makeViewWithIdentifier_owner and filled for the row, or nothing for an empty row.
-    [[nodiscard]] virtual TableCellView* tableView_viewForTableColumn_row(TableView& tableView,
-                                                                          const TableColumn* tableColumn,
-                                                                          std::ptrdiff_t row) = 0;
+    [[nodiscard]] virtual TableCellView*
+    tableView_viewForTableColumn_row(TableView& tableView, const TableColumn* tableColumn, std::ptrdiff_t row) = 0;
 };
 
 /// A list. Its scene connects it to its data source and delegate; it asks them for the rows in sight. Main thread.

@@ -29,14 +29,7 @@ public:
     /// Integers are 64-bit signed. An unsigned value beyond that range is held too, so that a file which has
     /// one survives a rewrite; its kind is Integer and integer() gives nothing.
     template<std::integral T>
-        requires(!std::same_as<T, bool>)
-    Value(T value) : m_value(std::int64_t{0})
-    {
-        if (std::in_range<std::int64_t>(value))
-            m_value = static_cast<std::int64_t>(value);
-        else
-            m_value = static_cast<std::uint64_t>(value);
-    }
+    requires(!std::same_as<T, bool>) Value(T value) : m_value(integerOf(value)) {}
     Value(std::floating_point auto value) : m_value(static_cast<double>(value)) {}
     /// UTF-8.
     Value(std::string value) : m_value(std::move(value)) {}
@@ -64,8 +57,17 @@ public:
     friend bool operator==(const Value&, const Value&) = default;
 
 private:
-    std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NS::Date, NS::Data, Array, Dictionary>
-        m_value;
+    using Held =
+        std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NS::Date, NS::Data, Array, Dictionary>;
+
+    static Held integerOf(std::integral auto value)
+    {
+        if (std::in_range<std::int64_t>(value))
+            return static_cast<std::int64_t>(value);
+        return static_cast<std::uint64_t>(value);
+    }
+
+    Held m_value;
 };
 
 } // namespace NS

@@ -11,6 +11,7 @@ void FakeClock::performAfterDelay(std::function<void()> perform, double delay)
 std::vector<double> FakeClock::pendingDelays() const
 {
     std::vector<double> delays;
+    delays.reserve(m_pending.size());
     for (const Pending& pending : m_pending)
         delays.push_back(pending.delay);
     return delays;

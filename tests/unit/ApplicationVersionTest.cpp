@@ -1,6 +1,7 @@
 #include "settings/ApplicationVersion.h"
 
 #include "support/FakePlatform.h"
+#include "support/FatalLine.h"
 
 #include <gtest/gtest.h>
 

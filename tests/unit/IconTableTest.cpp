@@ -2,6 +2,7 @@
 
 #include "menu/MenuCatalogue.h"
 #include "support/FakePlatform.h"
+#include "support/FatalLine.h"
 
 #include <gtest/gtest.h>
 

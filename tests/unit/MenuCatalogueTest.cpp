@@ -29,6 +29,7 @@ TEST(MenuCatalogue, ListsTheseActionsWithTheseImagesInThisOrder)
         {"Add Folders", "NSAddTemplate"},
     };
     std::vector<std::pair<std::string_view, std::string_view>> listed;
+    listed.reserve(menuCatalogue.size());
     for (const MenuAction& action : menuCatalogue)
         listed.emplace_back(action.title, action.image);
 

@@ -101,6 +101,7 @@ protected:
     [[nodiscard]] std::vector<Row> rows() const
     {
         std::vector<Row> shown;
+        shown.reserve(table().rowCount());
         for (std::size_t index = 0; index < table().rowCount(); ++index)
             shown.push_back(row(index));
         return shown;
@@ -126,6 +127,7 @@ TEST_F(MenuItemsScreen, BeginsWithTheCatalogueAndEmptyWorkingCopies)
     const ViewController made;
 
     std::vector<std::string> titles;
+    titles.reserve(menuCatalogue.size());
     for (const MenuAction& action : menuCatalogue)
         titles.emplace_back(action.title);
     EXPECT_EQ(made.menuItemsarr, titles);
@@ -159,6 +161,7 @@ TEST_F(MenuItemsScreen, AFreshRecordShowsTheCatalogueWithEveryCheckboxOnAndItsIc
     open();
 
     std::vector<Row> expected;
+    expected.reserve(menuCatalogue.size());
     for (const MenuAction& action : menuCatalogue)
         expected.push_back({std::string(action.title), true, std::string(action.image)});
     EXPECT_EQ(rows(), expected);

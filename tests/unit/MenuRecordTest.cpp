@@ -2,6 +2,7 @@
 
 #include "menu/MenuCatalogue.h"
 #include "support/FakeUserDefaults.h"
+#include "support/FatalLine.h"
 #include "support/PrintValue.h"
 
 #include <gtest/gtest.h>
@@ -25,6 +26,7 @@ constexpr std::size_t actionCount = 16;
 std::vector<std::string> catalogueTitles()
 {
     std::vector<std::string> titles;
+    titles.reserve(menuCatalogue.size());
     for (const MenuAction& action : menuCatalogue)
         titles.emplace_back(action.title);
     return titles;
@@ -49,10 +51,7 @@ NS::Value::Array stored(const Flags& flags)
     return {flags.begin(), flags.end()};
 }
 
-Flags ones(std::size_t count = actionCount)
-{
-    return Flags(count, 1);
-}
+const Flags ones(actionCount, 1);
 
 class MenuRecordTest : public testing::Test {
 protected:
@@ -200,7 +199,7 @@ Flags withOnes(Flags flags)
 }
 
 INSTANTIATE_TEST_SUITE_P(OfEachLength, AnOlderRecord,
-                         testing::Values(Migration{"NoFlags", {}, ones(), {}}, //
+                         testing::Values(Migration{"NoFlags", {}, ones, {}}, //
                                          Migration{"ThreeFlags", {1, 0, 1}, withOnes({1, 0, 1}), {1}},
                                          Migration{"AFlagOfTwo", {1, 2}, withOnes({1, 2}), {1}},
                                          Migration{"ANegativeFlag", {-1, 1}, withOnes({-1, 1}), {0}},
@@ -209,8 +208,8 @@ INSTANTIATE_TEST_SUITE_P(OfEachLength, AnOlderRecord,
                                                    stored(Flags(15, 0)),
                                                    withOnes(Flags(15, 0)),
                                                    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14}},
-                                         Migration{"ExactlySixteenFlagsAreReset", stored(Flags(16, 0)), ones(), {}},
-                                         Migration{"SeventeenFlagsAreReset", stored(Flags(17, 0)), ones(), {}}),
+                                         Migration{"ExactlySixteenFlagsAreReset", stored(Flags(16, 0)), ones, {}},
+                                         Migration{"SeventeenFlagsAreReset", stored(Flags(17, 0)), ones, {}}),
                          [](const auto& tested) { return tested.param.name; });
 
 TEST_F(MenuRecordTest, AMigratedRecordIsNotMigratedAgain)
@@ -300,11 +299,11 @@ TEST_P(VersionOneDotEight, KeepsTheOlderRecordAlone)
 
 INSTANTIATE_TEST_SUITE_P(
     EachRecord, VersionOneDotEight,
-    testing::Values(LegacyCase{"Absent", {}, ones(), true},
-                    LegacyCase{"Empty", {{"save14", NS::Value::Array{}}}, ones(), true},
-                    LegacyCase{"NotAnArray", {{"save14", "1, 0, 1"}}, ones(), true},
-                    LegacyCase{"TooShort", {{"save14", NS::Value::Array{1, 0, 1}}}, ones(), true},
-                    LegacyCase{"TooLong", {{"save14", stored(Flags(17, 0))}}, ones(), true},
+    testing::Values(LegacyCase{"Absent", {}, ones, true},
+                    LegacyCase{"Empty", {{"save14", NS::Value::Array{}}}, ones, true},
+                    LegacyCase{"NotAnArray", {{"save14", "1, 0, 1"}}, ones, true},
+                    LegacyCase{"TooShort", {{"save14", NS::Value::Array{1, 0, 1}}}, ones, true},
+                    LegacyCase{"TooLong", {{"save14", stored(Flags(17, 0))}}, ones, true},
                     LegacyCase{"OfTheRightLengthStays", {{"save14", stored(Flags(16, 0))}}, Flags(16, 0), false},
                     LegacyCase{"BesideANewRecord",
                                {{"menuArrayDic", stored(catalogueItems({2}))}, {"save14", stored(Flags(16, 2))}},
@@ -317,7 +316,7 @@ TEST_F(MenuRecordTest, VersionOneDotEightWithoutASuiteHasEveryFlagOn)
     const MenuRecord record = loadMenuRecord(catalogueTitles(), "save14", nullptr, "1.8");
 
     EXPECT_TRUE(record.items.empty());
-    EXPECT_EQ(record.flags, ones());
+    EXPECT_EQ(record.flags, ones);
 }
 
 class AVersionLikeOneDotEight : public MenuRecordTest, public testing::WithParamInterface<const char*> {};

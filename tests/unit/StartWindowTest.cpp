@@ -2,6 +2,7 @@
 
 #include "app/mainStartWindow.h"
 #include "platform/TabViewController.h"
+#include "support/FatalLine.h"
 
 #include <memory>
 #include <string>

@@ -46,10 +46,12 @@ TEST(Value, IsEqualToNoneOfAnotherKind)
 
 TEST(Value, HoldsTheWholeRangeOfIntegers)
 {
-    EXPECT_EQ(NS::Value(std::numeric_limits<std::int64_t>::min()).integer(),
-              std::numeric_limits<std::int64_t>::min());
-    EXPECT_EQ(NS::Value(std::numeric_limits<std::int64_t>::max()).integer(),
-              std::numeric_limits<std::int64_t>::max());
+    using Limits = std::numeric_limits<std::int64_t>;
+    const std::vector<std::int64_t> integers{Limits::min(), -1, 0, Limits::max()};
+    const NS::Value::Array values(integers.begin(), integers.end());
+
+    for (std::size_t position = 0; position < integers.size(); ++position)
+        EXPECT_EQ(values[position].integer(), integers[position]);
 }
 
 TEST(Value, AnIntegerBeyondThatRangeIsHeldButIsNotAnInt64)

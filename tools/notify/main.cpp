@@ -9,8 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace
-{
+namespace {
 
 constexpr int exitSent = 0;
 constexpr int exitNotSent = 1;

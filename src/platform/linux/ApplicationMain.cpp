@@ -10,7 +10,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <cstdio>
@@ -96,6 +98,10 @@ int start(const NS::ClassTable& classes, const QVariantMap& platformData)
         bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); });
     installAccessibility();
 
+    // The icon is drawn in many sizes, which can wait until the window shows.
+    QTimer::singleShot(0, qApp, [] {
+        QApplication::setWindowIcon(QIcon(resourceFolder() + QStringLiteral("/Assets/orvik-menu.svg")));
+    });
     platform.loadDelegate().applicationWillFinishLaunching();
     const int status = platform.application().isTerminated() ? EXIT_SUCCESS : QApplication::exec();
     destroyWindows();
@@ -122,8 +128,8 @@ int NS::ApplicationMain(int argc, char** argv, const ClassTable& classes)
     QApplication::setApplicationName(QStringLiteral("orvik-menu"));
     QApplication::setApplicationDisplayName(QStringLiteral("Orvik Menu"));
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
-    QGuiApplication::setDesktopFileName(QString::fromUtf8(Deployment::applicationIdentifier.data(),
-                                                          Deployment::applicationIdentifier.size()));
+    QGuiApplication::setDesktopFileName(
+        QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size()));
     const int status = start(classes, platformData);
     NS::installPlatform(nullptr);
     return status;

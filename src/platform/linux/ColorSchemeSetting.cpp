@@ -49,8 +49,7 @@ void ColorSchemeSetting::settingChanged(const QString&, const QString&, const QD
 void ColorSchemeSetting::report(const QVariant& value)
 {
     // The portal's Read wraps its answer once more than its signal does.
-    const QVariant inner =
-        value.canConvert<QDBusVariant>() ? qvariant_cast<QDBusVariant>(value).variant() : value;
+    const QVariant inner = value.canConvert<QDBusVariant>() ? qvariant_cast<QDBusVariant>(value).variant() : value;
     m_changed(inner.toUInt() == preferDark);
 }
 

@@ -5,11 +5,26 @@
 #include <QApplication>
 #include <QWidget>
 
+#include <utility>
+
 namespace LinuxDesktop {
 
-DesktopApplication::DesktopApplication(ApplicationName& name, std::function<void()> reopened)
-    : m_name(name), m_reopened(std::move(reopened))
+DesktopApplication::DesktopApplication(ApplicationName& name, ModalState& modalState, std::function<void()> reopened)
+    : m_name(name), m_modalState(modalState), m_reopened(std::move(reopened))
 {
+    m_modalState.whenEnded([this] {
+        if (std::exchange(m_reopenWaits, false))
+            QMetaObject::invokeMethod(
+                qApp, [this] { reopen(); }, Qt::QueuedConnection);
+    });
+}
+
+void DesktopApplication::reopen()
+{
+    if (m_modalState.active())
+        m_reopenWaits = true;
+    else
+        m_reopened();
 }
 
 void DesktopApplication::setActivationPolicy(NS::ActivationPolicy policy)
@@ -21,7 +36,7 @@ void DesktopApplication::setActivationPolicy(NS::ActivationPolicy policy)
         if (!activationToken.isEmpty())
             qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
         activateIgnoringOtherApps(true);
-        m_reopened();
+        reopen();
     });
     // Another process may have become the program since this one looked.
     if (m_name.claim() == ApplicationName::Claim::OwnedByAnother) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Application.h"
+#include "platform/linux/ModalState.h"
 
 #include <functional>
 
@@ -11,8 +12,9 @@ class ApplicationName;
 /// The running program on this desktop: regular means owning its name on the session bus. Main thread.
 class DesktopApplication : public NS::Application {
 public:
-    /// `name` must outlive the application. `reopened` is called when the program is started again.
-    DesktopApplication(ApplicationName& name, std::function<void()> reopened);
+    /// `reopened` is called when the program is started again, but not while a modal panel runs. The others must
+    /// outlive the application.
+    DesktopApplication(ApplicationName& name, ModalState& modalState, std::function<void()> reopened);
 
     void setActivationPolicy(NS::ActivationPolicy policy) override;
     void activateIgnoringOtherApps(bool flag) override;
@@ -22,8 +24,12 @@ public:
     [[nodiscard]] bool isTerminated() const { return m_terminated; }
 
 private:
+    void reopen();
+
     ApplicationName& m_name;
+    ModalState& m_modalState;
     std::function<void()> m_reopened;
+    bool m_reopenWaits = false;
     bool m_terminated = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <utility>
+#include <vector>
 
 namespace LinuxDesktop {
 
@@ -14,8 +15,10 @@ public:
         explicit Session(ModalState& state) : m_state(state) { ++m_state.m_depth; }
         ~Session()
         {
-            if (--m_state.m_depth == 0 && m_state.m_ended)
-                m_state.m_ended();
+            if (--m_state.m_depth > 0)
+                return;
+            for (const auto& ended : m_state.m_ended)
+                ended();
         }
         Session(const Session&) = delete;
         Session& operator=(const Session&) = delete;
@@ -25,12 +28,12 @@ public:
     };
 
     [[nodiscard]] bool active() const { return m_depth > 0; }
-    /// Called at the end of the last session. It must return to the event loop before it runs another panel.
-    void whenEnded(std::function<void()> ended) { m_ended = std::move(ended); }
+    /// Calls each at the end of the last session. They must return to the event loop before they run another panel.
+    void whenEnded(std::function<void()> ended) { m_ended.push_back(std::move(ended)); }
 
 private:
     int m_depth = 0;
-    std::function<void()> m_ended;
+    std::vector<std::function<void()>> m_ended;
 };
 
 } // namespace LinuxDesktop

@@ -30,8 +30,7 @@ struct NotificationCenter : testing::Test {
     void post(const char* name, const char* object = "sender")
     {
         ask(m_bus, QStringLiteral("GetId"), {});
-        m_poster.connection()->send(
-            NotificationSignal::posting(QString::fromUtf8(name), QString::fromUtf8(object)));
+        m_poster.connection()->send(NotificationSignal::posting(QString::fromUtf8(name), QString::fromUtf8(object)));
         ask(m_poster, QStringLiteral("GetId"), {});
     }
 
@@ -91,8 +90,8 @@ TEST_F(NotificationCenter, AsksTheBusForNothingButTheObservedPostings)
     observe("A");
     post("A");
     ASSERT_TRUE(waitForDeliveries(1));
-    const auto answer = ask(m_bus, QStringLiteral("GetAllMatchRules"), {},
-                            QStringLiteral("org.freedesktop.DBus.Debug.Stats"));
+    const auto answer =
+        ask(m_bus, QStringLiteral("GetAllMatchRules"), {}, QStringLiteral("org.freedesktop.DBus.Debug.Stats"));
     ASSERT_EQ(answer.type(), QDBusMessage::ReplyMessage) << answer.errorMessage().toStdString();
     QMap<QString, QStringList> rules;
     answer.arguments().at(0).value<QDBusArgument>() >> rules;
@@ -188,6 +187,5 @@ TEST_F(NotificationCenter, HoldsBackTheRestWhileAHandlerRunsAPanel)
         runFor(200ms);
     }
     ASSERT_TRUE(waitForDeliveries(6));
-    EXPECT_EQ(m_delivered,
-              (Names{"panel opens", "panel closes", "A", "panel opens", "panel closes", "A"}));
+    EXPECT_EQ(m_delivered, (Names{"panel opens", "panel closes", "A", "panel opens", "panel closes", "A"}));
 }

@@ -64,8 +64,8 @@ TEST_F(NotifyWithBus, PostsOnBehalfOfTheExtensionUnlessToldOtherwise)
 
 TEST_F(NotifyWithBus, PostsOnBehalfOfTheGivenObject)
 {
-    observe("Name", "an object with \"quotes\"; and é");
-    EXPECT_EQ(run({QStringLiteral("Name"), QStringLiteral("an object with \"quotes\"; and é")}), 0);
+    observe("Name", "an object with \"quotes\"; and $(signs)");
+    EXPECT_EQ(run({QStringLiteral("Name"), QStringLiteral("an object with \"quotes\"; and $(signs)")}), 0);
     EXPECT_TRUE(delivered());
 }
 
@@ -98,9 +98,10 @@ TEST_F(Notify, ExplainsItselfOnStandardOutputWhenAsked)
 
 TEST_F(Notify, RefusesACommandLineThatItDoesNotUnderstand)
 {
-    for (const QStringList& arguments :
-         {QStringList{}, {QString()}, {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")},
-          {QStringLiteral("--loud"), QStringLiteral("a")}}) {
+    for (const QStringList& arguments : {QStringList{},
+                                         {QString()},
+                                         {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")},
+                                         {QStringLiteral("--loud"), QStringLiteral("a")}}) {
         EXPECT_EQ(run(arguments), 2) << arguments.join(u' ').toStdString();
         EXPECT_EQ(m_output, "");
         EXPECT_TRUE(m_errors.startsWith("orvik-notify: "));

@@ -2,7 +2,8 @@
 
 #include <QFile>
 
-#include <cstdlib>
+#include <csignal>
+#include <sys/prctl.h>
 
 PrivateBus::PrivateBus()
 {
@@ -23,9 +24,10 @@ PrivateBus::PrivateBus()
     configuration.close();
 
     m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--config-file=") + configuration.fileName(), QStringLiteral("--print-address"),
-                    QStringLiteral("--nofork")});
+    // No test leaves a bus behind, not even one that crashes.
+    m_daemon.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    m_daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--config-file=") + configuration.fileName(),
+                                                   QStringLiteral("--print-address"), QStringLiteral("--nofork")});
     if (!m_daemon.waitForReadyRead(10'000))
         qFatal("dbus-daemon did not start");
     m_address = m_daemon.readLine().trimmed();

@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <utility>
+
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
@@ -58,8 +61,8 @@ TEST_F(Accessibility, TabReachesEveryControlBothWaysAndEachHasAName)
                 controls.insert(widget);
         }
         EXPECT_GE(controls.size(), 7);
-        const std::pair<Qt::Key, Qt::KeyboardModifier> ways[] = {{Qt::Key_Tab, Qt::NoModifier},
-                                                                 {Qt::Key_Backtab, Qt::ShiftModifier}};
+        const std::array ways = {std::pair(Qt::Key_Tab, Qt::NoModifier),
+                                 std::pair(Qt::Key_Backtab, Qt::ShiftModifier)};
         for (const auto& [key, modifier] : ways) {
             QSet<QWidget*> reached;
             for (qsizetype step = 0; step < 2 * controls.size(); ++step) {

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <utility>
+
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
@@ -51,14 +54,18 @@ TEST_F(Navigation, GoesInByDoubleClickAndByKeys)
         EXPECT_EQ(shown.selected(), u"deep"_s);
         shown.key(Qt::Key_Right);
         EXPECT_EQ(shown.pathField().text(), at("alpha/deep"));
+        shown.key(Qt::Key_Backspace);
+        EXPECT_EQ(shown.selected(), u"deep"_s);
+        shown.key(Qt::Key_Down, Qt::AltModifier);
+        EXPECT_EQ(shown.pathField().text(), at("alpha/deep"));
     });
 }
 
 TEST_F(Navigation, GoesUpByEachOfItsKeysToTheFolderItCameFrom)
 {
     run([&](const ShownChooser& shown) {
-        const std::pair<Qt::Key, Qt::KeyboardModifier> keys[] = {
-            {Qt::Key_Backspace, Qt::NoModifier}, {Qt::Key_Up, Qt::AltModifier}, {Qt::Key_Left, Qt::NoModifier}};
+        const std::array keys = {std::pair(Qt::Key_Backspace, Qt::NoModifier), std::pair(Qt::Key_Up, Qt::AltModifier),
+                                 std::pair(Qt::Key_Left, Qt::NoModifier)};
         for (const auto& [key, modifier] : keys) {
             shown.doubleClick(u"beta"_s);
             EXPECT_EQ(shown.pathField().text(), at("beta"));

@@ -8,8 +8,8 @@
 #include <system_error>
 #include <unistd.h>
 
-TemporaryFolder::TemporaryFolder()
-    : m_path((std::filesystem::temp_directory_path() / "filechooser-test-XXXXXX").native())
+TemporaryFolder::TemporaryFolder(const std::filesystem::path& parent)
+    : m_path((parent / "filechooser-test-XXXXXX").native())
 {
     EXPECT_TRUE(::mkdtemp(m_path.data()));
     EXPECT_EQ(::chmod(m_path.c_str(), 0755), 0);

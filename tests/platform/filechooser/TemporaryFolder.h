@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <sys/types.h>
@@ -9,7 +10,7 @@
 class TemporaryFolder
 {
 public:
-    TemporaryFolder();
+    explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path());
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;

@@ -24,7 +24,8 @@ TEST(FileNameText, ShowsControlCharactersOnOneLine)
 
 TEST(FileNameText, ShowsCharactersThatWouldReorderTheName)
 {
-    EXPECT_EQ(fileNameText("gpj\u202eexe.x"), u"gpj\ufffdexe.x"_s);
+    const QString rightToLeftOverride = QChar(0x202e);
+    EXPECT_EQ(fileNameText((u"gpj"_s + rightToLeftOverride + u"exe.x"_s).toStdString()), u"gpj\ufffdexe.x"_s);
 }
 
 TEST(FilePath, NormalizesWithoutAskingTheFileSystem)

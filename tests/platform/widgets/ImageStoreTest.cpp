@@ -1,5 +1,5 @@
-#include "menu/MenuCatalogue.h"
 #include "platform/linux/widgets/ImageStore.h"
+#include "menu/MenuCatalogue.h"
 
 #include <QIcon>
 
@@ -29,7 +29,8 @@ TEST(ImageStore, HasEveryImageOfTheCatalogueAndDrawsIt)
     for (const MenuAction& action : menuCatalogue) {
         EXPECT_TRUE(store.contains(action.image)) << action.image;
         for (const int extent : {16, 24, 48}) {
-            const QPixmap drawn = store.pixmap(QString::fromStdString(std::string(action.image)), extent, 2.0, Qt::black);
+            const QPixmap drawn =
+                store.pixmap(QString::fromStdString(std::string(action.image)), extent, 2.0, Qt::black);
             EXPECT_EQ(drawn.width(), extent * 2);
             // A picture covers a good part of its square and is not a blank one.
             EXPECT_GT(visiblePixels(drawn), drawn.width() * drawn.height() / 12) << action.image;

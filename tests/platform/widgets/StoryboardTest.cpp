@@ -1,5 +1,5 @@
-#include "platform/TableView.h"
 #include "platform/TabViewController.h"
+#include "platform/TableView.h"
 #include "platform/WindowController.h"
 #include "platform/linux/widgets/ImageStore.h"
 #include "platform/linux/widgets/Label.h"

@@ -4,14 +4,12 @@
 
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-ApplicationInterface::ApplicationInterface(QObject& exported, const QDBusConnection& connection,
+ApplicationInterface::ApplicationInterface(QObject& exported, QDBusConnection connection,
                                            std::function<void(QString)> activated)
-    : QDBusAbstractAdaptor(&exported), m_connection(connection), m_activated(std::move(activated))
-{
-}
+    : QDBusAbstractAdaptor(&exported), m_connection(std::move(connection)), m_activated(std::move(activated))
+{}
 
 void ApplicationInterface::Activate(const QVariantMap& platformData)
 {

@@ -7,11 +7,9 @@
 #include <chrono>
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 using namespace std::chrono_literals;
 
@@ -56,17 +54,14 @@ QVariantMap platformDataFromEnvironment()
 
 ApplicationName::ApplicationName(SessionBus& bus, std::string_view identifier)
     : m_bus(bus), m_identifier(QString::fromUtf8(identifier)), m_path(objectPath(m_identifier))
-{
-}
+{}
 
 ApplicationName::~ApplicationName()
 {
-    if (!m_owned)
+    if (!m_exported)
         return;
-    if (auto connection = m_bus.connection()) {
+    if (const auto connection = m_bus.connection())
         askBus(*connection, QStringLiteral("ReleaseName"), {m_identifier});
-        connection->unregisterObject(m_path);
-    }
 }
 
 bool ApplicationName::ownedByAnother()
@@ -96,23 +91,24 @@ ApplicationName::Claim ApplicationName::claim()
     auto connection = m_bus.connection();
     if (!connection)
         return Claim::NoBus;
-    if (m_owned)
+    if (m_exported)
         return Claim::Owned;
 
     // The object comes before the name, so that whoever sees the name can activate its owner.
-    auto* application = new ApplicationInterface(*this, *connection, [this](const QString& activationToken) {
+    auto exported = std::make_unique<QObject>();
+    new ApplicationInterface(*exported, *connection, [this](const QString& activationToken) {
         if (m_activated)
             m_activated(activationToken);
     });
-    connection->registerObject(m_path, this, QDBusConnection::ExportAdaptors);
+    connection->registerObject(m_path, exported.get(), QDBusConnection::ExportAdaptors);
     const QDBusMessage answer = askBus(*connection, QStringLiteral("RequestName"), {m_identifier, doNotQueue});
+    if (!isReply(answer))
+        return Claim::NoBus;
     const uint result = answer.arguments().value(0).toUInt();
-    m_owned = isReply(answer) && (result == primaryOwner || result == alreadyOwner);
-    if (m_owned)
-        return Claim::Owned;
-    connection->unregisterObject(m_path);
-    delete application;
-    return isReply(answer) ? Claim::OwnedByAnother : Claim::NoBus;
+    if (result != primaryOwner && result != alreadyOwner)
+        return Claim::OwnedByAnother;
+    m_exported = std::move(exported);
+    return Claim::Owned;
 }
 
 void ApplicationName::whenActivated(std::function<void(QString)> activated)

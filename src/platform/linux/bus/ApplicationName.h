@@ -7,10 +7,10 @@
 #include <QVariantMap>
 
 #include <functional>
+#include <memory>
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// What this process was started with so that its window, or the window of the instance it hands over to, may come
 /// to the front: the platform data of an activation. Ask before the QApplication exists, which takes the variables
@@ -19,14 +19,15 @@ namespace LinuxDesktop
 
 /// The application's identifier as a name on the session bus: one process owns it, and others activate that one
 /// through the interface org.freedesktop.Application. Main thread.
-class ApplicationName : public QObject
-{
+class ApplicationName {
 public:
     enum class Claim { Owned, OwnedByAnother, NoBus };
 
     ApplicationName(SessionBus& bus, std::string_view identifier);
     /// Gives the name back.
-    ~ApplicationName() override;
+    ~ApplicationName();
+    ApplicationName(const ApplicationName&) = delete;
+    ApplicationName& operator=(const ApplicationName&) = delete;
 
     /// Whether another process owns the name now. Blocks for one bus call.
     [[nodiscard]] bool ownedByAnother();
@@ -44,7 +45,8 @@ private:
     QString m_identifier;
     QString m_path;
     std::function<void(QString)> m_activated;
-    bool m_owned = false;
+    /// What others call; there while the name is owned.
+    std::unique_ptr<QObject> m_exported;
 };
 
 } // namespace LinuxDesktop

@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 DistributedNotificationCenter::DistributedNotificationCenter(SessionBus& bus, ModalState& modalState)
     : m_bus(bus), m_modalState(modalState)

@@ -13,25 +13,21 @@
 #include <string_view>
 #include <vector>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Notifications as signals of the session bus. The bus is asked for the observed names and objects only, so no
-/// other posting wakes the process. Without a bus observers are never called.
-class DistributedNotificationCenter final : public QObject, public NS::DistributedNotificationCenter
-{
+/// other posting wakes the process; both are ASCII without apostrophes, as the bus's match rules want them. Without a
+/// bus observers are never called.
+class DistributedNotificationCenter final : public QObject, public NS::DistributedNotificationCenter {
     Q_OBJECT
 
 public:
-    /// Takes the modal state's whenEnded() for itself. Both arguments must outlive the centre.
+    /// Both arguments must outlive the centre.
     DistributedNotificationCenter(SessionBus& bus, ModalState& modalState);
     ~DistributedNotificationCenter() override;
 
     void addObserver_name_object(std::function<void()> handler, std::string_view name,
                                  std::string_view object) override;
-
-private slots:
-    void receive(const QString& name, const QString& object);
 
 private:
     struct Observer {
@@ -40,6 +36,7 @@ private:
         QString object;
     };
 
+    Q_SLOT void receive(const QString& name, const QString& object);
     void scheduleDelivery();
     void deliverNext();
 

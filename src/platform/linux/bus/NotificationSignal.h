@@ -4,8 +4,7 @@
 #include <QString>
 
 /// The session-bus signal that carries a notification between programs.
-namespace LinuxDesktop::NotificationSignal
-{
+namespace LinuxDesktop::NotificationSignal {
 
 inline const QString path = QStringLiteral("/com/orvikstudio/DistributedNotificationCenter");
 inline const QString interface = QStringLiteral("com.orvikstudio.DistributedNotificationCenter");

@@ -7,11 +7,9 @@
 #include <unistd.h>
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 /// Where the bus listens, without the ways of starting one; empty when there is none.
 QString busAddress()

@@ -5,13 +5,11 @@
 #include <optional>
 #include <string>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The process's connection to the user's session bus. Make one, after the QCoreApplication and before everything
 /// that uses it. A bus that does not run is not started. Main thread.
-class SessionBus
-{
+class SessionBus {
 public:
     /// `complaint` is the line that standard error gets the first time the connection is asked for in vain.
     explicit SessionBus(std::string complaint);

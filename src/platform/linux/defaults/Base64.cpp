@@ -3,11 +3,9 @@
 #include <array>
 #include <cstdint>
 
-namespace LinuxDesktop::Base64
-{
+namespace LinuxDesktop::Base64 {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 constexpr std::uint8_t notInAlphabet = 0xff;

@@ -8,8 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop::Base64
-{
+namespace LinuxDesktop::Base64 {
 
 /// Appends the text of the bytes, padded, in one line.
 void append(std::string& text, std::span<const std::uint8_t> bytes);

@@ -2,8 +2,7 @@
 
 #include <cstdio>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 void report(const std::string& line)
 {

@@ -4,15 +4,13 @@
 #include <set>
 #include <string>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Writes one line on standard error. Any thread.
 void report(const std::string& line);
 
 /// Reports what goes wrong, once each until things go well again. Any thread.
-class Complaints
-{
+class Complaints {
 public:
     void complain(const std::string& line);
     void allIsWell();

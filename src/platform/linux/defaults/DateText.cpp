@@ -8,11 +8,9 @@
 #include <cstdio>
 #include <limits>
 
-namespace LinuxDesktop::DateText
-{
+namespace LinuxDesktop::DateText {
 
-namespace
-{
+namespace {
 
 constexpr std::int64_t secondsPerDay = 86400;
 // The calendar repeats every 400 years, which brings any year into the range that std::chrono knows.
@@ -45,8 +43,7 @@ double moment(std::int64_t seconds, std::int64_t nanoseconds)
 }
 
 /// Takes the text apart from the left.
-class Scanner
-{
+class Scanner {
 public:
     explicit Scanner(std::string_view text) : m_rest(text) {}
 
@@ -138,8 +135,7 @@ std::optional<NS::Date> parse(std::string_view text)
         moment(*days * secondsPerDay + hour.value * 3600 + minute.value * 60 + second.value, number(fraction))};
 }
 
-namespace
-{
+namespace {
 
 /// ".25" for a quarter of a second; empty for a whole one.
 std::string fractionText(std::int64_t seconds, double date)

@@ -6,8 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop::DateText
-{
+namespace LinuxDesktop::DateText {
 
 /// The moment that a property list's text names ("2024-02-29T23:59:59Z", proleptic Gregorian, UTC). The year may
 /// be zero, negative or longer than four digits; smaller units may be left out from the right; a fraction of a

@@ -5,8 +5,7 @@
 #include <system_error>
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 bool DelayedQueue::post(Job job, std::chrono::milliseconds delay)
 {

@@ -7,13 +7,11 @@
 #include <mutex>
 #include <thread>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Runs jobs on a thread of its own, each once and a while after it was posted. The thread starts with the first
 /// job, takes no signals, and sleeps until the next one is due. Any thread.
-class DelayedQueue
-{
+class DelayedQueue {
 public:
     using Job = std::function<void()>;
 

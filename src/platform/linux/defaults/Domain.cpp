@@ -7,11 +7,9 @@
 #include <utility>
 #include <variant>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::chrono::milliseconds writeDelay{250};
 constexpr std::chrono::milliseconds retryDelay{1000};
@@ -22,8 +20,7 @@ Domain::Domain(std::shared_ptr<FileOperations> files, std::shared_ptr<DelayedQue
                std::string_view name)
     : m_files(std::move(files)), m_queue(std::move(queue)), m_file(*m_files, std::move(folder), name),
       m_lock(*m_files, m_file.lockPath())
-{
-}
+{}
 
 NS::Value::Dictionary Domain::Changes::over(const NS::Value::Dictionary& values) const
 {
@@ -106,7 +103,16 @@ void Domain::writeSoon(std::unique_lock<std::mutex> state)
         return;
     state.unlock();
     if (!postWrite(writeDelay))
-        save(Clock::now() + DomainLock::longestWait);
+        writeNow();
+}
+
+void Domain::writeNow()
+{
+    {
+        const std::lock_guard state(m_state);
+        m_writeIsDue = false;
+    }
+    synchronize();
 }
 
 /// False once the store is gone: then nobody writes later.
@@ -114,14 +120,8 @@ bool Domain::postWrite(std::chrono::milliseconds delay)
 {
     return m_queue->post(
         [weak = weak_from_this()] {
-            const auto self = weak.lock();
-            if (!self)
-                return;
-            {
-                const std::lock_guard state(self->m_state);
-                self->m_writeIsDue = false;
-            }
-            self->synchronize();
+            if (const auto self = weak.lock())
+                self->writeNow();
         },
         delay);
 }
@@ -181,21 +181,18 @@ Snapshot Domain::withStandIn(Snapshot damaged, const std::string& trouble)
 
 Snapshot Domain::repair(Clock::time_point deadline)
 {
-    const std::unique_lock writing(m_writing, deadline);
+    const std::lock_guard writing(m_writing);
     Snapshot found = m_file.readPatiently();
     if (found.state() != Snapshot::State::Damaged)
         return found;
-    if (!writing)
-        return withStandIn(std::move(found), "another thread is writing");
     Trouble trouble{};
     const auto hold = lockFiles(deadline, trouble);
-    return hold ? repairLocked() : withStandIn(std::move(found), trouble.what);
+    return hold ? repairLocked(m_file.read()) : withStandIn(std::move(found), trouble.what);
 }
 
 /// For the holder of the lock: what the file holds, once a damaged one is set aside.
-Snapshot Domain::repairLocked()
+Snapshot Domain::repairLocked(Snapshot found)
 {
-    Snapshot found = m_file.readPatiently();
     if (found.state() != Snapshot::State::Damaged)
         return found;
     const auto outcome = m_file.setAside(found);
@@ -207,10 +204,7 @@ Snapshot Domain::repairLocked()
 
 Domain::Outcome Domain::save(Clock::time_point deadline)
 {
-    const std::unique_lock writing(m_writing, deadline);
-    if (!writing)
-        return Outcome::LockBusy;
-
+    const std::lock_guard writing(m_writing);
     Changes changes;
     std::uint64_t serial = 0;
     {
@@ -247,7 +241,7 @@ std::optional<Snapshot> Domain::write(const Changes& changes, Clock::time_point 
     if (!hold)
         return std::nullopt;
 
-    Snapshot found = repairLocked();
+    Snapshot found = repairLocked(m_file.readPatiently());
     if (found.state() == Snapshot::State::Damaged || found.state() == Snapshot::State::Inaccessible) {
         trouble.what = "could not read " + m_file.path() + ": " + found.why();
         return std::nullopt;

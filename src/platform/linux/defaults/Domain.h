@@ -16,15 +16,13 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// A domain of settings: what its file held when it was last looked at, and over that what was written here and
 /// is not in the file yet. Every read looks whether the file has changed. Writes reach the file a quarter of a
 /// second later at the latest, or with synchronize(). Any thread; no read waits for another thread's write to
 /// the disk.
-class Domain final : public NS::UserDefaults, public std::enable_shared_from_this<Domain>
-{
+class Domain final : public NS::UserDefaults, public std::enable_shared_from_this<Domain> {
 public:
     Domain(std::shared_ptr<FileOperations> files, std::shared_ptr<DelayedQueue> queue, std::string folder,
            std::string_view name);
@@ -39,6 +37,9 @@ public:
     [[nodiscard]] std::optional<NS::Value::Dictionary> contents();
     /// Replaces everything in the domain, storable values all.
     void replaceContents(const NS::Value::Dictionary& values);
+
+    /// For the store's end: writes what is unwritten, and has nothing left to do later.
+    void writeNow();
 
     /// Whether the file, if there is one, can be read at all.
     [[nodiscard]] bool isAccessible();
@@ -71,14 +72,15 @@ private:
     [[nodiscard]] bool postWrite(std::chrono::milliseconds delay);
     void refresh(std::unique_lock<std::mutex>& state);
 
-    // These wait for locks and for the disk; m_state must not be locked.
+    // These wait for other threads' writes, for the lock and for the disk; m_state must not be locked. Past the
+    // deadline the lock is tried once and not waited for.
     Outcome save(Clock::time_point deadline);
     [[nodiscard]] Snapshot repair(Clock::time_point deadline);
 
     // For the holder of m_writing; on failure they fill `trouble`.
     [[nodiscard]] std::optional<Snapshot> write(const Changes& changes, Clock::time_point deadline, Trouble& trouble);
     [[nodiscard]] std::optional<DomainLock::Hold> lockFiles(Clock::time_point deadline, Trouble& trouble);
-    [[nodiscard]] Snapshot repairLocked();
+    [[nodiscard]] Snapshot repairLocked(Snapshot found);
     [[nodiscard]] Snapshot withStandIn(Snapshot damaged, const std::string& trouble);
 
     const std::shared_ptr<FileOperations> m_files;
@@ -87,7 +89,7 @@ private:
     Complaints m_complaints;
 
     /// Taken before m_state, by whoever changes the files.
-    std::timed_mutex m_writing;
+    std::mutex m_writing;
     DomainLock m_lock;
 
     std::mutex m_state;

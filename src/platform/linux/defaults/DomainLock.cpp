@@ -9,11 +9,9 @@
 #include <sys/stat.h>
 #include <thread>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::chrono::microseconds firstPause{50};
 constexpr std::chrono::microseconds longestPause{1000};
@@ -21,10 +19,8 @@ constexpr int longestStreak = 32;
 
 bool isStillAt(int descriptor, const std::string& path)
 {
-    struct stat held {
-    };
-    struct stat found {
-    };
+    struct stat held {};
+    struct stat found {};
     return ::fstat(descriptor, &held) == 0 && ::stat(path.c_str(), &found) == 0 && held.st_dev == found.st_dev &&
            held.st_ino == found.st_ino;
 }

@@ -7,13 +7,11 @@
 #include <string>
 #include <variant>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The lock that every writer of a domain takes: flock() on a file that is made once and never removed. One
 /// thread at a time.
-class DomainLock
-{
+class DomainLock {
 public:
     using Clock = std::chrono::steady_clock;
 
@@ -21,8 +19,7 @@ public:
     static constexpr std::chrono::seconds longestWait{2};
 
     /// Keeps the lock as long as it lives.
-    class Hold
-    {
+    class Hold {
     public:
         Hold(DomainLock& lock, FileDescriptor file) : m_lock(lock), m_file(std::move(file)) {}
         ~Hold()
@@ -39,8 +36,7 @@ public:
     };
 
     /// Somebody else has kept the lock until the deadline.
-    struct Busy {
-    };
+    struct Busy {};
 
     /// A failure: the lock file cannot be opened or locked.
     using Attempt = std::variant<Hold, Busy, Failure>;

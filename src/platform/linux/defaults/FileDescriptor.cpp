@@ -2,8 +2,7 @@
 
 #include <unistd.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 void FileDescriptor::reset()
 {

@@ -2,12 +2,10 @@
 
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Owns an open file.
-class FileDescriptor
-{
+class FileDescriptor {
 public:
     FileDescriptor() = default;
     explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}

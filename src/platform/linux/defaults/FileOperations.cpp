@@ -6,11 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 template<class Call>
 auto untilNotInterrupted(Call call)

@@ -6,13 +6,11 @@
 #include <string>
 #include <sys/types.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The system calls that change the settings folder, in one place so that a test can make each of them fail.
 /// They answer as the calls of those names do, with errno. Any thread.
-class FileOperations
-{
+class FileOperations {
 public:
     virtual ~FileOperations() = default;
 

@@ -5,8 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace LinuxDesktop::PropertyList
-{
+namespace LinuxDesktop::PropertyList {
 
 NS::Value inWholeSeconds(NS::Value value)
 {

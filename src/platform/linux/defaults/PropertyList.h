@@ -9,8 +9,7 @@
 #include <string_view>
 
 /// XML property lists, version 1.0. Pure functions; any thread.
-namespace LinuxDesktop::PropertyList
-{
+namespace LinuxDesktop::PropertyList {
 
 /// Bounds on what is read, and therefore on what is written.
 inline constexpr std::size_t maximumBytes = std::size_t{64} << 20U;

@@ -12,11 +12,9 @@
 #include <utility>
 #include <vector>
 
-namespace LinuxDesktop::PropertyList
-{
+namespace LinuxDesktop::PropertyList {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view whiteSpace = " \t\n\r";
 
@@ -136,8 +134,7 @@ std::optional<NS::Value> scalarFromText(Element element, std::string& text)
 }
 
 /// Builds the value from the parser's events, on a stack of its own so that no file can exhaust the thread's.
-class Builder
-{
+class Builder {
 public:
     explicit Builder(XML_Parser parser) : m_parser(parser)
     {

@@ -10,11 +10,9 @@
 #include <cstdint>
 #include <span>
 
-namespace LinuxDesktop::PropertyList
-{
+namespace LinuxDesktop::PropertyList {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view header =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -73,8 +71,7 @@ std::string realText(double real)
 }
 
 /// Writes values, and knows by that what cannot be written.
-class Writer
-{
+class Writer {
 public:
     [[nodiscard]] const std::optional<std::string>& error() const { return m_error; }
     [[nodiscard]] std::string take() { return std::move(m_out); }

@@ -9,11 +9,9 @@
 #include <random>
 #include <system_error>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::size_t uniqueDigits = 16;
 constexpr std::string_view hexadecimal = "0123456789abcdef";

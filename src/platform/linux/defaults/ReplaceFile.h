@@ -6,8 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 enum class Durability {
     /// On disk, data and name both, when the call returns.

@@ -17,10 +17,10 @@ template<class T>
 class [[nodiscard]] Result {
 public:
     template<class Initial>
-        requires(std::convertible_to<Initial, T> && !std::same_as<std::remove_cvref_t<Initial>, Result>)
-    Result(Initial&& value) : m_outcome(std::in_place_type<T>, std::forward<Initial>(value))
-    {
-    }
+    requires(std::convertible_to<Initial, T> && !std::same_as<std::remove_cvref_t<Initial>, Result>)
+        Result(Initial&& value)
+        : m_outcome(std::in_place_type<T>, std::forward<Initial>(value))
+    {}
     Result(Failure failure) : m_outcome(std::move(failure)) {}
 
     [[nodiscard]] explicit operator bool() const { return std::holds_alternative<T>(m_outcome); }

@@ -14,11 +14,9 @@
 #include <unistd.h>
 #include <vector>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view mark = ".corrupt-";
 
@@ -32,7 +30,7 @@ std::string timeStamp()
     ::gmtime_r(&time, &utc);
     std::array<char, 32> date{};
     const std::size_t length = std::strftime(date.data(), date.size(), "%Y%m%dT%H%M%S", &utc);
-    std::array<char, 16> fraction{};
+    std::array<char, 32> fraction{};
     std::snprintf(
         fraction.data(), fraction.size(), ".%06lldZ",
         static_cast<long long>(std::chrono::duration_cast<std::chrono::microseconds>(now - seconds).count()));
@@ -90,10 +88,15 @@ std::optional<Failure> copyFile(FileOperations& files, int from, const std::stri
 Result<std::string> keepDamagedFile(FileOperations& files, const std::string& settings, const std::string& target,
                                     const Snapshot& damaged)
 {
+    constexpr std::size_t mostKept = 5;
+    const std::vector<std::string> earlier = damagedFiles(settings);
     // Whoever was killed half way through this has left a name behind.
-    for (const std::string& path : damagedFiles(settings))
+    for (const std::string& path : earlier)
         if (damaged.isNamed(path))
             return path;
+    // First, so that no kill leaves more than there may be.
+    for (std::size_t i = 0; i + mostKept <= earlier.size(); ++i)
+        files.unlink(earlier[i]);
 
     std::string kept = settings + std::string(mark) + timeStamp();
     while (files.link(target, kept) != 0) {
@@ -109,16 +112,6 @@ Result<std::string> keepDamagedFile(FileOperations& files, const std::string& se
     if (!syncFolder(files, folderOf(kept)))
         return systemFailure("could not flush", folderOf(kept));
     return kept;
-}
-
-void removeOldestDamagedFiles(FileOperations& files, const std::string& settings, const std::string& newest)
-{
-    constexpr std::size_t mostKept = 5;
-    std::vector<std::string> found = damagedFiles(settings);
-    // By name, so that it stays even where the clock was set back.
-    std::erase(found, newest);
-    for (std::size_t i = 0; i + mostKept < found.size() + 1; ++i)
-        files.unlink(found[i]);
 }
 
 } // namespace LinuxDesktop

@@ -6,16 +6,13 @@
 
 #include <string>
 
-/// Damaged settings files under a name of their own, SETTINGS.corrupt-TIME. For the holder of the domain's lock.
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-/// Gives the file at `target`, which is where the symbolic links at `settings` lead, a second name or a copy, and
-/// makes that durable. One that has got it already keeps it. Gives the path.
+/// Gives a damaged settings file the further name SETTINGS.corrupt-TIME, or where that is not possible makes a
+/// copy of that name, durably; one that has got it already keeps it. At most five are kept, so the oldest of the
+/// earlier ones may go. `target` is where the symbolic links at `settings` lead. Gives the new path. For the holder
+/// of the domain's lock.
 [[nodiscard]] Result<std::string> keepDamagedFile(FileOperations& files, const std::string& settings,
                                                   const std::string& target, const Snapshot& damaged);
-
-/// Leaves the five newest, `newest` among them.
-void removeOldestDamagedFiles(FileOperations& files, const std::string& settings, const std::string& newest);
 
 } // namespace LinuxDesktop

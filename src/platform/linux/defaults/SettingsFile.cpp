@@ -11,11 +11,9 @@
 #include <system_error>
 #include <thread>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 /// Whether the file was changed within the last second.
 bool isFresh(const FileVersion& version)
@@ -30,8 +28,7 @@ bool isFresh(const FileVersion& version)
 
 SettingsFile::SettingsFile(FileOperations& files, std::string folder, std::string_view domain)
     : m_files(files), m_folder(std::move(folder)), m_path(settingsPath(m_folder, domain))
-{
-}
+{}
 
 std::string SettingsFile::temporaryPrefix() const
 {
@@ -130,7 +127,6 @@ Result<std::string> SettingsFile::setAside(const Snapshot& damaged) const
             return systemFailure("could not remove", *path);
         outcome += "; there is no last good copy, so the settings start empty";
     }
-    removeOldestDamagedFiles(m_files, m_path, *kept);
     return outcome;
 }
 

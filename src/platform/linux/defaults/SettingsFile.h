@@ -8,13 +8,11 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// A domain's file with its last good copy. It keeps no state: what it reads it hands out. Any thread; whatever
 /// changes the files is for the holder of the domain's lock.
-class SettingsFile
-{
+class SettingsFile {
 public:
     SettingsFile(FileOperations& files, std::string folder, std::string_view domain);
 

@@ -10,11 +10,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view suffix = ".plist";
 
@@ -84,8 +82,7 @@ Result<std::vector<std::string>> domainsIn(const std::string& folder)
 
 std::optional<Failure> makeFolders(FileOperations& files, const std::string& folder)
 {
-    struct stat found {
-    };
+    struct stat found {};
     if (::stat(folder.c_str(), &found) == 0)
         return std::nullopt;
     const std::string parent = folderOf(folder);

@@ -8,8 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Where this process's settings files lie: $XDG_CONFIG_HOME/orvik-menu, in ~/.config where the variable is unset,
 /// empty or relative. Nothing when no home folder is known. An absolute path.

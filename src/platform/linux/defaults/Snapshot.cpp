@@ -9,11 +9,9 @@
 #include <system_error>
 #include <unistd.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 using std::chrono::nanoseconds;
 
@@ -42,8 +40,7 @@ bool settledBy(nanoseconds now, const FileVersion& version)
 
 std::optional<FileVersion> versionOf(int descriptor)
 {
-    struct stat status {
-    };
+    struct stat status {};
     if (::fstat(descriptor, &status) != 0)
         return std::nullopt;
     return FileVersion::of(status);
@@ -92,8 +89,7 @@ Snapshot Snapshot::read(FileOperations& files, const std::string& path)
         }
         return snapshot;
     }
-    struct stat status {
-    };
+    struct stat status {};
     if (::fstat(snapshot.m_file.get(), &status) != 0 || !S_ISREG(status.st_mode)) {
         snapshot.m_state = State::Inaccessible;
         snapshot.m_why = "it is not a regular file";
@@ -151,8 +147,7 @@ Snapshot Snapshot::written(NS::Value root, FileDescriptor file)
 
 bool Snapshot::isCurrent(const std::string& path) const
 {
-    struct stat status {
-    };
+    struct stat status {};
     if (::stat(path.c_str(), &status) != 0)
         return errno == ENOENT && m_state == State::Absent;
     return m_settled && m_file && FileVersion::of(status) == m_version;
@@ -160,8 +155,7 @@ bool Snapshot::isCurrent(const std::string& path) const
 
 bool Snapshot::isNamed(const std::string& path) const
 {
-    struct stat status {
-    };
+    struct stat status {};
     if (!m_file || ::stat(path.c_str(), &status) != 0)
         return false;
     FileVersion found = FileVersion::of(status);

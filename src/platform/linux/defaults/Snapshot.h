@@ -7,8 +7,7 @@
 #include <string>
 #include <sys/stat.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Tells two contents of a file apart, as far as its status can.
 struct FileVersion {
@@ -23,8 +22,7 @@ struct FileVersion {
 };
 
 /// What a settings file held when it was read. One thread at a time.
-class Snapshot
-{
+class Snapshot {
 public:
     enum class State {
         /// No file: an empty domain.

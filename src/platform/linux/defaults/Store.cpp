@@ -2,19 +2,17 @@
 
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 Store::Store(std::optional<std::string> folder, std::shared_ptr<FileOperations> files)
     : m_folder(std::move(folder)), m_files(std::move(files))
-{
-}
+{}
 
 Store::~Store()
 {
     m_queue->stop();
     for (const auto& [name, domain] : m_domains)
-        domain->synchronize();
+        domain->writeNow();
 }
 
 std::shared_ptr<Domain> Store::open(std::string_view domain)

@@ -12,13 +12,11 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The process's settings files; one for each process. Its end writes what is not written yet. Handles that
 /// outlive it go on working and write at once. Any thread.
-class Store
-{
+class Store {
 public:
     /// With nothing for a folder every domain is one that cannot be read.
     explicit Store(std::optional<std::string> folder = settingsFolder(),

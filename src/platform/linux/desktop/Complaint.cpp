@@ -5,11 +5,9 @@
 #include <string>
 #include <system_error>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 /// A name may hold line ends and what a terminal takes for commands.
 std::string printable(std::string_view text)

@@ -21,11 +21,9 @@
 #include <utility>
 #include <vector>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 using Clock = std::chrono::steady_clock;
 
@@ -64,13 +62,11 @@ FileDescriptor openFile(const std::string& path)
 }
 
 /// Files on their way to the mail program, in a thread of their own.
-class HandOver
-{
+class HandOver {
 public:
     HandOver(std::optional<QDBusConnection> connection, TemporaryFolders& folders)
         : m_connection(std::move(connection)), m_folders(folders)
-    {
-    }
+    {}
 
     /// Attaches the items to one message, and looks after the mail program that was started for it until `ending`
     /// becomes readable.
@@ -177,13 +173,11 @@ private:
     std::optional<Clock::time_point> m_temporaryHandedOver;
 };
 
-class ComposeEmail final : public NS::SharingService
-{
+class ComposeEmail final : public NS::SharingService {
 public:
     ComposeEmail(std::optional<QDBusConnection> connection, Clock::duration archiveStay)
         : m_connection(std::move(connection)), m_archiveStay(archiveStay), m_ending(::eventfd(0, EFD_CLOEXEC))
-    {
-    }
+    {}
 
     ~ComposeEmail() override
     {

@@ -6,8 +6,7 @@
 #include <chrono>
 #include <memory>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The service that attaches files to a new message in the user's mail program; nothing when the desktop has neither
 /// an e-mail portal nor xdg-email.

@@ -6,11 +6,9 @@
 
 #include <chrono>
 
-namespace LinuxDesktop::EmailPortal
-{
+namespace LinuxDesktop::EmailPortal {
 
-namespace
-{
+namespace {
 
 using namespace std::chrono_literals;
 

@@ -8,8 +8,7 @@
 #include <vector>
 
 /// The desktop's e-mail portal. Any thread.
-namespace LinuxDesktop::EmailPortal
-{
+namespace LinuxDesktop::EmailPortal {
 
 /// Whether the portal is there. Blocks while the bus starts it, 5 seconds at most.
 [[nodiscard]] bool answers(const QDBusConnection& connection);

@@ -3,12 +3,10 @@
 #include <unistd.h>
 #include <utility>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Owns an open file descriptor, or none.
-class FileDescriptor
-{
+class FileDescriptor {
 public:
     FileDescriptor() = default;
     /// Takes `descriptor`, which may be the -1 of a failed call.

@@ -18,11 +18,9 @@ extern "C" {
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-namespace LinuxDesktop::MailCommand
-{
+namespace LinuxDesktop::MailCommand {
 
-namespace
-{
+namespace {
 
 bool isExecutableFile(const std::string& path)
 {
@@ -63,6 +61,7 @@ std::vector<std::string> childEnvironment()
 std::vector<char*> pointersTo(std::vector<std::string>& strings)
 {
     std::vector<char*> pointers;
+    pointers.reserve(strings.size() + 1);
     for (auto& string : strings)
         pointers.push_back(string.data());
     pointers.push_back(nullptr);
@@ -70,8 +69,7 @@ std::vector<char*> pointersTo(std::vector<std::string>& strings)
 }
 
 /// What the child starts with, apart from its arguments and environment.
-class SpawnSettings
-{
+class SpawnSettings {
 public:
     SpawnSettings()
     {

@@ -8,15 +8,13 @@
 #include <vector>
 
 /// The program xdg-email, which opens a message in the user's mail program. Any thread.
-namespace LinuxDesktop::MailCommand
-{
+namespace LinuxDesktop::MailCommand {
 
 /// Its path: the first executable file of that name in PATH.
 [[nodiscard]] std::optional<std::string> find();
 
 /// A started program. It runs on when this is destroyed, also after the end of this process.
-class Process
-{
+class Process {
 public:
     /// `id` is a child of this process that nobody else waits for.
     explicit Process(pid_t id);

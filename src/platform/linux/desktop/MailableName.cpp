@@ -5,11 +5,9 @@
 
 #include <climits>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view unsafeCharacters = "\n\\,";
 

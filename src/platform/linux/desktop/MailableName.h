@@ -3,8 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Whether the bytes are text in UTF-8, as everything on the bus must be.
 [[nodiscard]] bool isUtf8(std::string_view bytes);

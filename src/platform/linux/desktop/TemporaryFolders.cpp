@@ -11,11 +11,9 @@
 #include <sys/stat.h>
 #include <system_error>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view rootPrefix = "orvik-menu-mail-";
 

@@ -6,13 +6,11 @@
 #include <optional>
 #include <string>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Private folders for files that live no longer than this object: in $XDG_RUNTIME_DIR, or where temporary files go
 /// when that is unset. Any thread.
-class TemporaryFolders
-{
+class TemporaryFolders {
 public:
     TemporaryFolders() = default;
     /// Removes the folders with everything in them.

@@ -10,20 +10,18 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <clocale>
 #include <cstring>
 #include <fcntl.h>
 #include <fts.h>
-#include <locale.h>
 #include <memory>
 #include <string_view>
 #include <sys/stat.h>
 #include <vector>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 constexpr std::size_t bufferSize = std::size_t{256} * 1024;
 
@@ -38,14 +36,12 @@ using Tree = std::unique_ptr<FTS, Closer>;
 
 /// The thread's locale while it lives. The library takes names to be in the locale's encoding and marks those it
 /// takes for UTF-8, which makes an archive unreadable where they are not.
-class LocaleFor
-{
+class LocaleFor {
 public:
     explicit LocaleFor(std::string_view name)
         : m_locale(::newlocale(LC_CTYPE_MASK, isUtf8(name) ? "C.UTF-8" : "C", nullptr)),
           m_before(::uselocale(m_locale))
-    {
-    }
+    {}
     ~LocaleFor()
     {
         ::uselocale(m_before);
@@ -61,14 +57,12 @@ private:
 };
 
 /// A folder on its way into an archive.
-class Packing
-{
+class Packing {
 public:
     Packing(const std::string& folder, const std::string& name, const std::string& archive, FileDescriptor file)
         : m_folder(folder), m_name(name), m_archive(archive), m_file(std::move(file)), m_writer(archive_write_new()),
           m_entry(archive_entry_new()), m_buffer(bufferSize)
-    {
-    }
+    {}
 
     [[nodiscard]] bool run() { return open() && addTree() && finish(); }
 
@@ -76,9 +70,28 @@ private:
     bool open()
     {
         archive_write_set_bytes_per_block(m_writer.get(), static_cast<int>(bufferSize));
+        archive_write_set_bytes_in_last_block(m_writer.get(), 1);
         const bool opened = archive_write_set_format_zip(m_writer.get()) == ARCHIVE_OK &&
-                            archive_write_open_fd(m_writer.get(), m_file.get()) == ARCHIVE_OK;
+                            archive_write_open(m_writer.get(), this, nullptr, &Packing::write, nullptr) == ARCHIVE_OK;
         return opened || cannotWrite();
+    }
+
+    /// The library's way to the file. It is never told of an error, since it would not clear up after one: an error
+    /// is kept, and ends the packing at the next question for it.
+    static la_ssize_t write(archive*, void* packing, const void* bytes, std::size_t size)
+    {
+        auto& self = *static_cast<Packing*>(packing);
+        const auto* next = static_cast<const char*>(bytes);
+        for (std::size_t left = size; left > 0 && self.m_writeError == 0;) {
+            const ssize_t written = ::write(self.m_file.get(), next, left);
+            if (written < 0) {
+                self.m_writeError = errno == EINTR ? 0 : errno;
+                continue;
+            }
+            next += written;
+            left -= static_cast<std::size_t>(written);
+        }
+        return static_cast<la_ssize_t>(size);
     }
 
     bool addTree()
@@ -170,7 +183,8 @@ private:
         // A file that grows meanwhile is taken at the size that its header has.
         for (off_t left = status.st_size; length > 0 && left > 0;) {
             const auto part = static_cast<std::size_t>(std::min<off_t>(length, left));
-            if (archive_write_data(m_writer.get(), m_buffer.data(), part) != static_cast<la_ssize_t>(part))
+            if (archive_write_data(m_writer.get(), m_buffer.data(), part) != static_cast<la_ssize_t>(part) ||
+                m_writeError != 0)
                 return cannotWrite();
             left -= static_cast<off_t>(part);
             length = ::read(file.get(), m_buffer.data(), m_buffer.size());
@@ -217,18 +231,17 @@ private:
 
     bool finish()
     {
-        if (archive_write_close(m_writer.get()) != ARCHIVE_OK)
+        if (archive_write_close(m_writer.get()) != ARCHIVE_OK || m_writeError != 0)
             return cannotWrite();
-        if (!m_file.close()) {
-            complain("cannot write", m_archive, errno);
-            return false;
-        }
-        return true;
+        if (m_file.close())
+            return true;
+        m_writeError = errno;
+        return cannotWrite();
     }
 
     bool cannotWrite()
     {
-        complain("cannot write", m_archive, archive_errno(m_writer.get()));
+        complain("cannot write", m_archive, m_writeError != 0 ? m_writeError : archive_errno(m_writer.get()));
         return false;
     }
 
@@ -245,6 +258,8 @@ private:
     Writer m_writer;
     Entry m_entry;
     std::vector<char> m_buffer;
+    /// The errno value of the first write that failed.
+    int m_writeError = 0;
 };
 
 } // namespace

@@ -2,8 +2,7 @@
 
 #include <string>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Packs the folder, under `name`, into a new file at `archive` that only the user can read. Names are kept as
 /// bytes (marked as UTF-8 where they are), empty folders are kept, symbolic links are stored as links. What cannot

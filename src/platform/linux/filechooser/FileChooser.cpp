@@ -4,11 +4,9 @@
 #include <QEventLoop>
 #include <QWindow>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 QString textOf(std::string_view utf8)
 {
@@ -16,8 +14,7 @@ QString textOf(std::string_view utf8)
 }
 
 /// Notices that the program is asked to quit, which closes its windows as a user would.
-class QuitWatch : public QObject
-{
+class QuitWatch : public QObject {
 public:
     QuitWatch() { QCoreApplication::instance()->installEventFilter(this); }
 

@@ -4,16 +4,14 @@
 #include "platform/linux/ModalState.h"
 #include "platform/linux/filechooser/FileChooserDialog.h"
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// runModal's answer when the program ended its event loop while the panel was shown.
 inline constexpr int ModalResponseAborted = -1001;
 
 /// The open panel as a window of this program. Needs a QApplication; where several items are chosen, URL() is
 /// the first. Main thread.
-class FileChooser : public NS::OpenPanel
-{
+class FileChooser : public NS::OpenPanel {
 public:
     /// `modalState` must outlive the panel.
     explicit FileChooser(ModalState& modalState) : m_modalState(modalState) {}

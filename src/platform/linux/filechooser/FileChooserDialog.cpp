@@ -24,14 +24,12 @@
 #include <algorithm>
 #include <chrono>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
+namespace {
 
 constexpr std::chrono::milliseconds refreshDelay = 150ms;
 /// A refresh may take this part of the time at most, however fast a large folder changes.

@@ -13,8 +13,7 @@ class QLabel;
 class QPushButton;
 class QTimer;
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 class FileList;
 class FolderWatch;
@@ -33,8 +32,7 @@ struct FileChooserSettings {
 };
 
 /// The window that files are chosen in. Accepted, it has chosen at least one item. Main thread.
-class FileChooserDialog : public QDialog
-{
+class FileChooserDialog : public QDialog {
     Q_OBJECT
 
 public:

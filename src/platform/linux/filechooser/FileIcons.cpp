@@ -4,13 +4,11 @@
 #include <QMimeType>
 #include <QStyle>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 QIcon themeIcon(const QString& name, const QString& genericName, QStyle::StandardPixmap fallback)
 {

@@ -7,12 +7,10 @@
 #include <QMimeDatabase>
 #include <QString>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Icons of files by their kind and name alone; no file is opened. Main thread.
-class FileIcons
-{
+class FileIcons {
 public:
     [[nodiscard]] QIcon iconFor(const FileEntry& entry, const QString& name);
 

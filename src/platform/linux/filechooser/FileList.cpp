@@ -15,13 +15,11 @@
 #include <cerrno>
 #include <system_error>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 QString wordsFor(const FolderListing& listing)
 {

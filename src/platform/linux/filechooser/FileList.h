@@ -9,12 +9,10 @@
 
 class QLabel;
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The list of one folder's items: its rows, its words where there are none, its keys. Main thread.
-class FileList : public QTreeView
-{
+class FileList : public QTreeView {
     Q_OBJECT
 
 public:

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 char16_t visible(char16_t c)
 {

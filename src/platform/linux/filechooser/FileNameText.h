@@ -4,8 +4,7 @@
 
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// A file's name or path as text for people, on one line: decoded as UTF-8, with a visible sign in the place of
 /// every byte that is none, of control characters, and of those that reorder text. Two names may share a text,

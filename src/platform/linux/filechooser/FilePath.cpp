@@ -8,8 +8,7 @@
 #include <sys/stat.h>
 #include <system_error>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 std::string normalizedPath(std::string_view path)
 {

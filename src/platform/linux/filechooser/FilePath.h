@@ -3,8 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 // Paths as the file system has them: bytes, absolute, in one form (see normalizedPath). Symbolic links are never
 // resolved. Any thread.

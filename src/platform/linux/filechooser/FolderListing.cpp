@@ -8,11 +8,9 @@
 #include <string_view>
 #include <sys/stat.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
-namespace
-{
+namespace {
 
 std::optional<struct stat> statusOf(int folder, const char* name, int flags)
 {

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// One item of a folder. A symbolic link has the kind, size and time of what it leads to.
 struct FileEntry {

@@ -9,13 +9,11 @@
 #include <algorithm>
 #include <compare>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 QCollator naturalOrder()
 {
@@ -25,6 +23,12 @@ QCollator naturalOrder()
     collator.setNumericMode(true);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     return collator;
+}
+
+QVariant alignment(int column)
+{
+    const Qt::Alignment sideways = column == FolderModel::Name ? Qt::AlignLeft : Qt::AlignRight;
+    return (sideways | Qt::AlignVCenter).toInt();
 }
 
 QString kindText(const FileEntry& entry)
@@ -61,9 +65,8 @@ void FolderModel::setEntries(std::vector<FileEntry> entries)
     m_rows.clear();
     m_rows.reserve(entries.size());
     for (FileEntry& entry : entries) {
-        QString text = fileNameText(entry.name);
-        QCollatorSortKey key = m_collator.sortKey(text);
-        m_rows.push_back({std::move(entry), std::move(text), std::move(key)});
+        const QString text = fileNameText(entry.name);
+        m_rows.push_back({std::move(entry), text, m_collator.sortKey(text)});
     }
     sortRows();
     endResetModel();
@@ -123,7 +126,7 @@ QVariant FolderModel::data(const QModelIndex& index, int role) const
         return row.entry.isLink ? QVariant(font) : QVariant();
     }
     case Qt::TextAlignmentRole:
-        return QVariant((index.column() == Name ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        return alignment(index.column());
     default:
         return {};
     }
@@ -134,7 +137,7 @@ QVariant FolderModel::headerData(int section, Qt::Orientation orientation, int r
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::TextAlignmentRole)
-        return QVariant((section == Name ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        return alignment(section);
     if (role != Qt::DisplayRole)
         return {};
     switch (section) {
@@ -193,7 +196,7 @@ void FolderModel::sortRows()
         const bool folderB = b.entry.kind == FileEntry::Kind::Folder;
         if (folderA != folderB)
             return folderA;
-        return m_sortOrder == Qt::AscendingOrder ? byColumn(a, b) < 0 : byColumn(b, a) < 0;
+        return m_sortOrder == Qt::AscendingOrder ? std::is_lt(byColumn(a, b)) : std::is_lt(byColumn(b, a));
     });
 }
 

@@ -11,13 +11,11 @@
 #include <string>
 #include <vector>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// One folder's items as rows, folders before files. Names are kept in bytes; what is shown of a row is made when
 /// it is asked for. Main thread.
-class FolderModel : public QAbstractTableModel
-{
+class FolderModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:

@@ -4,8 +4,7 @@
 #include <memory>
 #include <string>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 struct CloseFolder {
     void operator()(DIR* folder) const { ::closedir(folder); }

@@ -6,8 +6,7 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 FolderWatch::FolderWatch(QObject* parent) : QObject(parent), m_queue(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
 {

@@ -6,13 +6,11 @@
 
 class QSocketNotifier;
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Tells when a folder's content changes. Takes the folder's path in bytes. Where the system has no more watches
 /// to give, it tells nothing. Main thread.
-class FolderWatch : public QObject
-{
+class FolderWatch : public QObject {
     Q_OBJECT
 
 public:

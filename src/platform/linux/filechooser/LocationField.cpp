@@ -8,8 +8,7 @@
 #include <QKeyEvent>
 #include <QStringListModel>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 LocationField::LocationField(HiddenFiles hidden, QWidget* parent)
     : QLineEdit(parent), m_hidden(hidden), m_proposals(new QStringListModel(this))

@@ -8,13 +8,11 @@
 
 class QStringListModel;
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Shows the folder's path and takes another. Names are completed while typing; Tab takes over what all the
 /// proposals have in common. Main thread.
-class LocationField : public QLineEdit
-{
+class LocationField : public QLineEdit {
     Q_OBJECT
 
 public:

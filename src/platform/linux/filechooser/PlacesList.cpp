@@ -11,13 +11,11 @@
 
 #include <array>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int FolderRole = Qt::UserRole;
 

@@ -4,12 +4,10 @@
 
 #include <string>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The user's own folders and the file system's root, as far as they exist. Main thread.
-class PlacesList : public QListWidget
-{
+class PlacesList : public QListWidget {
     Q_OBJECT
 
 public:

@@ -8,13 +8,11 @@
 
 #include <sys/stat.h>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 bool isThere(const std::string& path)
 {
@@ -25,7 +23,7 @@ bool isThere(const std::string& path)
 /// The name in the folder that reads like this text.
 std::string nameThatReads(const QString& text, const std::string& folder)
 {
-    const std::string bytes = text.toStdString();
+    std::string bytes = text.toStdString();
     if (isThere(pathInFolder(folder, bytes)))
         return bytes;
     const FolderStream stream = openFolder(folder);

@@ -4,8 +4,7 @@
 
 #include <string>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// The path that a person means by a text typed while `folder` is shown. Understands "~", paths relative to the
 /// folder, file: addresses, and names as fileNameText shows them where no file has the very name. What is typed

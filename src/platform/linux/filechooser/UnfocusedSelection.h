@@ -4,8 +4,7 @@
 #include <QStyleOptionViewItem>
 #include <QWidget>
 
-namespace LinuxDesktop
-{
+namespace LinuxDesktop {
 
 /// Draws what is selected in a view without the keyboard focus between the colours of selected and of plain rows,
 /// so that of two lists the one which the keys go to stands out.

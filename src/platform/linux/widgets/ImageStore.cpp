@@ -30,8 +30,8 @@ constexpr std::array templateImages{
 
 const TemplateImage* templateNamed(std::string_view name)
 {
-    const auto* found =
-        std::find_if(templateImages.begin(), templateImages.end(), [&](const auto& image) { return image.name == name; });
+    const auto* found = std::find_if(templateImages.begin(), templateImages.end(),
+                                     [&](const auto& image) { return image.name == name; });
     return found == templateImages.end() ? nullptr : found;
 }
 

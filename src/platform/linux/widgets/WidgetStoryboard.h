@@ -21,8 +21,7 @@ public:
     /// own controller does not.
     WidgetStoryboard(const NS::ClassTable& classes, ImageStore& images, const ActionMap& responders)
         : m_classes(classes), m_images(images), m_responders(responders)
-    {
-    }
+    {}
 
     bool contains(std::string_view identifier) const override;
     std::shared_ptr<NS::Controller> instantiateControllerWithIdentifier(std::string_view identifier) override;

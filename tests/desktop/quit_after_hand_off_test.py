@@ -1,0 +1,43 @@
+"""The end of a process that was started only to send an item by mail."""
+
+import os
+import time
+import unittest
+
+from support.case import DesktopTestCase
+from support.panel import CHOOSER
+from support.waiting import eventually
+
+
+class QuitAfterHandOff(DesktopTestCase):
+    def archives(self):
+        return [os.path.join(folder, name) for folder, _, names in os.walk(self.home.runtime)
+                for name in names if name.endswith(".zip")]
+
+    def test_the_process_ends_twenty_seconds_after_the_hand_over_and_takes_the_archive_along(self):
+        messages = self.start_portal()
+        folder = os.path.join(self.home.files, "Photos")
+        os.mkdir(folder)
+        self.suite.write_request(folder)
+        panel = self.start_panel()
+        chooser = panel.chooser()
+        # The time that the person takes does not count.
+        time.sleep(2)
+        self.assertTrue(chooser.has("showing"))
+        self.hands.press("Return")
+        eventually(lambda: not panel.shows(CHOOSER), "the chooser to go")
+        handed_over = time.monotonic()
+        messages.only()
+        self.assertEqual(len(self.archives()), 1)
+
+        self.assertEqual(panel.wait_for_end(within=25), 0)
+
+        waited = time.monotonic() - handed_over
+        self.assertGreater(waited, 19)
+        self.assertLess(waited, 23)
+        self.assertEqual(len(messages.all()), 1)
+        self.assertEqual(self.archives(), [])
+
+
+if __name__ == "__main__":
+    unittest.main()

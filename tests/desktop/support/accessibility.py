@@ -1,0 +1,126 @@
+"""What a screen reader sees of a program, asked for over the accessibility bus.
+
+Every question goes to the program itself: libraries keep answers in a cache, and then a test would see what was.
+"""
+
+from collections import namedtuple
+
+from gi.repository import GLib
+
+from .buses import call, call_bus, connect
+
+_REGISTRY = "org.a11y.atspi.Registry"
+_ROOT = "/org/a11y/atspi/accessible/root"
+_ACCESSIBLE = "org.a11y.atspi.Accessible"
+_ACTION = "org.a11y.atspi.Action"
+_COMPONENT = "org.a11y.atspi.Component"
+_PROPERTIES = "org.freedesktop.DBus.Properties"
+
+_SCREEN_COORDINATES = 0
+
+# Bits of the state set, by the protocol's numbers.
+_STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "selected": 23, "showing": 25}
+
+# What lies in a control and is no control itself.
+_ITEMS = {"list item", "page tab", "tree item"}
+
+Extents = namedtuple("Extents", "x y width height")
+
+
+class Accessible:
+    """An object of a program's accessibility tree. A question to one that has gone is a LookupError."""
+
+    def __init__(self, connection, name, path):
+        self._connection = connection
+        self._name = name
+        self._path = path
+
+    def __repr__(self):
+        return f"<{self._name}{self._path}>"
+
+    def _call(self, interface, method, arguments=None):
+        return call(self._connection, self._name, self._path, interface, method, arguments)
+
+    def __eq__(self, other):
+        return isinstance(other, Accessible) and (self._name, self._path) == (other._name, other._path)
+
+    def __hash__(self):
+        return hash((self._name, self._path))
+
+    @property
+    def name(self):
+        return self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Name")))[0]
+
+    @property
+    def role(self):
+        return self._call(_ACCESSIBLE, "GetRoleName")[0]
+
+    @property
+    def children(self):
+        return [Accessible(self._connection, name, path) for name, path in self._call(_ACCESSIBLE, "GetChildren")[0]]
+
+    @property
+    def states(self):
+        """The states that the object is in, of those that tests ask for; "checked" is one."""
+        low, high = self._call(_ACCESSIBLE, "GetState")[0]
+        bits = high << 32 | low
+        return {name for name, bit in _STATES.items() if bits >> bit & 1}
+
+    def has(self, state):
+        return state in self.states
+
+    @property
+    def extents(self):
+        """On the screen, in pixels."""
+        return Extents(*self._call(_COMPONENT, "GetExtents", GLib.Variant("(u)", (_SCREEN_COORDINATES,)))[0])
+
+    def act(self, action):
+        """Performs an action as a screen reader does, by the action's name."""
+        actions = [name for name, _, _ in self._call(_ACTION, "GetActions")[0]]
+        self._call(_ACTION, "DoAction", GLib.Variant("(i)", (actions.index(action),)))
+
+    def descendants(self, state="showing"):
+        """Every object below this one that is on view and in a state, parents before their children."""
+        for child in self.children:
+            states = child.states
+            if "showing" in states:
+                if state in states:
+                    yield child
+                yield from child.descendants(state)
+
+    def all(self, role):
+        return [found for found in self.descendants() if found.role == role]
+
+    def find(self, role, name=None):
+        """The first object of the role, and of the name where one is given; LookupError where there is none."""
+        for found in self.descendants():
+            if found.role == role and name in (None, found.name):
+                return found
+        raise LookupError(f"no {role} {name or ''} is on view")
+
+    def focused(self):
+        """The control that has the keyboard; LookupError where none has."""
+        # A current item says that it has the keyboard even while its list has not. Outer ones come first.
+        found = [each for each in self.descendants("focused") if each.role not in _ITEMS]
+        if not found:
+            raise LookupError("nothing has the keyboard")
+        return found[-1]
+
+
+def application(address, process_id):
+    """The root of a process's tree. LookupError as long as the process has none."""
+    connection = _connection_to(address)
+    for name, path in call(connection, _REGISTRY, _ROOT, _ACCESSIBLE, "GetChildren")[0]:
+        owner = call_bus(connection, "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
+        if owner == process_id:
+            return Accessible(connection, name, path)
+    raise LookupError(f"process {process_id} is not on the accessibility bus")
+
+
+_connections = {}
+
+
+def _connection_to(address):
+    if address not in _connections:
+        _connections[address] = connect(address)
+    return _connections[address]

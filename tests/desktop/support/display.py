@@ -1,0 +1,45 @@
+"""A screen of its own, with a window manager."""
+
+import os
+import subprocess
+
+from . import processes
+from .waiting import eventually
+
+# A property of the root window.
+_STARTED = "_ORVIK_WINDOW_MANAGER_STARTED"
+
+
+class VirtualDisplay:
+    """Runs from its making to close()."""
+
+    def __init__(self, size=(1280, 1024)):
+        readable, writable = os.pipe()
+        # Else it starts anew, and drops those who are just connecting, whenever its last client leaves.
+        keep = "-noreset"
+        self._server = processes.start(
+            ["Xvfb", "-displayfd", str(writable), "-screen", "0", "%dx%dx24" % size, "-nolisten", "tcp", keep],
+            pass_fds=[writable], stderr=subprocess.DEVNULL)
+        os.close(writable)
+        # The server picks a free number and tells it when it is ready.
+        with os.fdopen(readable) as numbers:
+            self.name = ":" + numbers.readline().strip()
+        # Without a home, so that its bindings are those that it came with.
+        environment = {"DISPLAY": self.name, "HOME": "/nonexistent", "PATH": "/usr/bin:/bin"}
+        # A window that is there before the window manager has started is looked after, but not given the keyboard.
+        tell_start = f"xprop -root -format {_STARTED} 8s -set {_STARTED} yes"
+        self._window_manager = processes.start(["openbox", "--startup", tell_start],
+                                               env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        eventually(self._is_managed, "the window manager")
+
+    def _is_managed(self):
+        answer = subprocess.run(["xprop", "-display", self.name, "-root", _STARTED], capture_output=True, text=True,
+                                check=False, timeout=20)
+        return "yes" in answer.stdout
+
+    def save_picture(self, path):
+        subprocess.run(["import", "-display", self.name, "-window", "root", path], check=True, timeout=20)
+
+    def close(self):
+        processes.end(self._window_manager)
+        processes.end(self._server)

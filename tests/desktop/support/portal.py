@@ -1,0 +1,90 @@
+"""A stand-in for the desktop's portal, a program of its own: mail, and the wish for light or dark.
+
+Usage: portal.py FOLDER [COLOR-SCHEME]
+
+Each message becomes a folder 1, 2, ... in FOLDER: "message.json" (the parent window, the names of the options, and
+the name behind each attached descriptor) and the attachments' bytes in 0, 1, ... Nothing is to be seen of a message
+before it is complete.
+"""
+
+import json
+import os
+import sys
+
+import dbus
+import dbus.mainloop.glib
+import dbus.service
+from gi.repository import GLib
+
+NAME = "org.freedesktop.portal.Desktop"
+PATH = "/org/freedesktop/portal/desktop"
+_MAIL = "org.freedesktop.portal.Email"
+_SETTINGS = "org.freedesktop.portal.Settings"
+# What a test asks of the stand-in itself.
+TESTING = "com.orvikstudio.Testing"
+
+_COLOR_SCHEME = ("org.freedesktop.appearance", "color-scheme")
+
+
+class Portal(dbus.service.Object):
+    def __init__(self, bus, folder, color_scheme):
+        super().__init__(bus, PATH)
+        self._folder = folder
+        self._color_scheme = color_scheme
+        self._messages = 0
+
+    @dbus.service.method(_MAIL, in_signature="sa{sv}", out_signature="o")
+    def ComposeEmail(self, parent, options):
+        self._messages += 1
+        unfinished = os.path.join(self._folder, "unfinished")
+        os.mkdir(unfinished)
+        names = []
+        for number, attachment in enumerate(options.get("attachment_fds", [])):
+            descriptor = attachment.take()
+            names.append(os.readlink(f"/proc/self/fd/{descriptor}"))
+            with open(descriptor, "rb") as source, open(f"{unfinished}/{number}", "wb") as target:
+                target.write(source.read())
+        with open(f"{unfinished}/message.json", "w", encoding="ascii") as file:
+            json.dump({"parent": str(parent), "options": sorted(options), "names": names}, file)
+        os.rename(unfinished, os.path.join(self._folder, str(self._messages)))
+        return f"{PATH}/request/{self._messages}"
+
+    @dbus.service.method(dbus.PROPERTIES_IFACE, in_signature="ss", out_signature="v")
+    def Get(self, interface, name):
+        if (interface, name) != (_MAIL, "version"):
+            raise dbus.exceptions.DBusException("no such property",
+                                                name="org.freedesktop.DBus.Error.InvalidArgs")
+        return dbus.UInt32(3)
+
+    @dbus.service.method(_SETTINGS, in_signature="ss", out_signature="v")
+    def Read(self, group, key):
+        if (group, key) != _COLOR_SCHEME:
+            raise dbus.exceptions.DBusException("no such setting",
+                                                name="org.freedesktop.portal.Error.NotFound")
+        # The portal's answer is a variant in a variant.
+        return dbus.UInt32(self._color_scheme, variant_level=1)
+
+    @dbus.service.signal(_SETTINGS, signature="ssv")
+    def SettingChanged(self, group, key, value):
+        pass
+
+    @dbus.service.method(TESTING, in_signature="u")
+    def PreferColorScheme(self, color_scheme):
+        self._color_scheme = color_scheme
+        self.SettingChanged(*_COLOR_SCHEME, color_scheme)
+
+
+def main():
+    dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
+    bus = dbus.SessionBus()
+    folder = sys.argv[1]
+    color_scheme = int(sys.argv[2]) if len(sys.argv) > 2 else 0
+    # The object comes before the name, so that whoever sees the name can call it.
+    portal = Portal(bus, folder, color_scheme)
+    name = dbus.service.BusName(NAME, bus, do_not_queue=True)
+    assert portal and name
+    GLib.MainLoop().run()
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,76 @@
+"""The panel's settings file, read and written as other programs do."""
+
+import datetime
+import os
+import plistlib
+
+SUITE = "ORVIK4MENU.com.orvikstudio.orvikmenu"
+
+TITLES = [
+    "Open Terminal",
+    "Open System Preferences",
+    "Set as Wallpaper",
+    "Create New Text File",
+    "Copy path to Clipboard",
+    "Send via Mail",
+    "Move to a folder",
+    "Copy to a folder",
+    "Open New Finder Window",
+    "Hide / Unhide item",
+    "Find Duplicate Files",
+    "Find Duplicate Photos",
+    "View or Edit Exif Data",
+    "Resize Photos",
+    "Configure Orvik Menu Settings",
+    "Add Folders",
+]
+
+
+def record(*off):
+    """The menu items' record with the rows `off` switched off and all others on."""
+    return [{"title": title, "state": row not in off} for row, title in enumerate(TITLES)]
+
+
+def as_text(value):
+    """For comparing: unlike Python's own values, property lists know true from 1 from 1.0."""
+    return plistlib.dumps(value).decode()
+
+
+def seconds_ago(seconds):
+    """A date as property lists hold it: UTC, whole seconds, so up to one second earlier."""
+    now = datetime.datetime.now(datetime.timezone.utc).replace(tzinfo=None, microsecond=0)
+    return now - datetime.timedelta(seconds=seconds)
+
+
+class SuiteFile:
+    """The file of the shared settings suite below a configuration folder."""
+
+    def __init__(self, configuration_folder):
+        self.folder = os.path.join(configuration_folder, "orvik-menu")
+        self.path = os.path.join(self.folder, SUITE + ".plist")
+
+    def exists(self):
+        return os.path.exists(self.path)
+
+    def read(self):
+        with open(self.path, "rb") as file:
+            return plistlib.load(file)
+
+    def text(self):
+        return as_text(self.read())
+
+    def bytes(self):
+        with open(self.path, "rb") as file:
+            return file.read()
+
+    def write(self, **values):
+        """Replaces the whole file."""
+        os.makedirs(self.folder, mode=0o700, exist_ok=True)
+        temporary = self.path + ".new"
+        with open(os.open(temporary, os.O_WRONLY | os.O_CREAT | os.O_TRUNC, 0o600), "wb") as file:
+            plistlib.dump(values, file)
+        os.rename(temporary, self.path)
+
+    def write_request(self, path, seconds_old=0, **values):
+        """Leaves a mail request, as the extension does before it starts the panel."""
+        self.write(mailAttachPath=path, AttachClickedDate=seconds_ago(seconds_old), **values)

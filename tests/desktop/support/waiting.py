@@ -1,0 +1,40 @@
+"""Waiting for what another process does, bounded in time."""
+
+import time
+
+# Generous, since the machine may be busy; only a failing test ever waits this long.
+PATIENCE = 15.0
+_INTERVAL = 0.02
+
+
+class GaveUp(AssertionError):
+    """What was waited for did not come about."""
+
+
+def eventually(check, what, within=PATIENCE):
+    """The first true answer of `check`, which is asked again until it gives one.
+
+    An answer that is not yet to be had may be told by raising LookupError or OSError.
+    `what` ends the sentence "gave up waiting for ...".
+    """
+    deadline = time.monotonic() + within
+    while True:
+        trouble = ""
+        try:
+            answer = check()
+        except (LookupError, OSError) as error:
+            answer, trouble = None, f" ({error!r})"
+        if answer:
+            return answer
+        if time.monotonic() > deadline:
+            raise GaveUp(f"gave up waiting for {what}{trouble}")
+        time.sleep(_INTERVAL)
+
+
+def throughout(check, what, seconds):
+    """Fails as soon as `check` gives a false answer within the next `seconds`. For what must not happen."""
+    deadline = time.monotonic() + seconds
+    while time.monotonic() < deadline:
+        if not check():
+            raise AssertionError(f"no longer so: {what}")
+        time.sleep(_INTERVAL)
