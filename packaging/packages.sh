@@ -18,6 +18,7 @@ packages_panel=(
   breeze-icon-theme
   fonts-inter
   libqt6svg6
+  qt6-wayland
   xdg-utils
 )
 

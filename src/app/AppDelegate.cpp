@@ -37,7 +37,7 @@ void AppDelegate::applicationWillFinishLaunching()
     static_cast<void>(m_registry.controller<mainStartWindow>(ControllerIdentifier::mainStartWindow));
 }
 
-void AppDelegate::applicationShouldHandleReopen()
+void AppDelegate::applicationShouldHandleReopen_hasVisibleWindows(bool)
 {
     m_registry.controller<mainStartWindow>(ControllerIdentifier::mainStartWindow)->AttachFileToMail();
 }

@@ -14,7 +14,7 @@ public:
     void connect(NS::Connections& connections) override;
     void applicationWillFinishLaunching() override;
     /// A second start may have been made for a request; this process is the one to handle it.
-    void applicationShouldHandleReopen() override;
+    void applicationShouldHandleReopen_hasVisibleWindows(bool flag) override;
 
     void QuitMainApp();
     /// Selects the About tab, whatever is on screen: nothing is shown or brought forward.

@@ -12,13 +12,17 @@ using Items = std::vector<NS::Value::Dictionary>;
 using Flags = std::vector<std::int64_t>;
 
 constexpr std::int64_t on = 1;
+constexpr std::int64_t off = 0;
 
 std::int64_t flagFromNumber(const NS::Value& element)
 {
     if (const auto integer = element.integer())
         return *integer;
-    if (const auto real = element.real(); real && std::abs(*real) < 0x1p63)
-        return static_cast<std::int64_t>(*real);
+    // A number that no flag can hold is not 1, and that is all that counts.
+    if (element.largeInteger())
+        return off;
+    if (const auto real = element.real())
+        return std::abs(*real) < 0x1p63 ? static_cast<std::int64_t>(*real) : off;
     NS::fatalError("the older menu record holds something that is not a number");
 }
 

@@ -27,7 +27,7 @@ public:
     /// Before the first event is handled.
     virtual void applicationWillFinishLaunching() {}
     /// The program was started again while it runs as a regular application; its windows are in front already.
-    virtual void applicationShouldHandleReopen() {}
+    virtual void applicationShouldHandleReopen_hasVisibleWindows(bool /*flag*/) {}
 };
 
 } // namespace NS

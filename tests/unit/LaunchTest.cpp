@@ -164,7 +164,7 @@ TEST_F(Launch, ASecondStartLetsTheRunningApplicationHandleTheRequest)
     launch();
     leaveMailRequest(5.0);
 
-    delegate.applicationShouldHandleReopen();
+    delegate.applicationShouldHandleReopen_hasVisibleWindows(true);
 
     EXPECT_EQ(platform.calls.startingWith("mail.").size(), 1U);
     EXPECT_FALSE(mailRequestIsStored());
@@ -176,7 +176,7 @@ TEST_F(Launch, ASecondStartWithoutARequestChangesNothing)
     launch();
     platform.calls.clear();
 
-    delegate.applicationShouldHandleReopen();
+    delegate.applicationShouldHandleReopen_hasVisibleWindows(true);
 
     EXPECT_TRUE(panels().empty());
     EXPECT_TRUE(platform.calls.startingWithAnyOf({"application.", "storyboard."}).empty());
@@ -188,7 +188,7 @@ TEST_F(Launch, ACancelledHandOffAfterASecondStartDoesNotQuit)
     leaveMailRequest(5.0);
     platform.openPanel.response = 0;
 
-    delegate.applicationShouldHandleReopen();
+    delegate.applicationShouldHandleReopen_hasVisibleWindows(true);
 
     EXPECT_EQ(panels().size(), 1U);
     EXPECT_TRUE(platform.calls.startingWith("application.terminate").empty());

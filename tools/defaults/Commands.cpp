@@ -20,7 +20,6 @@ namespace DefaultsTool {
 
 namespace PropertyList = LinuxDesktop::PropertyList;
 using LinuxDesktop::Domain;
-using LinuxDesktop::Failure;
 using LinuxDesktop::FileDescriptor;
 using LinuxDesktop::Result;
 using LinuxDesktop::Store;

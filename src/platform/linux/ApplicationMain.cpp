@@ -78,7 +78,7 @@ void destroyWindows()
         delete window.data();
 }
 
-int start(const NS::ClassTable& classes, const QVariantMap& platformData)
+int start(const NS::ClassTable& classes, const QVariantMap& platformData, TerminationSignals& terminationSignals)
 {
     LinuxPlatform platform(classes, resourceFolder());
     NS::installPlatform(&platform);
@@ -91,7 +91,7 @@ int start(const NS::ClassTable& classes, const QVariantMap& platformData)
         return EXIT_FAILURE;
     }
 
-    const TerminationSignals terminationSignals([&] { platform.application().terminate(); });
+    terminationSignals.whenAsked([&] { platform.application().terminate(); });
     applyAppearance(ColorScheme::Light);
     SessionBus& bus = platform.sessionBus();
     const ColorSchemeSetting colorScheme(
@@ -119,6 +119,8 @@ int NS::ApplicationMain(int argc, char** argv, const ClassTable& classes)
         return EXIT_FAILURE;
     }
     const QVariantMap platformData = platformDataFromEnvironment();
+    TerminationSignals terminationSignals;
+    SessionBus::keepToolkitFromStartingOne();
     QApplication application(argc, argv);
     if (argc > 1) {
         std::fprintf(stderr, "orvik-menu: unknown argument: %s\n%s", argv[1], usage);
@@ -126,11 +128,10 @@ int NS::ApplicationMain(int argc, char** argv, const ClassTable& classes)
     }
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("orvik-menu"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Orvik Menu"));
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
     QGuiApplication::setDesktopFileName(
         QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size()));
-    const int status = start(classes, platformData);
+    const int status = start(classes, platformData, terminationSignals);
     NS::installPlatform(nullptr);
     return status;
 }

@@ -21,6 +21,8 @@ constexpr uint preferDark = 1;
 ColorSchemeSetting::ColorSchemeSetting(SessionBus& bus, std::function<void(bool)> changed)
     : m_changed(std::move(changed))
 {
+    // Connecting to a signal that carries one needs it known by name.
+    qRegisterMetaType<QDBusVariant>();
     if (bus.connection())
         ask(bus);
 }

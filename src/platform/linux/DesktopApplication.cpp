@@ -10,13 +10,16 @@
 namespace LinuxDesktop {
 
 DesktopApplication::DesktopApplication(ApplicationName& name, ModalState& modalState, std::function<void()> reopened)
-    : m_name(name), m_modalState(modalState), m_reopened(std::move(reopened))
+    : m_name(name), m_modalState(modalState), m_reopened(std::move(reopened)),
+      m_modalEnd(modalState.whenEnded([this] { reopenIfItWaits(); }))
 {
-    m_modalState.whenEnded([this] {
-        if (std::exchange(m_reopenWaits, false))
-            QMetaObject::invokeMethod(
-                qApp, [this] { reopen(); }, Qt::QueuedConnection);
-    });
+}
+
+void DesktopApplication::reopenIfItWaits()
+{
+    if (std::exchange(m_reopenWaits, false))
+        QMetaObject::invokeMethod(
+            qApp, [this] { reopen(); }, Qt::QueuedConnection);
 }
 
 void DesktopApplication::reopen()

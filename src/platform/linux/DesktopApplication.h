@@ -25,10 +25,12 @@ public:
 
 private:
     void reopen();
+    void reopenIfItWaits();
 
     ApplicationName& m_name;
     ModalState& m_modalState;
     std::function<void()> m_reopened;
+    std::shared_ptr<const ModalState::Callback> m_modalEnd;
     bool m_reopenWaits = false;
     bool m_terminated = false;
 };

@@ -49,12 +49,13 @@ private:
     ImageStore m_images;
     ModalState m_modalState;
     SessionBus m_bus;
+    // Before the name, so that the name is given back first: a folder that is being packed holds the end up.
+    std::unique_ptr<NS::SharingService> m_composeEmail;
     ApplicationName m_name;
     DistributedNotificationCenter m_center;
     DesktopApplication m_application;
     std::shared_ptr<NS::ApplicationDelegate> m_delegate;
     ActionMap m_responders;
-    std::unique_ptr<NS::SharingService> m_composeEmail;
 };
 
 } // namespace LinuxDesktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -10,15 +11,15 @@ namespace LinuxDesktop {
 /// active() and is told when the last session ended. Main thread.
 class ModalState {
 public:
+    using Callback = std::function<void()>;
+
     class Session {
     public:
         explicit Session(ModalState& state) : m_state(state) { ++m_state.m_depth; }
         ~Session()
         {
-            if (--m_state.m_depth > 0)
-                return;
-            for (const auto& ended : m_state.m_ended)
-                ended();
+            if (--m_state.m_depth == 0)
+                m_state.tellEnded();
         }
         Session(const Session&) = delete;
         Session& operator=(const Session&) = delete;
@@ -28,12 +29,27 @@ public:
     };
 
     [[nodiscard]] bool active() const { return m_depth > 0; }
-    /// Calls each at the end of the last session. They must return to the event loop before they run another panel.
-    void whenEnded(std::function<void()> ended) { m_ended.push_back(std::move(ended)); }
+    /// Calls `ended` at the end of every last session, as long as the caller keeps what it gets. It must return to
+    /// the event loop before it runs another panel.
+    [[nodiscard]] std::shared_ptr<const Callback> whenEnded(Callback ended)
+    {
+        auto listener = std::make_shared<const Callback>(std::move(ended));
+        m_listeners.push_back(listener);
+        return listener;
+    }
 
 private:
+    void tellEnded()
+    {
+        std::erase_if(m_listeners, [](const auto& listener) { return listener.expired(); });
+        for (const auto& listener : std::vector(m_listeners)) {
+            if (const auto ended = listener.lock())
+                (*ended)();
+        }
+    }
+
     int m_depth = 0;
-    std::vector<std::function<void()>> m_ended;
+    std::vector<std::weak_ptr<const Callback>> m_listeners;
 };
 
 } // namespace LinuxDesktop

@@ -23,28 +23,31 @@ sigset_t terminationSignals()
 
 } // namespace
 
-TerminationSignals::TerminationSignals(std::function<void()> asked) : m_asked(std::move(asked))
+TerminationSignals::TerminationSignals()
 {
     const sigset_t endings = terminationSignals();
-    pthread_sigmask(SIG_BLOCK, &endings, nullptr);
     m_descriptor = signalfd(-1, &endings, SFD_CLOEXEC | SFD_NONBLOCK);
-    if (m_descriptor < 0) {
-        pthread_sigmask(SIG_UNBLOCK, &endings, nullptr);
-        return;
-    }
-    m_notifier = new QSocketNotifier(m_descriptor, QSocketNotifier::Read);
-    QObject::connect(m_notifier, &QSocketNotifier::activated, m_notifier, [this] {
-        signalfd_siginfo received{};
-        while (read(m_descriptor, &received, sizeof received) > 0)
-            m_asked();
-    });
+    if (m_descriptor >= 0)
+        pthread_sigmask(SIG_BLOCK, &endings, nullptr);
 }
 
 TerminationSignals::~TerminationSignals()
 {
-    delete m_notifier;
     if (m_descriptor >= 0)
         close(m_descriptor);
+}
+
+void TerminationSignals::whenAsked(std::function<void()> asked)
+{
+    if (m_descriptor < 0)
+        return;
+    m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
+                     [descriptor = m_descriptor, asked = std::move(asked)] {
+                         signalfd_siginfo received{};
+                         while (read(descriptor, &received, sizeof received) > 0)
+                             asked();
+                     });
 }
 
 } // namespace LinuxDesktop

@@ -73,6 +73,7 @@ struct Mail : testing::Test {
     {
         m_portal.kill();
         m_portal.waitForFinished();
+        qputenv("PATH", m_pathBefore);
     }
 
     [[nodiscard]] fs::path base() const { return m_base.path().toStdString(); }
@@ -125,6 +126,7 @@ struct Mail : testing::Test {
         return std::distance(fs::directory_iterator(runtime()), fs::directory_iterator());
     }
 
+    const QByteArray m_pathBefore = qgetenv("PATH");
     QTemporaryDir m_base;
     PrivateBus m_daemon;
     SessionBus m_bus{"none"};
@@ -274,12 +276,13 @@ TEST_F(Mail, SaysWhatCannotBeAttachedAndSendsNothing)
     install("xdg-email", mailCommandStandIn);
     testing::internal::CaptureStderr();
     makeService();
-    send("/nonexistent");
+    send(base() / "missing");
     send("/dev/null");
     m_service.reset();
     EXPECT_FALSE(fs::exists(record() / "arguments"));
     const std::string errors = testing::internal::GetCapturedStderr();
-    EXPECT_NE(errors.find("orvik-menu: cannot attach \"/nonexistent\": No such file or directory\n"),
+    EXPECT_NE(errors.find("orvik-menu: cannot attach \"" + (base() / "missing").native() +
+                          "\": No such file or directory\n"),
               std::string::npos);
     EXPECT_NE(errors.find("orvik-menu: cannot attach \"/dev/null\": it is not a file\n"), std::string::npos);
 }

@@ -97,10 +97,10 @@ TEST_F(RuntimeFolder, UnsetMeansTheFolderForTemporaryFiles)
 
 TEST_F(RuntimeFolder, ThatIsMissingIsComplainedOf)
 {
-    qputenv("XDG_RUNTIME_DIR", "/nonexistent\nfolder");
+    qputenv("XDG_RUNTIME_DIR", (path() / "missing\nfolder").c_str());
     TemporaryFolders folders;
     testing::internal::CaptureStderr();
     EXPECT_FALSE(folders.make());
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "orvik-menu: cannot make a folder in \"/nonexistent\\x0afolder\": No such file or directory\n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "orvik-menu: cannot make a folder in \"" + path().native() +
+                                                          "/missing\\x0afolder\": No such file or directory\n");
 }

@@ -13,8 +13,7 @@
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 QString accessibleName(QWidget& widget)
 {

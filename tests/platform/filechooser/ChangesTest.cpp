@@ -10,8 +10,7 @@
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 struct Changes : testing::Test {
     Changes()
@@ -114,6 +113,7 @@ TEST_F(Changes, AFileThatBecameAFolderIsNotChosenAsAFile)
                              shown.press(shown.confirmButton());
                              EXPECT_TRUE(shown.dialog().isVisible());
                              EXPECT_FALSE(shown.confirmButton().isEnabled());
+                             EXPECT_TRUE(shown.notice().isVisible());
                              shown.cancel();
                          }),
               NS::ModalResponseCancel);

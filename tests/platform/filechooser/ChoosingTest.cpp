@@ -6,8 +6,7 @@
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 struct Choosing : testing::Test {
     Choosing()

@@ -8,8 +8,7 @@
 
 using LinuxDesktop::FileChooser;
 
-namespace
-{
+namespace {
 
 /// Runs a panel inside the program's event loop. Returns its answer and the event loop's.
 std::pair<int, int> runInProgram(FileChooser& chooser, const std::function<void(const ShownChooser&)>& steps)

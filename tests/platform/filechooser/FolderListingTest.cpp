@@ -9,8 +9,7 @@
 
 using namespace LinuxDesktop;
 
-namespace
-{
+namespace {
 
 FileEntry entryNamed(const FolderListing& listing, const std::string& name)
 {

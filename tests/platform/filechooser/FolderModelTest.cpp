@@ -7,8 +7,7 @@
 
 using namespace LinuxDesktop;
 
-namespace
-{
+namespace {
 
 FileEntry file(std::string name, std::int64_t size = 0, std::time_t modified = 0)
 {

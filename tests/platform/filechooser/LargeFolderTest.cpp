@@ -9,8 +9,7 @@
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The processor time of this process, which is not another's to spend.
 double secondsWorked()

@@ -9,12 +9,10 @@ using LinuxDesktop::FileChooser;
 using LinuxDesktop::fileNameText;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// Every way to come by a name must give its bytes.
-class AnyName : public testing::TestWithParam<std::string>
-{
+class AnyName : public testing::TestWithParam<std::string> {
 protected:
     void expectChosen(const std::function<void(const ShownChooser&)>& steps, const std::string& directory)
     {

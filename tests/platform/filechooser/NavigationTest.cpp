@@ -12,8 +12,7 @@
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 struct Navigation : testing::Test {
     Navigation()

@@ -11,8 +11,7 @@
 using LinuxDesktop::FileChooser;
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 NS::URL url(const std::string& path)
 {
@@ -174,7 +173,7 @@ TEST_F(Opening, WithoutAFolderItIsTheHomeFolder)
     qputenv("HOME", home);
 }
 
-TEST_F(Opening, TheWindowFitsItsScreenWhateverTheMessage)
+TEST_F(Opening, TheWindowFitsItsScreenWhateverWordIsInTheMessage)
 {
     chooser.setMessage(std::string(3000, 'm'));
     runChooser(chooser, [](const ShownChooser& shown) {
@@ -190,7 +189,7 @@ TEST_F(Opening, TheWindowFitsItsScreenWhateverTheMessage)
 TEST_F(Opening, AModalSessionRunsAsLongAsThePanel)
 {
     bool ended = false;
-    modal.whenEnded([&] { ended = true; });
+    const auto listening = modal.whenEnded([&] { ended = true; });
     runChooser(chooser, [&](const ShownChooser& shown) {
         EXPECT_TRUE(modal.active());
         EXPECT_EQ(shown.dialog().windowModality(), Qt::ApplicationModal);

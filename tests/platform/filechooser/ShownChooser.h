@@ -22,8 +22,7 @@ inline void PrintTo(const QString& text, std::ostream* stream)
 }
 
 /// A chooser's window while it is shown, and what a user does in it.
-class ShownChooser
-{
+class ShownChooser {
 public:
     explicit ShownChooser(QDialog& dialog) : m_dialog(dialog) {}
 

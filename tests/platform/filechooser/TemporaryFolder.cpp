@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 TemporaryFolder::TemporaryFolder(const std::filesystem::path& parent)
-    : m_path((parent / "filechooser-test-XXXXXX").native())
+    : m_path((parent / "filechooser-test-").native() + std::string(6, 'X'))
 {
     EXPECT_TRUE(::mkdtemp(m_path.data()));
     EXPECT_EQ(::chmod(m_path.c_str(), 0755), 0);

@@ -7,8 +7,7 @@
 #include <vector>
 
 /// A folder that goes, with all it holds, when the test ends. Names are bytes.
-class TemporaryFolder
-{
+class TemporaryFolder {
 public:
     explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path());
     ~TemporaryFolder();
@@ -32,8 +31,7 @@ private:
 };
 
 /// For its lifetime the process has no rights beyond those of an ordinary user.
-class OrdinaryUser
-{
+class OrdinaryUser {
 public:
     OrdinaryUser();
     ~OrdinaryUser();

@@ -8,14 +8,8 @@
 namespace LinuxDesktop {
 
 DistributedNotificationCenter::DistributedNotificationCenter(SessionBus& bus, ModalState& modalState)
-    : m_bus(bus), m_modalState(modalState)
+    : m_bus(bus), m_modalState(modalState), m_modalEnd(modalState.whenEnded([this] { scheduleDelivery(); }))
 {
-    m_modalState.whenEnded([this] { scheduleDelivery(); });
-}
-
-DistributedNotificationCenter::~DistributedNotificationCenter()
-{
-    m_modalState.whenEnded(nullptr);
 }
 
 void DistributedNotificationCenter::addObserver_name_object(std::function<void()> handler, std::string_view name,

@@ -24,7 +24,6 @@ class DistributedNotificationCenter final : public QObject, public NS::Distribut
 public:
     /// Both arguments must outlive the centre.
     DistributedNotificationCenter(SessionBus& bus, ModalState& modalState);
-    ~DistributedNotificationCenter() override;
 
     void addObserver_name_object(std::function<void()> handler, std::string_view name,
                                  std::string_view object) override;
@@ -42,6 +41,7 @@ private:
 
     SessionBus& m_bus;
     ModalState& m_modalState;
+    std::shared_ptr<const ModalState::Callback> m_modalEnd;
     std::vector<Observer> m_observers;
     /// The observers to call, by index, in the order of the postings.
     std::deque<std::size_t> m_undelivered;

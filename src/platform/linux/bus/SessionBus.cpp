@@ -1,5 +1,7 @@
 #include "platform/linux/bus/SessionBus.h"
 
+#include "platform/linux/bus/NoSessionBus.h"
+
 #include <QByteArrayList>
 
 #include <cstdio>
@@ -46,6 +48,12 @@ SessionBus::SessionBus(std::string complaint) : m_complaint(std::move(complaint)
         m_connection = connection;
     else
         QDBusConnection::disconnectFromBus(name);
+}
+
+void SessionBus::keepToolkitFromStartingOne()
+{
+    if (busAddress().isEmpty())
+        qputenv("DBUS_SESSION_BUS_ADDRESS", noSessionBus);
 }
 
 SessionBus::~SessionBus()

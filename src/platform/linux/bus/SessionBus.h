@@ -13,6 +13,11 @@ class SessionBus {
 public:
     /// `complaint` is the line that standard error gets the first time the connection is asked for in vain.
     explicit SessionBus(std::string complaint);
+
+    /// Keeps the toolkit, which looks for a bus of its own accord, from starting one where none runs: it finds
+    /// noSessionBus in the environment. Call before the QCoreApplication is made.
+    static void keepToolkitFromStartingOne();
+
     ~SessionBus();
     SessionBus(const SessionBus&) = delete;
     SessionBus& operator=(const SessionBus&) = delete;

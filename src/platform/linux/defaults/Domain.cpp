@@ -247,8 +247,9 @@ std::optional<Snapshot> Domain::write(const Changes& changes, Clock::time_point 
         return std::nullopt;
     }
     NS::Value::Dictionary values = changes.over(found.values());
-    const bool fileIsWanted = found.state() == Snapshot::State::Readable || changes.cleared == 0;
-    if (fileIsWanted && PropertyList::identical(values, found.values())) {
+    // Replaced contents are worth a file even when they are empty.
+    const bool fileIsMissing = found.state() == Snapshot::State::Absent && changes.cleared != 0;
+    if (!fileIsMissing && PropertyList::identical(values, found.values())) {
         if (const auto failure = m_file.flush(found)) {
             trouble.what = failure->what;
             return std::nullopt;

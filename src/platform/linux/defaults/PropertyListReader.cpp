@@ -5,9 +5,9 @@
 
 #include <array>
 #include <charconv>
+#include <clocale>
 #include <cstdlib>
 #include <expat.h>
-#include <locale.h>
 #include <memory>
 #include <utility>
 #include <vector>

@@ -74,7 +74,7 @@ Result<FileDescriptor> replaceFile(FileOperations& files, const Replacement& rep
     if (!file)
         return systemFailure("could not create a file to replace", replacement.path);
     const auto abandon = [&](std::string_view what) {
-        const Failure failure = systemFailure(what, replacement.path);
+        Failure failure = systemFailure(what, replacement.path);
         files.unlink(temporary);
         return failure;
     };

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <concepts>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <variant>
 

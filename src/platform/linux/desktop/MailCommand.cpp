@@ -1,5 +1,6 @@
 #include "platform/linux/desktop/MailCommand.h"
 
+#include "platform/linux/bus/NoSessionBus.h"
 #include "platform/linux/desktop/Complaint.h"
 
 #include <algorithm>
@@ -49,8 +50,12 @@ std::vector<std::string> commandLine(const std::vector<std::string>& attachments
 std::vector<std::string> childEnvironment()
 {
     std::vector<std::string> environment;
-    for (char** variable = environ; *variable; ++variable)
-        environment.emplace_back(*variable);
+    // The mail program may start a bus where this program must not.
+    const std::string noBus = std::string("DBUS_SESSION_BUS_ADDRESS=") + noSessionBus;
+    for (char** variable = environ; *variable; ++variable) {
+        if (*variable != noBus)
+            environment.emplace_back(*variable);
+    }
     // Empty means the same as unset, but the script's own LC_ALL=C reaches its awk only when the variable is there:
     // without it awk may count characters where the script counts on bytes.
     if (!std::getenv("LC_ALL"))

@@ -159,8 +159,8 @@ void FileChooserDialog::connectParts()
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_confirmButton, &QPushButton::clicked, this, &FileChooserDialog::confirm);
 
-    const auto shortcut = [this](Qt::Key modifierless, Qt::KeyboardModifiers modifiers, auto&& action) {
-        auto* keys = new QShortcut(QKeySequence(QKeyCombination(modifiers, modifierless)), this);
+    const auto shortcut = [this](Qt::Key key, Qt::KeyboardModifiers modifiers, auto&& action) {
+        auto* keys = new QShortcut(QKeySequence(QKeyCombination(modifiers, key)), this);
         connect(keys, &QShortcut::activated, this, std::forward<decltype(action)>(action));
     };
     shortcut(Qt::Key_L, Qt::ControlModifier, [this] {
@@ -323,8 +323,9 @@ void FileChooserDialog::choose(std::vector<std::string> paths)
         accept();
         return;
     }
-    notice(u"“%1” cannot be opened."_s.arg(fileNameText(*unusable)));
     refresh();
+    if (!m_selectionVanished)
+        notice(u"“%1” cannot be chosen."_s.arg(fileNameText(*unusable)));
 }
 
 void FileChooserDialog::notice(const QString& words)

@@ -9,26 +9,36 @@ namespace LinuxDesktop {
 
 namespace {
 
-/// A list whose children are its rows in sight, without the widgets that only carry them.
+/// A list whose children are its rows in sight, or its words where it has none, without the widgets that only carry
+/// them.
 class AccessibleRowList : public QAccessibleWidget {
 public:
     explicit AccessibleRowList(RowList& list) : QAccessibleWidget(&list, QAccessible::List) {}
 
-    int childCount() const override { return static_cast<int>(rows().size()); }
+    int childCount() const override { return static_cast<int>(parts().size()); }
 
     QAccessibleInterface* child(int index) const override
     {
-        const auto shown = rows();
+        const auto shown = parts();
         return index >= 0 && index < shown.size() ? QAccessible::queryAccessibleInterface(shown.at(index)) : nullptr;
     }
 
     int indexOfChild(const QAccessibleInterface* child) const override
     {
-        return child ? static_cast<int>(rows().indexOf(qobject_cast<RowWidget*>(child->object()))) : -1;
+        return child ? static_cast<int>(parts().indexOf(qobject_cast<QWidget*>(child->object()))) : -1;
     }
 
 private:
-    QList<RowWidget*> rows() const { return static_cast<RowList*>(widget())->rowsInSight(); }
+    QList<QWidget*> parts() const
+    {
+        const auto& list = *static_cast<RowList*>(widget());
+        QList<QWidget*> parts;
+        for (RowWidget* row : list.rowsInSight())
+            parts.append(row);
+        if (list.emptyLabel().isVisible())
+            parts.append(&list.emptyLabel());
+        return parts;
+    }
 };
 
 class AccessibleRow : public QAccessibleWidget {

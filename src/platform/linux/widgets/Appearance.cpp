@@ -1,5 +1,7 @@
 #include "platform/linux/widgets/Appearance.h"
 
+#include "platform/linux/widgets/PanelStyle.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
@@ -67,6 +69,8 @@ void applyAppearance(ColorScheme scheme)
 {
     // Fusion is what runs where no desktop has brought a style.
     if (QApplication::style()->name() == QLatin1String("fusion"))
+        QApplication::setStyle(new PanelStyle);
+    if (qobject_cast<PanelStyle*>(QApplication::style()))
         QApplication::setPalette(paletteFor(scheme));
     if (qEnvironmentVariableIsEmpty("XDG_CURRENT_DESKTOP")) {
         QFont font(QStringList{QStringLiteral("Inter"), QStringLiteral("Sans Serif")});

@@ -3,6 +3,7 @@
 #include "platform/linux/widgets/WidgetScene.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 
 namespace LinuxDesktop {
 
@@ -12,8 +13,20 @@ void MainWindow::setContentViewController(std::shared_ptr<NS::ViewController> co
     m_content = std::move(controller);
 }
 
+/// A window as its scene has it may be larger than the screen.
+void MainWindow::fitToScreen()
+{
+    // What a window manager's frame takes, which is not known before the window shows.
+    constexpr QSize frame(16, 48);
+    const QSize room = screen()->availableSize() - frame;
+    setMinimumSize(minimumSize().boundedTo(room));
+    resize(size().boundedTo(room));
+}
+
 void MainWindow::makeKeyAndOrderFront()
 {
+    if (!testAttribute(Qt::WA_WState_Created))
+        fitToScreen();
     if (isMinimized())
         showNormal();
     else

@@ -23,6 +23,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void fitToScreen();
+
     NS::WindowDelegate* m_delegate = nullptr;
     std::shared_ptr<NS::ViewController> m_content;
 };

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -33,6 +34,11 @@ QString RowList::emptyText() const
 void RowList::setEmptyText(const QString& text)
 {
     m_emptyLabel->setText(text);
+}
+
+QWidget& RowList::emptyLabel() const
+{
+    return *m_emptyLabel;
 }
 
 QList<RowWidget*> RowList::rowsInSight() const
@@ -108,14 +114,14 @@ void RowList::fillRow(int row)
     const NS::TableCellView* cell =
         m_delegate ? m_delegate->tableView_viewForTableColumn_row(*this, nullptr, row) : nullptr;
     for (RowWidget* widget : m_handedOut) {
-        if (cell && widget->cell() == cell) {
+        if (cell && widget->cell() == cell)
             m_rows[row] = widget;
-        } else {
-            widget->hide();
+        else
             m_spareRows.push_back(widget);
-        }
     }
     m_handedOut.clear();
+    for (RowWidget* spare : m_spareRows)
+        spare->hide();
 }
 
 void RowList::retireRow(int row)
@@ -134,8 +140,14 @@ void RowList::retireRow(int row)
 
 void RowList::layOutRows(Refill refill)
 {
-    if (!m_loaded || !isVisible())
+    if (!m_loaded)
         return;
+    if (!isVisible()) {
+        m_stale = m_stale || refill == Refill::AllRows;
+        return;
+    }
+    if (std::exchange(m_stale, false))
+        refill = Refill::AllRows;
     const int height = rowHeight();
     if (height <= 0)
         return;

@@ -41,6 +41,8 @@ public:
     [[nodiscard]] QString emptyText() const;
     void setEmptyText(const QString& text);
 
+    /// Shows the words while the list is empty.
+    [[nodiscard]] QWidget& emptyLabel() const;
     /// The rows in sight, from the top.
     [[nodiscard]] QList<RowWidget*> rowsInSight() const;
 
@@ -75,6 +77,8 @@ private:
 
     int m_rowCount = 0;
     bool m_loaded = false;
+    /// Reloaded while out of sight: every row is to be filled anew when it comes into sight.
+    bool m_stale = false;
     int m_rowHeight = 0;
     int m_currentRow = 0;
     std::map<int, RowWidget*> m_rows;
