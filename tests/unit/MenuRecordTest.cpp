@@ -232,15 +232,26 @@ TEST_F(MenuRecordTest, TheOlderRecordIsReadUnderTheKeyThatIsGiven)
     EXPECT_EQ(domain.at("save14"), (NS::Value::Array{1, 0}));
 }
 
+TEST_F(MenuRecordTest, ANumberThatNoFlagCanHoldIsOff)
+{
+    for (const NS::Value& number : {NS::Value(std::numeric_limits<std::uint64_t>::max()), NS::Value(0x1p63),
+                                    NS::Value(std::numeric_limits<double>::quiet_NaN()),
+                                    NS::Value(-std::numeric_limits<double>::infinity())}) {
+        SCOPED_TRACE(testing::PrintToString(number));
+        domain = {{"save14", NS::Value::Array{1, number}}};
+
+        EXPECT_EQ(load().items, catalogueItems({1}));
+    }
+}
+
 // An older record that cannot be read.
 
 const std::vector<NS::Value> notNumbers{"1",
+                                        true,
                                         NS::Date{1.0},
                                         NS::Data{1},
                                         NS::Value::Array{1},
-                                        NS::Value::Dictionary{{"1", 1}},
-                                        std::numeric_limits<double>::quiet_NaN(),
-                                        std::numeric_limits<double>::infinity()};
+                                        NS::Value::Dictionary{{"1", 1}}};
 
 class MenuRecordDeathTest : public MenuRecordTest, public testing::WithParamInterface<const char*> {};
 

@@ -56,6 +56,16 @@ TEST(FolderModel, SortsBySizeAndByDate)
     EXPECT_EQ(namesOf(model), (Names{"a", "c", "b"}));
 }
 
+TEST(FolderModel, SaysSizesAsPeopleDo)
+{
+    FolderModel model;
+    model.setEntries({file("a", 0), file("b", 1), file("c", 2), file("d", 1'500'000)});
+    QStringList sizes;
+    for (int row = 0; row < model.rowCount(); ++row)
+        sizes.append(model.index(row, FolderModel::Size).data().toString());
+    EXPECT_EQ(sizes, (QStringList{"0 bytes", "1 byte", "2 bytes", "1.5 MB"}));
+}
+
 TEST(FolderModel, NamesThatReadAlikeKeepOneOrder)
 {
     FolderModel model;

@@ -257,6 +257,35 @@ TEST_F(RowListFixture, AListThatShrinksShowsNoRowOfBefore)
     EXPECT_TRUE(window.isAncestorOf(QApplication::focusWidget()));
 }
 
+TEST_F(RowListFixture, AListReloadedOutOfSightShowsTheNewRowsWhenItComesBack)
+{
+    show(3);
+    list.hide();
+    states.assign(3, true);
+    list.reloadData();
+    list.show();
+    EXPECT_TRUE(boxOf(QStringLiteral("Row 1"))->isChecked());
+}
+
+TEST_F(RowListFixture, ARowThatTheDelegateHasNoViewForAnyMoreDisappears)
+{
+    show(3);
+    emptyRow = 1;
+    list.reloadData();
+    int visible = 0;
+    for (const RowWidget* row : list.viewport()->findChildren<RowWidget*>())
+        visible += row->isVisible() ? 1 : 0;
+    EXPECT_EQ(visible, 2);
+}
+
+TEST_F(RowListFixture, AssistiveProgramsFindTheWordsOfAnEmptyList)
+{
+    show(0);
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&list);
+    ASSERT_EQ(face->childCount(), 1);
+    EXPECT_EQ(face->child(0)->text(QAccessible::Name), QStringLiteral("Nothing here."));
+}
+
 TEST_F(RowListFixture, ARowThatTheDelegateHasNoViewForStaysEmpty)
 {
     emptyRow = 1;

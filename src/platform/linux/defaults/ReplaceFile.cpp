@@ -82,6 +82,9 @@ Result<FileDescriptor> replaceFile(FileOperations& files, const Replacement& rep
         return abandon("could not write");
     if (durable && files.syncFile(file.get()) != 0)
         return abandon("could not flush");
+    // File systems that take a replacement for an important one write it out before they go on.
+    if (!durable)
+        files.unlink(replacement.path);
     if (files.rename(temporary, replacement.path) != 0)
         return abandon("could not replace");
     if (durable && !syncFolder(files, folder))

@@ -91,6 +91,12 @@ int FolderModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+QString FolderModel::sizeText(std::int64_t size)
+{
+    // The toolkit knows no singular.
+    return size == 1 ? tr("1 byte") : QLocale().formattedDataSize(size, 1, QLocale::DataSizeSIFormat);
+}
+
 QString FolderModel::cellText(const Row& row, int column) const
 {
     const FileEntry& entry = row.entry;
@@ -99,9 +105,7 @@ QString FolderModel::cellText(const Row& row, int column) const
     if (entry.kind == FileEntry::Kind::BrokenLink)
         return {};
     if (column == Size)
-        return entry.kind == FileEntry::Kind::Folder
-                   ? QString()
-                   : QLocale().formattedDataSize(entry.size, 1, QLocale::DataSizeSIFormat);
+        return entry.kind == FileEntry::Kind::Folder ? QString() : sizeText(entry.size);
     return QLocale().toString(QDateTime::fromSecsSinceEpoch(entry.modified), QLocale::ShortFormat);
 }
 

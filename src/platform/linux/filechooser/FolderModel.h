@@ -7,6 +7,7 @@
 #include <QCollator>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -43,6 +44,7 @@ private:
         QCollatorSortKey key;
     };
 
+    [[nodiscard]] static QString sizeText(std::int64_t size);
     [[nodiscard]] QString cellText(const Row& row, int column) const;
     void sortRows();
 

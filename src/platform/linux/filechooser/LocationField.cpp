@@ -22,6 +22,7 @@ LocationField::LocationField(HiddenFiles hidden, QWidget* parent)
 void LocationField::setFolder(const std::string& folder)
 {
     m_folder = folder;
+    m_proposalsFolder.reset();
     completer()->popup()->hide();
     setText(fileNameText(folder));
     setModified(false);

@@ -4,6 +4,7 @@
 
 #include <QLineEdit>
 
+#include <optional>
 #include <string>
 
 class QStringListModel;
@@ -36,7 +37,8 @@ private:
     HiddenFiles m_hidden;
     std::string m_folder;
     QStringListModel* m_proposals;
-    QString m_proposalsFolder;
+    /// As it was typed; nothing once the proposals are of another folder.
+    std::optional<QString> m_proposalsFolder;
 };
 
 } // namespace LinuxDesktop

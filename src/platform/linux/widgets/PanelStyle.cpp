@@ -73,6 +73,25 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     }
 }
 
+QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                   const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    switch (type) {
+    case CT_PushButton:
+        return size + QSize(16, 4);
+    case CT_ItemViewItem:
+    case CT_LineEdit:
+        return size + QSize(0, 6);
+    case CT_MenuBarItem:
+    case CT_MenuItem:
+    case CT_TabBarTab:
+        return size + QSize(8, 4);
+    default:
+        return size;
+    }
+}
+
 int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight)
