@@ -22,7 +22,7 @@ int main(int argc, char** argv)
         tabs->addTab(page, QStringLiteral("Page %1").arg(tab));
     }
     window.setCentralWidget(tabs);
-    window.resize(600, 692);
+    window.resize(600, 702);
     window.show();
     return QApplication::exec();
 }

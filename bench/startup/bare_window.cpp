@@ -6,7 +6,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QWidget window;
-    window.resize(600, 692);
+    window.resize(600, 702);
     window.show();
     return QApplication::exec();
 }

@@ -1,6 +1,6 @@
 #include "Settings.h"
 
-#include "platform/linux/defaults/FileDescriptor.h"
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/defaults/PropertyList.h"
 #include "platform/linux/defaults/Store.h"
 

@@ -206,7 +206,7 @@ Outcome exportDomain(Store& store, Arguments arguments)
     // Settings are their owner's alone, so a new file is too.
     FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
     LinuxDesktop::FileOperations files;
-    if (!file || !LinuxDesktop::writeAll(files, file.get(), *bytes) || ::close(file.release()) != 0)
+    if (!file || !LinuxDesktop::writeAll(files, file.get(), *bytes) || !file.close())
         return failed(LinuxDesktop::systemFailure("could not write", path).what);
     return success();
 }

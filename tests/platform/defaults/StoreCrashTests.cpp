@@ -87,7 +87,7 @@ TEST_P(StoreCrash, AKilledWriterLosesNothingThatItWasToldIsOnDisk)
         const pid_t child = ::fork();
         if (child == 0)
             writeForever(folder(), domainName, writing.get());
-        writing.reset();
+        writing.close();
         sleepUpTo(longest);
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);

@@ -131,9 +131,9 @@ ProcessResult forkAndCollect(std::string_view input, const std::function<void()>
         child();
         std::abort();
     }
-    in.reading.reset();
-    out.writing.reset();
-    err.writing.reset();
+    in.reading.close();
+    out.writing.close();
+    err.writing.close();
     std::thread feeder([&] {
         LinuxDesktop::FileOperations files;
         while (!input.empty()) {
@@ -142,7 +142,7 @@ ProcessResult forkAndCollect(std::string_view input, const std::function<void()>
                 break;
             input.remove_prefix(static_cast<std::size_t>(count));
         }
-        in.writing.reset();
+        in.writing.close();
     });
 
     ProcessResult result;

@@ -3,7 +3,7 @@
 #include "../bus/PrivateBus.h"
 #include "../bus/Waiting.h"
 #include "Files.h"
-#include "platform/linux/desktop/FileDescriptor.h"
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/desktop/TemporaryFolders.h"
 
 #include <QElapsedTimer>

@@ -40,7 +40,7 @@ DomainLock::Attempt DomainLock::acquire(Clock::time_point deadline)
             if (isStillAt(file.get(), m_path))
                 return Hold(*this, std::move(file));
             // Locked, but worthless: the file was removed meanwhile, and the next writer makes another.
-            file.reset();
+            file.close();
         } else if (errno != EWOULDBLOCK && errno != EINTR) {
             return systemFailure("could not take the lock", m_path);
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/defaults/FileDescriptor.h"
+#include "platform/linux/FileDescriptor.h"
 
 #include <cstddef>
 #include <string>

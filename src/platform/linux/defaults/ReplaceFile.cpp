@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
-#include <random>
+#include <sys/random.h>
 #include <system_error>
 
 namespace LinuxDesktop {
@@ -18,9 +19,12 @@ constexpr std::string_view hexadecimal = "0123456789abcdef";
 
 std::string uniqueSuffix()
 {
-    std::random_device random;
+    // Where the system has no random numbers yet, a name that is taken already fails the write, and it is tried
+    // again.
+    std::uint64_t number = 0;
+    static_cast<void>(::getrandom(&number, sizeof(number), GRND_NONBLOCK));
     std::array<char, uniqueDigits + 1> digits{};
-    std::snprintf(digits.data(), digits.size(), "%08x%08x", random(), random());
+    std::snprintf(digits.data(), digits.size(), "%016llx", static_cast<unsigned long long>(number));
     return digits.data();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Value.h"
-#include "platform/linux/defaults/FileDescriptor.h"
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/defaults/FileOperations.h"
 
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "platform/linux/desktop/Complaint.h"
 #include "platform/linux/desktop/EmailPortal.h"
-#include "platform/linux/desktop/FileDescriptor.h"
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/desktop/MailCommand.h"
 #include "platform/linux/desktop/MailableName.h"
 #include "platform/linux/desktop/TemporaryFolders.h"
