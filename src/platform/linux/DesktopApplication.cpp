@@ -12,8 +12,7 @@ namespace LinuxDesktop {
 DesktopApplication::DesktopApplication(ApplicationName& name, ModalState& modalState, std::function<void()> reopened)
     : m_name(name), m_modalState(modalState), m_reopened(std::move(reopened)),
       m_modalEnd(modalState.whenEnded([this] { reopenIfItWaits(); }))
-{
-}
+{}
 
 void DesktopApplication::reopenIfItWaits()
 {

@@ -20,7 +20,8 @@ LinuxPlatform::LinuxPlatform(const NS::ClassTable& classes, const QString& resou
       m_bundle(resources.toStdString()), m_images(resources + QStringLiteral("/Assets")),
       m_bus("orvik-menu: no session bus: the panel works, but hears nothing of the extension"),
       m_name(m_bus, Deployment::applicationIdentifier), m_center(m_bus, m_modalState),
-      m_application(m_name, m_modalState, [this] { m_delegate->applicationShouldHandleReopen_hasVisibleWindows(true); })
+      m_application(m_name, m_modalState,
+                    [this] { m_delegate->applicationShouldHandleReopen_hasVisibleWindows(true); })
 {
     if (!m_standardDefaults)
         m_standardDefaults = std::make_shared<EmptyDefaults>();

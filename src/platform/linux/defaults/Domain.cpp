@@ -11,7 +11,9 @@ namespace LinuxDesktop {
 
 namespace {
 
-constexpr std::chrono::milliseconds writeDelay{250};
+/// Long enough for what one action writes to go to the disk together; short, because another program may be about
+/// to write the same key.
+constexpr std::chrono::milliseconds writeDelay{20};
 constexpr std::chrono::milliseconds retryDelay{1000};
 
 } // namespace
@@ -142,7 +144,7 @@ void Domain::refresh(std::unique_lock<std::mutex>& state)
 {
     if (m_snapshot.isCurrent(m_file.path()))
         return;
-    Snapshot found = m_file.read();
+    Snapshot found = m_file.read(m_snapshot.content());
     if (found.state() == Snapshot::State::Damaged) {
         // A damaged file that is still there could not be set aside; the next write tries that again.
         if (m_snapshot.state() == Snapshot::State::Damaged && m_snapshot.version() == found.version()) {
@@ -206,19 +208,22 @@ Domain::Outcome Domain::save(Clock::time_point deadline)
 {
     const std::lock_guard writing(m_writing);
     Changes changes;
+    Snapshot::SharedContent known;
     std::uint64_t serial = 0;
     {
         const std::lock_guard state(m_state);
         if (m_changes.empty())
             return Outcome::Saved;
         changes = m_changes;
+        known = m_snapshot.content();
         serial = m_serial;
     }
 
     Trouble trouble{};
-    auto written = write(changes, deadline, trouble);
+    auto written = write(changes, known, deadline, trouble);
     if (!written) {
-        m_complaints.complain(trouble.what + "; what was written stays in memory and is tried again");
+        m_complaints.complain(trouble.what +
+                              "; what was written stays in memory while the program runs, and is tried again");
         return trouble.outcome;
     }
     m_complaints.allIsWell();
@@ -230,7 +235,8 @@ Domain::Outcome Domain::save(Clock::time_point deadline)
     return Outcome::Saved;
 }
 
-std::optional<Snapshot> Domain::write(const Changes& changes, Clock::time_point deadline, Trouble& trouble)
+std::optional<Snapshot> Domain::write(const Changes& changes, const Snapshot::SharedContent& known,
+                                      Clock::time_point deadline, Trouble& trouble)
 {
     trouble.outcome = Outcome::Failed;
     if (const auto failure = makeFolders(*m_files, m_file.folder())) {
@@ -241,7 +247,7 @@ std::optional<Snapshot> Domain::write(const Changes& changes, Clock::time_point 
     if (!hold)
         return std::nullopt;
 
-    Snapshot found = repairLocked(m_file.readPatiently());
+    Snapshot found = repairLocked(m_file.readPatiently(known));
     if (found.state() == Snapshot::State::Damaged || found.state() == Snapshot::State::Inaccessible) {
         trouble.what = "could not read " + m_file.path() + ": " + found.why();
         return std::nullopt;
@@ -255,6 +261,11 @@ std::optional<Snapshot> Domain::write(const Changes& changes, Clock::time_point 
             return std::nullopt;
         }
         return found;
+    }
+    found.release();
+    {
+        const std::lock_guard state(m_state);
+        m_snapshot.release();
     }
     auto written = m_file.replace(std::move(values));
     if (!written) {

@@ -19,8 +19,8 @@
 namespace LinuxDesktop {
 
 /// A domain of settings: what its file held when it was last looked at, and over that what was written here and
-/// is not in the file yet. Every read looks whether the file has changed. Writes reach the file a quarter of a
-/// second later at the latest, or with synchronize(). Any thread; no read waits for another thread's write to
+/// is not in the file yet. Every read looks whether the file has changed. Writes reach the file within a few
+/// hundredths of a second, or with synchronize(). Any thread; no read waits for another thread's write to
 /// the disk.
 class Domain final : public NS::UserDefaults, public std::enable_shared_from_this<Domain> {
 public:
@@ -78,7 +78,8 @@ private:
     [[nodiscard]] Snapshot repair(Clock::time_point deadline);
 
     // For the holder of m_writing; on failure they fill `trouble`.
-    [[nodiscard]] std::optional<Snapshot> write(const Changes& changes, Clock::time_point deadline, Trouble& trouble);
+    [[nodiscard]] std::optional<Snapshot> write(const Changes& changes, const Snapshot::SharedContent& known,
+                                                Clock::time_point deadline, Trouble& trouble);
     [[nodiscard]] std::optional<DomainLock::Hold> lockFiles(Clock::time_point deadline, Trouble& trouble);
     [[nodiscard]] Snapshot repairLocked(Snapshot found);
     [[nodiscard]] Snapshot withStandIn(Snapshot damaged, const std::string& trouble);

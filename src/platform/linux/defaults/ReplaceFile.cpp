@@ -86,9 +86,12 @@ Result<FileDescriptor> replaceFile(FileOperations& files, const Replacement& rep
         return abandon("could not write");
     if (durable && files.syncFile(file.get()) != 0)
         return abandon("could not flush");
-    // File systems that take a replacement for an important one write it out before they go on.
-    if (!durable)
-        files.unlink(replacement.path);
+    // Some file systems write a file out at once when it replaces another, which is a high price where nobody waits
+    // for the disk. They do not when the two change places.
+    if (!durable && files.exchange(temporary, replacement.path) == 0) {
+        files.unlink(temporary);
+        return file;
+    }
     if (files.rename(temporary, replacement.path) != 0)
         return abandon("could not replace");
     if (durable && !syncFolder(files, folder))

@@ -11,7 +11,7 @@ namespace LinuxDesktop {
 enum class Durability {
     /// On disk, data and name both, when the call returns.
     Synchronous,
-    /// Whole or, for a moment, absent for every reader; on disk some time later. Much cheaper.
+    /// On disk some time later.
     Eventual,
 };
 
@@ -24,8 +24,7 @@ struct Replacement {
     Durability durability = Durability::Synchronous;
 };
 
-/// Puts a new file of mode 0600 in the place of `path`. Synchronously that is one step: every reader sees the old
-/// file or the new one.
+/// Puts a new file of mode 0600 in the place of `path` in one step: every reader sees the old file or the new one.
 /// Gives the new file, open for reading. After a failure the old file is whole and no temporary is left, except
 /// that a failure to make the name durable leaves the new file, whole.
 [[nodiscard]] Result<FileDescriptor> replaceFile(FileOperations& files, const Replacement& replacement);

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <thread>
 
@@ -35,14 +36,14 @@ std::string SettingsFile::temporaryPrefix() const
     return m_path.substr(m_folder.size() + 1) + ".tmp-";
 }
 
-Snapshot SettingsFile::readPatiently() const
+Snapshot SettingsFile::readPatiently(const Snapshot::SharedContent& known) const
 {
     constexpr std::chrono::milliseconds pause{10};
     constexpr int pauses = 10;
-    Snapshot snapshot = read();
+    Snapshot snapshot = read(known);
     for (int i = 0; i < pauses && snapshot.state() == Snapshot::State::Damaged && isFresh(snapshot.version()); ++i) {
         std::this_thread::sleep_for(pause);
-        snapshot = read();
+        snapshot = read(known);
     }
     return snapshot;
 }
@@ -68,7 +69,7 @@ Result<std::string> SettingsFile::target() const
 
 Result<Snapshot> SettingsFile::replace(NS::Value root) const
 {
-    const auto bytes = PropertyList::serialise(root);
+    auto bytes = PropertyList::serialise(root);
     if (!bytes)
         return Failure{"could not store the settings in " + m_path + ": " + bytes.error()};
     const auto path = target();
@@ -83,7 +84,8 @@ Result<Snapshot> SettingsFile::replace(NS::Value root) const
         return Failure{file.error()};
     // The settings are safe already; a copy that cannot be made is no reason to say otherwise.
     static_cast<void>(replaceFile(m_files, {*bytes, backupPath(), temporaryPrefix(), Durability::Eventual}));
-    return Snapshot::written(std::move(root), std::move(*file));
+    return Snapshot::written(std::make_shared<const Snapshot::Content>(std::move(*bytes), std::move(root)),
+                             std::move(*file));
 }
 
 std::optional<Failure> SettingsFile::flush(const Snapshot& current) const
@@ -115,10 +117,8 @@ Result<std::string> SettingsFile::setAside(const Snapshot& damaged) const
         m_path + " is not a readable property list (" + damaged.why() + "); it was kept as " + *kept;
     const Snapshot backup = readBackup();
     if (backup.state() == Snapshot::State::Readable) {
-        const auto bytes = PropertyList::serialise(backup.values());
-        if (!bytes)
-            return Failure{"could not bring back " + backupPath() + ": " + bytes.error()};
-        const auto file = replaceFile(m_files, {*bytes, *path, temporaryPrefix(), Durability::Synchronous});
+        const auto file =
+            replaceFile(m_files, {backup.content()->bytes, *path, temporaryPrefix(), Durability::Synchronous});
         if (!file)
             return Failure{file.error()};
         outcome += " and the last good copy took its place";

@@ -20,9 +20,13 @@ public:
     [[nodiscard]] const std::string& folder() const { return m_folder; }
     [[nodiscard]] std::string lockPath() const { return m_path + ".lock"; }
 
-    [[nodiscard]] Snapshot read() const { return Snapshot::read(m_files, m_path); }
+    /// `known` is what it held before; see Snapshot::read().
+    [[nodiscard]] Snapshot read(const Snapshot::SharedContent& known = nullptr) const
+    {
+        return Snapshot::read(m_files, m_path, known);
+    }
     /// The same, but gives whoever is writing a damaged file in place at this moment a tenth of a second to finish.
-    [[nodiscard]] Snapshot readPatiently() const;
+    [[nodiscard]] Snapshot readPatiently(const Snapshot::SharedContent& known = nullptr) const;
     [[nodiscard]] Snapshot readBackup() const { return Snapshot::read(m_files, backupPath()); }
 
     /// Puts `root` in the place of what is there and brings the last good copy up to it. A failure leaves what was

@@ -78,7 +78,7 @@ bool operator==(const FileVersion& one, const FileVersion& other)
            sinceEpoch(one.changed) == sinceEpoch(other.changed);
 }
 
-Snapshot Snapshot::read(FileOperations& files, const std::string& path)
+Snapshot Snapshot::read(FileOperations& files, const std::string& path, const SharedContent& known)
 {
     Snapshot snapshot;
     snapshot.m_file = files.open(path, O_RDONLY);
@@ -100,49 +100,63 @@ Snapshot Snapshot::read(FileOperations& files, const std::string& path)
     // tries, then the last one has to do: it is not settled, so the next reader looks again.
     constexpr int tries = 4;
     for (int i = 0; i < tries; ++i) {
-        snapshot.readContent();
+        snapshot.readContent(known);
         if (snapshot.m_state == State::Inaccessible || versionOf(snapshot.m_file.get()) == snapshot.m_version)
             break;
     }
     return snapshot;
 }
 
-void Snapshot::readContent()
+void Snapshot::readContent(const SharedContent& known)
 {
-    m_root = NS::Value::Dictionary{};
+    m_content = nullptr;
     const auto now = fileClock();
     if (const auto version = versionOf(m_file.get()))
         m_version = *version;
     m_settled = settledBy(now, m_version);
 
     const auto size = static_cast<std::size_t>(m_version.size);
-    std::string bytes;
-    if (size <= PropertyList::maximumBytes) {
-        if (const int error = readAll(m_file.get(), size, bytes); error != 0) {
-            m_state = State::Inaccessible;
-            m_why = std::generic_category().message(error);
-            return;
-        }
+    if (size > PropertyList::maximumBytes) {
+        m_state = State::Damaged;
+        m_why = "it is too large";
+        return;
     }
-    auto root = size <= PropertyList::maximumBytes ? PropertyList::parse(bytes) : Failure{"it is too large"};
+    std::string bytes;
+    if (const int error = readAll(m_file.get(), size, bytes); error != 0) {
+        m_state = State::Inaccessible;
+        m_why = std::generic_category().message(error);
+        return;
+    }
+    if (known && known->bytes == bytes) {
+        m_state = State::Readable;
+        m_content = known;
+        return;
+    }
+    auto root = PropertyList::parse(bytes);
     if (root && root->dictionary()) {
         m_state = State::Readable;
-        m_root = std::move(*root);
+        m_content = std::make_shared<const Content>(std::move(bytes), std::move(*root));
     } else {
         m_state = State::Damaged;
         m_why = root ? "its root is not a dictionary" : root.error();
     }
 }
 
-Snapshot Snapshot::written(NS::Value root, FileDescriptor file)
+Snapshot Snapshot::written(SharedContent content, FileDescriptor file)
 {
     Snapshot snapshot;
     snapshot.m_state = State::Readable;
-    snapshot.m_root = std::move(root);
+    snapshot.m_content = std::move(content);
     snapshot.m_file = std::move(file);
     if (const auto version = versionOf(snapshot.m_file.get()))
         snapshot.m_version = *version;
     return snapshot;
+}
+
+const NS::Value::Dictionary& Snapshot::values() const
+{
+    static const NS::Value::Dictionary none;
+    return m_content ? *m_content->root.dictionary() : none;
 }
 
 bool Snapshot::isCurrent(const std::string& path) const

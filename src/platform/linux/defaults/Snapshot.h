@@ -4,6 +4,7 @@
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/defaults/FileOperations.h"
 
+#include <memory>
 #include <string>
 #include <sys/stat.h>
 
@@ -24,6 +25,13 @@ struct FileVersion {
 /// What a settings file held when it was read. One thread at a time.
 class Snapshot {
 public:
+    /// A file's text and what it says. Never changed, so snapshots share it.
+    struct Content {
+        std::string bytes;
+        NS::Value root;
+    };
+    using SharedContent = std::shared_ptr<const Content>;
+
     enum class State {
         /// No file: an empty domain.
         Absent,
@@ -36,10 +44,12 @@ public:
 
     /// As though no file had been found.
     Snapshot() = default;
-    /// Reads what is at `path` now, a symbolic link followed.
-    [[nodiscard]] static Snapshot read(FileOperations& files, const std::string& path);
-    /// For who has just written `root` to `file`.
-    [[nodiscard]] static Snapshot written(NS::Value root, FileDescriptor file);
+    /// Reads what is at `path` now, a symbolic link followed. Where the file still has the text of `known`, which
+    /// may be null, it is not parsed again.
+    [[nodiscard]] static Snapshot read(FileOperations& files, const std::string& path,
+                                       const SharedContent& known = nullptr);
+    /// For who has just written `content` to `file`.
+    [[nodiscard]] static Snapshot written(SharedContent content, FileDescriptor file);
 
     /// Whether reading `path` again would find the same. False when that cannot be told.
     [[nodiscard]] bool isCurrent(const std::string& path) const;
@@ -48,7 +58,9 @@ public:
 
     [[nodiscard]] State state() const { return m_state; }
     /// Empty unless Readable, or set by standIn().
-    [[nodiscard]] const NS::Value::Dictionary& values() const { return *m_root.dictionary(); }
+    [[nodiscard]] const NS::Value::Dictionary& values() const;
+    /// The same with its text; null where there is none.
+    [[nodiscard]] const SharedContent& content() const { return m_content; }
     /// Why the file is Damaged or Inaccessible.
     [[nodiscard]] const std::string& why() const { return m_why; }
     /// Of a file that is Readable or Damaged.
@@ -57,15 +69,22 @@ public:
     [[nodiscard]] int descriptor() const { return m_file.get(); }
 
     /// Gives values to show for a file that has none to give.
-    void standIn(const Snapshot& other) { m_root = other.m_root; }
+    void standIn(const Snapshot& other) { m_content = other.m_content; }
+    /// Lets go of the file before it is replaced: removing one that is open costs the disk more. From now on
+    /// isCurrent() is false.
+    void release()
+    {
+        m_file.reset();
+        m_settled = false;
+    }
     /// Takes over whether the status can be trusted by now, from a later reading of the same version.
     void settleLike(const Snapshot& later) { m_settled = later.m_settled; }
 
 private:
-    void readContent();
+    void readContent(const SharedContent& known);
 
     State m_state = State::Absent;
-    NS::Value m_root{NS::Value::Dictionary{}};
+    SharedContent m_content;
     std::string m_why;
     FileVersion m_version;
     // While it is open, no other file can get its inode number, so an equal number means the same file.
