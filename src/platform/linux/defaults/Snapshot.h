@@ -74,7 +74,7 @@ public:
     /// isCurrent() is false.
     void release()
     {
-        m_file.reset();
+        m_file.close();
         m_settled = false;
     }
     /// Takes over whether the status can be trusted by now, from a later reading of the same version.
