@@ -39,8 +39,7 @@ public:
             require(::fsync(file.get()) == 0, "fsync");
         }
         require(std::rename(m_temporary.c_str(), m_path.c_str()) == 0, "rename");
-        const FileDescriptor folder(::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-        require(::fsync(folder.get()) == 0, "fsync of the folder");
+        flushFolder(m_folder);
     }
 
 private:
@@ -71,6 +70,12 @@ private:
 };
 
 } // namespace
+
+void flushFolder(const std::string& folder)
+{
+    const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    require(::fsync(opened.get()) == 0, "fsync of the folder");
+}
 
 std::unique_ptr<Settings> withSystemCalls(const std::string& folder)
 {

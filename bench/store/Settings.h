@@ -26,5 +26,10 @@ public:
 [[nodiscard]] std::unique_ptr<Settings> withQt(const std::string& folder);
 /// GSettings with a key file. It flushes its file, but not the folder, and takes no lock.
 [[nodiscard]] std::unique_ptr<Settings> withGio(const std::string& folder);
+/// The same, and then the folder is flushed: as durable as the store.
+[[nodiscard]] std::unique_ptr<Settings> withGioAndFolder(const std::string& folder);
+
+/// Brings the names in a folder to disk.
+void flushFolder(const std::string& folder);
 
 } // namespace StoreBench

@@ -46,11 +46,31 @@ private:
     Owned<GSettings> m_settings;
 };
 
+class GioSettingsAndFolder : public Settings {
+public:
+    explicit GioSettingsAndFolder(const std::string& folder) : m_folder(folder), m_settings(folder) {}
+
+    void store(int number) override
+    {
+        m_settings.store(number);
+        flushFolder(m_folder);
+    }
+
+private:
+    std::string m_folder;
+    GioSettings m_settings;
+};
+
 } // namespace
 
 std::unique_ptr<Settings> withGio(const std::string& folder)
 {
     return std::make_unique<GioSettings>(folder);
+}
+
+std::unique_ptr<Settings> withGioAndFolder(const std::string& folder)
+{
+    return std::make_unique<GioSettingsAndFolder>(folder);
 }
 
 } // namespace StoreBench

@@ -10,8 +10,8 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <functional>
 #include <limits>
-#include <memory>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -99,6 +99,23 @@ Outcome cannotRead(const Store& store, const std::string& name)
     return failed("cannot read " + LinuxDesktop::settingsPath(*store.folder(), name));
 }
 
+/// What `use` makes of a domain that can be read.
+Outcome withDomain(Store& store, const std::string& name, const std::function<Outcome(Domain&)>& use)
+{
+    const auto domain = store.open(name);
+    return domain ? use(*domain) : cannotRead(store, name);
+}
+
+/// What `use` makes of a domain and everything in it.
+Outcome withContents(Store& store, const std::string& name,
+                     const std::function<Outcome(Domain&, const NS::Value::Dictionary&)>& use)
+{
+    return withDomain(store, name, [&](Domain& domain) {
+        const auto contents = domain.contents();
+        return contents ? use(domain, *contents) : noSuchDomain(name);
+    });
+}
+
 Outcome stored(Domain& domain)
 {
     if (domain.synchronize())
@@ -140,18 +157,14 @@ Outcome read(Store& store, Arguments arguments)
     if (arguments.empty())
         return readAll(store);
     const std::string name = domainNamed(arguments[0]);
-    const auto domain = store.open(name);
-    if (!domain)
-        return cannotRead(store, name);
-    const auto contents = domain->contents();
-    if (!contents)
-        return noSuchDomain(name);
-    if (arguments.size() == 1)
-        return success(readableText(*contents) + "\n");
-    const auto found = contents->find(arguments[1]);
-    if (found == contents->end())
-        return noSuchKey(name, arguments[1]);
-    return success(readableText(found->second) + "\n");
+    return withContents(store, name, [&](Domain&, const NS::Value::Dictionary& contents) {
+        if (arguments.size() == 1)
+            return success(readableText(contents) + "\n");
+        const auto found = contents.find(arguments[1]);
+        if (found == contents.end())
+            return noSuchKey(name, arguments[1]);
+        return success(readableText(found->second) + "\n");
+    });
 }
 
 Outcome write(Store& store, Arguments arguments)
@@ -164,51 +177,44 @@ Outcome write(Store& store, Arguments arguments)
         return badUsage(value.error());
     if (const auto reason = PropertyList::unstorableReason(*value))
         return badUsage("a value cannot hold " + *reason);
-    const std::string name = domainNamed(arguments[0]);
-    const auto domain = store.open(name);
-    if (!domain)
-        return cannotRead(store, name);
-    domain->setObject_forKey(std::move(*value), key);
-    return stored(*domain);
+    return withDomain(store, domainNamed(arguments[0]), [&](Domain& domain) {
+        domain.setObject_forKey(std::move(*value), key);
+        return stored(domain);
+    });
 }
 
 Outcome remove(Store& store, Arguments arguments)
 {
     const std::string name = domainNamed(arguments[0]);
-    const auto domain = store.open(name);
-    if (!domain)
-        return cannotRead(store, name);
-    const auto contents = domain->contents();
-    if (!contents)
-        return noSuchDomain(name);
-    if (!contents->contains(arguments[1]))
-        return noSuchKey(name, arguments[1]);
-    domain->removeObjectForKey(arguments[1]);
-    return stored(*domain);
+    return withContents(store, name, [&](Domain& domain, const NS::Value::Dictionary& contents) {
+        if (!contents.contains(arguments[1]))
+            return noSuchKey(name, arguments[1]);
+        domain.removeObjectForKey(arguments[1]);
+        return stored(domain);
+    });
+}
+
+Outcome exportTo(const std::string& path, std::string bytes)
+{
+    if (path == "-")
+        return success(std::move(bytes));
+    // Settings are their owner's alone, so a new file is too.
+    FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+    LinuxDesktop::FileOperations files;
+    if (!file || !LinuxDesktop::writeAll(files, file.get(), bytes) || !file.close())
+        return failed(LinuxDesktop::systemFailure("could not write", path).what);
+    return success();
 }
 
 Outcome exportDomain(Store& store, Arguments arguments)
 {
     const std::string name = domainNamed(arguments[0]);
-    const auto domain = store.open(name);
-    if (!domain)
-        return cannotRead(store, name);
-    auto contents = domain->contents();
-    if (!contents)
-        return noSuchDomain(name);
-    auto bytes = PropertyList::serialise(std::move(*contents));
-    if (!bytes)
-        return failed("cannot export " + name + ": " + bytes.error());
-    const std::string& path = arguments[1];
-    if (path == "-")
-        return success(std::move(*bytes));
-
-    // Settings are their owner's alone, so a new file is too.
-    FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
-    LinuxDesktop::FileOperations files;
-    if (!file || !LinuxDesktop::writeAll(files, file.get(), *bytes) || !file.close())
-        return failed(LinuxDesktop::systemFailure("could not write", path).what);
-    return success();
+    return withContents(store, name, [&](Domain&, const NS::Value::Dictionary& contents) {
+        auto bytes = PropertyList::serialise(contents);
+        if (!bytes)
+            return failed("cannot export " + name + ": " + bytes.error());
+        return exportTo(arguments[1], std::move(*bytes));
+    });
 }
 
 /// As much as a settings file may hold, and one byte more where there is more.
@@ -242,12 +248,10 @@ Outcome importDomain(Store& store, Arguments arguments)
         return badUsage(arguments[1] + " is not a readable property list: " + root.error());
     if (!root->dictionary())
         return badUsage("the root of " + arguments[1] + " is not a dictionary");
-    const std::string name = domainNamed(arguments[0]);
-    const auto domain = store.open(name);
-    if (!domain)
-        return cannotRead(store, name);
-    domain->replaceContents(*root->dictionary());
-    return stored(*domain);
+    return withDomain(store, domainNamed(arguments[0]), [&](Domain& domain) {
+        domain.replaceContents(*root->dictionary());
+        return stored(domain);
+    });
 }
 
 Outcome path(Store& store, Arguments arguments)

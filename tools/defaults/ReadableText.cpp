@@ -1,11 +1,9 @@
 #include "defaults/ReadableText.h"
 
 #include "platform/linux/defaults/DateText.h"
+#include "platform/linux/defaults/RealText.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <cstddef>
 #include <string_view>
 
@@ -22,16 +20,6 @@ std::string dateText(NS::Date date)
     std::ranges::replace(text, 'T', ' ');
     text.pop_back();
     return text + " +0000";
-}
-
-std::string realText(double real)
-{
-    if (std::isnan(real))
-        return "nan";
-    if (std::isinf(real))
-        return real > 0.0 ? "+infinity" : "-infinity";
-    std::array<char, 32> text{};
-    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), real).ptr};
 }
 
 std::string dataText(const NS::Data& data)
@@ -135,7 +123,7 @@ std::string readableText(const NS::Value& value)
     case NS::Value::Kind::Integer:
         return value.integer() ? std::to_string(*value.integer()) : std::to_string(*value.largeInteger());
     case NS::Value::Kind::Real:
-        return realText(*value.real());
+        return LinuxDesktop::RealText::format(*value.real());
     case NS::Value::Kind::String:
         return *value.string();
     case NS::Value::Kind::Date:

@@ -300,7 +300,6 @@ TEST_F(StoreFailures, ALockHeldByAnotherProgramIsWaitedForTwoSecondsAndTriedAgai
     store({{"k", 1}});
     Store store(folder());
     const auto domain = store.open(domainName);
-    domain->setObject_forKey(2, "k");
     ProcessResult holder;
     testing::internal::CaptureStderr();
     std::thread holding([&] {
@@ -309,6 +308,7 @@ TEST_F(StoreFailures, ALockHeldByAnotherProgramIsWaitedForTwoSecondsAndTriedAgai
     });
     EXPECT_TRUE(holdsWithin(2s, [&] { return fs::exists(root() + "/held"); }));
 
+    domain->setObject_forKey(2, "k");
     const auto start = std::chrono::steady_clock::now();
     EXPECT_FALSE(domain->synchronize());
     const auto waited = std::chrono::steady_clock::now() - start;

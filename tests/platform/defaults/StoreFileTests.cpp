@@ -1,11 +1,15 @@
 #include "Support.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
 #include <filesystem>
+#include <future>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <limits>
+#include <mutex>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -14,6 +18,7 @@
 namespace {
 
 using namespace DefaultsTests;
+using namespace std::chrono_literals;
 using LinuxDesktop::Store;
 namespace fs = std::filesystem;
 
@@ -22,33 +27,37 @@ class StoreFiles : public SettingsTest, public ::testing::Test {};
 /// Remembers the order of the calls that change the folder.
 class Recorder : public LinuxDesktop::FileOperations {
 public:
-    std::vector<std::string> calls;
+    [[nodiscard]] std::vector<std::string> calls() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_calls;
+    }
 
     LinuxDesktop::FileDescriptor open(const std::string& path, int flags, mode_t mode) override
     {
         auto opened = FileOperations::open(path, flags, mode);
         if ((flags & O_CREAT) != 0)
-            calls.push_back("create " + kind(path));
+            record("create " + kind(path));
         return opened;
     }
     ssize_t write(int descriptor, const void* bytes, std::size_t count) override
     {
-        calls.emplace_back("write");
+        record("write");
         return FileOperations::write(descriptor, bytes, count);
     }
     int syncFile(int descriptor) override
     {
-        calls.emplace_back("flush file");
+        record("flush file");
         return FileOperations::syncFile(descriptor);
     }
     int syncFolder(int descriptor) override
     {
-        calls.emplace_back("flush folder");
+        record("flush folder");
         return FileOperations::syncFolder(descriptor);
     }
     int rename(const std::string& from, const std::string& to) override
     {
-        calls.push_back("rename to " + kind(to));
+        record("rename to " + kind(to));
         return FileOperations::rename(from, to);
     }
 
@@ -58,6 +67,31 @@ private:
         const auto temporary = path.find(".tmp-");
         return temporary == std::string::npos ? fs::path(path).extension().native() : "temporary";
     }
+    void record(std::string call)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_calls.push_back(std::move(call));
+    }
+
+    mutable std::mutex m_mutex;
+    std::vector<std::string> m_calls;
+};
+
+/// Makes whoever creates the last good copy wait for a permission.
+class SlowCopy : public LinuxDesktop::FileOperations {
+public:
+    void permit() { m_permission.set_value(); }
+
+    int rename(const std::string& from, const std::string& to) override
+    {
+        if (to.ends_with(".bak"))
+            m_permitted.wait_for(10s);
+        return FileOperations::rename(from, to);
+    }
+
+private:
+    std::promise<void> m_permission;
+    const std::shared_future<void> m_permitted = m_permission.get_future().share();
 };
 
 ino_t inodeOf(const std::string& path)
@@ -98,13 +132,53 @@ TEST_F(StoreFiles, DataReachTheDiskBeforeTheNameAndTheNameBeforeTheAnswer)
 {
     makeFolder();
     const auto recorder = std::make_shared<Recorder>();
-    Store store(folder(), recorder);
+    const std::vector<std::string> beforeTheAnswer{"create .lock", "create temporary", "write",
+                                                   "flush file",   "rename to .plist", "flush folder"};
+    const std::vector<std::string> afterIt{"create .lock", "create temporary", "write", "rename to .bak"};
+    {
+        Store store(folder(), recorder);
+        const auto domain = store.open(domainName);
+        domain->setObject_forKey(1, "k");
+        ASSERT_TRUE(domain->synchronize());
+        const auto calls = recorder->calls();
+        EXPECT_TRUE(std::ranges::mismatch(beforeTheAnswer, calls).in1 == beforeTheAnswer.end());
+    }
+    auto all = beforeTheAnswer;
+    all.insert(all.end(), afterIt.begin(), afterIt.end());
+    EXPECT_EQ(recorder->calls(), all);
+}
+
+TEST_F(StoreFiles, SynchronizeWaitsForTheSettingsAndNotForTheirCopy)
+{
+    const auto operations = std::make_shared<SlowCopy>();
+    {
+        Store store(folder(), operations);
+        const auto domain = store.open(domainName);
+        domain->setObject_forKey(1, "k");
+        ASSERT_TRUE(domain->synchronize());
+        EXPECT_FALSE(fs::exists(file(".bak")));
+        operations->permit();
+    }
+    EXPECT_EQ(readFile(file(".bak")), readFile(file()));
+}
+
+TEST_F(StoreFiles, ARunningProgramMakesTheCopySoon)
+{
+    Store store(folder());
     const auto domain = store.open(domainName);
+    for (int i = 0; i < 3; ++i) {
+        domain->setObject_forKey(i, "k");
+        ASSERT_TRUE(domain->synchronize());
+        EXPECT_TRUE(holdsWithin(2s, [&] { return readFile(file(".bak")) == readFile(file()); })) << i;
+    }
+}
+
+TEST_F(StoreFiles, AHandleThatOutlivesTheStoreMakesTheCopyAtOnce)
+{
+    std::shared_ptr<LinuxDesktop::Domain> domain = Store(folder()).open(domainName);
     domain->setObject_forKey(1, "k");
-    ASSERT_TRUE(domain->synchronize());
-    EXPECT_EQ(recorder->calls,
-              (std::vector<std::string>{"create .lock", "create temporary", "write", "flush file", "rename to .plist",
-                                        "flush folder", "create temporary", "write", "rename to .bak"}));
+    EXPECT_EQ(stored("k"), NS::Value(1));
+    EXPECT_EQ(readFile(file(".bak")), readFile(file()));
 }
 
 TEST_F(StoreFiles, AWriteThatChangesNothingOnlyFlushes)
@@ -119,7 +193,7 @@ TEST_F(StoreFiles, AWriteThatChangesNothingOnlyFlushes)
     domain->removeObjectForKey("absent");
     ASSERT_TRUE(domain->synchronize());
     EXPECT_EQ(inodeOf(file()), before);
-    EXPECT_EQ(recorder->calls, (std::vector<std::string>{"create .lock", "flush file", "flush folder"}));
+    EXPECT_EQ(recorder->calls(), (std::vector<std::string>{"create .lock", "flush file", "flush folder"}));
 }
 
 TEST_F(StoreFiles, RemovingWhatIsNotThereMakesNoFile)

@@ -114,6 +114,40 @@ TEST_F(StoreRecovery, ARunningProgramRecoversAtItsNextReadAndKeepsItsUnwrittenCh
     EXPECT_EQ(stored("other"), NS::Value("new"));
 }
 
+TEST_F(StoreRecovery, DamageRightAfterAWriteLosesNothingToTheProgramThatWrote)
+{
+    store({{"k", "old"}});
+    Store store(folder());
+    const auto domain = store.open(domainName);
+    // Each time the copy may have been made or not.
+    for (int i = 0; i < 30; ++i) {
+        domain->setObject_forKey(i, "k");
+        ASSERT_TRUE(domain->synchronize());
+        std::this_thread::sleep_for(std::chrono::milliseconds(i));
+        damage("garbage");
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(domain->objectForKey("k"), NS::Value(i));
+        EXPECT_EQ(stored("k"), NS::Value(i));
+        testing::internal::GetCapturedStderr();
+    }
+}
+
+TEST_F(StoreRecovery, DamageRightAfterAWriteLosesNothingWhileTheLockIsHeld)
+{
+    store({{"k", "old"}});
+    Store store(folder());
+    const auto domain = store.open(domainName);
+    domain->setObject_forKey("new", "k");
+    ASSERT_TRUE(domain->synchronize());
+    const LinuxDesktop::FileDescriptor lock(::open(file(".lock").c_str(), O_RDWR | O_CLOEXEC));
+    ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
+    damage("garbage");
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(domain->objectForKey("k"), NS::Value("new"));
+    EXPECT_NE(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(readFile(file()), "garbage");
+}
+
 TEST_F(StoreRecovery, AWriterSetsADamagedFileAsideToo)
 {
     store({{"k", "good"}});

@@ -15,6 +15,8 @@ namespace {
 /// to write the same key.
 constexpr std::chrono::milliseconds writeDelay{20};
 constexpr std::chrono::milliseconds retryDelay{1000};
+/// So that writes without a break are tidied up after once in a while only.
+constexpr std::chrono::milliseconds tidyDelay{20};
 
 } // namespace
 
@@ -104,7 +106,7 @@ void Domain::writeSoon(std::unique_lock<std::mutex> state)
     if (std::exchange(m_writeIsDue, true))
         return;
     state.unlock();
-    if (!postWrite(writeDelay))
+    if (!post(&Domain::writeNow, writeDelay))
         writeNow();
 }
 
@@ -114,27 +116,48 @@ void Domain::writeNow()
         const std::lock_guard state(m_state);
         m_writeIsDue = false;
     }
-    synchronize();
+    if (saveOrRetry())
+        tidy();
 }
 
-/// False once the store is gone: then nobody writes later.
-bool Domain::postWrite(std::chrono::milliseconds delay)
+/// The caller of synchronize() waits for the settings only.
+void Domain::tidySoon()
+{
+    {
+        const std::lock_guard state(m_state);
+        if (!m_uncopied || std::exchange(m_tidyingIsDue, true))
+            return;
+    }
+    if (!post(&Domain::tidy, tidyDelay))
+        tidy();
+}
+
+/// False once the store is gone: then nothing is done later.
+bool Domain::post(void (Domain::*job)(), std::chrono::milliseconds delay)
 {
     return m_queue->post(
-        [weak = weak_from_this()] {
+        [weak = weak_from_this(), job] {
             if (const auto self = weak.lock())
-                self->writeNow();
+                (self.get()->*job)();
         },
         delay);
 }
 
 bool Domain::synchronize()
 {
+    const bool saved = saveOrRetry();
+    if (saved)
+        tidySoon();
+    return saved;
+}
+
+bool Domain::saveOrRetry()
+{
     const Outcome outcome = save(Clock::now() + DomainLock::longestWait);
     if (outcome == Outcome::LockBusy) {
         const std::lock_guard state(m_state);
         if (!m_writeIsDue)
-            m_writeIsDue = postWrite(retryDelay);
+            m_writeIsDue = post(&Domain::writeNow, retryDelay);
     }
     return outcome == Outcome::Saved;
 }
@@ -156,7 +179,7 @@ void Domain::refresh(std::unique_lock<std::mutex>& state)
         state.lock();
     }
     if (found.state() == Snapshot::State::Inaccessible)
-        found.standIn(m_snapshot);
+        found.standIn(m_snapshot.content());
     m_snapshot = std::move(found);
 }
 
@@ -174,7 +197,8 @@ std::optional<DomainLock::Hold> Domain::lockFiles(Clock::time_point deadline, Tr
 
 Snapshot Domain::withStandIn(Snapshot damaged, const std::string& trouble)
 {
-    damaged.standIn(m_file.readBackup());
+    const auto newest = uncopied();
+    damaged.standIn(newest ? newest : m_file.readBackup().content());
     m_complaints.complain(m_file.path() + " is not a readable property list (" + damaged.why() +
                           ") and could not be set aside: " + trouble +
                           "; it is left as it is, and the last good copy is used where there is one");
@@ -197,6 +221,8 @@ Snapshot Domain::repairLocked(Snapshot found)
 {
     if (found.state() != Snapshot::State::Damaged)
         return found;
+    if (const auto newest = uncopied())
+        copy(*newest);
     const auto outcome = m_file.setAside(found);
     if (!outcome)
         return withStandIn(std::move(found), outcome.error());
@@ -272,7 +298,43 @@ std::optional<Snapshot> Domain::write(const Changes& changes, const Snapshot::Sh
         trouble.what = written.error();
         return std::nullopt;
     }
+    const std::lock_guard state(m_state);
+    m_uncopied = written->content();
     return std::move(*written);
+}
+
+void Domain::tidy()
+{
+    const std::lock_guard writing(m_writing);
+    {
+        const std::lock_guard state(m_state);
+        m_tidyingIsDue = false;
+    }
+    const auto written = uncopied();
+    if (!written)
+        return;
+    // Whoever has the lock now writes, and tidies up after that; else the next write here does.
+    Trouble busy{};
+    const auto hold = lockFiles(Clock::now(), busy);
+    if (!hold)
+        return;
+    // Another program's newer settings are as good; damage is for the next reader.
+    const Snapshot found = m_file.read(written);
+    copy(found.content() ? *found.content() : *written);
+}
+
+Snapshot::SharedContent Domain::uncopied()
+{
+    const std::lock_guard state(m_state);
+    return m_uncopied;
+}
+
+/// For the holder of the lock.
+void Domain::copy(const Snapshot::Content& newest)
+{
+    m_file.tidy(newest);
+    const std::lock_guard state(m_state);
+    m_uncopied = nullptr;
 }
 
 } // namespace LinuxDesktop

@@ -38,7 +38,8 @@ public:
     /// Replaces everything in the domain, storable values all.
     void replaceContents(const NS::Value::Dictionary& values);
 
-    /// For the store's end: writes what is unwritten, and has nothing left to do later.
+    /// For the store's end, and for whoever is not waited for: writes what is unwritten, and has nothing left to do
+    /// later.
     void writeNow();
 
     /// Whether the file, if there is one, can be read at all.
@@ -69,12 +70,15 @@ private:
 
     void change(std::string_view key, std::optional<NS::Value> value);
     void writeSoon(std::unique_lock<std::mutex> state);
-    [[nodiscard]] bool postWrite(std::chrono::milliseconds delay);
+    void tidySoon();
+    [[nodiscard]] bool post(void (Domain::*job)(), std::chrono::milliseconds delay);
     void refresh(std::unique_lock<std::mutex>& state);
 
     // These wait for other threads' writes, for the lock and for the disk; m_state must not be locked. Past the
     // deadline the lock is tried once and not waited for.
+    [[nodiscard]] bool saveOrRetry();
     Outcome save(Clock::time_point deadline);
+    void tidy();
     [[nodiscard]] Snapshot repair(Clock::time_point deadline);
 
     // For the holder of m_writing; on failure they fill `trouble`.
@@ -83,6 +87,8 @@ private:
     [[nodiscard]] std::optional<DomainLock::Hold> lockFiles(Clock::time_point deadline, Trouble& trouble);
     [[nodiscard]] Snapshot repairLocked(Snapshot found);
     [[nodiscard]] Snapshot withStandIn(Snapshot damaged, const std::string& trouble);
+    [[nodiscard]] Snapshot::SharedContent uncopied();
+    void copy(const Snapshot::Content& newest);
 
     const std::shared_ptr<FileOperations> m_files;
     const std::shared_ptr<DelayedQueue> m_queue;
@@ -96,8 +102,11 @@ private:
     std::mutex m_state;
     Snapshot m_snapshot;
     Changes m_changes;
+    /// What was written here last, until the last good copy is made of it. Changed by the holder of m_writing.
+    Snapshot::SharedContent m_uncopied;
     std::uint64_t m_serial = 0;
     bool m_writeIsDue = false;
+    bool m_tidyingIsDue = false;
 };
 
 } // namespace LinuxDesktop

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::chrono::microseconds firstPause{50};
 constexpr std::chrono::microseconds longestPause{1000};
-constexpr int longestStreak = 32;
+constexpr std::chrono::milliseconds longestStreak{50};
 
 bool isStillAt(int descriptor, const std::string& path)
 {
@@ -54,11 +54,12 @@ DomainLock::Attempt DomainLock::acquire(Clock::time_point deadline)
 /// then it leaves the lock alone for longer than they pause.
 void DomainLock::giveOthersATurn()
 {
-    if (Clock::now() - m_released > longestPause)
-        m_turnsInARow = 0;
-    if (++m_turnsInARow > longestStreak) {
-        m_turnsInARow = 0;
+    const auto now = Clock::now();
+    if (now - m_released > longestPause) {
+        m_streakBegan = now;
+    } else if (now - m_streakBegan > longestStreak) {
         std::this_thread::sleep_for(longestPause + firstPause);
+        m_streakBegan = Clock::now();
     }
 }
 

@@ -53,7 +53,8 @@ private:
     FileOperations& m_files;
     std::string m_path;
     Clock::time_point m_released;
-    int m_turnsInARow = 0;
+    /// Since when it was taken again right after each release.
+    Clock::time_point m_streakBegan;
 };
 
 } // namespace LinuxDesktop

@@ -2,11 +2,11 @@
 
 #include "platform/linux/defaults/Base64.h"
 #include "platform/linux/defaults/DateText.h"
+#include "platform/linux/defaults/RealText.h"
 
 #include <array>
 #include <charconv>
-#include <clocale>
-#include <cstdlib>
+#include <cstdint>
 #include <expat.h>
 #include <memory>
 #include <utility>
@@ -51,38 +51,6 @@ std::optional<NS::Value> integerFromText(std::string_view text)
     return NS::Value(static_cast<std::int64_t>(~magnitude + 1));
 }
 
-/// Zero or infinity for a well-formed number that a double cannot hold.
-double outOfRangeReal(std::string_view text)
-{
-    // The process's own locale may have another decimal point.
-    const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-    const double real = strtod_l(std::string(text).c_str(), nullptr, plain);
-    freelocale(plain);
-    return real;
-}
-
-/// Any decimal form, "nan", "inf" or "infinity", the words in any case.
-std::optional<NS::Value> realFromText(std::string_view text)
-{
-    text = trimmed(text);
-    if (text.starts_with('+')) {
-        text.remove_prefix(1);
-        if (text.starts_with('-'))
-            return std::nullopt;
-    }
-    double real = 0.0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), real);
-    // A word in brackets after "nan" is C's own form.
-    if (end != text.data() + text.size() || text.ends_with(')'))
-        return std::nullopt;
-    if (error == std::errc::result_out_of_range) {
-        real = outOfRangeReal(text);
-    } else if (error != std::errc()) {
-        return std::nullopt;
-    }
-    return NS::Value(real);
-}
-
 enum class Element { Plist, Dictionary, Array, Key, String, Integer, Real, Date, Data, True, False };
 
 std::optional<Element> elementNamed(std::string_view name)
@@ -114,7 +82,9 @@ std::optional<NS::Value> scalarFromText(Element element, std::string& text)
     case Element::Integer:
         return integerFromText(text);
     case Element::Real:
-        return realFromText(text);
+        if (const auto real = RealText::parse(trimmed(text)))
+            return NS::Value(*real);
+        return std::nullopt;
     case Element::Date:
         if (const auto date = DateText::parse(trimmed(text)))
             return NS::Value(*date);

@@ -2,11 +2,10 @@
 
 #include "platform/linux/defaults/Base64.h"
 #include "platform/linux/defaults/DateText.h"
+#include "platform/linux/defaults/RealText.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <cstdint>
 #include <span>
 
@@ -60,16 +59,6 @@ std::optional<std::string> unstorableTextReason(std::string_view text)
     return std::nullopt;
 }
 
-std::string realText(double real)
-{
-    if (std::isnan(real))
-        return "nan";
-    if (std::isinf(real))
-        return real > 0.0 ? "+infinity" : "-infinity";
-    std::array<char, 32> text{};
-    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), real).ptr};
-}
-
 /// Writes values, and knows by that what cannot be written.
 class Writer {
 public:
@@ -87,7 +76,7 @@ public:
             return element("integer", value.integer() ? std::to_string(*value.integer())
                                                       : std::to_string(*value.largeInteger()));
         case NS::Value::Kind::Real:
-            return element("real", realText(*value.real()));
+            return element("real", RealText::format(*value.real()));
         case NS::Value::Kind::String:
             return textElement("string", *value.string());
         case NS::Value::Kind::Date:

@@ -75,17 +75,29 @@ Result<Snapshot> SettingsFile::replace(NS::Value root) const
     const auto path = target();
     if (!path)
         return Failure{path.error()};
-
-    removeStaleTemporaries(m_files, m_path, temporaryPrefix());
-    if (*path != m_path)
-        removeStaleTemporaries(m_files, *path, temporaryPrefix());
     auto file = replaceFile(m_files, {*bytes, *path, temporaryPrefix(), Durability::Synchronous});
-    if (!file)
+    if (!file) {
+        // They may be what fills the disk.
+        removeStaleTemporaries();
         return Failure{file.error()};
-    // The settings are safe already; a copy that cannot be made is no reason to say otherwise.
-    static_cast<void>(replaceFile(m_files, {*bytes, backupPath(), temporaryPrefix(), Durability::Eventual}));
-    return Snapshot::written(std::make_shared<const Snapshot::Content>(std::move(*bytes), std::move(root)),
-                             std::move(*file));
+    }
+    return Snapshot::written(
+        std::make_shared<const Snapshot::Content>(Snapshot::Content{std::move(*bytes), std::move(root)}),
+        std::move(*file));
+}
+
+void SettingsFile::tidy(const Snapshot::Content& content) const
+{
+    removeStaleTemporaries();
+    // The settings themselves are safe; without a new copy there is still the one before.
+    static_cast<void>(replaceFile(m_files, {content.bytes, backupPath(), temporaryPrefix(), Durability::Eventual}));
+}
+
+void SettingsFile::removeStaleTemporaries() const
+{
+    LinuxDesktop::removeStaleTemporaries(m_files, m_path, temporaryPrefix());
+    if (const auto path = target(); path && *path != m_path)
+        LinuxDesktop::removeStaleTemporaries(m_files, *path, temporaryPrefix());
 }
 
 std::optional<Failure> SettingsFile::flush(const Snapshot& current) const

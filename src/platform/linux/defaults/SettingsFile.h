@@ -29,9 +29,11 @@ public:
     [[nodiscard]] Snapshot readPatiently(const Snapshot::SharedContent& known = nullptr) const;
     [[nodiscard]] Snapshot readBackup() const { return Snapshot::read(m_files, backupPath()); }
 
-    /// Puts `root` in the place of what is there and brings the last good copy up to it. A failure leaves what was
-    /// there, unless all that failed is making the new file's name durable.
+    /// Puts `root` in the place of what is there, and leaves the rest to tidy(). A failure leaves what was there,
+    /// unless all that failed is making the new file's name durable.
     [[nodiscard]] Result<Snapshot> replace(NS::Value root) const;
+    /// Makes `content` the last good copy, where that can be done, and removes what killed writers left.
+    void tidy(const Snapshot::Content& content) const;
     /// Brings to disk what another program may have left in memory.
     [[nodiscard]] std::optional<Failure> flush(const Snapshot& current) const;
     /// Keeps the damaged file under another name and brings the last good copy back, or leaves no file where there
@@ -41,6 +43,7 @@ public:
 private:
     [[nodiscard]] std::string backupPath() const { return m_path + ".bak"; }
     [[nodiscard]] std::string temporaryPrefix() const;
+    void removeStaleTemporaries() const;
     [[nodiscard]] Result<std::string> target() const;
 
     FileOperations& m_files;

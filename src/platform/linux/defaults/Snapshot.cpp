@@ -135,7 +135,7 @@ void Snapshot::readContent(const SharedContent& known)
     auto root = PropertyList::parse(bytes);
     if (root && root->dictionary()) {
         m_state = State::Readable;
-        m_content = std::make_shared<const Content>(std::move(bytes), std::move(*root));
+        m_content = std::make_shared<const Content>(Content{std::move(bytes), std::move(*root)});
     } else {
         m_state = State::Damaged;
         m_why = root ? "its root is not a dictionary" : root.error();

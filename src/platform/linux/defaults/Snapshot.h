@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <sys/stat.h>
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -69,7 +70,7 @@ public:
     [[nodiscard]] int descriptor() const { return m_file.get(); }
 
     /// Gives values to show for a file that has none to give.
-    void standIn(const Snapshot& other) { m_content = other.m_content; }
+    void standIn(SharedContent content) { m_content = std::move(content); }
     /// Lets go of the file before it is replaced: removing one that is open costs the disk more. From now on
     /// isCurrent() is false.
     void release()
