@@ -3,6 +3,10 @@ set(ORVIK_APPLICATION_IDENTIFIER "com.orvikstudio.orvikmenu" CACHE STRING "Appli
 set(ORVIK_EXTENSION_IDENTIFIER "com.orvikstudio.orvikmenu.findersyncextension" CACHE STRING
   "Extension bundle identifier, all lower case")
 set(ORVIK_SUITE_NAME "ORVIK4MENU.com.orvikstudio.orvikmenu" CACHE STRING "Shared settings suite")
+set(ORVIK_WEB_ADDRESS "http://orvikstudio.example/" CACHE STRING "The maker's web site")
+set(ORVIK_TWITTER_ADDRESS "https://twitter.example/orvikapp" CACHE STRING "The maker's Twitter page")
+set(ORVIK_FACEBOOK_ADDRESS "https://facebook.example/orvik.studio" CACHE STRING "The maker's Facebook page")
+set(ORVIK_STORE_ADDRESS "macappstore://apps.orvik.example/app/id10000001" CACHE STRING "The application's page in the store")
 
 configure_file(${CMAKE_SOURCE_DIR}/src/settings/Deployment.h.in
   ${CMAKE_BINARY_DIR}/generated/settings/Deployment.h @ONLY)

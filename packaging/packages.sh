@@ -10,6 +10,8 @@ packages_build=(
   qt6-base-dev
   qt6-base-dev-tools
   libqt6opengl6-dev
+  libsystemd-dev
+  pkg-config
   qt6-svg-dev
 )
 
@@ -52,7 +54,6 @@ packages_bench=(
   libbenchmark-dev
   libglib2.0-dev
   libxcb1-dev
-  pkg-config
 )
 
 # install_packages WHY PACKAGE...: installs those that are missing and says which. Nothing is done, and nothing is

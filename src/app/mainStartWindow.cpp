@@ -3,6 +3,7 @@
 #include "app/UtilityKitWindow.h"
 #include "app/tabviewcontroller.h"
 #include "mail/AttachToMail.h"
+#include "onboarding/firstRunvc.h"
 #include "platform/Platform.h"
 #include "registry/ControllerRegistry.h"
 #include "settings/Deployment.h"
@@ -18,20 +19,16 @@ void mainStartWindow::windowDidLoad()
     NS::DistributedNotificationCenter& center = NS::platform().defaultCenter();
     center.addObserver_name_object([this] { AttachFileToMail(); }, NotificationName::AttachFileToMail,
                                    Deployment::extensionIdentifier);
-    // A build without the showcase has nothing to show.
-    if (m_registry.offers(ControllerIdentifier::UtilityKitWindow))
-        center.addObserver_name_object([this] { showUtilityKit(); }, NotificationName::ShowUtilityKit,
-                                       Deployment::extensionIdentifier);
+    center.addObserver_name_object([this] { showUtilityKit(); }, NotificationName::ShowUtilityKit,
+                                   Deployment::extensionIdentifier);
 }
 
 std::shared_ptr<NS::ViewController> mainStartWindow::contentViewController()
 {
-    // Any stored value counts: presence alone says that the first run is over. A build without the first-run
-    // screen goes to the tabs at once.
-    const bool onboardingDone = NS::platform().standardUserDefaults().objectForKey(SettingsKey::firstRun).has_value();
-    if (!onboardingDone && m_registry.offers(ControllerIdentifier::firstRunvc))
-        return m_registry.controller<NS::ViewController>(ControllerIdentifier::firstRunvc);
-    return m_registry.controller<tabviewcontroller>(ControllerIdentifier::tabviewcontroller);
+    // Any stored value counts: presence alone says that the first run is over.
+    if (NS::platform().standardUserDefaults().objectForKey(SettingsKey::firstRun))
+        return m_registry.controller<tabviewcontroller>(ControllerIdentifier::tabviewcontroller);
+    return m_registry.controller<firstRunvc>(ControllerIdentifier::firstRunvc);
 }
 
 void mainStartWindow::windowWillClose()

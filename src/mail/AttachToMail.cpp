@@ -49,7 +49,7 @@ AttachToMailOutcome attachToMail()
     if (!path)
         return AttachToMailOutcome::NoRequest;
 
-    const auto panel = NS::platform().makeOpenPanel();
+    const auto panel = NS::platform().makeOpenPanel(NS::ChosenPaths::Any);
     panel->setMessage("Please select the file that you want to send via email to allow sending");
     panel->setCanChooseDirectories(true);
     panel->setAllowsMultipleSelection(false);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Application.h"
+#include "platform/CustomButton.h"
 #include "platform/TableCellView.h"
 #include "platform/ViewController.h"
 
@@ -18,6 +19,7 @@ struct ClassTable {
 
     Makers<std::shared_ptr<Controller>> controllers;
     Makers<std::unique_ptr<TableCellView>> cells;
+    Makers<std::unique_ptr<CustomButton>> buttons;
     Makers<std::shared_ptr<ApplicationDelegate>> delegates;
 };
 

@@ -20,6 +20,8 @@ public:
     /// action captured, and must outlive the control.
     void setAction(Action action) { m_action = std::move(action); }
 
+    virtual void setEnabled(bool flag) = 0;
+
 protected:
     /// For implementations: the user operated the control.
     void sendAction()

@@ -12,7 +12,6 @@ class Storyboard {
 public:
     virtual ~Storyboard() = default;
 
-    [[nodiscard]] virtual bool contains(std::string_view identifier) const = 0;
     /// A new controller with its scene loaded and connected; nothing when no scene has the identifier.
     [[nodiscard]] virtual std::shared_ptr<Controller>
     instantiateControllerWithIdentifier(std::string_view identifier) = 0;

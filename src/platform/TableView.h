@@ -35,6 +35,8 @@ class TableView : public View {
 public:
     /// Asks for the number of rows and for the rows in sight again, before it returns.
     virtual void reloadData() = 0;
+    /// The row that the user selected; -1 when there is none. A reload keeps it as long as there is such a row.
+    [[nodiscard]] virtual std::ptrdiff_t selectedRow() const = 0;
 
     /// A row view to fill: one that has left sight and keeps what it showed, or a new one. Nothing when there is
     /// no such scene. The table owns it.

@@ -1,23 +1,39 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace NS {
 
-/// The address of a file, by its path. The path is bytes, as the file system has them; it need not be UTF-8.
+/// The address of a file, by its path, or of something else, by its text.
 class URL {
 public:
-    [[nodiscard]] static URL fileURLWithPath(std::string_view path) { return URL(std::string(path)); }
+    /// `path` is bytes, as the file system has them; it need not be UTF-8.
+    [[nodiscard]] static URL fileURLWithPath(std::string_view path);
+    /// An address in the form of RFC 3986; nothing when the text is not one. It is not looked at further.
+    [[nodiscard]] static std::optional<URL> URLWithString(std::string_view text);
 
-    [[nodiscard]] const std::string& path() const { return m_path; }
+    /// The file's path without a slash at its end; empty for another address.
+    [[nodiscard]] const std::string& path() const;
+    /// The name of the file in its folder; "/" for the root.
+    [[nodiscard]] std::string lastPathComponent() const;
+    /// The address in ASCII; a file's with its bytes percent-encoded.
+    [[nodiscard]] std::string absoluteString() const;
+    [[nodiscard]] bool isFileURL() const { return m_kind == Kind::File; }
 
     friend bool operator==(const URL&, const URL&) = default;
+    /// Some order, for sets.
+    // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm.
+    friend auto operator<=>(const URL&, const URL&) = default;
 
 private:
-    explicit URL(std::string path) : m_path(std::move(path)) {}
+    enum class Kind { File, Other };
 
-    std::string m_path;
+    URL(Kind kind, std::string text) : m_kind(kind), m_text(std::move(text)) {}
+
+    Kind m_kind;
+    std::string m_text;
 };
 
 } // namespace NS

@@ -26,6 +26,10 @@ public:
     /// tried again at the next write or synchronize()).
     virtual bool synchronize() = 0;
 
+    void setBool_forKey(bool value, std::string_view key) { setObject_forKey(value, key); }
+    /// The key path is a plain key.
+    void setValue_forKeyPath(Value value, std::string_view keyPath) { setObject_forKey(std::move(value), keyPath); }
+
     /// The stored array; nothing when there is no value or it is not an array.
     [[nodiscard]] std::optional<Value::Array> arrayForKey(std::string_view key);
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Connections.h"
+#include "platform/Geometry.h"
 
 #include <memory>
 #include <utility>
@@ -14,6 +15,9 @@ public:
     class Scene {
     public:
         virtual ~Scene() = default;
+
+        /// The root view's place and size.
+        [[nodiscard]] virtual Rect frame() const = 0;
     };
 
     /// For storyboards.
@@ -29,6 +33,10 @@ class ViewController : public Controller {
 public:
     /// The scene's views exist and its outlets are filled. Called once.
     virtual void viewDidLoad() {}
+    // Each time that the view comes into sight or leaves it, with its tab or window. Minimising is neither.
+    virtual void viewWillAppear() {}
+    virtual void viewDidAppear() {}
+    virtual void viewWillDisappear() {}
 };
 
 } // namespace NS

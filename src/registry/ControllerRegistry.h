@@ -33,9 +33,6 @@ public:
         return typed;
     }
 
-    /// Whether the storyboard has a scene of that identifier.
-    [[nodiscard]] bool offers(std::string_view identifier) { return storyboard().contains(identifier); }
-
 private:
     NS::Storyboard& storyboard();
     std::shared_ptr<NS::Controller> sharedController(std::string_view identifier);

@@ -55,6 +55,15 @@ class ColorScheme(AppearanceTestCase):
         self.wait_for_dark(self.start_with_request()[1])
         self.save_picture("attach-to-mail-dark")
 
+    def test_the_showcase_is_dark_where_dark_is_preferred(self):
+        self.start_portal(DARK)
+        panel = self.start_panel()
+        panel.main_window()
+        self.run_tool("orvik-notify", "ShowUtilityKit")
+
+        self.wait_for_dark(panel.active_window("More from Orvik Studio"))
+        self.save_picture("showcase-dark")
+
     def test_a_change_of_the_preference_is_followed_at_once(self):
         self.start_portal(LIGHT)
         window = self.start_panel().main_window()

@@ -1,11 +1,10 @@
-"""The first start of a person who has never had the panel."""
+"""The first start with the tabs: of a person who has changed nothing yet."""
 
 import os
-import stat
 import unittest
 
-from support.case import DesktopTestCase
-from support.suite import TITLES, record
+from support.case import APPLICATION, DesktopTestCase
+from support.suite import SUITE, TITLES, SettingsFile, record
 
 
 class FirstStart(DesktopTestCase):
@@ -24,26 +23,12 @@ class FirstStart(DesktopTestCase):
 
         self.assertStored(menuArrayDic=record())
 
-    def test_the_settings_are_their_owners_alone(self):
-        # The widest umask, so that nothing is narrowed by chance.
-        old = os.umask(0)
-        self.addCleanup(os.umask, old)
-        self.start_panel().main_window()
-
-        self.assertEqual(stat.S_IMODE(os.stat(self.suite.path).st_mode), 0o600)
-        self.assertEqual(stat.S_IMODE(os.stat(self.suite.folder).st_mode), 0o700)
-
-    def test_a_person_without_a_configuration_folder_gets_one(self):
-        os.rmdir(self.home.configuration)
-        self.start_panel().main_window()
-
-        self.assertStored(menuArrayDic=record())
-
     def test_without_the_variable_the_settings_lie_in_the_usual_folder(self):
+        usual = os.path.join(self.home.folder, ".config")
+        SettingsFile(usual, APPLICATION).write(firstRun=True)
         self.start_panel(without=["XDG_CONFIG_HOME"]).main_window()
 
-        self.assertTrue(os.path.exists(os.path.join(self.home.folder, ".config/orvik-menu",
-                                                    os.path.basename(self.suite.path))))
+        self.assertEventuallyEqual(SettingsFile(usual, SUITE).exists, True)
         self.assertFalse(self.suite.exists())
 
 

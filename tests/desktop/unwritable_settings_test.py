@@ -45,14 +45,6 @@ class UnwritableSettings(DesktopTestCase):
         self.assertTrue(all(line.startswith("orvik-menu: ") for line in self.panel.complaints()),
                         self.panel.complaints())
 
-    def test_a_configuration_folder_that_cannot_be_written(self):
-        self.forbid(self.home.configuration, 0o500)
-        self.start()
-
-        self.assertWorksInMemory([True] * len(TITLES))
-        self.assertEqual(os.listdir(self.home.configuration), [])
-        self.assertNotEqual(self.panel.complaints(), [])
-
     def test_a_settings_folder_that_cannot_be_written(self):
         self.suite.write(menuArrayDic=record(2), theirs=True)
         before = self.suite.bytes()
@@ -71,16 +63,6 @@ class UnwritableSettings(DesktopTestCase):
 
         self.assertWorksInMemory([True] * len(TITLES))
         os.chmod(self.suite.path, 0o600)
-        self.assertEqual(self.suite.bytes(), before)
-
-    def test_a_settings_folder_that_cannot_be_entered(self):
-        self.suite.write(menuArrayDic=record(2))
-        before = self.suite.bytes()
-        self.forbid(self.suite.folder, 0)
-        self.start()
-
-        self.assertWorksInMemory([True] * len(TITLES))
-        os.chmod(self.suite.folder, 0o700)
         self.assertEqual(self.suite.bytes(), before)
 
 

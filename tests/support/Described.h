@@ -15,6 +15,9 @@
 /// An argument as it reads in a line of the call log: text in quotes, truth as a word, an enumerator as its
 /// number, addresses and images by their path and name.
 template<class T>
+std::string described(const std::vector<T>& values);
+
+template<class T>
 std::string described(const T& value)
 {
     if constexpr (std::convertible_to<T, std::string_view>) {
@@ -33,7 +36,7 @@ std::string described(const T& value)
 
 inline std::string described(const NS::URL& url)
 {
-    return described(url.path());
+    return described(url.isFileURL() ? url.path() : url.absoluteString());
 }
 
 inline std::string described(const std::optional<NS::Image>& image)
@@ -41,10 +44,11 @@ inline std::string described(const std::optional<NS::Image>& image)
     return image ? described(image->name()) : "none";
 }
 
-inline std::string described(const std::vector<NS::URL>& urls)
+template<class T>
+std::string described(const std::vector<T>& values)
 {
     std::string text;
-    for (const NS::URL& url : urls)
-        text += (text.empty() ? "" : ", ") + described(url);
+    for (const T& value : values)
+        text += (text.empty() ? "" : ", ") + described(value);
     return '[' + text + ']';
 }

@@ -19,6 +19,10 @@ public:
     FakeScene(CallLog& calls, std::string name) : m_calls(calls), m_name(std::move(name)) {}
 
     [[nodiscard]] const std::string& name() const { return m_name; }
+    NS::Rect frame() const override { return {0.0, 0.0, size}; }
+
+    /// Of the root view.
+    NS::Size size{600.0, 400.0};
 
     template<class T>
     T& add(std::string_view viewName)

@@ -14,12 +14,6 @@ void FakeStoryboard::removeScene(std::string_view identifier)
     m_makers.erase(std::string(identifier));
 }
 
-bool FakeStoryboard::contains(std::string_view identifier) const
-{
-    m_calls.record("storyboard", "contains", identifier);
-    return m_makers.contains(identifier);
-}
-
 std::shared_ptr<NS::Controller> FakeStoryboard::instantiateControllerWithIdentifier(std::string_view identifier)
 {
     m_calls.record("storyboard", "instantiateControllerWithIdentifier", identifier);

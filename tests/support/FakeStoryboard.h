@@ -22,7 +22,6 @@ public:
     void addScene(std::string_view identifier, Maker maker);
     void removeScene(std::string_view identifier);
 
-    bool contains(std::string_view identifier) const override;
     std::shared_ptr<NS::Controller> instantiateControllerWithIdentifier(std::string_view identifier) override;
 
 private:

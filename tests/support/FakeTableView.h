@@ -27,7 +27,15 @@ public:
     void connectTo(NS::SceneObject& owner) override;
     void appear() override { loadRows(); }
     void reloadData() override;
+    std::ptrdiff_t selectedRow() const override
+    {
+        m_calls.record(m_name, "selectedRow");
+        return selected;
+    }
     NS::TableCellView* makeViewWithIdentifier_owner(std::string_view identifier, NS::SceneObject* owner) override;
+
+    /// What the user selected.
+    std::ptrdiff_t selected = -1;
 
     [[nodiscard]] std::size_t rowCount() const { return m_rows.size(); }
     /// Null where the delegate gave no view.

@@ -2,6 +2,7 @@
 
 #include "platform/Window.h"
 #include "support/CallLog.h"
+#include "support/FakeSheet.h"
 #include "support/FakeStoryboard.h"
 #include "support/SceneAware.h"
 
@@ -22,7 +23,13 @@ public:
         m_content = std::move(controller);
     }
     void makeKeyAndOrderFront() override { m_calls.record(m_name, "makeKeyAndOrderFront"); }
+    /// Records the sheet by its name.
+    void endSheet(NS::Sheet& sheet) override
+    {
+        m_calls.record(m_name, "endSheet", dynamic_cast<FakeSheet&>(sheet).name());
+    }
 
+    [[nodiscard]] const std::string& name() const { return m_name; }
     [[nodiscard]] const std::shared_ptr<NS::ViewController>& content() const { return m_content; }
 
     /// As a user does.

@@ -3,7 +3,13 @@
 #include "app/UtilityKitWindow.h"
 #include "app/mainStartWindow.h"
 #include "app/tabviewcontroller.h"
+#include "onboarding/firstRunvc.h"
+#include "showcase/utilityKitvc.h"
+#include "support/FakeButton.h"
+#include "support/FakeCollectionView.h"
+#include "support/FakeScrollView.h"
 #include "support/FakeTabView.h"
+#include "support/FakeTextField.h"
 
 #include <memory>
 #include <string>
@@ -38,8 +44,17 @@ void ApplicationTest::addViewScenes()
         scene.add<FakeTabView>("tabView");
         return std::make_shared<tabviewcontroller>();
     });
-    for (const char* identifier : {"firstRunvc", "utilityKitvc"})
-        platform.storyboard->addScene(identifier, [](FakeScene&) { return std::make_shared<NS::ViewController>(); });
+    platform.storyboard->addScene("firstRunvc", [this](FakeScene& scene) {
+        scene.addSending<FakeButton>("btnsystemPrefrences:", "btnpreferences");
+        scene.addSending<FakeButton>("btnselectfolder:", "btnuserfolder");
+        return std::make_shared<firstRunvc>(registry);
+    });
+    platform.storyboard->addScene("utilityKitvc", [](FakeScene& scene) {
+        scene.add<FakeTextField>("lblotherapps");
+        scene.add<FakeScrollView>("scrollview");
+        scene.add<FakeCollectionView>("collectionView");
+        return std::make_shared<utilityKitvc>();
+    });
 }
 
 void ApplicationTest::leaveMailRequest(double age, std::string_view path)

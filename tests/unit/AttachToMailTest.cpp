@@ -205,7 +205,7 @@ TEST_F(AttachToMail, AFolderIsSentLikeAFile)
 
     EXPECT_EQ(attachToMail(), AttachToMailOutcome::HandedOver);
 
-    EXPECT_EQ(mails(), (Lines{R"(mail.performWithItems(["/home/user/photos/"]))"}));
+    EXPECT_EQ(mails(), (Lines{R"(mail.performWithItems(["/home/user/photos"]))"}));
 }
 
 TEST_F(AttachToMail, APathIsHandedOnByteForByte)

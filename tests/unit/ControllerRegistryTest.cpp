@@ -71,19 +71,11 @@ TEST_F(Registry, KeepsAControllerThatNobodyElseKeeps)
 
 TEST_F(Registry, OpensTheMainStoryboardOfTheMainBundleOnce)
 {
-    static_cast<void>(registry.offers("firstRunvc"));
     static_cast<void>(registry.controller<NS::ViewController>("firstRunvc"));
     static_cast<void>(registry.controller<NS::ViewController>("utilityKitvc"));
 
     EXPECT_EQ(platform.calls.startingWith("platform."),
               (Lines{R"(platform.storyboardWithName_bundle("Main", "main bundle"))"}));
-}
-
-TEST_F(Registry, OffersTheScenesOfTheStoryboardWithoutMakingThem)
-{
-    EXPECT_TRUE(registry.offers("firstRunvc"));
-    EXPECT_FALSE(registry.offers("firstrunvc"));
-    EXPECT_TRUE(platform.calls.startingWith("storyboard.instantiate").empty());
 }
 
 TEST_F(Registry, ASceneMayAskForAnotherWhileItIsMade)

@@ -1,16 +1,9 @@
 #include "menu/ViewController.h"
 
+#include "ListScreenTest.h"
 #include "menu/MenuCatalogue.h"
 #include "support/AtAbort.h"
-#include "support/FakeButton.h"
-#include "support/FakeImageView.h"
-#include "support/FakePlatform.h"
-#include "support/FakeTableView.h"
-#include "support/FakeTextField.h"
 #include "support/FatalLine.h"
-#include "ui/tblcell.h"
-
-#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <memory>
@@ -23,52 +16,20 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// What a row shows.
-struct Row {
-    std::string title;
-    bool on;
-    std::optional<std::string> image;
-
-    friend bool operator==(const Row&, const Row&) = default;
-    friend void PrintTo(const Row& row, std::ostream* stream)
-    {
-        *stream << '"' << row.title << "\" " << (row.on ? "on" : "off") << ' ' << row.image.value_or("no image");
-    }
-};
-
 NS::Value::Dictionary item(const char* title, bool state)
 {
     return {{"title", title}, {"state", state}};
 }
 
-class MenuItemsScreen : public testing::Test {
+class MenuItemsScreen : public ListScreenTest {
 protected:
     MenuItemsScreen()
     {
-        useRow({"lbltitle", "imgview", "checkbox", "btnDelete"});
         platform.storyboard->addScene("ViewController", [this](FakeScene& scene) {
-            auto& list = scene.add<FakeTableView>("tblview");
-            if (makeRow)
-                list.addRowScene("tblcell", makeRow);
+            addList(scene);
             scene.addSending<FakeButton>("btngetPermission:", "permission");
             return std::make_shared<ViewController>();
         });
-    }
-
-    /// Rows of the usual class with these of its views.
-    void useRow(const Lines& views)
-    {
-        makeRow = [views](FakeScene& scene) {
-            for (const std::string& view : views) {
-                if (view == "lbltitle")
-                    scene.add<FakeTextField>(view);
-                else if (view == "imgview")
-                    scene.add<FakeImageView>(view);
-                else
-                    scene.add<FakeButton>(view);
-            }
-            return std::make_unique<tblcell>();
-        };
     }
 
     void store(const NS::Value::Array& items) { platform.suite.insert_or_assign("menuArrayDic", items); }
@@ -84,36 +45,11 @@ protected:
         open();
     }
 
-    [[nodiscard]] FakeTableView& table() const { return sceneOf(*screen).view<FakeTableView>("tblview"); }
-    [[nodiscard]] FakeButton& checkbox(std::size_t row) const
-    {
-        return table().rowScene(row).view<FakeButton>("checkbox");
-    }
-
-    [[nodiscard]] Row row(std::size_t index) const
-    {
-        FakeScene& views = table().rowScene(index);
-        const auto& image = views.view<FakeImageView>("imgview").image();
-        return {views.view<FakeTextField>("lbltitle").text(),
-                views.view<FakeButton>("checkbox").state() == NS::ControlState::On,
-                image ? std::optional(image->name()) : std::nullopt};
-    }
-    [[nodiscard]] std::vector<Row> rows() const
-    {
-        std::vector<Row> shown;
-        shown.reserve(table().rowCount());
-        for (std::size_t index = 0; index < table().rowCount(); ++index)
-            shown.push_back(row(index));
-        return shown;
-    }
-
     [[nodiscard]] Lines suiteWrites() const
     {
         return platform.calls.startingWithAnyOf({"suite#1.set", "suite#1.remove", "suite#1.synchronize"});
     }
 
-    FakePlatform platform;
-    FakeTableView::RowMaker makeRow;
     std::shared_ptr<ViewController> screen;
 };
 
@@ -235,7 +171,7 @@ TEST_F(MenuItemsScreen, ARowIsFilledInThisOrderAndItsDeleteButtonIsLeftAlone)
                      R"(tblcell#1.lbltitle.setStringValue("Open Terminal"))", R"(tblcell#1.checkbox.setState(1))",
                      R"(tblcell#1.imgview.setImage("1"))"}));
     EXPECT_EQ(checkbox(0).tag(), 0);
-    EXPECT_EQ(table().rowScene(0).view<FakeButton>("btnDelete").tag(), 0);
+    EXPECT_EQ(deleteButton(0).tag(), 0);
 }
 
 TEST_F(MenuItemsScreen, EveryCheckboxIsTaggedWithItsRow)
@@ -260,19 +196,13 @@ TEST_F(MenuItemsScreen, AReusedRowShowsNoIconOfTheRowBefore)
 TEST_F(MenuItemsScreen, WithoutARowSceneTheRowsAreEmpty)
 {
     makeRow = nullptr;
-    openWith({item("Open Terminal", true)});
-
-    ASSERT_EQ(table().rowCount(), 1U);
-    EXPECT_EQ(table().rowView(0), nullptr);
+    expectAnEmptyRow([this] { openWith({item("Open Terminal", true)}); });
 }
 
 TEST_F(MenuItemsScreen, WithARowSceneOfAnotherClassTheRowsAreEmpty)
 {
-    makeRow = [](FakeScene&) { return std::make_unique<NS::TableCellView>(); };
-    openWith({item("Open Terminal", true)});
-
-    ASSERT_EQ(table().rowCount(), 1U);
-    EXPECT_EQ(table().rowView(0), nullptr);
+    useRowOfAnotherClass();
+    expectAnEmptyRow([this] { openWith({item("Open Terminal", true)}); });
 }
 
 TEST_F(MenuItemsScreen, WithoutASuiteTheWholeCatalogueIsShownAndNothingStored)
@@ -418,7 +348,7 @@ TEST_F(MenuItemsScreen, ThePermissionButtonDoesNothing)
 TEST_F(MenuItemsScreen, AsAPanelsDelegateItEnablesEveryItem)
 {
     ViewController made;
-    const auto panel = platform.makeOpenPanel();
+    const auto panel = platform.makeOpenPanel(NS::ChosenPaths::Any);
 
     for (const char* path : {"", "/", "/home/user/report.txt"})
         EXPECT_TRUE(made.panel_shouldEnableURL(*panel, NS::URL::fileURLWithPath(path)));
@@ -478,39 +408,19 @@ TEST_F(MenuItemsScreenDeathTest, WithoutItsTableAToggleStopsAfterMemoryChangedAn
                            R"(stored [{"state": true, "title": "Open Terminal"}])"));
 }
 
-struct MissingView {
-    Lines views;
-    const char* missing;
-    const char* callBefore;
-};
-
-class ARowWithoutAViewDeathTest : public MenuItemsScreen, public testing::WithParamInterface<MissingView> {};
-
-TEST_P(ARowWithoutAViewDeathTest, IsFatalAtTheStepThatUsesIt)
+TEST_F(MenuItemsScreenDeathTest, ARowWithoutAViewIsFatalAtTheStepThatUsesIt)
 {
-    useRow(GetParam().views);
     store({item("Open Terminal", true)});
+    const auto show = [this] { open(); };
 
-    EXPECT_DEATH(
-        {
-            platform.calls.echoOnStandardError();
-            open();
-        },
-        fatalLineAfter(GetParam().callBefore, "the outlet \"" + std::string(GetParam().missing) + "\" is empty"));
+    expectFatalWithout("lbltitle", R"(ViewController.tblview.makeViewWithIdentifier("tblcell"))", show);
+    expectFatalWithout("checkbox", R"(tblcell#1.lbltitle.setStringValue("Open Terminal"))", show);
+    expectFatalWithout("imgview", R"(tblcell#1.checkbox.setState(1))", show);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Each, ARowWithoutAViewDeathTest,
-    testing::Values(
-        MissingView{
-            {"imgview", "checkbox"}, "lbltitle", R"(ViewController.tblview.makeViewWithIdentifier("tblcell"))"},
-        MissingView{{"lbltitle", "imgview"}, "checkbox", R"(tblcell#1.lbltitle.setStringValue("Open Terminal"))"},
-        MissingView{{"lbltitle", "checkbox"}, "imgview", R"(tblcell#1.checkbox.setState(1))"}),
-    [](const auto& tested) { return tested.param.missing; });
 
 TEST_F(MenuItemsScreen, ARowWithoutADeleteButtonIsShown)
 {
-    useRow({"lbltitle", "imgview", "checkbox"});
+    useRowWithout("btnDelete");
 
     openWith({item("Open Terminal", true)});
 

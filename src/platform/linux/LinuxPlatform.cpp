@@ -2,33 +2,77 @@
 
 #include "platform/FatalError.h"
 #include "platform/linux/EmptyDefaults.h"
+#include "platform/linux/WidgetTimer.h"
+#include "platform/linux/bookmarks/FolderBookmark.h"
+#include "platform/linux/defaults/PropertyList.h"
 #include "platform/linux/desktop/ComposeEmail.h"
 #include "platform/linux/filechooser/FileChooser.h"
+#include "platform/linux/text/FileNameText.h"
+#include "platform/linux/widgets/WidgetAlert.h"
 #include "platform/linux/widgets/WidgetStoryboard.h"
 #include "settings/Deployment.h"
 
 #include <QCoreApplication>
+#include <QRandomGenerator>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <filesystem>
+#include <pwd.h>
+#include <random>
+#include <unistd.h>
 
 namespace LinuxDesktop {
+
+namespace {
+
+/// Words for a path that a settings file could not give back as it is.
+QString refusalOfUnstorable(const std::string& path)
+{
+    if (!PropertyList::unstorableReason(NS::Value(path)))
+        return {};
+    return QStringLiteral("“%1” cannot be used: its path has characters that cannot be stored as text. "
+                          "Rename the folder, then choose it again.")
+        .arg(fileNameText(path));
+}
+
+QString composed(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
+        .normalized(QString::NormalizationForm_C);
+}
+
+bool isAscii(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char character) { return static_cast<unsigned char>(character) < 0x80; });
+}
+
+std::chrono::milliseconds milliseconds(double seconds)
+{
+    return std::chrono::milliseconds(std::llround(seconds * 1000.0));
+}
+
+} // namespace
 
 LinuxPlatform::LinuxPlatform(const NS::ClassTable& classes, const QString& resources)
     : m_classes(classes), m_standardDefaults(m_store.open(Deployment::applicationIdentifier)),
       m_bundle(resources.toStdString()), m_images(resources + QStringLiteral("/Assets")),
       m_bus("orvik-menu: no session bus: the panel works, but hears nothing of the extension"),
-      m_name(m_bus, Deployment::applicationIdentifier), m_center(m_bus, m_modalState),
-      m_application(m_name, m_modalState,
-                    [this] { m_delegate->applicationShouldHandleReopen_hasVisibleWindows(true); })
+      m_name(m_bus, Deployment::applicationIdentifier), m_center(m_bus, m_modalState), m_finderSync(m_bus),
+      m_workspace(m_bus), m_application(m_name, m_modalState,
+                                        [this] { m_delegate->applicationShouldHandleReopen_hasVisibleWindows(true); })
 {
     if (!m_standardDefaults)
         m_standardDefaults = std::make_shared<EmptyDefaults>();
     m_responders["terminate:"] = [this](NS::Control&) { m_application.terminate(); };
 }
 
-LinuxPlatform::~LinuxPlatform() = default;
+LinuxPlatform::~LinuxPlatform()
+{
+    m_globalQueue.waitForDone();
+}
 
 NS::ApplicationDelegate& LinuxPlatform::loadDelegate()
 {
@@ -54,9 +98,17 @@ std::shared_ptr<NS::Storyboard> LinuxPlatform::storyboardWithName_bundle(std::st
     return std::make_shared<WidgetStoryboard>(m_classes, m_images, m_responders);
 }
 
-std::unique_ptr<NS::OpenPanel> LinuxPlatform::makeOpenPanel()
+std::unique_ptr<NS::OpenPanel> LinuxPlatform::makeOpenPanel(NS::ChosenPaths paths)
 {
-    return std::make_unique<FileChooser>(m_modalState);
+    auto panel = std::make_unique<FileChooser>(m_modalState);
+    if (paths == NS::ChosenPaths::Storable)
+        panel->setRefusal(refusalOfUnstorable);
+    return panel;
+}
+
+std::unique_ptr<NS::Alert> LinuxPlatform::makeAlert()
+{
+    return std::make_unique<WidgetAlert>(m_modalState);
 }
 
 NS::SharingService* LinuxPlatform::sharingServiceNamed(std::string_view name)
@@ -82,8 +134,54 @@ NS::Date LinuxPlatform::now()
 
 void LinuxPlatform::performAfterDelay(std::function<void()> perform, double delay)
 {
-    QTimer::singleShot(std::chrono::milliseconds(std::llround(delay * 1000.0)), Qt::PreciseTimer, qApp,
-                       std::move(perform));
+    QTimer::singleShot(milliseconds(delay), Qt::PreciseTimer, qApp, std::move(perform));
+}
+
+std::shared_ptr<NS::Timer> LinuxPlatform::scheduledTimerWithTimeInterval(double interval, std::function<void()> fire)
+{
+    return std::make_shared<WidgetTimer>(m_timers, milliseconds(interval), std::move(fire));
+}
+
+void LinuxPlatform::dispatchToGlobalQueue(std::function<void()> work)
+{
+    m_globalQueue.start(std::move(work));
+}
+
+void LinuxPlatform::dispatchToMainQueue(std::function<void()> work)
+{
+    QMetaObject::invokeMethod(&m_timers, std::move(work), Qt::QueuedConnection);
+}
+
+NS::BookmarkData LinuxPlatform::bookmarkDataWithOptions(const NS::URL& url, unsigned)
+{
+    return makeFolderBookmark(url.path());
+}
+
+bool LinuxPlatform::fileExistsAtPath(std::string_view path)
+{
+    std::error_code failure;
+    return std::filesystem::exists(std::filesystem::path(path), failure);
+}
+
+std::string LinuxPlatform::userName()
+{
+    const passwd* user = getpwuid(getuid());
+    return user ? user->pw_name : std::to_string(getuid());
+}
+
+bool LinuxPlatform::canonicallyEqual(std::string_view one, std::string_view other)
+{
+    if (one == other)
+        return true;
+    // Text in ASCII is equivalent to nothing but itself.
+    if (isAscii(one) || isAscii(other))
+        return false;
+    return composed(one) == composed(other);
+}
+
+std::uint32_t LinuxPlatform::arc4random_uniform(std::uint32_t bound)
+{
+    return std::uniform_int_distribution<std::uint32_t>(0, bound - 1)(*QRandomGenerator::system());
 }
 
 } // namespace LinuxDesktop

@@ -3,16 +3,21 @@
 #include "platform/ClassTable.h"
 #include "platform/Platform.h"
 #include "platform/linux/DesktopApplication.h"
+#include "platform/linux/DesktopWorkspace.h"
 #include "platform/linux/InformationBundle.h"
 #include "platform/linux/ModalState.h"
 #include "platform/linux/bus/ApplicationName.h"
 #include "platform/linux/bus/DistributedNotificationCenter.h"
+#include "platform/linux/bus/FinderSyncController.h"
 #include "platform/linux/bus/SessionBus.h"
 #include "platform/linux/defaults/Store.h"
 #include "platform/linux/widgets/ImageStore.h"
+#include "platform/linux/widgets/PointerShape.h"
 #include "platform/linux/widgets/SceneConnections.h"
 
+#include <QObject>
 #include <QString>
+#include <QThreadPool>
 
 namespace LinuxDesktop {
 
@@ -35,11 +40,23 @@ public:
     NS::Application& sharedApplication() override { return m_application; }
     NS::Bundle& mainBundle() override { return m_bundle; }
     std::shared_ptr<NS::Storyboard> storyboardWithName_bundle(std::string_view name, NS::Bundle& bundle) override;
-    std::unique_ptr<NS::OpenPanel> makeOpenPanel() override;
+    std::unique_ptr<NS::OpenPanel> makeOpenPanel(NS::ChosenPaths paths) override;
+    std::unique_ptr<NS::Alert> makeAlert() override;
+    NS::Workspace& sharedWorkspace() override { return m_workspace; }
+    FI::FinderSyncController& defaultController() override { return m_finderSync; }
     NS::SharingService* sharingServiceNamed(std::string_view name) override;
     std::optional<NS::Image> imageNamed(std::string_view name) override;
+    NS::BookmarkData bookmarkDataWithOptions(const NS::URL& url, unsigned options) override;
+    bool fileExistsAtPath(std::string_view path) override;
+    std::string userName() override;
+    bool canonicallyEqual(std::string_view one, std::string_view other) override;
+    void setCursor(NS::Cursor cursor) override { m_cursor.set(cursor); }
+    std::uint32_t arc4random_uniform(std::uint32_t bound) override;
     NS::Date now() override;
     void performAfterDelay(std::function<void()> perform, double delay) override;
+    std::shared_ptr<NS::Timer> scheduledTimerWithTimeInterval(double interval, std::function<void()> fire) override;
+    void dispatchToGlobalQueue(std::function<void()> work) override;
+    void dispatchToMainQueue(std::function<void()> work) override;
 
 private:
     const NS::ClassTable& m_classes;
@@ -53,9 +70,15 @@ private:
     std::unique_ptr<NS::SharingService> m_composeEmail;
     ApplicationName m_name;
     DistributedNotificationCenter m_center;
+    FinderSyncController m_finderSync;
+    DesktopWorkspace m_workspace;
+    PointerShape m_cursor;
+    QObject m_timers;
     DesktopApplication m_application;
     std::shared_ptr<NS::ApplicationDelegate> m_delegate;
     ActionMap m_responders;
+    // Last, since its work may ask for the rest; it ends first.
+    QThreadPool m_globalQueue;
 };
 
 } // namespace LinuxDesktop

@@ -24,6 +24,7 @@ class Panel:
         self._complaints_path = os.path.join(output_folder, "stderr")
         self._output_path = os.path.join(output_folder, "stdout")
         self.complaints_expected = False
+        self.output_expected = False
         with open(self._output_path, "wb") as output, open(self._complaints_path, "wb") as complaints:
             self._process = subprocess.Popen(command, env=environment, cwd=environment["HOME"],
                                              stdin=subprocess.DEVNULL, stdout=output, stderr=complaints,

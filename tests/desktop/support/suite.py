@@ -1,4 +1,4 @@
-"""The panel's settings file, read and written as other programs do."""
+"""The panel's settings files, read and written as other programs do."""
 
 import datetime
 import os
@@ -42,12 +42,12 @@ def seconds_ago(seconds):
     return now - datetime.timedelta(seconds=seconds)
 
 
-class SuiteFile:
-    """The file of the shared settings suite below a configuration folder."""
+class SettingsFile:
+    """The file of a domain of settings below a configuration folder."""
 
-    def __init__(self, configuration_folder):
+    def __init__(self, configuration_folder, domain):
         self.folder = os.path.join(configuration_folder, "orvik-menu")
-        self.path = os.path.join(self.folder, SUITE + ".plist")
+        self.path = os.path.join(self.folder, domain + ".plist")
 
     def exists(self):
         return os.path.exists(self.path)

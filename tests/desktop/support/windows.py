@@ -13,7 +13,7 @@ class Hands:
         self._display = display
 
     def _xdotool(self, *arguments):
-        subprocess.run(["xdotool", *map(str, arguments)], env={"DISPLAY": self._display, "PATH": "/usr/bin:/bin"},
+        subprocess.run(["xdotool", *map(str, arguments)], env={"DISPLAY": self._display, "PATH": "/usr/bin:/bin", "LANG": "C.UTF-8"},
                        check=True, timeout=_TIMEOUT)
 
     def click(self, extents):
@@ -23,6 +23,16 @@ class Hands:
     def press(self, *keys):
         """One key or combination after the other, for example "Tab" or "ctrl+q"."""
         self._xdotool("key", "--clearmodifiers", *keys)
+
+    def type(self, text):
+        self._xdotool("type", "--clearmodifiers", "--delay", 1, "--", text)
+
+    def move_to(self, extents):
+        """Moves the pointer to the middle of `extents`."""
+        self._xdotool("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2)
+
+    def place(self, window, x, y):
+        self._xdotool("windowmove", window, x, y)
 
     def iconify(self, window):
         self._xdotool("windowminimize", window)

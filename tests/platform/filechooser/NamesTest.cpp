@@ -1,7 +1,7 @@
 #include "ShownChooser.h"
 #include "TemporaryFolder.h"
 
-#include "platform/linux/filechooser/FileNameText.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/linux/filechooser/FileNameText.h"
 #include "platform/linux/filechooser/FilePath.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "TemporaryFolder.h"
 
-#include "platform/linux/filechooser/FileNameText.h"
 #include "platform/linux/filechooser/TypedPath.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <gtest/gtest.h>
 

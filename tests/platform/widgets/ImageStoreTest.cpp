@@ -1,5 +1,6 @@
 #include "platform/linux/widgets/ImageStore.h"
 #include "menu/MenuCatalogue.h"
+#include "showcase/ShowcaseCatalogue.h"
 
 #include <QIcon>
 
@@ -35,6 +36,25 @@ TEST(ImageStore, HasEveryImageOfTheCatalogueAndDrawsIt)
             // A picture covers a good part of its square and is not a blank one.
             EXPECT_GT(visiblePixels(drawn), drawn.width() * drawn.height() / 12) << action.image;
         }
+    }
+}
+
+TEST(ImageStore, HasTheIconOfEveryApplicationOfTheShowcaseAndDrawsIt)
+{
+    ImageStore store(assets);
+    for (const ShowcaseApplication& application : showcaseCatalogue) {
+        EXPECT_TRUE(store.contains(application.image)) << application.image;
+        const QPixmap drawn =
+            store.pixmap(QString::fromStdString(std::string(application.image)), 64, 1.0, Qt::black);
+        // A tile covers nearly all of its square, and something is drawn on it.
+        EXPECT_GT(visiblePixels(drawn), 64 * 64 * 9 / 10) << application.image;
+        const QImage image = drawn.toImage();
+        int white = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                white += image.pixelColor(x, y) == Qt::white ? 1 : 0;
+        }
+        EXPECT_GT(white, 64 * 64 / 20) << application.image;
     }
 }
 

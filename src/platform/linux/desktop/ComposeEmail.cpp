@@ -1,8 +1,8 @@
 #include "platform/linux/desktop/ComposeEmail.h"
 
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/desktop/Complaint.h"
 #include "platform/linux/desktop/EmailPortal.h"
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/desktop/MailCommand.h"
 #include "platform/linux/desktop/MailableName.h"
 #include "platform/linux/desktop/TemporaryFolders.h"
@@ -141,7 +141,7 @@ private:
 
     void throughCommand(std::vector<std::string> files, const FileDescriptor& ending)
     {
-        const auto command = MailCommand::find();
+        const auto command = Command::find(MailCommand::name);
         if (!command) {
             complain("no xdg-email, and no answer from the portal for", files.front(), m_portalError);
             return;
@@ -219,7 +219,7 @@ std::unique_ptr<NS::SharingService> composeEmailService(SessionBus& bus, std::ch
 {
     auto connection = bus.connection();
     // The portal is asked last: the answer may take its start, and a desktop with xdg-email has the service anyway.
-    if (!MailCommand::find() && !(connection && EmailPortal::answers(*connection)))
+    if (!Command::find(MailCommand::name) && !(connection && EmailPortal::answers(*connection)))
         return nullptr;
     return std::make_unique<ComposeEmail>(std::move(connection), archiveStay);
 }

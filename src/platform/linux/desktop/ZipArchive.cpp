@@ -1,7 +1,7 @@
 #include "platform/linux/desktop/ZipArchive.h"
 
-#include "platform/linux/desktop/Complaint.h"
 #include "platform/linux/FileDescriptor.h"
+#include "platform/linux/desktop/Complaint.h"
 #include "platform/linux/desktop/MailableName.h"
 
 #include <algorithm>

@@ -49,6 +49,11 @@ void FileChooser::setMessage(std::string_view message)
     m_settings.message = textOf(message);
 }
 
+void FileChooser::setCanChooseFiles(bool flag)
+{
+    m_settings.canChooseFiles = flag;
+}
+
 void FileChooser::setCanChooseDirectories(bool flag)
 {
     m_settings.canChooseDirectories = flag;
@@ -90,10 +95,36 @@ int FileChooser::runModal()
     loop.exec();
 
     if (answer == QDialog::Accepted) {
-        m_url = NS::URL::fileURLWithPath(dialog.chosen().front());
+        take(dialog);
         return NS::ModalResponseOK;
     }
     return answer && !quit.quitting() ? NS::ModalResponseCancel : ModalResponseAborted;
+}
+
+void FileChooser::beginSheetModalForWindow_completionHandler(NS::Window& parent, std::function<void(int)> handler)
+{
+    // The window owns the sheet, and the sheet the handler, so that all of it goes when the program ends first.
+    auto* sheet = new FileChooserDialog(m_settings, dynamic_cast<QWidget*>(&parent));
+    sheet->setWindowModality(Qt::WindowModal);
+    QObject::connect(sheet, &QDialog::finished, sheet, [this, sheet, handler = std::move(handler)](int result) {
+        const bool accepted = result == QDialog::Accepted;
+        if (accepted)
+            take(*sheet);
+        sheet->deleteLater();
+        handler(accepted ? NS::ModalResponseOK : NS::ModalResponseCancel);
+    });
+    sheet->show();
+}
+
+void FileChooser::take(const FileChooserDialog& dialog)
+{
+    for (const std::string& path : dialog.chosen())
+        m_urls.push_back(NS::URL::fileURLWithPath(path));
+}
+
+std::optional<NS::URL> FileChooser::URL() const
+{
+    return m_urls.empty() ? std::nullopt : std::optional(m_urls.front());
 }
 
 } // namespace LinuxDesktop

@@ -1,11 +1,11 @@
 #include "platform/linux/filechooser/FileChooserDialog.h"
 
 #include "platform/linux/filechooser/FileList.h"
-#include "platform/linux/filechooser/FileNameText.h"
 #include "platform/linux/filechooser/FilePath.h"
 #include "platform/linux/filechooser/FolderWatch.h"
 #include "platform/linux/filechooser/LocationField.h"
 #include "platform/linux/filechooser/PlacesList.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <QAccessible>
 #include <QElapsedTimer>
@@ -107,6 +107,7 @@ void FileChooserDialog::build()
     m_list = new FileList(panes);
     m_list->setObjectName(u"fileList"_s);
     m_list->setAccessibleName(u"Files"_s);
+    m_list->setFilesEnabled(m_settings.canChooseFiles);
     if (m_settings.allowsMultipleSelection)
         m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     panes->setStretchFactor(0, 0);
@@ -275,7 +276,7 @@ void FileChooserDialog::enterEntry(const FileEntry& entry)
 
 bool FileChooserDialog::canChoose(const FileEntry& entry) const
 {
-    return entry.kind == FileEntry::Kind::File ||
+    return (entry.kind == FileEntry::Kind::File && m_settings.canChooseFiles) ||
            (entry.kind == FileEntry::Kind::Folder && m_settings.canChooseDirectories);
 }
 
@@ -313,12 +314,22 @@ void FileChooserDialog::confirm()
     choose(std::move(paths));
 }
 
+bool FileChooserDialog::mayBeChosen(const std::string& path) const
+{
+    return exists(path) && (isFolder(path) ? m_settings.canChooseDirectories : m_settings.canChooseFiles);
+}
+
 void FileChooserDialog::choose(std::vector<std::string> paths)
 {
-    const auto unusable = std::ranges::find_if(paths, [this](const std::string& path) {
-        return !exists(path) || (isFolder(path) && !m_settings.canChooseDirectories);
-    });
+    const auto unusable =
+        std::ranges::find_if_not(paths, [this](const std::string& path) { return mayBeChosen(path); });
     if (unusable == paths.end()) {
+        for (const std::string& path : paths) {
+            if (const QString words = m_settings.refusal(path); !words.isEmpty()) {
+                notice(words);
+                return;
+            }
+        }
         m_chosen = std::move(paths);
         accept();
         return;

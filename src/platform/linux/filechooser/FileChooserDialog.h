@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,13 +23,18 @@ class PlacesList;
 
 /// What a chooser shows and lets choose.
 struct FileChooserSettings {
+    /// Why the item at a path may not be chosen, in words; empty when it may.
+    using Refusal = std::function<QString(const std::string& path)>;
+
     QString message;
     QString prompt = QStringLiteral("Open");
+    bool canChooseFiles = true;
     bool canChooseDirectories = false;
     bool allowsMultipleSelection = false;
     HiddenFiles hiddenFiles = HiddenFiles::Left;
     /// Where it opens; see NS::OpenPanel::setDirectoryURL. The home folder when not set.
     std::optional<std::string> directory;
+    Refusal refusal = [](const std::string&) { return QString(); };
 };
 
 /// The window that files are chosen in. Accepted, it has chosen at least one item. Main thread.
@@ -63,6 +69,7 @@ private:
     void updateConfirmButton();
     void confirmByKey();
     void confirm();
+    [[nodiscard]] bool mayBeChosen(const std::string& path) const;
     void choose(std::vector<std::string> paths);
     void notice(const QString& words);
 

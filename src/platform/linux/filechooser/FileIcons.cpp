@@ -10,39 +10,50 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QIcon themeIcon(const QString& name, const QString& genericName, QStyle::StandardPixmap fallback)
+QStyle::StandardPixmap fallbackFor(FileEntry::Kind kind)
 {
-    QIcon icon = QIcon::fromTheme(name);
-    if (icon.isNull())
-        icon = QIcon::fromTheme(genericName);
-    return icon.isNull() ? QApplication::style()->standardIcon(fallback) : icon;
+    switch (kind) {
+    case FileEntry::Kind::Folder:
+        return QStyle::SP_DirIcon;
+    case FileEntry::Kind::BrokenLink:
+        return QStyle::SP_FileLinkIcon;
+    case FileEntry::Kind::File:
+        break;
+    }
+    return QStyle::SP_FileIcon;
+}
+
+QIcon themeIcon(const QStringList& names, FileEntry::Kind kind)
+{
+    for (const QString& name : names) {
+        if (const QIcon icon = QIcon::fromTheme(name); !icon.isNull())
+            return icon;
+    }
+    return QApplication::style()->standardIcon(fallbackFor(kind));
 }
 
 } // namespace
 
-QIcon FileIcons::iconFor(const FileEntry& entry, const QString& name)
+QStringList FileIcons::iconNames(FileEntry::Kind kind, const QString& name) const
 {
-    QString iconName;
-    QString genericName = u"text-x-generic"_s;
-    QStyle::StandardPixmap fallback = QStyle::SP_FileIcon;
-    switch (entry.kind) {
+    switch (kind) {
     case FileEntry::Kind::Folder:
-        iconName = genericName = u"folder"_s;
-        fallback = QStyle::SP_DirIcon;
-        break;
+        return {u"folder"_s};
     case FileEntry::Kind::BrokenLink:
-        iconName = u"emblem-symbolic-link"_s;
-        fallback = QStyle::SP_FileLinkIcon;
-        break;
+        return {u"emblem-symbolic-link"_s, u"text-x-generic"_s};
     case FileEntry::Kind::File:
-        const QMimeType type = m_types.mimeTypeForFile(name, QMimeDatabase::MatchExtension);
-        iconName = type.iconName();
-        genericName = type.genericIconName();
         break;
     }
-    auto found = m_byName.constFind(iconName);
+    const QMimeType type = m_types.mimeTypeForFile(name, QMimeDatabase::MatchExtension);
+    return {type.iconName(), type.genericIconName(), u"text-x-generic"_s};
+}
+
+QIcon FileIcons::iconFor(const FileEntry& entry, const QString& name)
+{
+    const QStringList names = iconNames(entry.kind, name);
+    auto found = m_byName.constFind(names.front());
     if (found == m_byName.constEnd())
-        found = m_byName.insert(iconName, themeIcon(iconName, genericName, fallback));
+        found = m_byName.insert(names.front(), themeIcon(names, entry.kind));
     return *found;
 }
 

@@ -18,6 +18,8 @@ class FileList : public QTreeView {
 public:
     explicit FileList(QWidget* parent = nullptr);
 
+    /// Files that are not enabled are listed, but cannot be selected.
+    void setFilesEnabled(bool enabled) { m_model->setFilesEnabled(enabled); }
     /// Shows a folder's items from the top with `selected` selected and in sight, where it is among them.
     void showListing(FolderListing listing, const std::string& selected);
     /// Shows the same folder's items anew; what is selected stays so and the list stays where it is scrolled to.

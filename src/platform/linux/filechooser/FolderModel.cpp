@@ -1,6 +1,6 @@
 #include "platform/linux/filechooser/FolderModel.h"
 
-#include "platform/linux/filechooser/FileNameText.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <QDateTime>
 #include <QFont>
@@ -158,7 +158,8 @@ Qt::ItemFlags FolderModel::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    if (entry(index.row()).kind == FileEntry::Kind::BrokenLink)
+    const FileEntry::Kind kind = entry(index.row()).kind;
+    if (kind == FileEntry::Kind::BrokenLink || (kind == FileEntry::Kind::File && !m_filesEnabled))
         return Qt::ItemNeverHasChildren;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
 }

@@ -24,6 +24,8 @@ public:
 
     explicit FolderModel(QObject* parent = nullptr);
 
+    /// Before there are items.
+    void setFilesEnabled(bool enabled) { m_filesEnabled = enabled; }
     /// Shows these items. Does nothing when it shows just these already.
     void setEntries(std::vector<FileEntry> entries);
     [[nodiscard]] const FileEntry& entry(int row) const { return m_rows[static_cast<std::size_t>(row)].entry; }
@@ -51,6 +53,7 @@ private:
     std::vector<Row> m_rows;
     QCollator m_collator;
     mutable FileIcons m_icons;
+    bool m_filesEnabled = true;
     int m_sortColumn = Name;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };

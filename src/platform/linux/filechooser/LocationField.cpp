@@ -1,7 +1,7 @@
 #include "platform/linux/filechooser/LocationField.h"
 
-#include "platform/linux/filechooser/FileNameText.h"
 #include "platform/linux/filechooser/TypedPath.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>

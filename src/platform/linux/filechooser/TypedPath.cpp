@@ -1,8 +1,8 @@
 #include "platform/linux/filechooser/TypedPath.h"
 
-#include "platform/linux/filechooser/FileNameText.h"
 #include "platform/linux/filechooser/FilePath.h"
 #include "platform/linux/filechooser/FolderStream.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <QStringList>
 

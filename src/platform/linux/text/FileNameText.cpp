@@ -1,4 +1,4 @@
-#include "platform/linux/filechooser/FileNameText.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <algorithm>
 

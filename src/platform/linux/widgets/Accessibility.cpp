@@ -1,5 +1,7 @@
 #include "platform/linux/widgets/Accessibility.h"
 
+#include "platform/linux/widgets/CardWidget.h"
+#include "platform/linux/widgets/CollectionGrid.h"
 #include "platform/linux/widgets/RowList.h"
 #include "platform/linux/widgets/RowWidget.h"
 
@@ -51,6 +53,15 @@ public:
         QWidget* viewport = widget()->parentWidget();
         return viewport ? QAccessible::queryAccessibleInterface(viewport->parentWidget()) : nullptr;
     }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        const std::optional<bool> selected = static_cast<const RowWidget*>(widget())->isSelected();
+        state.selectable = selected.has_value();
+        state.selected = selected.value_or(false);
+        return state;
+    }
 };
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object)
@@ -59,6 +70,8 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
         return new AccessibleRowList(*list);
     if (auto* row = qobject_cast<RowWidget*>(object))
         return new AccessibleRow(*row);
+    if (qobject_cast<CollectionGrid*>(object) || qobject_cast<CardWidget*>(object))
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     return nullptr;
 }
 

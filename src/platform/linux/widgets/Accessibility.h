@@ -2,7 +2,8 @@
 
 namespace LinuxDesktop {
 
-/// Tells assistive programs what our own widgets are: a list, its rows. Call once, before the first window.
+/// Tells assistive programs what our own widgets are: a list and its rows, a grid and its cards. Call once, before
+/// the first window.
 void installAccessibility();
 
 } // namespace LinuxDesktop

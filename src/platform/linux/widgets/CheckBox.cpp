@@ -4,7 +4,7 @@
 
 namespace LinuxDesktop {
 
-CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent)
+CheckBox::CheckBox(QWidget* parent) : ButtonWidget(parent)
 {
     // Not clicked: assistive programs may toggle the box without a click.
     connect(this, &QCheckBox::toggled, this, [this] { sendAction(); });

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/Button.h"
+#include "platform/linux/widgets/ButtonWidget.h"
 
 #include <QCheckBox>
 
 namespace LinuxDesktop {
 
 /// A button of a scene that is on or off. Main thread.
-class CheckBox : public QCheckBox, public NS::Button {
+class CheckBox : public ButtonWidget<QCheckBox> {
     Q_OBJECT
 
 public:

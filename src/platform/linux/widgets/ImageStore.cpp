@@ -1,7 +1,5 @@
 #include "platform/linux/widgets/ImageStore.h"
 
-#include "platform/Image.h"
-
 #include <QFileInfo>
 #include <QIcon>
 #include <QPainter>
@@ -35,13 +33,22 @@ const TemplateImage* templateNamed(std::string_view name)
     return found == templateImages.end() ? nullptr : found;
 }
 
-QPixmap themeIcon(const TemplateImage& image, int extent, qreal scale)
+/// In front of the names of a theme image. No file is called so.
+const QString themePrefix = QStringLiteral("theme/");
+
+QPixmap themeIcon(const QStringList& names, int extent, qreal scale)
 {
-    for (const char* name : image.themeNames) {
-        if (const QIcon icon = QIcon::fromTheme(QString::fromLatin1(name)); !icon.isNull())
+    for (const QString& name : names) {
+        if (const QIcon icon = QIcon::fromTheme(name); !icon.isNull())
             return icon.pixmap(QSize(extent, extent), scale);
     }
     return {};
+}
+
+QPixmap themeIcon(const TemplateImage& image, int extent, qreal scale)
+{
+    return themeIcon({QString::fromLatin1(image.themeNames[0]), QString::fromLatin1(image.themeNames[1])}, extent,
+                     scale);
 }
 
 QPixmap transparentSquare(int extent, qreal scale)
@@ -70,6 +77,11 @@ void paint(QPixmap& shape, const QColor& tint)
 
 } // namespace
 
+NS::Image ImageStore::themeImage(const QStringList& names)
+{
+    return NS::Image((themePrefix + names.join(u'/')).toStdString());
+}
+
 bool ImageStore::contains(std::string_view name) const
 {
     return QFileInfo::exists(pathOf(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))));
@@ -93,6 +105,12 @@ QString ImageStore::pathOf(const QString& name) const
 
 QPixmap ImageStore::draw(const QString& name, int extent, qreal scale, const QColor& tint) const
 {
+    if (name.startsWith(themePrefix)) {
+        // Themes draw their icons of small sizes in outlines; the larger ones are told apart at a glance.
+        QPixmap icon = themeIcon(name.mid(themePrefix.size()).split(u'/'), 2 * extent, scale);
+        icon.setDevicePixelRatio(2 * scale);
+        return icon;
+    }
     const TemplateImage* image = templateNamed(name.toStdString());
     if (!image)
         return drawFile(pathOf(name), extent, scale);

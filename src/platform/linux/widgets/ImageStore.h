@@ -1,21 +1,27 @@
 #pragma once
 
+#include "platform/Image.h"
+
 #include <QColor>
 #include <QHash>
 #include <QPixmap>
 #include <QString>
+#include <QStringList>
 
 #include <string_view>
 
 namespace LinuxDesktop {
 
-/// The program's images, by the names that the code uses: SVG files in one folder, and the two template images,
-/// which come from the desktop's icon theme where it has them. Drawn when first shown, once a size. Main thread.
+/// The program's images, by the names that the code uses: SVG files in one folder, the two template images,
+/// which come from the desktop's icon theme where it has them, and the theme's own icons. Drawn when first shown,
+/// once a size. Main thread.
 class ImageStore {
 public:
     /// `folder` holds NAME.svg.
     explicit ImageStore(QString folder) : m_folder(std::move(folder)) {}
 
+    /// An icon of the desktop's theme: the first of `names` that the theme has.
+    [[nodiscard]] static NS::Image themeImage(const QStringList& names);
     [[nodiscard]] bool contains(std::string_view name) const;
     /// A square of `extent` logical pixels at `scale` device pixels each. A template image comes in `tint`.
     [[nodiscard]] QPixmap pixmap(const QString& name, int extent, qreal scale, const QColor& tint);

@@ -12,6 +12,8 @@ class ImageStore;
 /// A picture of a scene, drawn when it is painted. Main thread.
 class ImageWidget : public QWidget, public NS::ImageView {
     Q_OBJECT
+    /// The picture that the scene itself gives, by its name.
+    Q_PROPERTY(QString imageName MEMBER m_name)
 
 public:
     using QWidget::QWidget;

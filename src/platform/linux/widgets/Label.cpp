@@ -1,17 +1,112 @@
 #include "platform/linux/widgets/Label.h"
 
+#include "platform/linux/text/FileNameText.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+#include <algorithm>
+#include <array>
+
 namespace LinuxDesktop {
+
+namespace {
+
+/// The type scale of the panel.
+struct TextStyle {
+    QLatin1String name;
+    qreal scale;
+    QFont::Weight weight;
+    QPalette::ColorRole role;
+};
+
+constexpr std::array textStyles{
+    TextStyle{QLatin1String("title"), 1.6, QFont::DemiBold, QPalette::WindowText},
+    TextStyle{QLatin1String("heading"), 1.15, QFont::DemiBold, QPalette::WindowText},
+    TextStyle{QLatin1String("secondary"), 1.0, QFont::Normal, QPalette::PlaceholderText},
+};
+
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// As rich text a long text is wrapped; its own marks are not taken for markup.
+QString wrapped(const QString& text)
+{
+    return QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
+} // namespace
 
 Label::Label(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
 }
 
+void Label::setTextStyle(const QString& style)
+{
+    m_textStyle = style;
+    const auto* found = std::find_if(textStyles.begin(), textStyles.end(),
+                                     [&](const TextStyle& known) { return style == known.name; });
+    if (found == textStyles.end())
+        return;
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * found->scale);
+    font.setWeight(found->weight);
+    setFont(font);
+    setForegroundRole(found->role);
+}
+
 void Label::setStringValue(std::string_view text)
 {
-    const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    setText(shown);
-    emit textChanged(shown);
+    setText(m_isFileName ? fileNameText(text) : textOf(text));
+    emit textChanged(textOf(text));
+}
+
+void Label::setToolTip(std::string_view text)
+{
+    m_toolTip = fileNameText(text);
+}
+
+QSize Label::minimumSizeHint() const
+{
+    const QSize hint = QLabel::minimumSizeHint();
+    return wordWrap() ? hint : QSize(0, hint.height());
+}
+
+bool Label::isCut() const
+{
+    return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+void Label::paintEvent(QPaintEvent* event)
+{
+    if (!isCut()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    paintCut(painter);
+}
+
+void Label::paintCut(QPainter& painter)
+{
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()),
+                          foregroundRole());
+}
+
+bool Label::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    const QString tip = !m_toolTip.isEmpty() ? m_toolTip : isCut() ? text() : QString();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip.isEmpty() ? tip : wrapped(tip), this);
+    return true;
 }
 
 } // namespace LinuxDesktop

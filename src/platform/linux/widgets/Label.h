@@ -6,17 +6,41 @@
 
 namespace LinuxDesktop {
 
-/// A text of a scene, shown as it is: nothing in it is taken for markup. Main thread.
+/// A text of a scene, shown as it is: nothing in it is taken for markup. One on a single line is cut in its middle
+/// where the room is short, and then the whole of it is its tool tip. Main thread.
 class Label : public QLabel, public NS::TextField {
     Q_OBJECT
+    /// Whether the text is a file's name or path: one line, with a sign in the place of what cannot be shown.
+    Q_PROPERTY(bool fileName MEMBER m_isFileName)
+    /// "title", "heading" or "secondary"; any other is plain text.
+    Q_PROPERTY(QString textStyle READ textStyle WRITE setTextStyle)
 
 public:
     explicit Label(QWidget* parent = nullptr);
 
     void setStringValue(std::string_view text) override;
+    void setToolTip(std::string_view text) override;
+
+    [[nodiscard]] const QString& textStyle() const { return m_textStyle; }
+    void setTextStyle(const QString& style);
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     void textChanged(const QString& text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+    /// Whether the text has more than its room.
+    [[nodiscard]] virtual bool isCut() const;
+    virtual void paintCut(QPainter& painter);
+
+private:
+    QString m_textStyle;
+    QString m_toolTip;
+    bool m_isFileName = false;
 };
 
 } // namespace LinuxDesktop

@@ -3,6 +3,7 @@
 #include "platform/linux/widgets/WidgetScene.h"
 
 #include <QCloseEvent>
+#include <QDialog>
 #include <QScreen>
 
 namespace LinuxDesktop {
@@ -33,6 +34,12 @@ void MainWindow::makeKeyAndOrderFront()
         show();
     raise();
     activateWindow();
+}
+
+void MainWindow::endSheet(NS::Sheet& sheet)
+{
+    if (auto* dialog = dynamic_cast<QDialog*>(&sheet))
+        dialog->done(QDialog::Rejected);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -18,6 +18,7 @@ public:
 
     void setContentViewController(std::shared_ptr<NS::ViewController> controller) override;
     void makeKeyAndOrderFront() override;
+    void endSheet(NS::Sheet& sheet) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -15,6 +15,8 @@ public:
     {
         connect(&entry, &QAction::triggered, this, [this] { sendAction(); });
     }
+
+    void setEnabled(bool flag) override { static_cast<QAction*>(parent())->setEnabled(flag); }
 };
 
 } // namespace LinuxDesktop

@@ -1,57 +1,45 @@
 #include "platform/linux/widgets/PanelStyle.h"
 
-#include <QPainter>
+#include "platform/linux/widgets/ControlPainting.h"
+#include "platform/linux/widgets/ThemeColors.h"
+
+#include <QAbstractScrollArea>
 #include <QStyleOption>
+
+#include <algorithm>
 
 namespace LinuxDesktop {
 
 namespace {
 
 constexpr int boxExtent = 18;
-constexpr qreal cornerRadius = 4.0;
+constexpr int scrollBarExtent = 10;
+constexpr int shortestScrollHandle = 32;
 
-QColor mixed(const QColor& one, const QColor& other, float share)
+/// The groove goes on what lies beside it.
+QPalette::ColorRole grooveRole(const QWidget* scrollBar)
 {
-    const auto mix = [share](float from, float to) { return from + (to - from) * share; };
-    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
-                            mix(one.blueF(), other.blueF()));
-}
-
-void drawCheckBox(const QStyleOption& option, QPainter& painter)
-{
-    const QPalette& palette = option.palette;
-    const bool on = option.state & QStyle::State_On;
-    const bool hovered = option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus);
-    QColor fill = on ? palette.color(QPalette::Highlight) : palette.color(QPalette::Base);
-    if (option.state & QStyle::State_Sunken)
-        fill = mixed(fill, palette.color(QPalette::Text), 0.15F);
-    const QColor outline = on || hovered
-                               ? palette.color(QPalette::Highlight)
-                               : mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.55F);
-
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(outline, 1.5));
-    painter.setBrush(fill);
-    const QRectF box = QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75);
-    painter.drawRoundedRect(box, cornerRadius, cornerRadius);
-    if (on) {
-        painter.setPen(QPen(palette.color(QPalette::HighlightedText), box.width() / 8.0, Qt::SolidLine, Qt::RoundCap,
-                            Qt::RoundJoin));
-        const auto point = [&](qreal x, qreal y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
-        painter.drawPolyline(QPolygonF{{point(0.25, 0.53), point(0.43, 0.71), point(0.76, 0.31)}});
+    for (const QWidget* each = scrollBar; each; each = each->parentWidget()) {
+        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(each))
+            return area->viewport()->backgroundRole();
     }
-    painter.restore();
+    return QPalette::Base;
 }
 
-void drawFocus(const QStyleOption& option, QPainter& painter)
+/// The handle's place in a scroll bar that is nothing but its groove.
+QRect scrollHandle(const QStyleOptionSlider& option)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2.0));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
-    painter.restore();
+    const bool upright = option.orientation == Qt::Vertical;
+    const int groove = upright ? option.rect.height() : option.rect.width();
+    const qint64 range = qint64{option.maximum} - option.minimum;
+    if (range <= 0)
+        return {};
+    const auto natural = static_cast<int>(qint64{groove} * option.pageStep / (range + option.pageStep));
+    const int length = std::clamp(natural, std::min(shortestScrollHandle, groove), groove);
+    const int position = QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
+                                                         groove - length, option.upsideDown);
+    return upright ? QRect(option.rect.left(), option.rect.top() + position, option.rect.width(), length)
+                   : QRect(option.rect.left() + position, option.rect.top(), length, option.rect.height());
 }
 
 } // namespace
@@ -63,13 +51,82 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 {
     switch (element) {
     case PE_IndicatorCheckBox:
-        drawCheckBox(*option, *painter);
+        ControlPainting::drawCheckBox(*option, *painter);
+        break;
+    case PE_PanelButtonCommand:
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))
+            ControlPainting::drawButton(*button, *painter);
+        break;
+    case PE_FrameLineEdit:
+    case PE_PanelLineEdit:
+        ControlPainting::drawLineEdit(*option, *painter);
+        break;
+    case PE_Frame:
+        ControlPainting::drawFrame(*option, *painter, !qobject_cast<const QAbstractScrollArea*>(widget));
+        break;
+    case PE_FrameTabBarBase:
+        painter->fillRect(QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1),
+                          dividingLine(option->palette));
         break;
     case PE_FrameFocusRect:
-        drawFocus(*option, *painter);
+        ControlPainting::drawFocus(*option, *painter);
+        break;
+    case PE_PanelScrollAreaCorner:
         break;
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    if (element == CE_TabBarTabShape)
+        ControlPainting::drawTab(*option, *painter);
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    painter->fillRect(bar->rect, bar->palette.color(grooveRole(widget)));
+    if (const QRect handle = scrollHandle(*bar); handle.isValid())
+        ControlPainting::drawScrollHandle(*bar, handle, *painter);
+}
+
+QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
+                                 const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar)
+        return QProxyStyle::subControlRect(control, option, subControl, widget);
+    const QRect handle = scrollHandle(*bar);
+    QRect before = bar->rect;
+    QRect after = bar->rect;
+    if (bar->orientation == Qt::Vertical) {
+        before.setBottom(handle.top() - 1);
+        after.setTop(handle.bottom() + 1);
+    } else {
+        before.setRight(handle.left() - 1);
+        after.setLeft(handle.right() + 1);
+    }
+    switch (subControl) {
+    case SC_ScrollBarGroove:
+        return bar->rect;
+    case SC_ScrollBarSlider:
+        return handle;
+    case SC_ScrollBarSubPage:
+        return before;
+    case SC_ScrollBarAddPage:
+        return after;
+    default:
+        return {};
     }
 }
 
@@ -79,14 +136,15 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     switch (type) {
     case CT_PushButton:
-        return size + QSize(16, 4);
+        return size + QSize(16, 6);
     case CT_ItemViewItem:
     case CT_LineEdit:
         return size + QSize(0, 6);
     case CT_MenuBarItem:
     case CT_MenuItem:
-    case CT_TabBarTab:
         return size + QSize(8, 4);
+    case CT_TabBarTab:
+        return size + QSize(8, 8);
     default:
         return size;
     }
@@ -94,9 +152,23 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
 
 int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
-    if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight)
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
         return boxExtent;
-    return QProxyStyle::pixelMetric(metric, option, widget);
+    case PM_CheckBoxLabelSpacing:
+        return 8;
+    case PM_ScrollBarExtent:
+        return scrollBarExtent;
+    case PM_TabBarTabShiftVertical:
+    case PM_TabBarTabShiftHorizontal:
+    case PM_TabBarTabOverlap:
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
 }
 
 } // namespace LinuxDesktop

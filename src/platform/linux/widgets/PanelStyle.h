@@ -4,8 +4,8 @@
 
 namespace LinuxDesktop {
 
-/// The toolkit's plain style with the parts of its own that lists of checkboxes need: boxes that can be seen and
-/// hit, a focus that can be seen, and room around texts. Colours come from the palette. Main thread.
+/// The panel's own style: quiet outlines, round corners, room around texts, a focus that can be seen. It takes its
+/// colours from the palette.
 class PanelStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -14,6 +14,12 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
+                         const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;

@@ -2,7 +2,7 @@
 
 namespace LinuxDesktop {
 
-PushButton::PushButton(QWidget* parent) : QPushButton(parent)
+PushButton::PushButton(QWidget* parent) : ButtonWidget(parent)
 {
     connect(this, &QPushButton::clicked, this, [this] { sendAction(); });
 }
@@ -10,6 +10,13 @@ PushButton::PushButton(QWidget* parent) : QPushButton(parent)
 void PushButton::setState(NS::ControlState state)
 {
     setChecked(state == NS::ControlState::On);
+}
+
+void PushButton::setCustomButton(std::unique_ptr<NS::CustomButton> custom)
+{
+    m_custom = std::move(custom);
+    m_custom->setButton(*this);
+    m_custom->awakeFromNib();
 }
 
 } // namespace LinuxDesktop

@@ -5,12 +5,23 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace LinuxDesktop {
+
+namespace {
+
+bool isTabReason(const QFocusEvent& event)
+{
+    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+}
+
+} // namespace
 
 RowList::RowList(QWidget* parent) : QAbstractScrollArea(parent), m_emptyLabel(new QLabel(viewport()))
 {
@@ -59,6 +70,8 @@ void RowList::reloadData()
     m_loaded = true;
     m_rowCount = m_dataSource ? static_cast<int>(m_dataSource->numberOfRowsInTableView(*this)) : 0;
     m_emptyLabel->setVisible(m_rowCount == 0);
+    if (m_selectedRow >= m_rowCount)
+        m_selectedRow = -1;
     updateScrollRange();
     layOutRows(Refill::AllRows);
     setCurrentRow(m_currentRow);
@@ -171,12 +184,24 @@ void RowList::layOutRows(Refill refill)
             continue;
         RowWidget* widget = shown->second;
         widget->setGeometry(0, row * height - top, viewport()->width(), height);
-        if (widget->isCurrent() != (row == m_currentRow))
-            widget->setCurrent(row == m_currentRow);
+        showState(*widget, row);
         widget->show();
     }
+    makeSpareRow(last);
     // The list itself takes the focus only while its current row is out of sight.
     setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+/// Once the first and the last row in sight show in part only, there is one row more in sight than now.
+void RowList::makeSpareRow(int last)
+{
+    const int mostInSight = std::min(m_rowCount, (viewport()->height() - 1) / rowHeight() + 2);
+    const auto made = static_cast<int>(m_rows.size() + m_spareRows.size());
+    if (made >= mostInSight || last + 1 >= m_rowCount || m_rows.empty())
+        return;
+    fillRow(last + 1);
+    if (m_rows.contains(last + 1))
+        retireRow(last + 1);
 }
 
 void RowList::updateScrollRange()
@@ -210,11 +235,25 @@ int RowList::rowOf(const RowWidget& widget) const
 void RowList::setCurrentRow(int row)
 {
     m_currentRow = std::clamp(row, 0, std::max(m_rowCount - 1, 0));
-    for (const auto& [shownRow, widget] : m_rows) {
-        if (widget->isCurrent() != (shownRow == m_currentRow))
-            widget->setCurrent(shownRow == m_currentRow);
-    }
+    for (const auto& [shownRow, widget] : m_rows)
+        showState(*widget, shownRow);
     setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+void RowList::selectRow(int row)
+{
+    if (!m_selectable || row == m_selectedRow)
+        return;
+    m_selectedRow = row;
+    for (const auto& [shownRow, widget] : m_rows)
+        showState(*widget, shownRow);
+}
+
+void RowList::showState(RowWidget& widget, int row) const
+{
+    if (widget.isCurrent() != (row == m_currentRow))
+        widget.setCurrent(row == m_currentRow);
+    widget.setSelected(m_selectable ? std::optional(row == m_selectedRow) : std::nullopt);
 }
 
 void RowList::moveTo(int row, qsizetype control)
@@ -267,23 +306,46 @@ bool RowList::eventFilter(QObject* watched, QEvent* event)
         const auto shown = m_rows.find(m_currentRow);
         if (shown != m_rows.end()) {
             const qsizetype control = shown->second->controls().indexOf(static_cast<QWidget*>(watched));
-            if (control >= 0 && handleKey(pressed->key(), control))
+            if (control >= 0 && handleKey(pressed->key(), control)) {
+                selectRow(m_currentRow);
                 return true;
+            }
         }
     } else if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress) {
         // Whatever way the user came to a row, it is the current one from then on.
-        auto* row = qobject_cast<RowWidget*>(watched);
+        auto* pressed = qobject_cast<RowWidget*>(watched);
+        auto* row = pressed;
         if (!row && watched->parent())
             row = qobject_cast<RowWidget*>(watched->parent());
-        if (row && rowOf(*row) >= 0)
-            setCurrentRow(rowOf(*row));
+        const int number = row ? rowOf(*row) : -1;
+        if (number >= 0) {
+            setCurrentRow(number);
+            // A click on a control operates that control alone.
+            const bool tabbedTo = event->type() == QEvent::FocusIn && isTabReason(*static_cast<QFocusEvent*>(event));
+            if (pressed || (tabbedTo && m_selectedRow < 0))
+                selectRow(number);
+            if (pressed && m_selectable && !row->controls().isEmpty())
+                row->controls().front()->setFocus(Qt::MouseFocusReason);
+            // Not to be taken for a click below the rows.
+            if (pressed && event->type() == QEvent::MouseButtonPress)
+                return true;
+        }
     }
     return QAbstractScrollArea::eventFilter(watched, event);
 }
 
+void RowList::mousePressEvent(QMouseEvent* event)
+{
+    QAbstractScrollArea::mousePressEvent(event);
+    // Below the last row.
+    selectRow(-1);
+}
+
 void RowList::keyPressEvent(QKeyEvent* event)
 {
-    if (m_rowCount == 0 || !handleKey(event->key(), 0))
+    if (m_rowCount > 0 && handleKey(event->key(), 0))
+        selectRow(m_currentRow);
+    else
         QAbstractScrollArea::keyPressEvent(event);
 }
 

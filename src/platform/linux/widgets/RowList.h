@@ -22,6 +22,8 @@ class RowList : public QAbstractScrollArea, public NS::TableView {
     Q_OBJECT
     /// What an empty list says.
     Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+    /// Whether a row can be selected: with a click beside its controls, or with the keys that move through the rows.
+    Q_PROPERTY(bool selectable MEMBER m_selectable)
 
 public:
     /// Makes a row for an identifier; null where there is no such scene.
@@ -36,6 +38,7 @@ public:
     void setDelegate(NS::TableViewDelegate* delegate) { m_delegate = delegate; }
 
     void reloadData() override;
+    std::ptrdiff_t selectedRow() const override { return m_selectedRow; }
     NS::TableCellView* makeViewWithIdentifier_owner(std::string_view identifier, NS::SceneObject* owner) override;
 
     [[nodiscard]] QString emptyText() const;
@@ -50,6 +53,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -62,10 +66,13 @@ private:
 
     void layOutRows(Refill refill);
     void retireRow(int row);
+    void makeSpareRow(int last);
     void fillRow(int row);
     RowWidget* newRow(std::string_view identifier);
     void updateScrollRange();
     void setCurrentRow(int row);
+    void selectRow(int row);
+    void showState(RowWidget& widget, int row) const;
     void moveTo(int row, qsizetype control);
     bool handleKey(int key, qsizetype control);
     [[nodiscard]] int rowHeight();
@@ -81,6 +88,8 @@ private:
     bool m_stale = false;
     int m_rowHeight = 0;
     int m_currentRow = 0;
+    bool m_selectable = false;
+    int m_selectedRow = -1;
     std::map<int, RowWidget*> m_rows;
     std::vector<RowWidget*> m_spareRows;
     /// Row views handed out while a row is being filled.

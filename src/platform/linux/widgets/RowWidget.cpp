@@ -1,12 +1,20 @@
 #include "platform/linux/widgets/RowWidget.h"
 
 #include "platform/linux/widgets/Label.h"
+#include "platform/linux/widgets/ThemeColors.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QEvent>
 #include <QPainter>
 
 namespace LinuxDesktop {
+
+namespace {
+
+constexpr int selectionBarWidth = 3;
+
+} // namespace
 
 RowWidget::RowWidget(QWidget* parent) : QWidget(parent)
 {
@@ -37,16 +45,35 @@ void RowWidget::setCurrent(bool current)
     update();
 }
 
+void RowWidget::setSelected(std::optional<bool> selected)
+{
+    if (selected == m_selected)
+        return;
+    const bool wasKnown = m_selected.has_value();
+    m_selected = selected;
+    update();
+    if (!wasKnown)
+        return;
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 void RowWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     QColor tint = palette().color(QPalette::Text);
-    if (underMouse()) {
+    if (m_selected.value_or(false)) {
+        QColor selection = palette().color(QPalette::Highlight);
+        painter.fillRect(QRect(0, 0, selectionBarWidth, height() - 1), selection);
+        selection.setAlphaF(0.16F);
+        painter.fillRect(rect(), selection);
+    } else if (underMouse()) {
         tint.setAlphaF(0.05F);
         painter.fillRect(rect(), tint);
     }
-    tint.setAlphaF(0.10F);
-    painter.fillRect(QRect(0, height() - 1, width(), 1), tint);
+    painter.fillRect(QRect(0, height() - 1, width(), 1), dividingLine(palette()));
 }
 
 } // namespace LinuxDesktop

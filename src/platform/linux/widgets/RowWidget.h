@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 namespace LinuxDesktop {
 
@@ -30,6 +31,10 @@ public:
     void setCurrent(bool current);
     [[nodiscard]] bool isCurrent() const { return m_current; }
 
+    /// Nothing in a list whose rows cannot be selected.
+    void setSelected(std::optional<bool> selected);
+    [[nodiscard]] std::optional<bool> isSelected() const { return m_selected; }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -37,6 +42,7 @@ private:
     std::unique_ptr<NS::TableCellView> m_cell;
     QList<QWidget*> m_controls;
     bool m_current = false;
+    std::optional<bool> m_selected;
 };
 
 } // namespace LinuxDesktop

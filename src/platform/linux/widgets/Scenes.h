@@ -7,7 +7,6 @@
 
 namespace LinuxDesktop {
 
-[[nodiscard]] bool hasScene(std::string_view identifier);
 /// The widgets of a scene of the storyboard "Main"; null where there is no such scene.
 [[nodiscard]] std::unique_ptr<QWidget> makeScene(std::string_view identifier);
 

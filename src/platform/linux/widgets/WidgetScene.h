@@ -2,23 +2,32 @@
 
 #include "platform/ViewController.h"
 
+#include <QObject>
 #include <QPointer>
 #include <QWidget>
 
 namespace LinuxDesktop {
 
-/// The widgets that a controller's scene was made of. Main thread.
-class WidgetScene : public NS::Controller::Scene {
+/// The widgets that a controller's scene was made of. Tells a view controller when they come into sight and leave
+/// it. Main thread.
+class WidgetScene : public QObject, public NS::Controller::Scene {
+    Q_OBJECT
+
 public:
-    explicit WidgetScene(std::unique_ptr<QWidget> root) : m_root(root.release()) {}
+    /// `controller` owns the scene.
+    WidgetScene(std::unique_ptr<QWidget> root, NS::Controller& controller);
     ~WidgetScene() override;
 
+    [[nodiscard]] NS::Rect frame() const override;
     /// The widget of the controller's scene.
     [[nodiscard]] static QWidget& rootOf(const NS::Controller& controller);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // A window that shows the scene takes the widget as its child, and may go first.
     QPointer<QWidget> m_root;
+    NS::ViewController* m_viewController;
 };
 
 } // namespace LinuxDesktop

@@ -1,10 +1,13 @@
 #include "platform/linux/widgets/WidgetStoryboard.h"
 
+#include "platform/CollectionView.h"
 #include "platform/FatalError.h"
 #include "platform/TableView.h"
 #include "platform/WindowController.h"
+#include "platform/linux/widgets/CollectionGrid.h"
 #include "platform/linux/widgets/ImageWidget.h"
 #include "platform/linux/widgets/MainWindow.h"
+#include "platform/linux/widgets/PushButton.h"
 #include "platform/linux/widgets/RowList.h"
 #include "platform/linux/widgets/RowWidget.h"
 #include "platform/linux/widgets/Scenes.h"
@@ -15,7 +18,7 @@ namespace LinuxDesktop {
 
 namespace {
 
-/// An object of the class that the scene's root names.
+/// An object of the class that the root of a scene, or a button in it, names.
 template<class T>
 T makeCustomClass(const NS::ClassTable::Makers<T>& makers, const QWidget& root)
 {
@@ -28,11 +31,6 @@ T makeCustomClass(const NS::ClassTable::Makers<T>& makers, const QWidget& root)
 
 } // namespace
 
-bool WidgetStoryboard::contains(std::string_view identifier) const
-{
-    return hasScene(identifier);
-}
-
 std::shared_ptr<NS::Controller> WidgetStoryboard::instantiateControllerWithIdentifier(std::string_view identifier)
 {
     std::unique_ptr<QWidget> root = makeScene(identifier);
@@ -44,13 +42,22 @@ std::shared_ptr<NS::Controller> WidgetStoryboard::instantiateControllerWithIdent
     SceneConnections connections(root.get());
     controller->connect(connections);
     connections.wire(m_responders);
-    controller->setScene(std::make_unique<WidgetScene>(std::move(root)));
+    wakeButtons(*root);
+    controller->setScene(std::make_unique<WidgetScene>(std::move(root), *controller));
 
     if (auto* screen = dynamic_cast<NS::ViewController*>(controller.get()))
         screen->viewDidLoad();
     else if (auto* window = dynamic_cast<NS::WindowController*>(controller.get()))
         window->windowDidLoad();
     return controller;
+}
+
+void WidgetStoryboard::wakeButtons(QWidget& root)
+{
+    for (auto* button : root.findChildren<PushButton*>()) {
+        if (button->property("customClass").isValid())
+            button->setCustomButton(makeCustomClass(m_classes.buttons, *button));
+    }
 }
 
 void WidgetStoryboard::furnish(QWidget& root, NS::Controller& controller)
@@ -61,6 +68,12 @@ void WidgetStoryboard::furnish(QWidget& root, NS::Controller& controller)
         list->setRowMaker([this](std::string_view identifier) { return makeRow(identifier); });
         list->setDataSource(dynamic_cast<NS::TableViewDataSource*>(&controller));
         list->setDelegate(dynamic_cast<NS::TableViewDelegate*>(&controller));
+    }
+    for (auto* grid : root.findChildren<CollectionGrid*>()) {
+        grid->setItemMaker([this](std::string_view identifier) {
+            return std::dynamic_pointer_cast<NS::CollectionViewItem>(instantiateControllerWithIdentifier(identifier));
+        });
+        grid->setDataSource(dynamic_cast<NS::CollectionViewDataSource*>(&controller));
     }
     for (auto* tabs : root.findChildren<TabPages*>()) {
         tabs->setLoader([this](std::string_view scene) {

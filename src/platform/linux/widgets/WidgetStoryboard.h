@@ -23,11 +23,11 @@ public:
         : m_classes(classes), m_images(images), m_responders(responders)
     {}
 
-    bool contains(std::string_view identifier) const override;
     std::shared_ptr<NS::Controller> instantiateControllerWithIdentifier(std::string_view identifier) override;
 
 private:
     std::unique_ptr<RowWidget> makeRow(std::string_view identifier);
+    void wakeButtons(QWidget& root);
     void furnish(QWidget& root, NS::Controller& controller);
 
     const NS::ClassTable& m_classes;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "extension/BusService.h"
+#include "extension/Handles.h"
+#include "extension/PanelLink.h"
+#include "extension/SettingsWatch.h"
+#include "extension/SuiteReader.h"
+
+#include <string>
+#include <vector>
+
+namespace MenuExtension {
+
+/// The program: it holds the settings of the shared suite and the directories to watch, keeps both fresh, and shows
+/// them on the bus.
+class Companion {
+public:
+    /// Reads the settings. `event` and `bus` must outlive the companion.
+    Companion(sd_event& event, sd_bus& bus, std::string settingsFolder);
+    Companion(const Companion&) = delete;
+    Companion& operator=(const Companion&) = delete;
+
+    /// Takes its place on the bus; everything else happens in the event loop, which ends with status 0 when the
+    /// companion is asked to quit or the bus goes. -EEXIST when another companion runs; another negative error number
+    /// when the bus did not answer well.
+    [[nodiscard]] int start();
+
+private:
+    void takeSettings();
+    void followSettings();
+    void watchDirectories(const std::vector<std::string>& addresses);
+    void end();
+
+    sd_event& m_event;
+    sd_bus& m_bus;
+    SuiteReader m_suite;
+    SettingsWatch m_watch;
+    CompanionState m_state;
+    BusService m_service;
+    PanelLink m_panel;
+    EventSource m_settingsChanges;
+    BusSlot m_busEnd;
+};
+
+} // namespace MenuExtension

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/Value.h"
+#include "platform/linux/defaults/FileOperations.h"
+#include "platform/linux/defaults/SettingsFile.h"
+
+#include <optional>
+#include <string>
+
+namespace MenuExtension {
+
+/// Reads the shared suite and never changes it: what is damaged is left for the panel to mend.
+class SuiteReader {
+public:
+    explicit SuiteReader(std::string settingsFolder);
+
+    /// The values that the panel finds when it reads now: none where there is no file, those of the last good copy
+    /// where the file is damaged. Nothing where it cannot be read at all. What is wrong gets one line on standard
+    /// error.
+    [[nodiscard]] std::optional<NS::Value::Dictionary> read();
+
+    [[nodiscard]] const std::string& path() const { return m_file.path(); }
+
+private:
+    void say(const std::string& complaint);
+
+    LinuxDesktop::FileOperations m_operations;
+    LinuxDesktop::SettingsFile m_file;
+    /// What standard error has been told, so that it is told once.
+    std::string m_complaint;
+};
+
+} // namespace MenuExtension

@@ -1,0 +1,47 @@
+#include "platform/linux/DesktopWorkspace.h"
+
+#include "platform/linux/desktop/OpenAddress.h"
+#include "platform/linux/text/FileNameText.h"
+#include "platform/linux/widgets/ImageStore.h"
+
+#include <QCoreApplication>
+
+#include <string>
+#include <sys/stat.h>
+
+namespace LinuxDesktop {
+
+namespace {
+
+/// Where extensions are switched on and off: a pane of the system's on the panel's first desktop, a program of ours
+/// here.
+constexpr std::string_view extensionsPane = "/System/Library/PreferencePanes/Extensions.prefPane";
+constexpr const char* extensionsProgram = "/orvik-menu-extensions";
+
+} // namespace
+
+DesktopWorkspace::DesktopWorkspace(SessionBus& bus) : m_bus(bus), m_running(bus) {}
+
+bool DesktopWorkspace::openURL(const NS::URL& url)
+{
+    if (url.path() == extensionsPane)
+        return startProgram(QCoreApplication::applicationDirPath().toStdString() + extensionsProgram);
+    return openAddress(m_bus, url.absoluteString());
+}
+
+NS::Image DesktopWorkspace::iconForFile(std::string_view path)
+{
+    struct stat status = {};
+    const bool exists = ::stat(std::string(path).c_str(), &status) == 0;
+    if (!exists)
+        return ImageStore::themeImage({QStringLiteral("unknown"), QStringLiteral("text-x-generic")});
+    const auto kind = S_ISDIR(status.st_mode) ? FileEntry::Kind::Folder : FileEntry::Kind::File;
+    return ImageStore::themeImage(m_icons.iconNames(kind, fileNameText(path)));
+}
+
+std::vector<NS::RunningApplication> DesktopWorkspace::runningApplications()
+{
+    return m_running.list();
+}
+
+} // namespace LinuxDesktop

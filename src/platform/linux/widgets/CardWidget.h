@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+namespace LinuxDesktop {
+
+/// A card of a grid: a sheet with the widgets of its scene. Assistive programs know it and its buttons by the title
+/// that it shows. Main thread.
+class CardWidget : public QWidget {
+    Q_OBJECT
+    /// The name of the label with the card's title. It lies in the same scene.
+    Q_PROPERTY(QString titleLabel MEMBER m_titleLabel)
+
+public:
+    using QWidget::QWidget;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void tellTitle(const QString& title);
+
+    QString m_titleLabel;
+    bool m_followsTitle = false;
+};
+
+} // namespace LinuxDesktop

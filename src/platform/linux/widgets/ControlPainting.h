@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPainter>
+#include <QStyleOption>
+
+/// How the panel's style draws controls, from the palette of the option.
+namespace LinuxDesktop::ControlPainting {
+
+void drawCheckBox(const QStyleOption& option, QPainter& painter);
+void drawButton(const QStyleOptionButton& option, QPainter& painter);
+void drawTab(const QStyleOption& option, QPainter& painter);
+void drawLineEdit(const QStyleOption& option, QPainter& painter);
+/// The frame around a list or a group of controls; `filled` with the base colour.
+void drawFrame(const QStyleOption& option, QPainter& painter, bool filled);
+void drawFocus(const QStyleOption& option, QPainter& painter);
+void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter);
+
+} // namespace LinuxDesktop::ControlPainting

@@ -1,0 +1,95 @@
+#include "platform/linux/widgets/WidgetAlert.h"
+
+#include "platform/linux/widgets/AlertDialog.h"
+
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QWindow>
+
+namespace LinuxDesktop {
+
+namespace {
+
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+} // namespace
+
+WidgetAlert::~WidgetAlert()
+{
+    if (m_dialog && !m_dialog->isVisible())
+        delete m_dialog.data();
+}
+
+AlertDialog& WidgetAlert::dialog()
+{
+    if (!m_dialog) {
+        m_dialog = new AlertDialog;
+        setAlertStyle(NS::AlertStyle::Warning);
+    }
+    return *m_dialog;
+}
+
+void WidgetAlert::setAlertStyle(NS::AlertStyle style)
+{
+    dialog().setIcon(style == NS::AlertStyle::Warning ? QStringLiteral("dialog-warning")
+                                                      : QStringLiteral("dialog-information"));
+}
+
+void WidgetAlert::setMessageText(std::string_view text)
+{
+    dialog().setMessage(textOf(text));
+}
+
+void WidgetAlert::setInformativeText(std::string_view text)
+{
+    dialog().setInformation(textOf(text));
+}
+
+void WidgetAlert::addButtonWithTitle(std::string_view title)
+{
+    dialog().addButton(textOf(title));
+}
+
+std::vector<NS::Button*> WidgetAlert::buttons()
+{
+    const auto& buttons = dialog().buttons();
+    return {buttons.begin(), buttons.end()};
+}
+
+NS::Sheet& WidgetAlert::window()
+{
+    return dialog();
+}
+
+void WidgetAlert::beginSheetModalForWindow(NS::Window& parent)
+{
+    AlertDialog& sheet = dialog();
+    auto* window = dynamic_cast<QWidget*>(&parent);
+    sheet.setParent(window, sheet.windowFlags());
+    sheet.setWindowTitle(window->windowTitle());
+    sheet.setWindowModality(Qt::WindowModal);
+    QObject::connect(&sheet, &QDialog::finished, &sheet, &QObject::deleteLater);
+    sheet.show();
+}
+
+void WidgetAlert::runModal()
+{
+    const ModalState::Session session(m_modalState);
+    AlertDialog& panel = dialog();
+    panel.setWindowTitle(QGuiApplication::applicationDisplayName());
+    panel.setWindowModality(Qt::ApplicationModal);
+    panel.setAttribute(Qt::WA_QuitOnClose, false);
+    panel.winId();
+    panel.windowHandle()->setTransientParent(QGuiApplication::focusWindow());
+    QEventLoop loop;
+    QObject::connect(&panel, &QDialog::finished, &loop, &QEventLoop::quit);
+    panel.show();
+    panel.raise();
+    panel.activateWindow();
+    loop.exec();
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+/// One of the maker's other applications. Its number, counted from 1, is its place in the catalogue.
+struct ShowcaseApplication {
+    std::string_view title;
+    /// Where the application lies when it is installed.
+    std::string_view installedPath;
+    /// One of "Productivity", "Utilities", "Photo & Video", "Lifestyle" and "Business".
+    std::string_view category;
+    std::string_view image;
+    /// Its page in the store.
+    std::string_view storeAddress;
+    /// One sentence.
+    std::string_view description;
+};
+
+inline constexpr std::array showcaseCatalogue{
+    ShowcaseApplication{
+        "Tessel",
+        "/Applications/Tessel.app",
+        "Photo & Video",
+        "showcase-tessel",
+        "macappstore://apps.orvik.example/app/id1000000001",
+        "Turn hundreds of small photos into one large picture that stays sharp however close you look.",
+    },
+    ShowcaseApplication{
+        "Mirelo",
+        "/Applications/Mirelo.app",
+        "Photo & Video",
+        "showcase-mirelo",
+        "macappstore://apps.orvik.example/app/id1000000002",
+        "Trim, join and turn your video clips without losing quality or waiting for an export.",
+    },
+    ShowcaseApplication{
+        "Kelvo",
+        "/Applications/Kelvo.app",
+        "Photo & Video",
+        "showcase-kelvo",
+        "macappstore://apps.orvik.example/app/id1000000003",
+        "Warm or cool the light of a whole photo shoot at once, and compare it with the original as you go.",
+    },
+    ShowcaseApplication{
+        "Dravet",
+        "/Applications/Dravet.app",
+        "Photo & Video",
+        "showcase-dravet",
+        "macappstore://apps.orvik.example/app/id1000000004",
+        "Record your screen, your voice and your camera together, ready to share the moment you stop.",
+    },
+    ShowcaseApplication{
+        "Pallix",
+        "/Applications/Pallix.app",
+        "Productivity",
+        "showcase-pallix",
+        "macappstore://apps.orvik.example/app/id1000000005",
+        "Pick any colour on your screen and keep your palettes in one place, ready to paste into your work.",
+    },
+    ShowcaseApplication{
+        "Ostrel",
+        "/Applications/Ostrel.app",
+        "Lifestyle",
+        "showcase-ostrel",
+        "macappstore://apps.orvik.example/app/id1000000006",
+        "Keep well at your desk with gentle reminders to drink, to stretch and to look into the distance.",
+    },
+    ShowcaseApplication{
+        "Fennic",
+        "/Applications/Fennic.app",
+        "Utilities",
+        "showcase-fennic",
+        "macappstore://apps.orvik.example/app/id1000000007",
+        "Find any file as you type, even inside archives and on disks that are not plugged in.",
+    },
+    ShowcaseApplication{
+        "Yarrow",
+        "/Applications/Yarrow.app",
+        "Productivity",
+        "showcase-yarrow",
+        "macappstore://apps.orvik.example/app/id1000000008",
+        "Collect notes, lists and clippings in a notebook that is always one keystroke away.",
+    },
+    ShowcaseApplication{
+        "Corvane",
+        "/Applications/Corvane.app",
+        "Productivity",
+        "showcase-corvane",
+        "macappstore://apps.orvik.example/app/id1000000009",
+        "See every calendar and every deadline on one timeline, and move your plans until the week fits.",
+    },
+    ShowcaseApplication{
+        "Brindle",
+        "/Applications/Brindle.app",
+        "Utilities",
+        "showcase-brindle",
+        "macappstore://apps.orvik.example/app/id1000000010",
+        "See at a glance what fills your disk, and clear away duplicates, leftovers and old downloads.",
+    },
+    ShowcaseApplication{
+        "Salvik",
+        "/Applications/Salvik.app",
+        "Business",
+        "showcase-salvik",
+        "macappstore://apps.orvik.example/app/id1000000011",
+        "Write an invoice in a minute, send it as a PDF, and always know who has yet to pay.",
+    },
+    ShowcaseApplication{
+        "Quenby",
+        "/Applications/Quenby.app",
+        "Utilities",
+        "showcase-quenby",
+        "macappstore://apps.orvik.example/app/id1000000012",
+        "Rename thousands of files at once by rules that you can read, with a preview of every new name.",
+    },
+    ShowcaseApplication{
+        "Tavrin",
+        "/Applications/Tavrin.app",
+        "Utilities",
+        "showcase-tavrin",
+        "macappstore://apps.orvik.example/app/id1000000013",
+        "Keep an eye on processor, memory and network with a small, quiet meter in the menu bar.",
+    },
+    ShowcaseApplication{
+        "Orlet",
+        "/Applications/Orlet.app",
+        "Productivity",
+        "showcase-orlet",
+        "macappstore://apps.orvik.example/app/id1000000014",
+        "Keep everything that you copy, and paste any of it again by typing a few of its letters.",
+    },
+    ShowcaseApplication{
+        "Ferrix",
+        "/Applications/Ferrix.app",
+        "Utilities",
+        "showcase-ferrix",
+        "macappstore://apps.orvik.example/app/id1000000015",
+        "Lock your private folders with strong encryption, and open them again with a single password.",
+    },
+    ShowcaseApplication{
+        "Lumet",
+        "/Applications/Lumet.app",
+        "Productivity",
+        "showcase-lumet",
+        "macappstore://apps.orvik.example/app/id1000000016",
+        "Dim everything but the window you work in, so that your attention stays where it belongs.",
+    },
+    ShowcaseApplication{
+        "Pendra",
+        "/Applications/Pendra.app",
+        "Productivity",
+        "showcase-pendra",
+        "macappstore://apps.orvik.example/app/id1000000017",
+        "Work in focused stretches with a break after each, and see at the end of the week where the hours went.",
+    },
+};

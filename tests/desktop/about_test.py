@@ -1,0 +1,105 @@
+"""The About page: the version, and the pages that its buttons open."""
+
+import os
+import unittest
+
+from support.case import DesktopTestCase
+from support.handler import install_handler
+from support.pointer import Pointer
+from support.waiting import eventually, throughout
+
+OPENED = b"default browser was successfully opened\n"
+A_MOMENT = 0.5
+
+PAGES = {
+    "Web Site": "http://orvikstudio.example/",
+    "Twitter": "https://twitter.example/orvikapp",
+    "Facebook": "https://facebook.example/orvik.studio",
+}
+
+
+class About(DesktopTestCase):
+    def start(self):
+        self.panel = self.start_panel(PATH="/usr/bin:/bin")
+        self.panel.output_expected = True
+        self.panel.complaints()
+        self.window = self.panel.main_window()
+        self.hands.click(self.window.find("page tab", "About").extents)
+        eventually(lambda: self.window.find("push button", "Web Site"), "the About page")
+
+    def press_button(self, name):
+        self.hands.click(self.window.find("push button", name).extents)
+
+    def test_the_version_is_told(self):
+        self.start()
+
+        self.assertTrue(self.window.find("label", "Version 2.0"))
+        self.save_picture("about")
+
+    def test_each_button_opens_its_page_and_says_so_in_one_line(self):
+        opened = install_handler(self.home, "x-scheme-handler/http", "x-scheme-handler/https")
+        self.start()
+        for number, (name, address) in enumerate(PAGES.items(), 1):
+            self.press_button(name)
+            self.assertEventuallyEqual(opened, list(PAGES.values())[:number])
+            self.assertEventuallyEqual(self.panel.standard_output, OPENED * number)
+            self.assertEqual(address, opened()[-1])
+
+    def test_without_a_browser_nothing_is_said(self):
+        install_handler(self.home)
+        self.start()
+        self.press_button("Web Site")
+
+        throughout(lambda: self.panel.standard_output() == b"" and self.panel.is_running(), "nothing happens", 2.0)
+
+    def test_the_rate_button_opens_the_store_and_says_nothing(self):
+        opened = install_handler(self.home, "x-scheme-handler/macappstore")
+        self.start()
+        self.press_button("Rate Orvik Menu")
+
+        self.assertEventuallyEqual(opened, ["macappstore://apps.orvik.example/app/id10000001"])
+        throughout(lambda: self.panel.standard_output() == b"", "nothing is said", A_MOMENT)
+
+    def test_a_store_address_that_nothing_opens_does_nothing(self):
+        install_handler(self.home)
+        self.start()
+        self.press_button("Rate Orvik Menu")
+
+        throughout(lambda: self.panel.standard_output() == b"" and self.panel.is_running(), "nothing happens", 2.0)
+
+    def test_the_menu_entry_shows_the_page(self):
+        self.start()
+        self.hands.click(self.window.find("page tab", "Menu Items").extents)
+        eventually(lambda: self.window.find("check box", "Open Terminal"), "the menu items")
+        self.hands.press("alt+o")
+        eventually(lambda: self.window.find("menu item", "About Orvik Menu"), "the menu")
+        self.hands.press("a")
+
+        eventually(lambda: self.window.find("push button", "Web Site"), "the About page")
+
+    def test_the_pointer_is_a_hand_over_the_buttons_of_a_window_behind_another_too(self):
+        self.start()
+        pointer = Pointer(self.display.name)
+        self.addCleanup(pointer.close)
+        elsewhere = self.window.find("label", "Version 2.0").extents
+        button = self.window.find("push button", "Twitter").extents
+        self.hands.move_to(elsewhere)
+        throughout(lambda: True, "", A_MOMENT)
+        arrow = pointer.shape()
+        self.hands.move_to(button)
+        eventually(lambda: pointer.shape() != arrow, "the pointing hand")
+        hand = pointer.shape()
+        self.hands.move_to(elsewhere)
+        self.assertEventuallyEqual(pointer.shape, arrow)
+
+        self.start_program("orvik-menu-extensions")
+        eventually(lambda: self.windows.title(self.windows.active()) == "Extensions", "another window to be active")
+        self.hands.place(self.windows.active(), 0, 0)
+        self.hands.move_to(button)
+        self.assertEventuallyEqual(pointer.shape, hand)
+        self.hands.move_to(elsewhere)
+        self.assertEventuallyEqual(pointer.shape, arrow)
+
+
+if __name__ == "__main__":
+    unittest.main()

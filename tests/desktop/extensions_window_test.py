@@ -1,0 +1,187 @@
+"""The Extensions window: switching the companion on and off."""
+
+import os
+import shutil
+import signal
+import subprocess
+import unittest
+
+from gi.repository import GLib
+
+from support.buses import call_bus
+from support.case import EXTENSION, DesktopTestCase
+from support.waiting import eventually, throughout
+
+WINDOW = "Extensions"
+TITLE = "Orvik Menu Extension"
+
+ON = "It is running, and it starts at log-in."
+OFF = "It is switched off."
+ONLY_AT_LOG_IN = "It is set to start at log-in, but it is not running."
+ONLY_NOW = "It is running, but it is not set to start at log-in."
+
+# Takes from root what lets it write everywhere, so that it meets what anybody else meets.
+WITHOUT_PRIVILEGES = ([shutil.which("setpriv"), "--bounding-set=-dac_override,-dac_read_search"]
+                      if os.geteuid() == 0 else [])
+
+
+class ExtensionsWindow(DesktopTestCase):
+    def setUp(self):
+        super().setUp()
+        self.folder = os.path.join(self.home.configuration, "autostart")
+        self.entry = os.path.join(self.folder, EXTENSION + ".desktop")
+        self.addCleanup(self.kill_companion)
+
+    def start(self, **options):
+        self.program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-extensions"), **options)
+        self.window = self.program.active_window(WINDOW)
+
+    @property
+    def switch(self):
+        return self.window.find("check box", TITLE)
+
+    def texts(self):
+        return [label.name for label in self.window.all("label")]
+
+    def companion(self):
+        """The process that owns the companion's name; 0 for none."""
+        try:
+            return call_bus(self.bus.connection, "GetConnectionUnixProcessID", GLib.Variant("(s)", (EXTENSION,)))[0]
+        except LookupError:
+            return 0
+
+    def kill_companion(self):
+        process = self.companion()
+        if process:
+            os.kill(process, signal.SIGKILL)
+            eventually(lambda: not self.companion(), "the companion to have gone")
+
+    def assertShows(self, words, on):
+        eventually(lambda: words in self.texts(), f"“{words}” among {self.texts()}")
+        self.assertEqual(self.switch.has("checked"), on)
+
+    def switch_on(self):
+        self.switch.act("Toggle")
+        self.assertShows(ON, on=True)
+
+    def test_switching_on_starts_the_companion_now_and_at_log_in(self):
+        self.start()
+        self.assertShows(OFF, on=False)
+        self.save_picture("extensions-off")
+        self.hands.click(self.switch.extents)
+
+        self.assertShows(ON, on=True)
+        self.save_picture("extensions-on")
+        self.assertTrue(self.companion())
+        program = os.path.join(self.programs, "orvik-menu-extension")
+        with open(self.entry, encoding="utf-8") as file:
+            lines = file.read().splitlines()
+        self.assertEqual(lines[0], "[Desktop Entry]")
+        self.assertIn(f"Exec={os.path.realpath(program)}", lines)
+        self.assertEqual(os.stat(self.entry).st_mode & 0o777, 0o644)
+
+    def test_switching_off_ends_it_now_and_for_the_log_ins_to_come(self):
+        self.start()
+        self.switch_on()
+        self.switch.act("Toggle")
+
+        self.assertShows(OFF, on=False)
+        self.assertFalse(self.companion())
+        self.assertEqual(os.listdir(self.folder), [])
+
+    def test_the_keyboard_is_enough(self):
+        self.start()
+        self.hands.press("Tab")
+        eventually(lambda: self.window.focused() == self.switch, "the switch to have the keyboard")
+        self.hands.press("space")
+        self.assertShows(ON, on=True)
+        self.hands.press("space")
+        self.assertShows(OFF, on=False)
+
+    def test_the_keys_that_close_a_window_end_the_program_and_not_the_companion(self):
+        for keys in ("Escape", "ctrl+w", "ctrl+q"):
+            with self.subTest(keys=keys):
+                self.start()
+                if not self.companion():
+                    self.switch_on()
+                self.hands.press(keys)
+                self.assertEqual(self.program.wait_for_end(), 0)
+                throughout(self.companion, "the companion runs", 0.2)
+
+    def test_a_companion_that_was_killed_is_told_of_and_started_again(self):
+        self.start()
+        self.switch_on()
+        self.kill_companion()
+
+        self.assertShows(ONLY_AT_LOG_IN, on=False)
+        self.save_picture("extensions-killed")
+        self.switch_on()
+        self.assertTrue(self.companion())
+
+    def test_an_entry_that_somebody_else_removes_is_told_of(self):
+        self.start()
+        self.switch_on()
+        os.remove(self.entry)
+
+        self.assertShows(ONLY_NOW, on=False)
+
+    def test_a_folder_that_cannot_be_written_is_told_of_and_nothing_is_claimed(self):
+        os.mkdir(self.folder)
+        os.chmod(self.folder, 0o500)
+        self.addCleanup(os.chmod, self.folder, 0o700)
+        self.start(wrapper=WITHOUT_PRIVILEGES)
+        self.switch.act("Toggle")
+
+        self.assertShows(f"Could not write {self.entry}: Permission denied.", on=False)
+        self.save_picture("extensions-unwritable")
+        throughout(lambda: not self.companion(), "no companion runs", 0.3)
+        self.assertEqual(os.listdir(self.folder), [])
+
+    def test_a_folder_that_cannot_be_written_leaves_the_companion_on(self):
+        self.start()
+        self.switch_on()
+        self.program.close()
+        os.chmod(self.folder, 0o500)
+        self.addCleanup(os.chmod, self.folder, 0o700)
+        self.start(wrapper=WITHOUT_PRIVILEGES)
+        self.switch.act("Toggle")
+
+        self.assertShows(f"Could not remove {self.entry}: Permission denied.", on=True)
+        throughout(self.companion, "the companion runs", 0.3)
+
+    def test_a_second_start_brings_the_first_to_the_front(self):
+        self.start()
+        first = self.program
+        window, = self.windows.of_process(first.process_id)
+        self.hands.iconify(window)
+        eventually(lambda: self.windows.is_iconified(window), "the window to be iconified")
+        second = self.start_panel(program=os.path.join(self.programs, "orvik-menu-extensions"))
+
+        self.assertEqual(second.wait_for_end(), 0)
+        first.active_window(WINDOW)
+        self.assertFalse(self.windows.is_iconified(window))
+
+    def test_without_a_session_bus_the_switch_cannot_be_operated(self):
+        # Without a bus there is no accessibility either, so the window is looked at from outside.
+        program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-extensions"),
+                                   without=["DBUS_SESSION_BUS_ADDRESS"])
+        self.wait_for_window(program, WINDOW)
+        self.save_picture("extensions-no-bus")
+        self.hands.press("Tab", "space")
+        throughout(lambda: not os.path.exists(self.folder), "nothing is written", 0.3)
+        self.assertEqual(program.complaints(), ["orvik-menu-extensions: there is no session bus"])
+
+    def test_it_explains_itself_without_a_display(self):
+        for option, beginning in (("--help", "Usage: orvik-menu-extensions"), ("--version", "orvik-menu-extensions ")):
+            answer = self.run_tool("orvik-menu-extensions", option)
+            self.assertEqual((answer.returncode, answer.stderr), (0, b""))
+            self.assertTrue(answer.stdout.decode().startswith(beginning))
+        with self.subTest("a wrong argument"):
+            answer = subprocess.run([os.path.join(self.programs, "orvik-menu-extensions"), "--loud"],
+                                    env=self.environment, check=False, capture_output=True, timeout=20)
+            self.assertEqual(answer.returncode, 2)
+            self.assertIn(b"unknown argument: --loud", answer.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()

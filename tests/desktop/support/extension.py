@@ -1,0 +1,52 @@
+"""The file manager's companion, and the window in which a person switches it on."""
+
+import os
+
+from .waiting import eventually
+
+EXTENSIONS = "Extensions"
+EXTENSIONS_NAME = "com.orvikstudio.orvikmenu.extensions"
+PROGRAM = "orvik-menu-extension"
+AUTOSTART = "autostart/com.orvikstudio.orvikmenu.findersyncextension.desktop"
+
+
+def processes_of(program, environment_mark):
+    """The processes of a program that were started for one person, by an entry of their environment."""
+    found = []
+    for entry in os.listdir("/proc"):
+        if not entry.isdigit():
+            continue
+        try:
+            with open(f"/proc/{entry}/environ", "rb") as file:
+                variables = file.read().split(b"\0")
+            if (os.path.basename(os.readlink(f"/proc/{entry}/exe")) == program
+                    and os.fsencode(environment_mark) in variables):
+                found.append(int(entry))
+        except OSError:
+            continue
+    return found
+
+
+class Companion:
+    """The companion of one test's person."""
+
+    def __init__(self, case):
+        self._case = case
+        self._mark = "HOME=" + case.home.folder
+
+    def processes(self):
+        return processes_of(PROGRAM, self._mark)
+
+    def start(self):
+        """As at log-in."""
+        self._case.start_program(PROGRAM)
+        eventually(lambda: self._case.bus.has_owner(self._name), "the companion")
+
+    @property
+    def _name(self):
+        return "com.orvikstudio.orvikmenu.findersyncextension"
+
+    def kill(self, signal_number):
+        for process in self.processes():
+            os.kill(process, signal_number)
+        eventually(lambda: not self._case.bus.has_owner(self._name), "the companion to go")

@@ -1,0 +1,177 @@
+#include "../bus/Waiting.h"
+#include "Announcements.h"
+#include "CompanionProcess.h"
+
+#include <filesystem>
+#include <fstream>
+
+using namespace std::chrono_literals;
+using Array = NS::Value::Array;
+using Dictionary = NS::Value::Dictionary;
+namespace fs = std::filesystem;
+
+namespace {
+
+void writeInPlace(const std::string& path, std::string_view text)
+{
+    std::ofstream(path) << text;
+}
+
+struct FollowedSettings : CompanionTest {
+    [[nodiscard]] bool showsInSubmenu(bool expected)
+    {
+        return waitUntil([&] { return flag("ShowInSubmenu") == expected; });
+    }
+};
+
+} // namespace
+
+TEST_F(FollowedSettings, AreReadAtTheStart)
+{
+    store({{"menuArrayDic", Array{Dictionary{{"title", "Open Terminal"}, {"state", true}},
+                                  Dictionary{{"title", "Resize Photos"}, {"state", false}}}},
+           {"foldersArray", Array{"/a b", "/c"}},
+           {"foldersArraystate", Array{1, 0}},
+           {"arrCustomFoldersUrls", Array{"/x"}},
+           {"showmenuicon", false},
+           {"showinSubMenu", true}});
+    startAndWait();
+    EXPECT_EQ(items("MenuItems"), (Items{{"Open Terminal", true}, {"Resize Photos", false}}));
+    EXPECT_EQ(items("Folders"), (Items{{"/a b", true}, {"/c", false}}));
+    EXPECT_EQ(strings("CustomFolders"), QStringList{QStringLiteral("/x")});
+    EXPECT_EQ(strings("DirectoryURLs"), (QStringList{QStringLiteral("file:///a%20b"), QStringLiteral("file:///c")}));
+    EXPECT_FALSE(flag("ShowMenuIcon"));
+    EXPECT_TRUE(flag("ShowInSubmenu"));
+}
+
+TEST_F(FollowedSettings, AreTheDefaultsWhereThereIsNoFolder)
+{
+    startAndWait();
+    EXPECT_TRUE(flag("ShowMenuIcon"));
+    EXPECT_FALSE(flag("ShowInSubmenu"));
+    EXPECT_FALSE(fs::exists(settingsFolder())) << "the settings are not the companion's to make";
+    store({{"showinSubMenu", true}});
+    EXPECT_TRUE(showsInSubmenu(true));
+}
+
+TEST_F(FollowedSettings, AnnounceWhatHasChangedAndNothingElse)
+{
+    store({{"showinSubMenu", true}});
+    startAndWait();
+    Announcements announced(connection());
+    store({{"showinSubMenu", true}, {"foldersArray", Array{"/a"}}});
+    ASSERT_TRUE(waitUntil([&] { return !announced.isEmpty(); }));
+    EXPECT_EQ(announced.take(), (QStringList{QStringLiteral("DirectoryURLs"), QStringLiteral("Folders")}));
+
+    store({{"showinSubMenu", true}, {"foldersArray", Array{"/a"}}, {"somebodyElses", 1}});
+    store({{"showinSubMenu", false}, {"foldersArray", Array{"/a"}}});
+    ASSERT_TRUE(waitUntil([&] { return !announced.isEmpty(); }));
+    runFor(100ms);
+    EXPECT_EQ(announced.take(), QStringList{QStringLiteral("ShowInSubmenu")});
+}
+
+TEST_F(FollowedSettings, FollowAFileThatIsRemovedAndComesBack)
+{
+    store({{"showinSubMenu", true}});
+    startAndWait();
+    for (int round = 0; round < 2; ++round) {
+        fs::remove(suiteFile());
+        EXPECT_TRUE(showsInSubmenu(false));
+        store({{"showinSubMenu", true}});
+        EXPECT_TRUE(showsInSubmenu(true));
+    }
+}
+
+TEST_F(FollowedSettings, FollowAFolderThatIsRemovedAndComesBack)
+{
+    store({{"showinSubMenu", true}});
+    startAndWait();
+    for (int round = 0; round < 2; ++round) {
+        fs::remove_all(settingsFolder());
+        EXPECT_TRUE(showsInSubmenu(false));
+        store({{"showinSubMenu", true}});
+        EXPECT_TRUE(showsInSubmenu(true));
+    }
+}
+
+TEST_F(FollowedSettings, FollowALinkInTheFilesPlace)
+{
+    store({{"showinSubMenu", true}});
+    const fs::path target = m_configuration.filePath(QStringLiteral("target")).toStdString();
+    fs::rename(suiteFile(), target);
+    fs::create_symlink("../target", suiteFile());
+    startAndWait();
+    EXPECT_TRUE(flag("ShowInSubmenu"));
+    store({{"showinSubMenu", false}});
+    EXPECT_TRUE(fs::is_symlink(suiteFile()));
+    EXPECT_TRUE(showsInSubmenu(false));
+}
+
+TEST_F(FollowedSettings, AreThoseOfTheLastGoodCopyWhileTheFileIsDamaged)
+{
+    store({{"showinSubMenu", true}, {"showmenuicon", false}});
+    QProcess& companion = startAndWait();
+    const std::string garbage = "<plist><dict><key>showinSub";
+    writeInPlace(suiteFile(), garbage);
+    ASSERT_TRUE(waitUntil([&] { return companion.readAllStandardError().contains("not a readable property list"); }));
+    EXPECT_TRUE(flag("ShowInSubmenu"));
+    EXPECT_FALSE(flag("ShowMenuIcon"));
+
+    std::ifstream file(suiteFile());
+    EXPECT_EQ(std::string(std::istreambuf_iterator(file), {}), garbage) << "mending it is the panel's affair";
+    fs::remove(suiteFile());
+    store({{"showinSubMenu", false}});
+    EXPECT_TRUE(showsInSubmenu(false));
+}
+
+TEST_F(FollowedSettings, AreTheDefaultsWhereADamagedFileHasNoCopy)
+{
+    fs::create_directory(settingsFolder());
+    writeInPlace(suiteFile(), std::string(100'000, '\xff'));
+    startAndWait();
+    EXPECT_TRUE(flag("ShowMenuIcon"));
+    fs::remove(suiteFile());
+    store({{"showmenuicon", false}});
+    EXPECT_TRUE(waitUntil([&] { return !flag("ShowMenuIcon"); }));
+}
+
+TEST_F(FollowedSettings, StayAsTheyAreWhileTheFileCannotBeRead)
+{
+    store({{"showinSubMenu", true}});
+    QProcess& companion = startAndWait();
+    fs::remove(suiteFile());
+    ASSERT_TRUE(showsInSubmenu(false));
+    store({{"showinSubMenu", true}});
+    ASSERT_TRUE(showsInSubmenu(true));
+
+    const fs::path away = suiteFile() + ".away";
+    fs::create_directory(away);
+    ASSERT_EQ(::rename(suiteFile().c_str(), (suiteFile() + ".old").c_str()), 0);
+    fs::rename(away, suiteFile());
+    ASSERT_TRUE(waitUntil([&] { return companion.readAllStandardError().contains("not a regular file"); }));
+    fs::remove(suiteFile());
+    store({{"showmenuicon", false}});
+    EXPECT_TRUE(waitUntil([&] { return !flag("ShowMenuIcon"); }));
+    EXPECT_FALSE(flag("ShowInSubmenu"));
+}
+
+TEST_F(FollowedSettings, ReplaceTheWatchedDirectoriesWithTheFolders)
+{
+    store({{"foldersArray", Array{"/a"}}});
+    startAndWait();
+    EXPECT_TRUE(watches({QStringLiteral("file:///a")}));
+    store({{"foldersArray", Array{"/b", "/c"}}});
+    EXPECT_TRUE(watches({QStringLiteral("file:///b"), QStringLiteral("file:///c")}));
+    store({});
+    EXPECT_TRUE(watches({}));
+}
+
+TEST_F(FollowedSettings, MayHoldWhatTheBusCannotCarry)
+{
+    startAndWait();
+    // A character that property lists have and the bus has not.
+    store({{"arrCustomFoldersUrls", Array{"\xef\xb7\x90"}}, {"showinSubMenu", true}});
+    EXPECT_TRUE(showsInSubmenu(true));
+    store({{"arrCustomFoldersUrls", Array{"/x"}}});
+    EXPECT_TRUE(waitUntil([&] { return strings("CustomFolders") == QStringList{QStringLiteral("/x")}; }));
+}

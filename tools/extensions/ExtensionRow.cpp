@@ -1,0 +1,97 @@
+#include "extensions/ExtensionRow.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace ExtensionsTool {
+
+namespace {
+
+constexpr int iconExtent = 48;
+
+QLabel* makeText(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+StatusDot::Tone toneOf(const ExtensionStatus& status)
+{
+    if (needsAttention(status))
+        return StatusDot::Tone::Attention;
+    return isOn(status) ? StatusDot::Tone::Good : StatusDot::Tone::Quiet;
+}
+
+} // namespace
+
+ExtensionRow::ExtensionRow(ExtensionControl& control, const QIcon& icon, QWidget* parent)
+    : QWidget(parent), m_control(control), m_dot(new StatusDot(this)), m_words(makeText({}, this)),
+      m_switch(new Switch(this))
+{
+    const Extension& extension = control.extension();
+    auto* picture = new QLabel(this);
+    picture->setPixmap(icon.pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
+    auto* title = makeText(extension.title, this);
+    QFont font = title->font();
+    font.setPointSizeF(font.pointSizeF() * 1.1);
+    font.setWeight(QFont::DemiBold);
+    title->setFont(font);
+    auto* explanation = makeText(extension.explanation, this);
+    explanation->setForegroundRole(QPalette::PlaceholderText);
+    // Words that name a file may be copied.
+    m_words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_switch->setAccessibleName(extension.title);
+    layOut(picture, title, explanation);
+
+    connect(m_switch, &Switch::asked, &m_control, [this](bool on) {
+        if (on)
+            m_control.switchOn();
+        else
+            m_control.switchOff();
+    });
+    connect(&m_control, &ExtensionControl::changed, this, [this] { showStatus(); });
+    showStatus();
+}
+
+void ExtensionRow::layOut(QLabel* picture, QLabel* title, QLabel* explanation)
+{
+    // The dot stays with the first line of the words.
+    auto* dot = new QVBoxLayout;
+    dot->addSpacing((fontMetrics().height() - m_dot->height()) / 2);
+    dot->addWidget(m_dot);
+    dot->addStretch(1);
+    auto* state = new QHBoxLayout;
+    state->setSpacing(8);
+    state->addLayout(dot);
+    state->addWidget(m_words, 1);
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(3);
+    texts->addWidget(title);
+    texts->addWidget(explanation);
+    texts->addSpacing(6);
+    texts->addLayout(state);
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(16, 16, 16, 16);
+    row->setSpacing(16);
+    row->addWidget(picture, 0, Qt::AlignTop);
+    row->addLayout(texts, 1);
+    row->addWidget(m_switch, 0, Qt::AlignVCenter);
+}
+
+void ExtensionRow::showStatus()
+{
+    const ExtensionStatus& status = m_control.status();
+    const QString words = inWords(status);
+    m_words->setText(words);
+    m_dot->setTone(toneOf(status));
+    m_switch->setOn(isOn(status));
+    m_switch->setEnabled(status.hasBus);
+    // Who hears the switch rather than sees the row is told the whole of it.
+    m_switch->setAccessibleDescription(m_control.extension().explanation + u' ' + words);
+}
+
+} // namespace ExtensionsTool

@@ -1,0 +1,80 @@
+#include "extensions/ExtensionsWindow.h"
+
+#include "extensions/Card.h"
+#include "extensions/ExtensionRow.h"
+
+#include <QEvent>
+#include <QKeySequence>
+#include <QLabel>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace ExtensionsTool {
+
+namespace {
+
+constexpr int narrowest = 400;
+constexpr int initialWidth = 620;
+
+} // namespace
+
+ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& controls, const QIcon& icon)
+{
+    setWindowTitle(QStringLiteral("Extensions"));
+    setWindowIcon(icon);
+
+    auto* introduction = new QLabel(QStringLiteral("Extensions bring Orvik Menu into other programs."), this);
+    introduction->setWordWrap(true);
+    introduction->setForegroundRole(QPalette::PlaceholderText);
+
+    auto* card = new Card(this);
+    auto* rows = new QVBoxLayout(card);
+    rows->setContentsMargins(0, 0, 0, 0);
+    for (ExtensionControl* control : controls)
+        rows->addWidget(new ExtensionRow(*control, icon, card));
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 18, 20, 20);
+    layout->setSpacing(14);
+    layout->addWidget(introduction);
+    layout->addWidget(card);
+    layout->addStretch(1);
+
+    for (const auto& keys :
+         {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::CTRL | Qt::Key_Q)})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+
+    setMinimumWidth(narrowest);
+    resize(initialWidth, layout->totalHeightForWidth(initialWidth));
+}
+
+void ExtensionsWindow::comeToFront()
+{
+    if (isMinimized())
+        showNormal();
+    raise();
+    activateWindow();
+}
+
+bool ExtensionsWindow::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    // Texts have changed.
+    if (event->type() == QEvent::LayoutRequest)
+        makeRoomForTexts();
+    return handled;
+}
+
+void ExtensionsWindow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    makeRoomForTexts();
+}
+
+/// Windows do not keep to the height that wrapped texts have at a width by themselves.
+void ExtensionsWindow::makeRoomForTexts()
+{
+    setMinimumHeight(layout()->totalHeightForWidth(width()));
+}
+
+} // namespace ExtensionsTool

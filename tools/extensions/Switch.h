@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QCheckBox>
+
+namespace ExtensionsTool {
+
+/// A checkbox drawn as a switch without a text beside it. What it shows is set; operating it asks for a change.
+class Switch : public QCheckBox {
+    Q_OBJECT
+
+public:
+    explicit Switch(QWidget* parent = nullptr);
+
+    void setOn(bool on);
+    [[nodiscard]] QSize sizeHint() const override;
+
+    /// Somebody has operated it; it goes on showing what it was told to show.
+    Q_SIGNAL void asked(bool on);
+
+protected:
+    bool hitButton(const QPoint& position) const override;
+    void paintEvent(QPaintEvent* event) override;
+    // The area under the pointer is drawn differently.
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+};
+
+} // namespace ExtensionsTool
