@@ -5,7 +5,7 @@ import unittest
 from support.case import DesktopTestCase
 from support.panel import CHOOSER
 from support.suite import TITLES
-from support.waiting import eventually
+from support.waiting import eventually, throughout
 
 # More than any window has.
 MANY_CONTROLS = 40
@@ -45,6 +45,84 @@ class Keyboard(DesktopTestCase):
         walk = self.assertWalksBothWays(window)
 
         self.assertCountEqual(walk, [("page tab list", "Menu Items"), ("check box", "Open Terminal")])
+
+    def test_every_tab_is_walked_both_ways_and_shows_where_the_keyboard_is(self):
+        folders = [self.home.files, self.home.programs]
+        self.suite.write(foldersArray=folders, foldersArraystate=[1, 0],
+                         arrCustomFoldersUrls=["/srv/Projects", "/srv/Photos"])
+        expected = {
+            "Menu Items": [("check box", "Open Terminal")],
+            "Folders": [("check box", folders[0]), ("push button", "Add Folder…"),
+                        ("push button", "Remove Folder…")],
+            "General": [("push button", "Open Extensions…"), ("check box", "Show an icon beside each menu item"),
+                        ("check box", "Group the menu items in a submenu")],
+            "About": [("push button", "Web Site"), ("push button", "Twitter"), ("push button", "Facebook"),
+                      ("push button", "Rate Orvik Menu")],
+            "Custom Folders": [("push button", "Projects")],
+        }
+        panel = self.start_panel()
+        window = panel.main_window()
+        for tab, controls in expected.items():
+            with self.subTest(tab=tab):
+                self.hands.click(window.find("page tab", tab).extents)
+                eventually(lambda: self.has_control(window, *controls[-1]), f"the tab “{tab}”")
+                walk = self.assertWalksBothWays(window)
+                self.assertCountEqual(walk, [("page tab list", tab), *controls])
+                self.assertFocusIsVisible(window)
+
+    def test_the_first_run_is_walked_both_ways_and_shows_where_the_keyboard_is(self):
+        self.become_a_newcomer()
+        window = self.start_panel().main_window()
+        walk = self.assertWalksBothWays(window)
+
+        self.assertCountEqual(walk, [("push button", "Open Extensions…"), ("push button", "Choose Folders…")])
+        self.assertFocusIsVisible(window)
+
+    def test_the_showcase_is_walked_both_ways_and_shows_where_the_keyboard_is(self):
+        panel = self.start_panel()
+        panel.main_window()
+        self.assertEqual(self.run_tool("orvik-notify", "ShowUtilityKit").returncode, 0)
+        window = panel.active_window("More from Orvik Studio")
+        eventually(lambda: len(window.all("push button")) >= 4, "the cards")
+        walk = self.assertWalksBothWays(window)
+
+        self.assertEqual(len([role for role, _ in walk if role == "push button"]), 17)
+        self.assertFocusIsVisible(window)
+
+    @staticmethod
+    def has_control(window, role, name):
+        try:
+            return bool(window.find(role, name))
+        except LookupError:
+            return False
+
+    def assertFocusIsVisible(self, window):
+        """Wherever the keyboard is, the control looks other than it does without."""
+        self.hands.move_to(window.extents._replace(width=2, height=2))
+        seen = set()
+        while True:
+            control = window.focused()
+            if control in seen:
+                return
+            seen.add(control)
+            with_keyboard = self.display.picture_of(control.extents)
+            self.hands.press("Tab")
+            eventually(lambda: window.focused() != control, "Tab to lead on")
+            after = window.focused()
+            where = control.extents
+            self.assertNotEqual(self.settled_picture(where), with_keyboard,
+                                f"“{control.name}” looks the same with the keyboard and without")
+            if after in seen:
+                return
+
+    def settled_picture(self, extents):
+        """What is there once nothing changes any more."""
+        picture = self.display.picture_of(extents)
+        while True:
+            throughout(lambda: True, "", 0.1)
+            last, picture = picture, self.display.picture_of(extents)
+            if last == picture:
+                return picture
 
     def test_the_arrow_keys_reach_every_row_by_its_name(self):
         window = self.start_panel().main_window()

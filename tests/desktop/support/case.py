@@ -61,6 +61,12 @@ class DesktopTestCase(unittest.TestCase):
         if self.knows_the_panel:
             self.own_settings.write(firstRun=True)
 
+    def become_a_newcomer(self):
+        """A person with empty folders who has never had the panel."""
+        self.become_someone_new()
+        os.unlink(self.own_settings.path)
+        os.rmdir(self.own_settings.folder)
+
     def make_folder(self):
         """An empty folder, which is there until the class's tests are over."""
         return tempfile.mkdtemp(dir=self._folder)

@@ -37,6 +37,14 @@ class VirtualDisplay:
                                 check=False, timeout=20)
         return "yes" in answer.stdout
 
+    def picture_of(self, extents):
+        """What is to be seen there, as bytes to compare."""
+        answer = subprocess.run(
+            ["import", "-display", self.name, "-window", "root", "-crop",
+             f"{extents.width}x{extents.height}+{extents.x}+{extents.y}", "rgb:-"],
+            capture_output=True, check=True, timeout=20)
+        return answer.stdout
+
     def save_picture(self, path):
         subprocess.run(["import", "-display", self.name, "-window", "root", path], check=True, timeout=20)
 

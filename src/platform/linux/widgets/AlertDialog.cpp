@@ -34,9 +34,7 @@ AlertDialog::AlertDialog()
     : m_icon(new QLabel(this)), m_message(textLabel(this)), m_information(textLabel(this)),
       m_buttonRow(new QHBoxLayout)
 {
-    QFont bold = m_message->font();
-    bold.setBold(true);
-    m_message->setFont(bold);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     m_icon->setFixedSize(iconExtent, iconExtent);
 
     auto* texts = new QVBoxLayout;
@@ -74,6 +72,10 @@ void AlertDialog::setInformation(const QString& text)
 {
     showText(*m_information, text);
     setAccessibleDescription(text);
+    // The message is a headline where more is said below it.
+    QFont font = m_message->font();
+    font.setBold(!text.isEmpty());
+    m_message->setFont(font);
 }
 
 void AlertDialog::addButton(const QString& title)

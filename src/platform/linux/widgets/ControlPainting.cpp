@@ -78,7 +78,7 @@ void drawButton(const QStyleOptionButton& option, QPainter& painter)
 {
     const QPalette& palette = option.palette;
     const bool flat = option.features & QStyleOptionButton::Flat;
-    if (flat && !isHovered(option) && !isPressed(option) && !hasFocus(option))
+    if (flat && !isHovered(option) && !isPressed(option))
         return;
     const SmoothPainter smooth(painter);
     QColor fill = palette.color(QPalette::Button);
@@ -90,7 +90,7 @@ void drawButton(const QStyleOptionButton& option, QPainter& painter)
     const bool emphasized = isDefault || isHovered(option) || hasFocus(option);
     const QColor outline = emphasized ? palette.color(QPalette::Highlight) : controlOutline(palette);
     const qreal width = hasFocus(option) ? 2.0 : isDefault ? 1.5 : 1.0;
-    if (!flat || hasFocus(option))
+    if (!flat)
         painter.setPen(QPen(option.state & QStyle::State_Enabled ? outline : dividingLine(palette), width));
     painter.setBrush(fill);
     painter.drawRoundedRect(outlineOf(option.rect, width), radius, radius);

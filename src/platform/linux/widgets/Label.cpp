@@ -102,6 +102,12 @@ void Label::paintCut(QPainter& painter)
 
 bool Label::event(QEvent* event)
 {
+    // A wrapped text is never given less height than its lines need.
+    if (event->type() == QEvent::Polish && wordWrap()) {
+        QSizePolicy policy(sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+    }
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
     const QString tip = !m_toolTip.isEmpty() ? m_toolTip : isCut() ? text() : QString();

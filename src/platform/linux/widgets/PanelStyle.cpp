@@ -130,6 +130,12 @@ QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
     }
 }
 
+QRect PanelStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? rect.adjusted(4, 0, -4, 0) : rect;
+}
+
 QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const
 {

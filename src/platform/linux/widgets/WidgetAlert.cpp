@@ -2,8 +2,8 @@
 
 #include "platform/linux/widgets/AlertDialog.h"
 
+#include <QApplication>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QWindow>
 
 namespace LinuxDesktop {
@@ -79,7 +79,8 @@ void WidgetAlert::runModal()
 {
     const ModalState::Session session(m_modalState);
     AlertDialog& panel = dialog();
-    panel.setWindowTitle(QGuiApplication::applicationDisplayName());
+    if (const QWidget* window = QApplication::activeWindow())
+        panel.setWindowTitle(window->windowTitle());
     panel.setWindowModality(Qt::ApplicationModal);
     panel.setAttribute(Qt::WA_QuitOnClose, false);
     panel.winId();
