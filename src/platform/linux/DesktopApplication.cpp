@@ -1,6 +1,7 @@
 #include "platform/linux/DesktopApplication.h"
 
 #include "platform/linux/bus/ApplicationName.h"
+#include "platform/linux/widgets/MainWindow.h"
 
 #include <QApplication>
 #include <QWidget>
@@ -49,15 +50,10 @@ void DesktopApplication::setActivationPolicy(NS::ActivationPolicy policy)
 
 void DesktopApplication::activateIgnoringOtherApps(bool)
 {
-    // A modal panel is in front of the windows it blocks.
+    // A modal panel is in front of the windows it blocks, which are all of them; a sheet follows its own.
     QWidget* front = QApplication::activeModalWidget();
-    if (!front) {
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (QWidget* window : windows) {
-            if (window->isVisible() && window->windowType() == Qt::Window)
-                front = window;
-        }
-    }
+    if (!front || front->windowModality() != Qt::ApplicationModal)
+        front = MainWindow::front();
     if (!front)
         return;
     if (front->isMinimized())

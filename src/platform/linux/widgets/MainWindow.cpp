@@ -2,11 +2,38 @@
 
 #include "platform/linux/widgets/WidgetScene.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QScreen>
 
 namespace LinuxDesktop {
+
+namespace {
+
+/// Counts up, so that of two windows the one with the larger number was in front later.
+constexpr const char* frontOrder = "frontOrder";
+
+} // namespace
+
+MainWindow* MainWindow::front()
+{
+    MainWindow* latest = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* window = qobject_cast<MainWindow*>(widget);
+        if (window && window->isVisible() &&
+            (!latest || window->property(frontOrder).toInt() > latest->property(frontOrder).toInt()))
+            latest = window;
+    }
+    return latest;
+}
+
+void MainWindow::noteInFront()
+{
+    const MainWindow* latest = front();
+    if (latest != this)
+        setProperty(frontOrder, (latest ? latest->property(frontOrder).toInt() : 0) + 1);
+}
 
 void MainWindow::setContentViewController(std::shared_ptr<NS::ViewController> controller)
 {
@@ -32,6 +59,7 @@ void MainWindow::makeKeyAndOrderFront()
         showNormal();
     else
         show();
+    noteInFront();
     raise();
     activateWindow();
 }
@@ -40,6 +68,13 @@ void MainWindow::endSheet(NS::Sheet& sheet)
 {
     if (auto* dialog = dynamic_cast<QDialog*>(&sheet))
         dialog->done(QDialog::Rejected);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        noteInFront();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
