@@ -234,9 +234,9 @@ TEST_F(MenuRecordTest, TheOlderRecordIsReadUnderTheKeyThatIsGiven)
 
 TEST_F(MenuRecordTest, ANumberThatNoFlagCanHoldIsOff)
 {
-    for (const NS::Value& number : {NS::Value(std::numeric_limits<std::uint64_t>::max()), NS::Value(0x1p63),
-                                    NS::Value(std::numeric_limits<double>::quiet_NaN()),
-                                    NS::Value(-std::numeric_limits<double>::infinity())}) {
+    for (const NS::Value& number :
+         {NS::Value(std::numeric_limits<std::uint64_t>::max()), NS::Value(0x1p63),
+          NS::Value(std::numeric_limits<double>::quiet_NaN()), NS::Value(-std::numeric_limits<double>::infinity())}) {
         SCOPED_TRACE(testing::PrintToString(number));
         domain = {{"save14", NS::Value::Array{1, number}}};
 
@@ -246,12 +246,8 @@ TEST_F(MenuRecordTest, ANumberThatNoFlagCanHoldIsOff)
 
 // An older record that cannot be read.
 
-const std::vector<NS::Value> notNumbers{"1",
-                                        true,
-                                        NS::Date{1.0},
-                                        NS::Data{1},
-                                        NS::Value::Array{1},
-                                        NS::Value::Dictionary{{"1", 1}}};
+const std::vector<NS::Value> notNumbers{
+    "1", true, NS::Date{1.0}, NS::Data{1}, NS::Value::Array{1}, NS::Value::Dictionary{{"1", 1}}};
 
 class MenuRecordDeathTest : public MenuRecordTest, public testing::WithParamInterface<const char*> {};
 

@@ -9,8 +9,7 @@ namespace LinuxDesktop {
 
 DistributedNotificationCenter::DistributedNotificationCenter(SessionBus& bus, ModalState& modalState)
     : m_bus(bus), m_modalState(modalState), m_modalEnd(modalState.whenEnded([this] { scheduleDelivery(); }))
-{
-}
+{}
 
 void DistributedNotificationCenter::addObserver_name_object(std::function<void()> handler, std::string_view name,
                                                             std::string_view object)
