@@ -45,6 +45,29 @@ class About(DesktopTestCase):
             self.assertEventuallyEqual(self.panel.standard_output, OPENED * number)
             self.assertEqual(address, opened()[-1])
 
+    def test_where_there_is_a_portal_it_opens_the_page(self):
+        opened = install_handler(self.home, "x-scheme-handler/http")
+        self.start_portal()
+        self.start()
+        self.press_button("Web Site")
+
+        self.assertEventuallyEqual(self.panel.standard_output, OPENED)
+        self.assertEqual(self.opened_by_portal(), [PAGES["Web Site"]])
+        self.assertEqual(opened(), [])
+
+    def test_an_address_that_the_portal_did_not_open_is_not_told_as_opened(self):
+        opened = install_handler(self.home, "x-scheme-handler/http")
+        self.start_portal()
+        for answer in (1, 2):
+            with self.subTest(answer=answer):
+                self.answer_openings(answer)
+                self.start()
+                self.press_button("Web Site")
+                eventually(lambda: len(self.opened_by_portal()) == answer, "the portal to be asked")
+                throughout(lambda: self.panel.standard_output() == b"", "nothing is said", A_MOMENT)
+                self.panel.close()
+        self.assertEqual(opened(), [])
+
     def test_without_a_browser_nothing_is_said(self):
         install_handler(self.home)
         self.start()

@@ -40,8 +40,7 @@ QString refusalOfUnstorable(const std::string& path)
 
 QString composed(std::string_view text)
 {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
-        .normalized(QString::NormalizationForm_C);
+    return QString::fromUtf8(text).normalized(QString::NormalizationForm_C);
 }
 
 bool isAscii(std::string_view text)

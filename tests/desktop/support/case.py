@@ -126,6 +126,14 @@ class DesktopTestCase(unittest.TestCase):
         call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "PreferColorScheme",
              GLib.Variant("(u)", (color_scheme,)))
 
+    def answer_openings(self, answer):
+        """What the portal answers to addresses: 0 for opened, 1 for a person's no, 2 for a failure."""
+        call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "AnswerOpening",
+             GLib.Variant("(u)", (answer,)))
+
+    def opened_by_portal(self):
+        return call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "Opened")[0]
+
     def wait_for_window(self, panel, title):
         """Waits for the panel's window of that title to have the keyboard. For panels that have no accessibility."""
         def is_active():

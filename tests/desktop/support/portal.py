@@ -12,6 +12,7 @@ import os
 import sys
 
 import dbus
+import dbus.lowlevel
 import dbus.mainloop.glib
 import dbus.service
 from gi.repository import GLib
@@ -20,6 +21,8 @@ NAME = "org.freedesktop.portal.Desktop"
 PATH = "/org/freedesktop/portal/desktop"
 _MAIL = "org.freedesktop.portal.Email"
 _SETTINGS = "org.freedesktop.portal.Settings"
+_OPEN = "org.freedesktop.portal.OpenURI"
+_REQUEST = "org.freedesktop.portal.Request"
 # What a test asks of the stand-in itself.
 TESTING = "com.orvikstudio.Testing"
 
@@ -32,6 +35,8 @@ class Portal(dbus.service.Object):
         self._folder = folder
         self._color_scheme = color_scheme
         self._messages = 0
+        self._answer = 0
+        self._opened = []
 
     @dbus.service.method(_MAIL, in_signature="sa{sv}", out_signature="o")
     def ComposeEmail(self, parent, options):
@@ -67,6 +72,25 @@ class Portal(dbus.service.Object):
     @dbus.service.signal(_SETTINGS, signature="ssv")
     def SettingChanged(self, group, key, value):
         pass
+
+    @dbus.service.method(_OPEN, in_signature="ssa{sv}", out_signature="o", sender_keyword="sender")
+    def OpenURI(self, parent, address, options, sender):
+        self._opened.append(str(address))
+        request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
+        answer = dbus.lowlevel.SignalMessage(request, _REQUEST, "Response")
+        answer.append(dbus.UInt32(self._answer), dbus.Dictionary({}, signature="sv"), signature="ua{sv}")
+        answer.set_destination(sender)
+        GLib.idle_add(lambda: self.connection.send_message(answer) and False)
+        return request
+
+    @dbus.service.method(TESTING, in_signature="u")
+    def AnswerOpening(self, answer):
+        """0: opened, 1: the person said no, 2: it failed."""
+        self._answer = answer
+
+    @dbus.service.method(TESTING, out_signature="as")
+    def Opened(self):
+        return self._opened
 
     @dbus.service.method(TESTING, in_signature="u")
     def PreferColorScheme(self, color_scheme):

@@ -8,11 +8,6 @@ namespace LinuxDesktop {
 
 namespace {
 
-QString textOf(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 /// Notices that the program is asked to quit, which closes its windows as a user would.
 class QuitWatch : public QObject {
 public:
@@ -46,7 +41,7 @@ void showInFront(QDialog& dialog)
 
 void FileChooser::setMessage(std::string_view message)
 {
-    m_settings.message = textOf(message);
+    m_settings.message = QString::fromUtf8(message);
 }
 
 void FileChooser::setCanChooseFiles(bool flag)
@@ -76,7 +71,7 @@ void FileChooser::setDirectoryURL(const NS::URL& url)
 
 void FileChooser::setPrompt(std::string_view prompt)
 {
-    m_settings.prompt = textOf(prompt);
+    m_settings.prompt = QString::fromUtf8(prompt);
 }
 
 int FileChooser::runModal()

@@ -23,7 +23,7 @@ char16_t visible(char16_t c)
 
 QString fileNameText(std::string_view bytes)
 {
-    QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QString text = QString::fromUtf8(bytes);
     std::ranges::transform(text, text.begin(), [](QChar c) { return QChar(visible(c.unicode())); });
     return text;
 }

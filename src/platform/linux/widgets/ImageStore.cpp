@@ -84,7 +84,7 @@ NS::Image ImageStore::themeImage(const QStringList& names)
 
 bool ImageStore::contains(std::string_view name) const
 {
-    return QFileInfo::exists(pathOf(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))));
+    return QFileInfo::exists(pathOf(QString::fromUtf8(name)));
 }
 
 QPixmap ImageStore::pixmap(const QString& name, int extent, qreal scale, const QColor& tint)

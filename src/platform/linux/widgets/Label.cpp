@@ -29,11 +29,6 @@ constexpr std::array textStyles{
     TextStyle{QLatin1String("secondary"), 1.0, QFont::Normal, QPalette::PlaceholderText},
 };
 
-QString textOf(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 /// As rich text a long text is wrapped; its own marks are not taken for markup.
 QString wrapped(const QString& text)
 {
@@ -63,8 +58,8 @@ void Label::setTextStyle(const QString& style)
 
 void Label::setStringValue(std::string_view text)
 {
-    setText(m_isFileName ? fileNameText(text) : textOf(text));
-    emit textChanged(textOf(text));
+    setText(m_isFileName ? fileNameText(text) : QString::fromUtf8(text));
+    emit textChanged(QString::fromUtf8(text));
 }
 
 void Label::setToolTip(std::string_view text)

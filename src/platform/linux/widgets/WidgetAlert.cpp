@@ -8,15 +8,6 @@
 
 namespace LinuxDesktop {
 
-namespace {
-
-QString textOf(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-} // namespace
-
 WidgetAlert::~WidgetAlert()
 {
     if (m_dialog && !m_dialog->isVisible())
@@ -40,17 +31,17 @@ void WidgetAlert::setAlertStyle(NS::AlertStyle style)
 
 void WidgetAlert::setMessageText(std::string_view text)
 {
-    dialog().setMessage(textOf(text));
+    dialog().setMessage(QString::fromUtf8(text));
 }
 
 void WidgetAlert::setInformativeText(std::string_view text)
 {
-    dialog().setInformation(textOf(text));
+    dialog().setInformation(QString::fromUtf8(text));
 }
 
 void WidgetAlert::addButtonWithTitle(std::string_view title)
 {
-    dialog().addButton(textOf(title));
+    dialog().addButton(QString::fromUtf8(title));
 }
 
 std::vector<NS::Button*> WidgetAlert::buttons()
