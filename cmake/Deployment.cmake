@@ -7,6 +7,8 @@ set(ORVIK_WEB_ADDRESS "http://orvikstudio.example/" CACHE STRING "The maker's we
 set(ORVIK_TWITTER_ADDRESS "https://twitter.example/orvikapp" CACHE STRING "The maker's Twitter page")
 set(ORVIK_FACEBOOK_ADDRESS "https://facebook.example/orvik.studio" CACHE STRING "The maker's Facebook page")
 set(ORVIK_STORE_ADDRESS "macappstore://apps.orvik.example/app/id10000001" CACHE STRING "The application's page in the store")
+set(ORVIK_SHOWCASE_STORE_PREFIX "macappstore://apps.orvik.example/app/id" CACHE STRING
+  "What the store addresses of the maker's other applications begin with")
 
 configure_file(${CMAKE_SOURCE_DIR}/src/settings/Deployment.h.in
   ${CMAKE_BINARY_DIR}/generated/settings/Deployment.h @ONLY)

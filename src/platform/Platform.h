@@ -63,9 +63,10 @@ public:
     [[nodiscard]] virtual std::uint32_t arc4random_uniform(std::uint32_t bound) = 0;
 
     [[nodiscard]] virtual Date now() = 0;
-    /// Calls `perform` once on the main thread, `delay` seconds from now.
+    /// Calls `perform` once on the main thread, `delay` seconds from now; after a modal panel that runs then.
     virtual void performAfterDelay(std::function<void()> perform, double delay) = 0;
-    /// Calls `fire` on the main thread every `interval` seconds, the first time one interval from now.
+    /// Calls `fire` on the main thread every `interval` seconds, the first time one interval from now. Turns that
+    /// fall into a modal panel are left out.
     [[nodiscard]] virtual std::shared_ptr<Timer> scheduledTimerWithTimeInterval(double interval,
                                                                                 std::function<void()> fire) = 0;
     /// Calls `work` soon on a background thread. Any thread.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/Deployment.h"
+
 #include <array>
 #include <string_view>
 
@@ -23,7 +25,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Tessel.app",
         "Photo & Video",
         "showcase-tessel",
-        "macappstore://apps.orvik.example/app/id1000000001",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000001",
         "Turn hundreds of small photos into one large picture that stays sharp however close you look.",
     },
     ShowcaseApplication{
@@ -31,7 +33,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Mirelo.app",
         "Photo & Video",
         "showcase-mirelo",
-        "macappstore://apps.orvik.example/app/id1000000002",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000002",
         "Trim, join and turn your video clips without losing quality or waiting for an export.",
     },
     ShowcaseApplication{
@@ -39,7 +41,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Kelvo.app",
         "Photo & Video",
         "showcase-kelvo",
-        "macappstore://apps.orvik.example/app/id1000000003",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000003",
         "Warm or cool the light of a whole photo shoot at once, and compare it with the original as you go.",
     },
     ShowcaseApplication{
@@ -47,7 +49,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Dravet.app",
         "Photo & Video",
         "showcase-dravet",
-        "macappstore://apps.orvik.example/app/id1000000004",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000004",
         "Record your screen, your voice and your camera together, ready to share the moment you stop.",
     },
     ShowcaseApplication{
@@ -55,7 +57,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Pallix.app",
         "Productivity",
         "showcase-pallix",
-        "macappstore://apps.orvik.example/app/id1000000005",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000005",
         "Pick any colour on your screen and keep your palettes in one place, ready to paste into your work.",
     },
     ShowcaseApplication{
@@ -63,7 +65,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Ostrel.app",
         "Lifestyle",
         "showcase-ostrel",
-        "macappstore://apps.orvik.example/app/id1000000006",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000006",
         "Keep well at your desk with gentle reminders to drink, to stretch and to look into the distance.",
     },
     ShowcaseApplication{
@@ -71,7 +73,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Fennic.app",
         "Utilities",
         "showcase-fennic",
-        "macappstore://apps.orvik.example/app/id1000000007",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000007",
         "Find any file as you type, even inside archives and on disks that are not plugged in.",
     },
     ShowcaseApplication{
@@ -79,7 +81,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Yarrow.app",
         "Productivity",
         "showcase-yarrow",
-        "macappstore://apps.orvik.example/app/id1000000008",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000008",
         "Collect notes, lists and clippings in a notebook that is always one keystroke away.",
     },
     ShowcaseApplication{
@@ -87,7 +89,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Corvane.app",
         "Productivity",
         "showcase-corvane",
-        "macappstore://apps.orvik.example/app/id1000000009",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000009",
         "See every calendar and every deadline on one timeline, and move your plans until the week fits.",
     },
     ShowcaseApplication{
@@ -95,7 +97,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Brindle.app",
         "Utilities",
         "showcase-brindle",
-        "macappstore://apps.orvik.example/app/id1000000010",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000010",
         "See at a glance what fills your disk, and clear away duplicates, leftovers and old downloads.",
     },
     ShowcaseApplication{
@@ -103,7 +105,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Salvik.app",
         "Business",
         "showcase-salvik",
-        "macappstore://apps.orvik.example/app/id1000000011",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000011",
         "Write an invoice in a minute, send it as a PDF, and always know who has yet to pay.",
     },
     ShowcaseApplication{
@@ -111,7 +113,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Quenby.app",
         "Utilities",
         "showcase-quenby",
-        "macappstore://apps.orvik.example/app/id1000000012",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000012",
         "Rename thousands of files at once by rules that you can read, with a preview of every new name.",
     },
     ShowcaseApplication{
@@ -119,7 +121,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Tavrin.app",
         "Utilities",
         "showcase-tavrin",
-        "macappstore://apps.orvik.example/app/id1000000013",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000013",
         "Keep an eye on processor, memory and network with a small, quiet meter in the menu bar.",
     },
     ShowcaseApplication{
@@ -127,7 +129,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Orlet.app",
         "Productivity",
         "showcase-orlet",
-        "macappstore://apps.orvik.example/app/id1000000014",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000014",
         "Keep everything that you copy, and paste any of it again by typing a few of its letters.",
     },
     ShowcaseApplication{
@@ -135,7 +137,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Ferrix.app",
         "Utilities",
         "showcase-ferrix",
-        "macappstore://apps.orvik.example/app/id1000000015",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000015",
         "Lock your private folders with strong encryption, and open them again with a single password.",
     },
     ShowcaseApplication{
@@ -143,7 +145,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Lumet.app",
         "Productivity",
         "showcase-lumet",
-        "macappstore://apps.orvik.example/app/id1000000016",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000016",
         "Dim everything but the window you work in, so that your attention stays where it belongs.",
     },
     ShowcaseApplication{
@@ -151,7 +153,7 @@ inline constexpr std::array showcaseCatalogue{
         "/Applications/Pendra.app",
         "Productivity",
         "showcase-pendra",
-        "macappstore://apps.orvik.example/app/id1000000017",
+        ORVIK_SHOWCASE_STORE_PREFIX "1000000017",
         "Work in focused stretches with a break after each, and see at the end of the week where the hours went.",
     },
 };

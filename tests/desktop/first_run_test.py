@@ -127,6 +127,20 @@ class FirstRun(DesktopTestCase):
         self.success()
         self.assertEndsWithTheFirstRunOver()
 
+    def test_the_word_of_success_is_given_once_however_long_it_stays(self):
+        self.companion.start()
+        folder = self.make_folder_of("a")
+        self.start()
+        eventually(lambda: self.is_done(FIRST), "the first step", 2.0)
+        self.press_step(SECOND)
+        choose(self.hands, self.panel, folder)
+        self.success()
+
+        # Longer than it takes the panel to look twice.
+        throughout(lambda: [window.name for window in self.panel.windows()].count(SUCCESS) == 1,
+                   "one word of success", 11.0)
+        self.assertEndsWithTheFirstRunOver()
+
     def test_an_extension_that_runs_already_is_seen_without_a_press(self):
         self.companion.start()
         self.start()

@@ -1,11 +1,16 @@
 """The folders in which the actions show: adding, removing, switching."""
 
 import os
+import signal
 import subprocess
+import urllib.parse
 import unicodedata
 import unittest
 
-from support.case import DesktopTestCase
+from gi.repository import GLib
+
+from support.buses import call
+from support.case import APPLICATION, DesktopTestCase
 from support.folders import CHOOSER, choose, go_to
 from support.waiting import eventually, throughout
 
@@ -213,6 +218,51 @@ class Folders(FoldersTestCase):
             self.assertFolders(folders, flags, 0)
         self.assertEqual([on for _, on in self.rows()], [False, True, True])
 
+    def test_delete_is_for_the_row_that_was_come_to_last(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b")]
+        self.suite.write(foldersArray=folders, foldersArraystate=[1, 1])
+        self.start()
+        self.select(folders[1])
+        self.hands.click(self.window.find("check box", folders[0]).extents)
+        self.assertFolders(folders, [0, 1], 0)
+        self.hands.press("Delete")
+        self.alert(QUESTION)
+        self.hands.press("Return")
+
+        self.assertEventuallyEqual(self.rows, [(folders[1], True)])
+
+    def test_behind_a_sheet_a_screen_reader_operates_nothing(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b")]
+        self.suite.write(foldersArray=folders, foldersArraystate=[1, 1])
+        self.start()
+        self.select(folders[0])
+        remove = self.window.find("push button", "Remove Folder…")
+        add = self.window.find("push button", "Add Folder…")
+        box = self.window.find("check box", folders[1])
+        remove.act("Press")
+        self.alert(QUESTION)
+        for control, action in ((remove, "Press"), (add, "Press"), (box, "Toggle")):
+            control.act(action)
+
+        throughout(lambda: len(self.panel.windows()) == 2, "there is one sheet", A_MOMENT)
+        self.hands.press("Escape")
+        eventually(self.noAlert, "the question to go")
+        self.assertEqual(self.rows(), [(folder, True) for folder in folders])
+        self.assertFolders(folders, [1, 1], 0)
+
+    def test_a_signal_while_the_chooser_is_up_ends_the_panel_well(self):
+        for number in range(4):
+            self.start()
+            self.hands.click(self.window.find("push button", "Add Folder…").extents)
+            chooser = self.panel.active_window(CHOOSER)
+            if number % 2:
+                self.hands.press("ctrl+l")
+                self.hands.type("/u")
+            self.assertTrue(chooser.has("active"))
+            self.panel.send(signal.SIGTERM)
+
+            self.assertEqual(self.panel.wait_for_end(), 0)
+
     def test_one_add_after_a_new_start_leaves_one_bookmark(self):
         folders = [self.make_folder_of(name) for name in ("a", "b", "c")]
         self.start()
@@ -276,12 +326,24 @@ class Names(FoldersTestCase):
     def test_names_are_shown_stored_and_told_without_loss(self):
         names = ["sp ace", "quo'te\"", "new\nline", unicodedata.normalize("NFD", "é"), "日本", "a" * 255]
         folders = [self.make_folder_of(name) for name in names]
+        # As long as a path can be.
+        folders.append("/srv" + "/x" * 2045)
         self.suite.write(foldersArray=folders, foldersArraystate=[1] * len(folders))
         self.start()
 
         self.assertEqual([name for name, _ in self.rows()], folders)
         self.hands.click(self.window.find("check box", folders[2]).extents)
-        self.assertFolders(folders, [1, 1, 0, 1, 1, 1], 0)
+        self.assertFolders(folders, [1, 1, 0, 1, 1, 1, 1], 0)
+
+        added = self.make_folder_of("added last")
+        self.accept_console_lines()
+        self.add(added)
+        self.assertFolders([*folders, added], [1, 1, 0, 1, 1, 1, 1, 1], 1)
+        addresses = call(self.bus.connection, APPLICATION, "/com/orvikstudio/FinderSync",
+                         "org.freedesktop.DBus.Properties", "Get",
+                         GLib.Variant("(ss)", ("com.orvikstudio.FinderSync", "directoryURLs")))[0]
+        self.assertCountEqual([urllib.parse.unquote(address.removeprefix("file://")) for address in addresses],
+                              [*folders, added])
 
     def test_both_forms_of_a_letter_are_the_same_folder(self):
         self.suite.write(foldersArray=[os.path.join(self.home.files, unicodedata.normalize("NFD", "Café"))],

@@ -101,8 +101,8 @@ class Screenshots(DesktopTestCase):
             paths = list(self.pictures(scheme))
             subprocess.run(
                 ["montage", *paths, "-background", "#7d8590", "-geometry", "480x448>+10+10", "-tile", "4x",
-                 "-depth", "8", "+dither", "-colors", "200", "PNG8:" + os.path.join(self.folder, f"all-{scheme}.png")],
-                check=True, timeout=120)
+                 "-depth", "8", "-define", "png:compression-level=9",
+                 os.path.join(self.folder, f"all-{scheme}.png")], check=True, timeout=120)
 
 
 if __name__ == "__main__":

@@ -6,7 +6,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <utility>
@@ -20,11 +22,19 @@ QString folderIn(const QString& configuration)
     return QDir::cleanPath(configuration) + QStringLiteral("/autostart");
 }
 
+/// Whether a program that an entry names is there to be started.
+bool isThere(const QString& program)
+{
+    return QDir::isAbsolutePath(program) ? QFileInfo(program).isExecutable()
+                                         : !QStandardPaths::findExecutable(program).isEmpty();
+}
+
 /// Of an entry that is there: whether it starts its program.
 bool startsProgram(const QByteArray& entry)
 {
     using DesktopEntryText::value;
-    return value(entry, QStringLiteral("Exec")) &&
+    const auto tried = value(entry, QStringLiteral("TryExec"));
+    return value(entry, QStringLiteral("Exec")) && (!tried || isThere(*tried)) &&
            value(entry, QStringLiteral("Hidden")).value_or(QString()) != QLatin1String("true") &&
            // What the settings of some desktops write to switch an entry off.
            value(entry, QStringLiteral("X-GNOME-Autostart-enabled")).value_or(QString()) != QLatin1String("false");
@@ -33,9 +43,10 @@ bool startsProgram(const QByteArray& entry)
 /// Nothing where there is no file.
 std::optional<QByteArray> contentsOf(const QString& path)
 {
-    QFile file(path);
-    if (!file.exists())
+    // A pipe in the entry's place would keep whoever opens it.
+    if (!QFileInfo(path).isFile())
         return std::nullopt;
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QByteArray();
     return file.readAll();

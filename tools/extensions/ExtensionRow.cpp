@@ -46,6 +46,9 @@ ExtensionRow::ExtensionRow(ExtensionControl& control, const QIcon& icon, QWidget
     layOut(picture, title, explanation);
 
     connect(m_switch, &Switch::asked, &m_control, [this](bool on) {
+        // The last wish is carried out before there is another.
+        if (m_control.status().activity != ExtensionStatus::Activity::None)
+            return;
         if (on)
             m_control.switchOn();
         else

@@ -1,9 +1,14 @@
 #include "extensions/Switch.h"
 
+#include "platform/linux/widgets/ThemeColors.h"
+
 #include <QPainter>
 #include <QSignalBlocker>
 
 namespace ExtensionsTool {
+
+using LinuxDesktop::controlOutline;
+using LinuxDesktop::mixed;
 
 namespace {
 
@@ -11,13 +16,6 @@ constexpr QSizeF track(44, 24);
 /// Between the track's rim and the knob, and from the track to the ring that shows the focus.
 constexpr qreal gap = 3;
 constexpr qreal ring = 2;
-
-QColor mixed(const QColor& one, const QColor& other, float share)
-{
-    const auto mix = [share](float from, float to) { return from + (to - from) * share; };
-    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
-                            mix(one.blueF(), other.blueF()));
-}
 
 } // namespace
 
@@ -65,7 +63,7 @@ void Switch::paintEvent(QPaintEvent*)
     const QColor text = palette().color(QPalette::Text);
     const QColor base = palette().color(QPalette::Base);
     const QColor accent = palette().color(QPalette::Highlight);
-    QColor fill = isChecked() ? accent : mixed(base, text, isEnabled() ? 0.42F : 0.2F);
+    QColor fill = isChecked() ? accent : isEnabled() ? controlOutline(palette()) : mixed(base, text, 0.2F);
     if (isEnabled() && (isDown() || underMouse()))
         fill = mixed(fill, text, isDown() ? 0.2F : 0.08F);
 
@@ -83,7 +81,8 @@ void Switch::paintEvent(QPaintEvent*)
     const bool knobIsRight = isChecked() != (layoutDirection() == Qt::RightToLeft);
     if (knobIsRight)
         knob.moveRight(body.right() - gap);
-    painter.setBrush(isEnabled() ? QColor(Qt::white) : mixed(fill, base, 0.6F));
+    painter.setBrush(isEnabled() ? palette().color(isChecked() ? QPalette::HighlightedText : QPalette::Base)
+                                 : mixed(fill, base, 0.6F));
     painter.drawEllipse(knob);
 
     if (hasFocus()) {

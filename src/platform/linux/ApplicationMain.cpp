@@ -72,8 +72,11 @@ bool hasDisplay(int argc, char** argv)
 void destroyWindows()
 {
     QList<QPointer<QWidget>> windows;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        windows.append(window);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        // A popup is somebody's own, who takes it away.
+        if (window->windowType() != Qt::Popup)
+            windows.append(window);
+    }
     for (const QPointer<QWidget>& window : windows)
         delete window.data();
 }

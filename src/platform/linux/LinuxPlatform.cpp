@@ -23,6 +23,7 @@
 #include <pwd.h>
 #include <random>
 #include <unistd.h>
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -133,12 +134,23 @@ NS::Date LinuxPlatform::now()
 
 void LinuxPlatform::performAfterDelay(std::function<void()> perform, double delay)
 {
-    QTimer::singleShot(milliseconds(delay), Qt::PreciseTimer, qApp, std::move(perform));
+    QTimer::singleShot(milliseconds(delay), Qt::PreciseTimer, &m_timers, [this, perform = std::move(perform)] {
+        if (m_modalState.active())
+            m_heldBack.push_back(perform);
+        else
+            perform();
+    });
+}
+
+void LinuxPlatform::performHeldBack()
+{
+    for (auto& perform : std::exchange(m_heldBack, {}))
+        dispatchToMainQueue(std::move(perform));
 }
 
 std::shared_ptr<NS::Timer> LinuxPlatform::scheduledTimerWithTimeInterval(double interval, std::function<void()> fire)
 {
-    return std::make_shared<WidgetTimer>(m_timers, milliseconds(interval), std::move(fire));
+    return std::make_shared<WidgetTimer>(m_timers, m_modalState, milliseconds(interval), std::move(fire));
 }
 
 void LinuxPlatform::dispatchToGlobalQueue(std::function<void()> work)

@@ -19,6 +19,8 @@
 #include <QString>
 #include <QThreadPool>
 
+#include <vector>
+
 namespace LinuxDesktop {
 
 /// The vocabulary on a freedesktop.org desktop. One a process, made after the QApplication. Main thread.
@@ -59,6 +61,8 @@ public:
     void dispatchToMainQueue(std::function<void()> work) override;
 
 private:
+    void performHeldBack();
+
     const NS::ClassTable& m_classes;
     Store m_store;
     std::shared_ptr<NS::UserDefaults> m_standardDefaults;
@@ -74,6 +78,9 @@ private:
     DesktopWorkspace m_workspace;
     PointerShape m_cursor;
     QObject m_timers;
+    /// What fell due while a modal panel ran.
+    std::vector<std::function<void()>> m_heldBack;
+    std::shared_ptr<const ModalState::Callback> m_modalEnd = m_modalState.whenEnded([this] { performHeldBack(); });
     DesktopApplication m_application;
     std::shared_ptr<NS::ApplicationDelegate> m_delegate;
     ActionMap m_responders;

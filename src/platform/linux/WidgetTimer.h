@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Timer.h"
+#include "platform/linux/ModalState.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -10,14 +11,18 @@
 
 namespace LinuxDesktop {
 
-/// A repeating timer of the main event loop. Main thread.
+/// A repeating timer of the main event loop, which leaves out the turns that fall into a modal panel. Main thread.
 class WidgetTimer : public NS::Timer {
 public:
-    /// Runs as long as `owner` lives, or until it is invalidated.
-    WidgetTimer(QObject& owner, std::chrono::milliseconds interval, std::function<void()> fire)
+    /// Runs as long as `owner` lives, or until it is invalidated. `modalState` must outlive the owner.
+    WidgetTimer(QObject& owner, const ModalState& modalState, std::chrono::milliseconds interval,
+                std::function<void()> fire)
         : m_timer(new QTimer(&owner))
     {
-        QObject::connect(m_timer, &QTimer::timeout, m_timer, std::move(fire));
+        QObject::connect(m_timer, &QTimer::timeout, m_timer, [&modalState, fire = std::move(fire)] {
+            if (!modalState.active())
+                fire();
+        });
         m_timer->start(interval);
     }
 

@@ -20,6 +20,10 @@ class Hands:
         """A click of the first button in the middle of `extents`."""
         self._xdotool("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2, "click", 1)
 
+    def double_click(self, extents):
+        self._xdotool("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2, "click",
+                      "--repeat", 2, "--delay", 60, 1)
+
     def press(self, *keys):
         """One key or combination after the other, for example "Tab" or "ctrl+q"."""
         self._xdotool("key", "--clearmodifiers", *keys)

@@ -32,7 +32,7 @@ void appendChecksum(NS::Data& bytes)
 NS::Data changed(const BookmarkRecord& record, const std::function<void(NS::Data&)>& change)
 {
     NS::Data bytes = encodeBookmark(record);
-    bytes.resize(bytes.size() - sizeof(std::uint64_t));
+    bytes.erase(bytes.end() - sizeof(std::uint64_t), bytes.end());
     change(bytes);
     appendChecksum(bytes);
     return bytes;

@@ -1,14 +1,21 @@
 #include "platform/linux/widgets/Appearance.h"
+#include "platform/linux/widgets/Label.h"
+#include "platform/linux/widgets/Paragraph.h"
 #include "platform/linux/widgets/Scenes.h"
+#include "showcase/ShowcaseCatalogue.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QLayout>
+#include <QTabBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -83,6 +90,49 @@ TEST_P(ScenesText, IsWholeInTheNarrowestWindow)
 {
     for (const char* scene : {"ViewController", "foldersArrvc", "genraltabvc", "customFoldersVc"})
         expectNothingIsCut(scene, {440, 500});
+}
+
+TEST_P(ScenesText, OfTheTabsFitsTheMainWindow)
+{
+    const auto root = makeScene("tabviewcontroller");
+    root->resize(600, 600);
+    root->show();
+
+    EXPECT_LE(root->findChild<QTabBar*>()->sizeHint().width(), root->width());
+}
+
+std::unique_ptr<QWidget> shownCard(std::string_view title, std::string_view description)
+{
+    auto card = makeScene("collectionView_cell");
+    card->resize(430, 220);
+    card->findChild<Label*>("lbltitle")->setStringValue(title);
+    card->findChild<Label*>("lblapptype")->setStringValue("Utilities");
+    card->findChild<Paragraph*>("lblsubtitle")->setStringValue(description);
+    card->show();
+    QCoreApplication::processEvents();
+    return card;
+}
+
+TEST_P(ScenesText, IsWholeOnEveryCard)
+{
+    for (const ShowcaseApplication& application : showcaseCatalogue) {
+        const auto card = shownCard(application.title, application.description);
+        const auto& description = *card->findChild<Paragraph*>("lblsubtitle");
+
+        EXPECT_GE(description.height(), description.heightForWidth(description.width())) << application.title;
+    }
+}
+
+TEST_P(ScenesText, MovesNothingElseOnACard)
+{
+    for (const char* text :
+         {"Short.",
+          "A sentence that goes on for so long that it takes three lines of a card, which is as many as there "
+          "are sentences of that length in any of the texts of these cards."}) {
+        const auto card = shownCard("Title", text);
+
+        EXPECT_EQ(card->findChild<QWidget*>("imgview")->y(), card->layout()->contentsMargins().top());
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, ScenesText, testing::Values(TextSize{"Usual", 1.0}, TextSize{"HalfAsLargeAgain", 1.5}),

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -54,6 +55,19 @@ TEST_P(Theme, EveryTextStandsOutFromWhatIsBehindIt)
     }
 }
 
+TEST_P(Theme, TextsStandOutFromWhatIsHoveredPressedOrSelectedToo)
+{
+    const auto color = [&](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+    for (const float share : {0.06F, 0.16F})
+        expectContrast("a hovered or pressed button's title", color(QPalette::ButtonText),
+                       mixed(color(QPalette::Button), color(QPalette::ButtonText), share));
+    expectContrast("a hovered row", color(QPalette::Text),
+                   mixed(color(QPalette::Base), color(QPalette::Text), 0.05F));
+    expectContrast("a selected row", color(QPalette::Text),
+                   mixed(color(QPalette::Base), color(QPalette::Highlight), 0.16F));
+    expectContrast("a link in a card", color(QPalette::Link), color(QPalette::Base));
+}
+
 TEST_P(Theme, EveryControlStandsOutFromWhatIsBehindIt)
 {
     const auto color = [&](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
@@ -62,6 +76,9 @@ TEST_P(Theme, EveryControlStandsOutFromWhatIsBehindIt)
         expectContrast("a focus ring, a checked box, the selected tab's mark", color(QPalette::Highlight),
                        color(behind));
     }
+    expectContrast("a focus ring around a button", color(QPalette::Highlight), color(QPalette::Button));
+    expectContrast("a button's outline", controlOutline(palette), color(QPalette::Button));
+    expectContrast("the knob of a switch that is off", color(QPalette::Base), controlOutline(palette));
     expectContrast("a check mark, a selected text", color(QPalette::HighlightedText), color(QPalette::Highlight));
 }
 

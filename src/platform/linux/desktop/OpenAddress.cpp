@@ -11,7 +11,9 @@
 
 #include <chrono>
 #include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace LinuxDesktop {
 
@@ -21,6 +23,18 @@ using namespace std::chrono_literals;
 
 /// Whoever has no program for an address says so sooner; a browser that is started may run for hours.
 constexpr std::chrono::milliseconds patience = 1s;
+
+/// Where nobody is registered for an address, xdg-open hands it to a browser, whatever its scheme.
+std::vector<std::string> environmentFor(const std::string& address)
+{
+    std::vector<std::string> environment = Command::environment();
+    const bool isForBrowsers = address.starts_with("http:") || address.starts_with("https:");
+    if (!isForBrowsers) {
+        std::erase_if(environment, [](const std::string& variable) { return variable.starts_with("BROWSER="); });
+        environment.emplace_back("BROWSER=false");
+    }
+    return environment;
+}
 
 /// Clears the program away when it ends, if this process still runs by then.
 void clearAwayWhenEnded(Command::Process started)
@@ -39,7 +53,7 @@ bool openByCommand(const std::string& address)
     const auto command = Command::find("xdg-open");
     if (!command)
         return false;
-    auto process = Command::start(*command, {"xdg-open", address}, Command::environment());
+    auto process = Command::start(*command, {"xdg-open", address}, environmentFor(address));
     if (!process)
         return false;
     QEventLoop loop;

@@ -1,6 +1,7 @@
 #include "platform/linux/desktop/OpenPortal.h"
 
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -30,14 +31,17 @@ std::optional<bool> OpenPortal::open(const QString& address, std::chrono::millis
                                        QStringLiteral("org.freedesktop.portal.OpenURI"), QStringLiteral("OpenURI"));
     const QString noParentWindow = QStringLiteral("");
     call << noParentWindow << address << QVariantMap{{QStringLiteral("handle_token"), token}};
-    if (m_connection.call(call).type() != QDBusMessage::ReplyMessage)
-        return std::nullopt;
-
     QEventLoop loop;
+    const QDBusPendingCallWatcher reply(m_connection.asyncCall(call));
+    connect(&reply, &QDBusPendingCallWatcher::finished, &loop, [&] {
+        if (reply.isError())
+            loop.quit();
+    });
     connect(this, &OpenPortal::answered, &loop, &QEventLoop::quit);
     QTimer::singleShot(patience, &loop, &QEventLoop::quit);
-    if (!m_response)
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (reply.isFinished() && reply.isError())
+        return std::nullopt;
     return m_response.value_or(0) == 0;
 }
 

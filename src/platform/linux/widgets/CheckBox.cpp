@@ -1,5 +1,7 @@
 #include "platform/linux/widgets/CheckBox.h"
 
+#include "platform/linux/widgets/ModalBlock.h"
+
 #include <QSignalBlocker>
 
 namespace LinuxDesktop {
@@ -7,7 +9,12 @@ namespace LinuxDesktop {
 CheckBox::CheckBox(QWidget* parent) : ButtonWidget(parent)
 {
     // Not clicked: assistive programs may toggle the box without a click.
-    connect(this, &QCheckBox::toggled, this, [this] { sendAction(); });
+    connect(this, &QCheckBox::toggled, this, [this](bool on) {
+        if (!isBlockedByPanel(*this))
+            sendAction();
+        else
+            setState(on ? NS::ControlState::Off : NS::ControlState::On);
+    });
 }
 
 void CheckBox::setState(NS::ControlState state)

@@ -33,6 +33,9 @@ const TemplateImage* templateNamed(std::string_view name)
     return found == templateImages.end() ? nullptr : found;
 }
 
+/// In pixels.
+constexpr int smallestColouredIcon = 48;
+
 /// In front of the names of a theme image. No file is called so.
 const QString themePrefix = QStringLiteral("theme/");
 
@@ -107,8 +110,9 @@ QPixmap ImageStore::draw(const QString& name, int extent, qreal scale, const QCo
 {
     if (name.startsWith(themePrefix)) {
         // Themes draw their icons of small sizes in outlines; the larger ones are told apart at a glance.
-        QPixmap icon = themeIcon(name.mid(themePrefix.size()).split(u'/'), 2 * extent, scale);
-        icon.setDevicePixelRatio(2 * scale);
+        const int pixels = std::max(smallestColouredIcon, qCeil(extent * scale));
+        QPixmap icon = themeIcon(name.mid(themePrefix.size()).split(u'/'), pixels, 1.0);
+        icon.setDevicePixelRatio(pixels / static_cast<qreal>(extent));
         return icon;
     }
     const TemplateImage* image = templateNamed(name.toStdString());

@@ -29,10 +29,23 @@ constexpr std::array textStyles{
     TextStyle{QLatin1String("secondary"), 1.0, QFont::Normal, QPalette::PlaceholderText},
 };
 
-/// As rich text a long text is wrapped; its own marks are not taken for markup.
+/// As rich text a long text is wrapped, and a long name after every so many characters; its own marks are not taken
+/// for markup.
 QString wrapped(const QString& text)
 {
-    return QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>");
+    constexpr QChar breakHere(0x200B);
+    constexpr int longestRun = 32;
+    QString breakable;
+    int run = 0;
+    for (const QChar character : text) {
+        breakable += character;
+        run = character.isSpace() ? 0 : run + 1;
+        if (run >= longestRun && !character.isHighSurrogate()) {
+            breakable += breakHere;
+            run = 0;
+        }
+    }
+    return QStringLiteral("<qt>") + breakable.toHtmlEscaped() + QStringLiteral("</qt>");
 }
 
 } // namespace
@@ -98,11 +111,14 @@ void Label::paintCut(QPainter& painter)
 bool Label::event(QEvent* event)
 {
     // A wrapped text is never given less height than its lines need.
-    if (event->type() == QEvent::Polish && wordWrap()) {
-        QSizePolicy policy(sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+    if (event->type() == QEvent::Polish && wordWrap() && hasHeightForWidth()) {
+        QSizePolicy policy = sizePolicy();
+        policy.setVerticalPolicy(QSizePolicy::Minimum);
         policy.setHeightForWidth(true);
         setSizePolicy(policy);
     }
+    if (event->type() == QEvent::ApplicationFontChange)
+        setTextStyle(m_textStyle);
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
     const QString tip = !m_toolTip.isEmpty() ? m_toolTip : isCut() ? text() : QString();

@@ -5,6 +5,7 @@
 
 #include <QAbstractScrollArea>
 #include <QStyleOption>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -13,6 +14,8 @@ namespace LinuxDesktop {
 namespace {
 
 constexpr int boxExtent = 18;
+/// Between a checkbox and the outer edge of the ring that shows the focus.
+constexpr int focusRoom = 4;
 constexpr int scrollBarExtent = 10;
 constexpr int shortestScrollHandle = 32;
 
@@ -81,10 +84,28 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const
 {
-    if (element == CE_TabBarTabShape)
+    const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    if (element == CE_TabBarTabShape) {
         ControlPainting::drawTab(*option, *painter);
-    else
+    } else if (element == CE_TabBarTabLabel && tab) {
+        // The base style would draw a focus of its own.
+        QStyleOptionTab label(*tab);
+        label.state &= ~State_HasFocus;
+        QProxyStyle::drawControl(element, &label, painter, widget);
+        if (tab->state & State_HasFocus) {
+            label.rect.adjust(2, 4, -2, -6);
+            ControlPainting::drawFocus(label, *painter);
+        }
+    } else {
         QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+void PanelStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QTabBar*>(widget))
+        widget->setAttribute(Qt::WA_Hover);
 }
 
 void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -133,7 +154,20 @@ QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
 QRect PanelStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
-    return element == SE_LineEditContents ? rect.adjusted(4, 0, -4, 0) : rect;
+    switch (element) {
+    case SE_LineEditContents:
+        return rect.adjusted(4, 0, -4, 0);
+    // The focus is shown around the box, with room between.
+    case SE_CheckBoxIndicator:
+        return QStyle::visualRect(option->direction, option->rect, rect.translated(focusRoom, 0));
+    case SE_CheckBoxContents:
+        return QStyle::visualRect(option->direction, option->rect, rect.adjusted(focusRoom, 0, 0, 0));
+    case SE_CheckBoxFocusRect:
+        return subElementRect(SE_CheckBoxIndicator, option, widget)
+            .adjusted(-focusRoom, -focusRoom, focusRoom, focusRoom);
+    default:
+        return rect;
+    }
 }
 
 QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
@@ -143,6 +177,8 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     switch (type) {
     case CT_PushButton:
         return size + QSize(16, 6);
+    case CT_CheckBox:
+        return size.expandedTo(QSize(0, boxExtent)) + QSize(2 * focusRoom, 2 * focusRoom);
     case CT_ItemViewItem:
     case CT_LineEdit:
         return size + QSize(0, 6);
@@ -150,7 +186,7 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     case CT_MenuItem:
         return size + QSize(8, 4);
     case CT_TabBarTab:
-        return size + QSize(8, 8);
+        return size + QSize(0, 8);
     default:
         return size;
     }

@@ -12,6 +12,8 @@ class PanelStyle : public QProxyStyle {
 public:
     PanelStyle();
 
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -1,10 +1,15 @@
 #include "platform/linux/widgets/PushButton.h"
 
+#include "platform/linux/widgets/ModalBlock.h"
+
 namespace LinuxDesktop {
 
 PushButton::PushButton(QWidget* parent) : ButtonWidget(parent)
 {
-    connect(this, &QPushButton::clicked, this, [this] { sendAction(); });
+    connect(this, &QPushButton::clicked, this, [this] {
+        if (!isBlockedByPanel(*this))
+            sendAction();
+    });
 }
 
 void PushButton::setState(NS::ControlState state)

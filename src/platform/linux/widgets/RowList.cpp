@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -16,9 +17,10 @@ namespace LinuxDesktop {
 
 namespace {
 
-bool isTabReason(const QFocusEvent& event)
+bool isByPerson(const QFocusEvent& event)
 {
-    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+    return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::OtherFocusReason &&
+           event.reason() != Qt::PopupFocusReason;
 }
 
 } // namespace
@@ -311,6 +313,9 @@ bool RowList::eventFilter(QObject* watched, QEvent* event)
                 return true;
             }
         }
+    } else if (event->type() == QEvent::MouseButtonDblClick && qobject_cast<QPushButton*>(watched)) {
+        // Pressing a row's button may take the row away, and then the second press would be for the row below.
+        return true;
     } else if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress) {
         // Whatever way the user came to a row, it is the current one from then on.
         auto* pressed = qobject_cast<RowWidget*>(watched);
@@ -320,9 +325,9 @@ bool RowList::eventFilter(QObject* watched, QEvent* event)
         const int number = row ? rowOf(*row) : -1;
         if (number >= 0) {
             setCurrentRow(number);
-            // A click on a control operates that control alone.
-            const bool tabbedTo = event->type() == QEvent::FocusIn && isTabReason(*static_cast<QFocusEvent*>(event));
-            if (pressed || (tabbedTo && m_selectedRow < 0))
+            // A window that is come back to selects nothing by itself.
+            if (m_selectedRow >= 0 || event->type() == QEvent::MouseButtonPress ||
+                isByPerson(*static_cast<QFocusEvent*>(event)))
                 selectRow(number);
             if (pressed && m_selectable && !row->controls().isEmpty())
                 row->controls().front()->setFocus(Qt::MouseFocusReason);

@@ -22,7 +22,7 @@ class RowList : public QAbstractScrollArea, public NS::TableView {
     Q_OBJECT
     /// What an empty list says.
     Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
-    /// Whether a row can be selected: with a click beside its controls, or with the keys that move through the rows.
+    /// Whether a row can be selected: it is whenever the user comes to it, by pointer or by keyboard.
     Q_PROPERTY(bool selectable MEMBER m_selectable)
 
 public:
