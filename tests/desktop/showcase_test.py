@@ -209,5 +209,61 @@ class TwiceTheDensity(ShowcaseTestCase):
         self.save_picture("showcase-2x")
 
 
+class Widths(ShowcaseTestCase):
+    """Two columns, or one in the middle, as the width of the window gives them."""
+
+    CARD = 430
+
+    def places(self):
+        """The cards' left edges, from that of the window, in points."""
+        left = self.showcase.extents.x
+        return sorted({self.showcase.find("panel", title).extents.x - left for title in APPLICATIONS})
+
+    def space(self):
+        return (self.showcase.extents.width - 880) / 3
+
+    def scroll_bar(self):
+        return self.showcase.find("scroll bar").extents.width
+
+
+class OrdinaryWidths(Widths):
+    def test_1000_gives_two_columns_with_the_free_width_in_three_parts(self):
+        self.start()
+        self.open_showcase()
+        self.hands.resize(self.windows.active(), 1000, 690)
+        eventually(lambda: self.showcase.extents.width == 1000, "the width")
+        self.hands.press("ctrl+w")
+        self.assertEventuallyEqual(self.open_windows, [MAIN_WINDOW])
+        self.open_showcase()
+
+        self.assertEqual(self.showcase.extents.width, 1000)
+        self.assertEqual(self.space(), 40)
+        self.assertEventuallyEqual(self.places, [40, 1000 - self.scroll_bar() - 40 - self.CARD])
+
+
+class AScreenOf896(Widths):
+    screen_size = (896, 768)
+
+    def test_880_gives_two_columns_without_margins(self):
+        self.start()
+        self.open_showcase()
+
+        self.assertEqual(self.showcase.extents.width, 880)
+        self.assertEqual(self.space(), 0)
+        self.assertEventuallyEqual(self.places, [0, 880 - self.scroll_bar() - self.CARD])
+
+
+class AScreenOf716(Widths):
+    screen_size = (716, 768)
+
+    def test_700_gives_one_column_in_the_middle(self):
+        self.start()
+        self.open_showcase()
+
+        self.assertEqual(self.showcase.extents.width, 700)
+        self.assertEqual(self.space(), -60)
+        self.assertEventuallyEqual(self.places, [(700 - self.scroll_bar() - self.CARD) // 2])
+
+
 if __name__ == "__main__":
     unittest.main()

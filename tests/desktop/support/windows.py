@@ -38,6 +38,9 @@ class Hands:
     def place(self, window, x, y):
         self._xdotool("windowmove", window, x, y)
 
+    def resize(self, window, width, height):
+        self._xdotool("windowsize", window, width, height)
+
     def iconify(self, window):
         self._xdotool("windowminimize", window)
 

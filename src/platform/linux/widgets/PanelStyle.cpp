@@ -85,6 +85,7 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
                              const QWidget* widget) const
 {
     const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     if (element == CE_TabBarTabShape) {
         ControlPainting::drawTab(*option, *painter);
     } else if (element == CE_TabBarTabLabel && tab) {
@@ -96,6 +97,16 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
             label.rect.adjust(2, 4, -2, -6);
             ControlPainting::drawFocus(label, *painter);
         }
+    } else if (element == CE_CheckBox && button) {
+        // The base style asks itself where the parts are.
+        QStyleOptionButton part(*button);
+        part.rect = subElementRect(SE_CheckBoxIndicator, button, widget);
+        ControlPainting::drawCheckBox(part, *painter);
+        part.rect = subElementRect(SE_CheckBoxContents, button, widget);
+        QProxyStyle::drawControl(CE_CheckBoxLabel, &part, painter, widget);
+        part.rect = subElementRect(SE_CheckBoxFocusRect, button, widget);
+        if (button->state & State_HasFocus)
+            ControlPainting::drawFocus(part, *painter);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -178,7 +189,7 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     case CT_PushButton:
         return size + QSize(16, 6);
     case CT_CheckBox:
-        return size.expandedTo(QSize(0, boxExtent)) + QSize(2 * focusRoom, 2 * focusRoom);
+        return QSize(size.width() + 2 * focusRoom, std::max(size.height(), boxExtent + 2 * focusRoom));
     case CT_ItemViewItem:
     case CT_LineEdit:
         return size + QSize(0, 6);

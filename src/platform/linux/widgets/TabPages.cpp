@@ -41,6 +41,9 @@ void TabPages::loadCurrentPage()
     layout->setContentsMargins({});
     layout->addWidget(&WidgetScene::rootOf(*screen));
     m_screens.push_back(std::move(screen));
+    // A page that had nothing in it yet was given the focus itself.
+    if (page->hasFocus())
+        focusNextChild();
 }
 
 } // namespace LinuxDesktop
