@@ -43,11 +43,11 @@ int Companion::start()
     m_busEnd.reset(slot);
     if (result >= 0)
         result = m_service.publish();
-    // The name comes after all that those who see it may ask for.
-    if (result >= 0)
-        result = m_service.claimName();
+    // The name comes after all that those who see it may ask for or tell.
     if (result >= 0)
         result = m_panel.start();
+    if (result >= 0)
+        result = m_service.claimName();
     return result;
 }
 
