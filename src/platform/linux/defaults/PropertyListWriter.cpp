@@ -43,9 +43,38 @@ std::size_t decodeFirst(std::string_view text, char32_t& character)
     return character < lowest.at(length) || character > 0x10ffff || surrogate ? 0 : length;
 }
 
+/// Most of what is stored; the rest is looked at character by character.
+bool isPlain(char character)
+{
+    return character >= 0x20 && character < 0x7f;
+}
+
+bool isMarked(char character)
+{
+    return character == '&' || character == '<' || character == '>' || character == '\r';
+}
+
+std::string_view escaped(char marked)
+{
+    switch (marked) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    default:
+        // Written as itself it would be read as a line feed.
+        return "&#13;";
+    }
+}
+
 std::optional<std::string> unstorableTextReason(std::string_view text)
 {
-    while (!text.empty()) {
+    while (true) {
+        text.remove_prefix(static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin()));
+        if (text.empty())
+            return std::nullopt;
         char32_t character = 0;
         const std::size_t length = decodeFirst(text, character);
         if (length == 0)
@@ -56,7 +85,6 @@ std::optional<std::string> unstorableTextReason(std::string_view text)
             return "text with U+FFFE or U+FFFF";
         text.remove_prefix(length);
     }
-    return std::nullopt;
 }
 
 /// Writes values, and knows by that what cannot be written.
@@ -128,6 +156,19 @@ private:
         checkSize(0);
     }
 
+    void appendEscaped(std::string_view text)
+    {
+        while (true) {
+            const auto marked = std::ranges::find_if(text, isMarked);
+            const auto length = static_cast<std::size_t>(marked - text.begin());
+            m_out += text.substr(0, length);
+            if (marked == text.end())
+                return;
+            m_out += escaped(*marked);
+            text.remove_prefix(length + 1);
+        }
+    }
+
     void textElement(std::string_view name, std::string_view text)
     {
         checkSize(text.size());
@@ -137,25 +178,7 @@ private:
             return;
         m_out.append(m_indent, '\t');
         ((m_out += '<') += name) += '>';
-        for (const char character : text) {
-            switch (character) {
-            case '&':
-                m_out += "&amp;";
-                break;
-            case '<':
-                m_out += "&lt;";
-                break;
-            case '>':
-                m_out += "&gt;";
-                break;
-            case '\r':
-                // Written as itself it would be read as a line feed.
-                m_out += "&#13;";
-                break;
-            default:
-                m_out += character;
-            }
-        }
+        appendEscaped(text);
         ((m_out += "</") += name) += ">\n";
         checkSize(0);
     }
