@@ -56,9 +56,9 @@ TEST_P(MovedFolder, IsFoundFurtherUp)
 
 TEST_P(MovedFolder, IsFoundInAnotherBranch)
 {
-    const NS::Data bookmark = make(m_tree.makeFolder("documents/work/folder"));
+    const NS::Data bookmark = make(m_tree.makeFolder("documents/drafts/folder"));
     m_tree.makeFolder("pictures/old");
-    fs::rename(m_tree / "documents/work/folder", m_tree / "pictures/old/folder");
+    fs::rename(m_tree / "documents/drafts/folder", m_tree / "pictures/old/folder");
     EXPECT_EQ(resolveFolderBookmark(bookmark), m_tree / "pictures/old/folder");
 }
 
