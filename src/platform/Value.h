@@ -5,6 +5,7 @@
 #include <concepts>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,7 +18,8 @@ namespace NS {
 using Data = std::vector<std::uint8_t>;
 
 /// A property-list value of one of eight kinds. The kinds never blur: a boolean is not an integer and an
-/// integer is not a real, and asking for a kind that the value does not have gives nothing.
+/// integer is not a real, and asking for a kind that the value does not have gives nothing. Copies share their
+/// arrays and dictionaries, so that copying costs the same whatever is inside. Threads may have copies of their own.
 class Value {
 public:
     enum class Kind { Boolean, Integer, Real, String, Date, Data, Array, Dictionary };
@@ -37,28 +39,55 @@ public:
     Value(const char* value) : m_value(std::string(value)) {}
     Value(NS::Date value) : m_value(value) {}
     Value(NS::Data value) : m_value(std::move(value)) {}
-    Value(Array value) : m_value(std::move(value)) {}
-    Value(Dictionary value) : m_value(std::move(value)) {}
+    Value(Array value) : m_value(Shared<Array>(std::move(value))) {}
+    Value(Dictionary value) : m_value(Shared<Dictionary>(std::move(value))) {}
 
     [[nodiscard]] Kind kind() const;
 
-    [[nodiscard]] std::optional<bool> boolean() const;
-    [[nodiscard]] std::optional<std::int64_t> integer() const;
+    [[nodiscard]] std::optional<bool> boolean() const { return scalar<bool>(); }
+    [[nodiscard]] std::optional<std::int64_t> integer() const { return scalar<std::int64_t>(); }
     /// The magnitude of an integer too large for integer(); nothing for every other value.
-    [[nodiscard]] std::optional<std::uint64_t> largeInteger() const;
-    [[nodiscard]] std::optional<double> real() const;
-    [[nodiscard]] std::optional<NS::Date> date() const;
-    // The pointers live as long as the value is neither changed nor destroyed.
+    [[nodiscard]] std::optional<std::uint64_t> largeInteger() const { return scalar<std::uint64_t>(); }
+    [[nodiscard]] std::optional<double> real() const { return scalar<double>(); }
+    [[nodiscard]] std::optional<NS::Date> date() const { return scalar<NS::Date>(); }
+    // The pointers live as long as the value is neither assigned to nor destroyed.
     [[nodiscard]] const std::string* string() const { return std::get_if<std::string>(&m_value); }
     [[nodiscard]] const NS::Data* data() const { return std::get_if<NS::Data>(&m_value); }
-    [[nodiscard]] const Array* array() const { return std::get_if<Array>(&m_value); }
-    [[nodiscard]] const Dictionary* dictionary() const { return std::get_if<Dictionary>(&m_value); }
+    // Of two copies of one value the pointers are the same.
+    [[nodiscard]] const Array* array() const { return shared<Array>(); }
+    [[nodiscard]] const Dictionary* dictionary() const { return shared<Dictionary>(); }
 
     friend bool operator==(const Value&, const Value&) = default;
 
 private:
-    using Held =
-        std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NS::Date, NS::Data, Array, Dictionary>;
+    template<class Container>
+    class Shared {
+    public:
+        explicit Shared(Container container) : m_container(std::make_shared<const Container>(std::move(container))) {}
+
+        [[nodiscard]] const Container* get() const { return m_container.get(); }
+        friend bool operator==(const Shared& one, const Shared& other) { return *one.get() == *other.get(); }
+
+    private:
+        std::shared_ptr<const Container> m_container;
+    };
+
+    using Held = std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NS::Date, NS::Data,
+                              Shared<Array>, Shared<Dictionary>>;
+
+    template<class Scalar>
+    [[nodiscard]] std::optional<Scalar> scalar() const
+    {
+        const auto* held = std::get_if<Scalar>(&m_value);
+        return held ? std::optional(*held) : std::nullopt;
+    }
+
+    template<class Container>
+    [[nodiscard]] const Container* shared() const
+    {
+        const auto* held = std::get_if<Shared<Container>>(&m_value);
+        return held ? held->get() : nullptr;
+    }
 
     static Held integerOf(std::integral auto value)
     {

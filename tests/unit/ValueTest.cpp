@@ -62,6 +62,34 @@ TEST(Value, AnIntegerBeyondThatRangeIsHeldButIsNotAnInt64)
     EXPECT_EQ(value.largeInteger(), std::numeric_limits<std::uint64_t>::max());
 }
 
+TEST(Value, CopiesShareWhatTheyContain)
+{
+    const NS::Value list = NS::Value::Array{"1", "2"};
+    const NS::Value record = NS::Value::Dictionary{{"list", list}};
+    const NS::Value copy = record;
+
+    EXPECT_EQ(copy.dictionary(), record.dictionary());
+    EXPECT_EQ(copy.dictionary()->at("list").array(), list.array());
+}
+
+TEST(Value, ACopyStaysAsItIsWhenTheOriginalIsAssignedTo)
+{
+    NS::Value original = NS::Value::Array{1, 2};
+    const NS::Value copy = original;
+    original = NS::Value::Array{3};
+
+    EXPECT_EQ(copy, NS::Value(NS::Value::Array{1, 2}));
+    EXPECT_NE(copy, original);
+}
+
+TEST(Value, ContainersThatAreNotSharedAreComparedByWhatTheyHold)
+{
+    EXPECT_EQ(NS::Value(NS::Value::Array{1, "2"}), NS::Value(NS::Value::Array{1, "2"}));
+    EXPECT_NE(NS::Value(NS::Value::Array{1, "2"}), NS::Value(NS::Value::Array{1, 2}));
+    EXPECT_EQ(NS::Value(NS::Value::Dictionary{{"1", 1}}), NS::Value(NS::Value::Dictionary{{"1", 1}}));
+    EXPECT_NE(NS::Value(NS::Value::Dictionary{{"1", 1}}), NS::Value(NS::Value::Dictionary{{"2", 1}}));
+}
+
 TEST(UserDefaults, ArrayForKeyGivesAnArrayAndNothingElse)
 {
     CallLog calls;

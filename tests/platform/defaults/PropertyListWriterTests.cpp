@@ -78,6 +78,25 @@ TEST(PropertyListWriter, TheLayoutIsTheUsualOne)
                               "</plist>\n");
 }
 
+TEST(PropertyListWriter, IntegersAreWrittenOverTheirWholeRange)
+{
+    using Limits = std::numeric_limits<std::int64_t>;
+    EXPECT_EQ(inside(Limits::min()), "<integer>-9223372036854775808</integer>\n");
+    EXPECT_EQ(inside(0), "<integer>0</integer>\n");
+    EXPECT_EQ(inside(Limits::max()), "<integer>9223372036854775807</integer>\n");
+}
+
+TEST(PropertyListWriter, TheExpectedLengthMakesNoDifferenceToTheText)
+{
+    const NS::Value value = NS::Value::Dictionary{{"text", std::string(1000, 'x')}};
+    const std::string text = written(value);
+    for (const std::size_t expected : {std::size_t{1}, text.size(), text.size() * 2}) {
+        const auto bytes = serialise(value, expected);
+        ASSERT_TRUE(bytes);
+        EXPECT_EQ(*bytes, text);
+    }
+}
+
 TEST(PropertyListWriter, RealsAreWrittenInTheShortestFormThatReadsTheSame)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();

@@ -293,7 +293,7 @@ std::optional<Snapshot> Domain::write(const Changes& changes, const Snapshot::Sh
         const std::lock_guard state(m_state);
         m_snapshot.release();
     }
-    auto written = m_file.replace(std::move(values));
+    auto written = m_file.replace(found, std::move(values));
     if (!written) {
         trouble.what = written.error();
         return std::nullopt;

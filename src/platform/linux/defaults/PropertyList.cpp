@@ -7,8 +7,24 @@
 
 namespace LinuxDesktop::PropertyList {
 
+namespace {
+
+bool hasDate(const NS::Value& value)
+{
+    if (const auto* array = value.array())
+        return std::ranges::any_of(*array, hasDate);
+    if (const auto* dictionary = value.dictionary())
+        return std::ranges::any_of(*dictionary, [](const auto& entry) { return hasDate(entry.second); });
+    return value.date().has_value();
+}
+
+} // namespace
+
 NS::Value inWholeSeconds(NS::Value value)
 {
+    // Nearly nothing that is stored has one, and then it is not made again.
+    if (!hasDate(value))
+        return value;
     switch (value.kind()) {
     case NS::Value::Kind::Date:
         return NS::Date{std::floor(value.date()->timeIntervalSince1970)};
@@ -42,11 +58,12 @@ bool identical(const NS::Value& one, const NS::Value& other)
                (std::isnan(left) && std::isnan(right));
     }
     case NS::Value::Kind::Array:
-        return std::ranges::equal(*one.array(), *other.array(), identical);
+        return one.array() == other.array() || std::ranges::equal(*one.array(), *other.array(), identical);
     case NS::Value::Kind::Dictionary:
-        return std::ranges::equal(*one.dictionary(), *other.dictionary(), [](const auto& left, const auto& right) {
-            return left.first == right.first && identical(left.second, right.second);
-        });
+        return one.dictionary() == other.dictionary() ||
+               std::ranges::equal(*one.dictionary(), *other.dictionary(), [](const auto& left, const auto& right) {
+                   return left.first == right.first && identical(left.second, right.second);
+               });
     default:
         return one == other;
     }

@@ -21,8 +21,8 @@ inline constexpr std::size_t maximumDepth = 64;
 [[nodiscard]] Result<NS::Value> parse(std::string_view bytes);
 
 /// The value as a file: UTF-8, Apple's document type, laid out as Python's plistlib does. Fails for what parse()
-/// would refuse or read differently.
-[[nodiscard]] Result<std::string> serialise(const NS::Value& value);
+/// would refuse or read differently. Quickest where it comes out no longer than `expectedBytes`.
+[[nodiscard]] Result<std::string> serialise(const NS::Value& value, std::size_t expectedBytes = 0);
 
 /// Why the value cannot be stored in a settings file, or nothing when it can.
 [[nodiscard]] std::optional<std::string> unstorableReason(const NS::Value& value);

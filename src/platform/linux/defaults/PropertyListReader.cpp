@@ -43,12 +43,12 @@ std::optional<NS::Value> integerFromText(std::string_view text)
     if (error != std::errc() || end != text.data() + text.size())
         return std::nullopt;
     if (!negative)
-        return NS::Value(magnitude);
+        return magnitude;
     constexpr std::uint64_t lowest = std::uint64_t{1} << 63U;
     if (magnitude > lowest)
         return std::nullopt;
     // Two's complement, so that the lowest integer needs no special case.
-    return NS::Value(static_cast<std::int64_t>(~magnitude + 1));
+    return static_cast<std::int64_t>(~magnitude + 1);
 }
 
 enum class Element { Plist, Dictionary, Array, Key, String, Integer, Real, Date, Data, True, False };
@@ -78,25 +78,25 @@ std::optional<NS::Value> scalarFromText(Element element, std::string& text)
 {
     switch (element) {
     case Element::String:
-        return NS::Value(std::move(text));
+        return std::move(text);
     case Element::Integer:
         return integerFromText(text);
     case Element::Real:
         if (const auto real = RealText::parse(trimmed(text)))
-            return NS::Value(*real);
+            return *real;
         return std::nullopt;
     case Element::Date:
         if (const auto date = DateText::parse(trimmed(text)))
-            return NS::Value(*date);
+            return *date;
         return std::nullopt;
     case Element::Data:
         if (auto data = Base64::decode(text))
-            return NS::Value(std::move(*data));
+            return std::move(*data);
         return std::nullopt;
     case Element::True:
     case Element::False:
         if (trimmed(text).empty())
-            return NS::Value(element == Element::True);
+            return element == Element::True;
         return std::nullopt;
     default:
         return std::nullopt;

@@ -6,7 +6,10 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <concepts>
 #include <cstdint>
+#include <limits>
 #include <span>
 
 namespace LinuxDesktop::PropertyList {
@@ -43,38 +46,46 @@ std::size_t decodeFirst(std::string_view text, char32_t& character)
     return character < lowest.at(length) || character > 0x10ffff || surrogate ? 0 : length;
 }
 
-/// Most of what is stored; the rest is looked at character by character.
+/// Written as it is, as most of what is stored; the rest is looked at character by character.
 bool isPlain(char character)
 {
-    return character >= 0x20 && character < 0x7f;
+    // A table, for this is where long lists take their time.
+    static constexpr auto plain = [] {
+        std::array<bool, 0x100> table{};
+        for (unsigned char i = 0x20; i < 0x7f; ++i)
+            table.at(i) = i != '&' && i != '<' && i != '>';
+        return table;
+    }();
+    return plain[static_cast<unsigned char>(character)];
 }
 
-bool isMarked(char character)
+std::string_view escaped(std::string_view character)
 {
-    return character == '&' || character == '<' || character == '>' || character == '\r';
-}
-
-std::string_view escaped(char marked)
-{
-    switch (marked) {
+    switch (character.front()) {
     case '&':
         return "&amp;";
     case '<':
         return "&lt;";
     case '>':
         return "&gt;";
-    default:
+    case '\r':
         // Written as itself it would be read as a line feed.
         return "&#13;";
+    default:
+        return character;
     }
 }
 
-std::optional<std::string> unstorableTextReason(std::string_view text)
+/// Hands the text as it stands in a file to `take`, piece by piece; gives why it cannot stand there, or null.
+template<class Take>
+const char* escape(std::string_view text, Take take)
 {
     while (true) {
-        text.remove_prefix(static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin()));
+        const auto plain = static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
+        take(text.substr(0, plain));
+        text.remove_prefix(plain);
         if (text.empty())
-            return std::nullopt;
+            return nullptr;
         char32_t character = 0;
         const std::size_t length = decodeFirst(text, character);
         if (length == 0)
@@ -83,6 +94,7 @@ std::optional<std::string> unstorableTextReason(std::string_view text)
             return "text with a control character";
         if (character == 0xfffe || character == 0xffff)
             return "text with U+FFFE or U+FFFF";
+        take(escaped(text.substr(0, length)));
         text.remove_prefix(length);
     }
 }
@@ -90,6 +102,8 @@ std::optional<std::string> unstorableTextReason(std::string_view text)
 /// Writes values, and knows by that what cannot be written.
 class Writer {
 public:
+    explicit Writer(std::size_t expectedBytes = 0) { m_out.reserve(expectedBytes); }
+
     [[nodiscard]] const std::optional<std::string>& error() const { return m_error; }
     [[nodiscard]] std::string take() { return std::move(m_out); }
 
@@ -101,8 +115,7 @@ public:
         case NS::Value::Kind::Boolean:
             return line(*value.boolean() ? "<true/>" : "<false/>");
         case NS::Value::Kind::Integer:
-            return element("integer", value.integer() ? std::to_string(*value.integer())
-                                                      : std::to_string(*value.largeInteger()));
+            return value.integer() ? integerElement(*value.integer()) : integerElement(*value.largeInteger());
         case NS::Value::Kind::Real:
             return element("real", RealText::format(*value.real()));
         case NS::Value::Kind::String:
@@ -147,40 +160,41 @@ private:
         checkSize(0);
     }
 
-    void element(std::string_view name, std::string_view text)
+    void begin(std::string_view name)
     {
         m_out.append(m_indent, '\t');
         ((m_out += '<') += name) += '>';
-        m_out += text;
+    }
+
+    void end(std::string_view name)
+    {
         ((m_out += "</") += name) += ">\n";
         checkSize(0);
     }
 
-    void appendEscaped(std::string_view text)
+    void element(std::string_view name, std::string_view text)
     {
-        while (true) {
-            const auto marked = std::ranges::find_if(text, isMarked);
-            const auto length = static_cast<std::size_t>(marked - text.begin());
-            m_out += text.substr(0, length);
-            if (marked == text.end())
-                return;
-            m_out += escaped(*marked);
-            text.remove_prefix(length + 1);
-        }
+        begin(name);
+        m_out += text;
+        end(name);
+    }
+
+    void integerElement(std::integral auto value)
+    {
+        std::array<char, std::numeric_limits<decltype(value)>::digits10 + 2> digits{};
+        const auto* const last = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+        element("integer", {digits.data(), last});
     }
 
     void textElement(std::string_view name, std::string_view text)
     {
         checkSize(text.size());
-        if (const auto reason = unstorableTextReason(text))
-            fail(*reason);
         if (m_error)
             return;
-        m_out.append(m_indent, '\t');
-        ((m_out += '<') += name) += '>';
-        appendEscaped(text);
-        ((m_out += "</") += name) += ">\n";
-        checkSize(0);
+        begin(name);
+        if (const char* const reason = escape(text, [this](std::string_view piece) { m_out += piece; }))
+            fail(reason);
+        end(name);
     }
 
     void writeData(std::span<const std::uint8_t> data)
@@ -246,9 +260,9 @@ private:
 
 } // namespace
 
-Result<std::string> serialise(const NS::Value& value)
+Result<std::string> serialise(const NS::Value& value, std::size_t expectedBytes)
 {
-    Writer writer;
+    Writer writer(expectedBytes);
     writer.raw(header);
     writer.write(value, 1);
     writer.raw(footer);
@@ -267,7 +281,8 @@ std::optional<std::string> unstorableReason(const NS::Value& value)
 
 std::optional<std::string> unstorableKeyReason(std::string_view key)
 {
-    return unstorableTextReason(key);
+    const char* const reason = escape(key, [](std::string_view) {});
+    return reason ? std::optional<std::string>(reason) : std::nullopt;
 }
 
 } // namespace LinuxDesktop::PropertyList

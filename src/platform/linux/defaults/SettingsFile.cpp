@@ -67,9 +67,11 @@ Result<std::string> SettingsFile::target() const
     return systemFailure("could not follow", m_path);
 }
 
-Result<Snapshot> SettingsFile::replace(NS::Value root) const
+Result<Snapshot> SettingsFile::replace(const Snapshot& found, NS::Value root) const
 {
-    auto bytes = PropertyList::serialise(root);
+    // Settings grow little at a time, so that the longer text has room as a rule.
+    constexpr std::size_t growth = 1024;
+    auto bytes = PropertyList::serialise(root, found.content() ? found.content()->bytes.size() + growth : growth);
     if (!bytes)
         return Failure{"could not store the settings in " + m_path + ": " + bytes.error()};
     const auto path = target();

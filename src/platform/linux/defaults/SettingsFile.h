@@ -29,9 +29,9 @@ public:
     [[nodiscard]] Snapshot readPatiently(const Snapshot::SharedContent& known = nullptr) const;
     [[nodiscard]] Snapshot readBackup() const { return Snapshot::read(m_files, backupPath()); }
 
-    /// Puts `root` in the place of what is there, and leaves the rest to tidy(). A failure leaves what was there,
-    /// unless all that failed is making the new file's name durable.
-    [[nodiscard]] Result<Snapshot> replace(NS::Value root) const;
+    /// Puts `root` in the place of `found`, and leaves the rest to tidy(). A failure leaves what was there, unless all
+    /// that failed is making the new file's name durable.
+    [[nodiscard]] Result<Snapshot> replace(const Snapshot& found, NS::Value root) const;
     /// Makes `content` the last good copy, where that can be done, and removes what killed writers left.
     void tidy(const Snapshot::Content& content) const;
     /// Brings to disk what another program may have left in memory.
