@@ -1,18 +1,19 @@
 // Measures the folders screen with more and more folders in the suite, each number in a process of its own: how long
-// the screen takes from nothing to painted rows, how much memory that costs, how many row views scrolling makes, and
-// how long a toggle takes, against a raw write of the same file.
+// the tab takes from the click to painted rows, how much memory that costs, how many row views scrolling makes, and
+// how long a click on a checkbox takes, against a raw write of the same file.
 #include "app/ApplicationClasses.h"
-#include "folders/foldersArrvc.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/widgets/RowList.h"
 #include "platform/linux/widgets/RowWidget.h"
-#include "platform/linux/widgets/WidgetScene.h"
+#include "platform/linux/widgets/TabPages.h"
 #include "registry/ControllerRegistry.h"
 #include "settings/Deployment.h"
 #include "settings/SettingsKeys.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QScrollBar>
+#include <QTabBar>
 
 #include <algorithm>
 #include <chrono>
@@ -34,6 +35,7 @@ using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
 constexpr int toggles = 21;
+constexpr int foldersTab = 1;
 
 double residentMegabytes()
 {
@@ -107,6 +109,27 @@ struct Figures {
     double rawMilliseconds = 0;
 };
 
+void click(QWidget& widget, QPoint place)
+{
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &event);
+    }
+}
+
+TabPages& startPanel(LinuxPlatform& platform)
+{
+    platform.standardUserDefaults().setBool_forKey(true, SettingsKey::firstRun);
+    platform.loadDelegate().applicationWillFinishLaunching();
+    QApplication::processEvents();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* tabs = window->findChild<TabPages*>())
+            return *tabs;
+    }
+    std::abort();
+}
+
 Figures measure(int count, const std::string& folder)
 {
     ControllerRegistry registry;
@@ -114,27 +137,19 @@ Figures measure(int count, const std::string& folder)
     LinuxPlatform platform(classes, QStringLiteral(ORVIK_RESOURCES));
     NS::installPlatform(&platform);
     storeFolders(*platform.userDefaultsWithSuiteName(Deployment::suiteName), count);
-    const auto storyboard = platform.storyboardWithName_bundle("Main", platform.mainBundle());
-    // The menu items' screen warms up what every list needs.
-    const auto before = std::dynamic_pointer_cast<NS::ViewController>(
-        storyboard->instantiateControllerWithIdentifier("ViewController"));
-    WidgetScene::rootOf(*before).resize(600, 640);
-    WidgetScene::rootOf(*before).show();
-    QApplication::processEvents();
+    // Opens on the menu items, which warm up what every list needs.
+    TabPages& tabs = startPanel(platform);
+    QTabBar& tabBar = *tabs.tabBar();
 
     Figures figures;
     const double megabytesBefore = residentMegabytes();
     const auto begin = Clock::now();
-    const auto screen =
-        std::dynamic_pointer_cast<foldersArrvc>(storyboard->instantiateControllerWithIdentifier("foldersArrvc"));
-    QWidget& root = WidgetScene::rootOf(*screen);
-    root.resize(600, 640);
-    root.show();
+    click(tabBar, tabBar.tabRect(foldersTab).center());
     QApplication::processEvents();
     figures.openMilliseconds = Milliseconds(Clock::now() - begin).count();
     figures.megabytes = residentMegabytes() - megabytesBefore;
 
-    auto& list = *root.findChild<RowList*>();
+    auto& list = *tabs.currentWidget()->findChild<RowList*>();
     const auto rowViews = [&] { return static_cast<int>(list.findChildren<RowWidget*>().size()); };
     QScrollBar& bar = *list.verticalScrollBar();
     bar.setValue(bar.maximum());
@@ -147,9 +162,10 @@ Figures measure(int count, const std::string& folder)
     figures.rowViewsMadeByScrolling = rowViews() - rowViewsBefore;
 
     bar.setValue(0);
-    auto& checkbox = dynamic_cast<NS::Control&>(*list.rowsInSight().first()->controls().first());
-    figures.toggleMilliseconds = medianMilliseconds([&] { screen->checkboxActionWithSender(checkbox); });
+    auto& checkbox = dynamic_cast<QWidget&>(*list.rowsInSight().first()->controls().first());
+    figures.toggleMilliseconds = medianMilliseconds([&] { click(checkbox, checkbox.rect().center()); });
     figures.rawMilliseconds = rawWriteMilliseconds(folder);
+    delete tabs.window();
     NS::installPlatform(nullptr);
     return figures;
 }
