@@ -6,7 +6,7 @@ import unittest
 from support.case import DesktopTestCase
 from support.handler import install_handler
 from support.pointer import Pointer
-from support.waiting import eventually, throughout
+from support.waiting import eventually, give_time, throughout
 
 OPENED = b"default browser was successfully opened\n"
 A_MOMENT = 0.5
@@ -107,7 +107,7 @@ class About(DesktopTestCase):
         elsewhere = self.window.find("label", "Version 2.0").extents
         button = self.window.find("push button", "Twitter").extents
         self.hands.move_to(elsewhere)
-        throughout(lambda: True, "", A_MOMENT)
+        give_time(A_MOMENT)
         arrow = pointer.shape()
         self.hands.move_to(button)
         eventually(lambda: pointer.shape() != arrow, "the pointing hand")

@@ -1,11 +1,12 @@
 """Whether everything is reached by the keyboard and has a name for those who cannot see it."""
 
 import unittest
+from functools import partial
 
 from support.case import DesktopTestCase
 from support.panel import CHOOSER
 from support.suite import TITLES
-from support.waiting import eventually, throughout
+from support.waiting import eventually, settled
 
 # More than any window has.
 MANY_CONTROLS = 40
@@ -25,7 +26,7 @@ def differing_pixels(one, other):
 class Keyboard(DesktopTestCase):
     def walk(self, window, key):
         """The controls that get the keyboard one after the other until the first of them gets it again."""
-        focused = self.settled_focus(window)
+        focused = settled(window.focused)
         walked = []
         while focused not in walked:
             walked.append(focused)
@@ -37,16 +38,6 @@ class Keyboard(DesktopTestCase):
         self.assertEqual(focused, walked[0], "the walk goes round without its first control: "
                          f"{[self.described(control) for control in walked]}")
         return walked
-
-    @staticmethod
-    def settled_focus(window):
-        """The control that has the keyboard, once it stays there."""
-        focused = window.focused()
-        while True:
-            throughout(lambda: True, "", 0.1)
-            last, focused = focused, window.focused()
-            if last == focused:
-                return focused
 
     def assertWalksBothWays(self, window):
         """Answers the walk forward, as roles and names."""
@@ -123,30 +114,22 @@ class Keyboard(DesktopTestCase):
         self.hands.move_to(window.extents._replace(width=2, height=2))
         seen = []
         compared = 0
-        control = self.settled_focus(window)
+        control = settled(window.focused)
         while control not in seen:
             seen.append(control)
             where = control.extents
-            with_keyboard = self.settled_picture(where)
+            picture = partial(self.display.picture_of, where)
+            with_keyboard = settled(picture)
             self.hands.press("Tab")
             eventually(lambda: window.focused() != control, "Tab to lead on")
-            following = self.settled_focus(window)
+            following = settled(window.focused)
             # One that was scrolled away cannot be looked at without the keyboard.
             if control.extents == where:
                 compared += 1
-                self.assertGreaterEqual(differing_pixels(self.settled_picture(where), with_keyboard), MARKED,
+                self.assertGreaterEqual(differing_pixels(settled(picture), with_keyboard), MARKED,
                                         f"“{control.name}” looks the same with the keyboard and without")
             control = following
         self.assertGreaterEqual(2 * compared, len(seen), "too few controls could be looked at")
-
-    def settled_picture(self, extents):
-        """What is there once nothing changes any more."""
-        picture = self.display.picture_of(extents)
-        while True:
-            throughout(lambda: True, "", 0.1)
-            last, picture = picture, self.display.picture_of(extents)
-            if last == picture:
-                return picture
 
     def test_the_arrow_keys_reach_every_row_by_its_name(self):
         window = self.start_panel().main_window()

@@ -12,7 +12,7 @@ from support.case import EXTENSION, DesktopTestCase
 from support.folders import CHOOSER as FOLDER_CHOOSER
 from support.folders import go_to
 from support.panel import CHOOSER as MAIL_CHOOSER
-from support.waiting import eventually, throughout
+from support.waiting import eventually, give_time
 
 TABS = ["Menu Items", "Folders", "General", "About", "Custom Folders"]
 SHOWCASE = "More from Orvik Studio"
@@ -29,7 +29,7 @@ class Screenshots(DesktopTestCase):
     def picture(self, title, name):
         """The window of that title, without its frame."""
         eventually(lambda: self.windows.title(self.windows.active()) == title, f"the window “{title}”")
-        throughout(lambda: True, "", PAINTING)
+        give_time(PAINTING)
         path = os.path.join(self.folder, name + ".png")
         subprocess.run(["import", "-display", self.display.name, "-window", str(self.windows.active()), path],
                        check=True, timeout=20)

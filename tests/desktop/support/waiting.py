@@ -38,3 +38,21 @@ def throughout(check, what, seconds):
         if not check():
             raise AssertionError(f"no longer so: {what}")
         time.sleep(_INTERVAL)
+
+
+def settled(read, still=0.1):
+    """The answer of `read` once it gives the same twice, `still` seconds apart. For what changes a few times."""
+    deadline = time.monotonic() + PATIENCE
+    answer = read()
+    while True:
+        time.sleep(still)
+        last, answer = answer, read()
+        if last == answer:
+            return answer
+        if time.monotonic() > deadline:
+            raise GaveUp("gave up waiting for what keeps changing")
+
+
+def give_time(seconds):
+    """For painting and the like, about whose end nobody can be asked."""
+    time.sleep(seconds)
