@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 
 #include <string>
-#include <sys/stat.h>
 
 namespace LinuxDesktop {
 
@@ -31,12 +30,11 @@ bool DesktopWorkspace::openURL(const NS::URL& url)
 
 NS::Image DesktopWorkspace::iconForFile(std::string_view path)
 {
-    struct stat status = {};
-    const bool exists = ::stat(std::string(path).c_str(), &status) == 0;
-    if (!exists)
+    const FileKind kind = m_kinds.kindOf(std::string(path));
+    if (kind == FileKind::Missing)
         return ImageStore::themeImage({QStringLiteral("unknown"), QStringLiteral("text-x-generic")});
-    const auto kind = S_ISDIR(status.st_mode) ? FileEntry::Kind::Folder : FileEntry::Kind::File;
-    return ImageStore::themeImage(m_icons.iconNames(kind, fileNameText(path)));
+    return ImageStore::themeImage(m_icons.iconNames(
+        kind == FileKind::Folder ? FileEntry::Kind::Folder : FileEntry::Kind::File, fileNameText(path)));
 }
 
 std::vector<NS::RunningApplication> DesktopWorkspace::runningApplications()

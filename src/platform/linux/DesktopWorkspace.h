@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Workspace.h"
+#include "platform/linux/desktop/FileKinds.h"
 #include "platform/linux/desktop/RunningApplications.h"
 #include "platform/linux/filechooser/FileIcons.h"
 
@@ -21,6 +22,7 @@ public:
 private:
     SessionBus& m_bus;
     RunningApplications m_running;
+    FileKinds m_kinds;
     FileIcons m_icons;
 };
 
