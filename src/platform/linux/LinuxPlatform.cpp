@@ -7,6 +7,7 @@
 #include "platform/linux/defaults/PropertyList.h"
 #include "platform/linux/desktop/ComposeEmail.h"
 #include "platform/linux/filechooser/FileChooser.h"
+#include "platform/linux/text/CanonicalText.h"
 #include "platform/linux/text/FileNameText.h"
 #include "platform/linux/widgets/WidgetAlert.h"
 #include "platform/linux/widgets/WidgetStoryboard.h"
@@ -16,7 +17,6 @@
 #include <QRandomGenerator>
 #include <QTimer>
 
-#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <filesystem>
@@ -37,16 +37,6 @@ QString refusalOfUnstorable(const std::string& path)
     return QStringLiteral("“%1” cannot be used: its path has characters that cannot be stored as text. "
                           "Rename the folder, then choose it again.")
         .arg(fileNameText(path));
-}
-
-QString composed(std::string_view text)
-{
-    return QString::fromUtf8(text).normalized(QString::NormalizationForm_C);
-}
-
-bool isAscii(std::string_view text)
-{
-    return std::ranges::all_of(text, [](char character) { return static_cast<unsigned char>(character) < 0x80; });
 }
 
 std::chrono::milliseconds milliseconds(double seconds)
@@ -182,12 +172,7 @@ std::string LinuxPlatform::userName()
 
 bool LinuxPlatform::canonicallyEqual(std::string_view one, std::string_view other)
 {
-    if (one == other)
-        return true;
-    // Text in ASCII is equivalent to nothing but itself.
-    if (isAscii(one) || isAscii(other))
-        return false;
-    return composed(one) == composed(other);
+    return LinuxDesktop::canonicallyEqual(one, other);
 }
 
 std::uint32_t LinuxPlatform::arc4random_uniform(std::uint32_t bound)
