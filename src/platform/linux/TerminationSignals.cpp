@@ -25,6 +25,7 @@ sigset_t terminationSignals()
 
 TerminationSignals::TerminationSignals()
 {
+    std::signal(SIGPIPE, SIG_IGN);
     const sigset_t endings = terminationSignals();
     m_descriptor = signalfd(-1, &endings, SFD_CLOEXEC | SFD_NONBLOCK);
     if (m_descriptor >= 0)
