@@ -19,7 +19,8 @@ using Data = std::vector<std::uint8_t>;
 
 /// A property-list value of one of eight kinds. The kinds never blur: a boolean is not an integer and an
 /// integer is not a real, and asking for a kind that the value does not have gives nothing. Copies share their
-/// arrays and dictionaries, so that copying costs the same whatever is inside. Threads may have copies of their own.
+/// arrays and dictionaries, which nothing changes any more, so a long list is copied in no time. Threads may have
+/// copies of their own.
 class Value {
 public:
     enum class Kind { Boolean, Integer, Real, String, Date, Data, Array, Dictionary };
@@ -64,6 +65,10 @@ private:
     class Shared {
     public:
         explicit Shared(Container container) : m_container(std::make_shared<const Container>(std::move(container))) {}
+        // Copied where it could be moved, so that there always is a container.
+        Shared(const Shared&) = default;
+        Shared& operator=(const Shared&) = default;
+        ~Shared() = default;
 
         [[nodiscard]] const Container* get() const { return m_container.get(); }
         friend bool operator==(const Shared& one, const Shared& other) { return *one.get() == *other.get(); }

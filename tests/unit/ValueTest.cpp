@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -80,6 +81,16 @@ TEST(Value, ACopyStaysAsItIsWhenTheOriginalIsAssignedTo)
 
     EXPECT_EQ(copy, NS::Value(NS::Value::Array{1, 2}));
     EXPECT_NE(copy, original);
+}
+
+TEST(Value, AContainerThatWasMovedFromIsStillOne)
+{
+    NS::Value original = NS::Value::Array{1, 2};
+    const NS::Value moved = std::move(original);
+
+    EXPECT_EQ(original.kind(), Kind::Array);
+    EXPECT_NE(original.array(), nullptr);
+    EXPECT_EQ(moved, NS::Value(NS::Value::Array{1, 2}));
 }
 
 TEST(Value, ContainersThatAreNotSharedAreComparedByWhatTheyHold)

@@ -86,17 +86,6 @@ TEST(PropertyListWriter, IntegersAreWrittenOverTheirWholeRange)
     EXPECT_EQ(inside(Limits::max()), "<integer>9223372036854775807</integer>\n");
 }
 
-TEST(PropertyListWriter, TheExpectedLengthMakesNoDifferenceToTheText)
-{
-    const NS::Value value = NS::Value::Dictionary{{"text", std::string(1000, 'x')}};
-    const std::string text = written(value);
-    for (const std::size_t expected : {std::size_t{1}, text.size(), text.size() * 2}) {
-        const auto bytes = serialise(value, expected);
-        ASSERT_TRUE(bytes);
-        EXPECT_EQ(*bytes, text);
-    }
-}
-
 TEST(PropertyListWriter, RealsAreWrittenInTheShortestFormThatReadsTheSame)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
