@@ -137,6 +137,18 @@ TEST_F(RowListFixture, ATenThousandRowListMakesRowViewsForTheRowsInSightOnly)
     EXPECT_LE(rowViewsMade, inSight + 2);
 }
 
+TEST_F(RowListFixture, ScrollingMakesNoRowViews)
+{
+    show(500);
+    const int made = rowViewsMade;
+    QScrollBar& bar = *list.verticalScrollBar();
+    for (int value = 0; value <= bar.maximum(); value += 7) {
+        bar.setValue(value);
+        QApplication::processEvents();
+    }
+    EXPECT_EQ(rowViewsMade, made);
+}
+
 TEST_F(RowListFixture, ScrollingToTheEndShowsTheLastRowWhole)
 {
     show(1000);
@@ -228,6 +240,43 @@ TEST_F(RowListFixture, ACurrentRowThatIsScrolledAwayIsStillReachedWithTab)
     EXPECT_EQ(focusedTitle(), QStringLiteral("Row 1"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &after);
+}
+
+TEST_F(RowListFixture, AScrolledListStaysWhereItIsWhenTheWindowIsComeBackTo)
+{
+    list.setProperty("selectable", true);
+    show(500);
+    QTest::mouseClick(list.rowsInSight().at(1), Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(list.selectedRow(), 1);
+    const int scrolled = list.verticalScrollBar()->maximum() / 2;
+    list.verticalScrollBar()->setValue(scrolled);
+
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    EXPECT_EQ(QApplication::focusWidget(), &list);
+    EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);
+    EXPECT_EQ(list.selectedRow(), 1);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 2"));
+}
+
+TEST_F(RowListFixture, TheSelectionStaysAtTheEndWhenTheLastRowGoes)
+{
+    list.setProperty("selectable", true);
+    show(3);
+    QTest::mouseClick(list.rowsInSight().at(2), Qt::LeftButton, {}, QPoint(2, 2));
+    states.pop_back();
+    list.reloadData();
+    EXPECT_EQ(list.selectedRow(), 1);
+
+    states.clear();
+    list.reloadData();
+    EXPECT_EQ(list.selectedRow(), -1);
 }
 
 TEST_F(RowListFixture, AnEmptyListSaysSoInWords)

@@ -20,7 +20,7 @@ namespace {
 bool isByPerson(const QFocusEvent& event)
 {
     return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::OtherFocusReason &&
-           event.reason() != Qt::PopupFocusReason;
+           event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason;
 }
 
 } // namespace
@@ -72,8 +72,7 @@ void RowList::reloadData()
     m_loaded = true;
     m_rowCount = m_dataSource ? static_cast<int>(m_dataSource->numberOfRowsInTableView(*this)) : 0;
     m_emptyLabel->setVisible(m_rowCount == 0);
-    if (m_selectedRow >= m_rowCount)
-        m_selectedRow = -1;
+    m_selectedRow = std::min(m_selectedRow, m_rowCount - 1);
     updateScrollRange();
     layOutRows(Refill::AllRows);
     setCurrentRow(m_currentRow);
@@ -258,7 +257,7 @@ void RowList::showState(RowWidget& widget, int row) const
     widget.setSelected(m_selectable ? std::optional(row == m_selectedRow) : std::nullopt);
 }
 
-void RowList::moveTo(int row, qsizetype control)
+void RowList::moveTo(int row, qsizetype control, Qt::FocusReason reason)
 {
     setCurrentRow(row);
     const int height = rowHeight();
@@ -271,7 +270,7 @@ void RowList::moveTo(int row, qsizetype control)
     if (shown == m_rows.end() || shown->second->controls().isEmpty())
         return;
     const QList<QWidget*>& controls = shown->second->controls();
-    controls.at(std::clamp<qsizetype>(control, 0, controls.size() - 1))->setFocus(Qt::TabFocusReason);
+    controls.at(std::clamp<qsizetype>(control, 0, controls.size() - 1))->setFocus(reason);
 }
 
 bool RowList::handleKey(int key, qsizetype control)
@@ -357,8 +356,11 @@ void RowList::keyPressEvent(QKeyEvent* event)
 void RowList::focusInEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusInEvent(event);
-    if (m_rowCount > 0 && event->reason() != Qt::OtherFocusReason)
-        moveTo(m_currentRow, event->reason() == Qt::BacktabFocusReason ? 1 : 0);
+    if (m_rowCount == 0 || event->reason() == Qt::OtherFocusReason)
+        return;
+    // A window that is come back to scrolls nothing by itself.
+    if (isByPerson(*event) || m_rows.contains(m_currentRow))
+        moveTo(m_currentRow, event->reason() == Qt::BacktabFocusReason ? 1 : 0, event->reason());
 }
 
 void RowList::resizeEvent(QResizeEvent* event)

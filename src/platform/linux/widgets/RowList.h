@@ -73,7 +73,7 @@ private:
     void setCurrentRow(int row);
     void selectRow(int row);
     void showState(RowWidget& widget, int row) const;
-    void moveTo(int row, qsizetype control);
+    void moveTo(int row, qsizetype control, Qt::FocusReason reason = Qt::TabFocusReason);
     bool handleKey(int key, qsizetype control);
     [[nodiscard]] int rowHeight();
     [[nodiscard]] int rowOf(const RowWidget& widget) const;
