@@ -196,6 +196,49 @@ TEST_F(Choosing, TypingAFilesPathChoosesItEvenIfItIsHidden)
     expectChosen(hidden);
 }
 
+TEST_F(Choosing, EnterBeforeAnythingIsSelectedOrGoneToChoosesNothing)
+{
+    openInside();
+    EXPECT_EQ(runChooser(chooser,
+                         [&](const ShownChooser& shown) {
+                             shown.key(Qt::Key_Return);
+                             EXPECT_TRUE(shown.dialog().isVisible());
+                             EXPECT_EQ(shown.notice().text(),
+                                       u"Nothing is selected. To choose “%1” itself, press the button “%2”."_s.arg(
+                                           QString::fromStdString(folder.path()), shown.confirmButton().text()));
+                             shown.press(shown.confirmButton());
+                         }),
+              NS::ModalResponseOK);
+    expectChosen(folder.path());
+}
+
+TEST_F(Choosing, EnterChoosesAFolderThatWasGoneTo)
+{
+    openInside();
+    EXPECT_EQ(runChooser(chooser,
+                         [&](const ShownChooser& shown) {
+                             shown.doubleClick(u"sub"_s);
+                             EXPECT_EQ(shown.names(), QStringList{u"inside"_s});
+                             shown.key(Qt::Key_Return);
+                         }),
+              NS::ModalResponseOK);
+    expectChosen(folder.path("sub"));
+}
+
+TEST_F(Choosing, TypingAFilesPathDoesNotChooseItWhereOnlyFoldersCanBeChosen)
+{
+    openInside();
+    chooser.setCanChooseFiles(false);
+    runChooser(chooser, [&](const ShownChooser& shown) {
+        shown.typePath(QString::fromStdString(folder.path("file")));
+        shown.key(Qt::Key_Return);
+        EXPECT_TRUE(shown.dialog().isVisible());
+        EXPECT_EQ(shown.notice().text(),
+                  u"“%1” cannot be chosen."_s.arg(QString::fromStdString(folder.path("file"))));
+        shown.cancel();
+    });
+}
+
 TEST_F(Choosing, SeveralCanBeSelectedOnlyWhenAllowed)
 {
     folder.file("other");

@@ -22,7 +22,9 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
+#include <system_error>
 
 namespace LinuxDesktop {
 
@@ -70,6 +72,7 @@ FileChooserDialog::FileChooserDialog(FileChooserSettings settings, QWidget* pare
     build();
     connectParts();
     openAtStart();
+    m_firstFolder = m_folder;
     m_list->setFocus();
 }
 
@@ -219,7 +222,7 @@ FolderListing FileChooserDialog::readShownFolder() const
 void FileChooserDialog::refresh()
 {
     m_refreshTimer->stop();
-    if (!isFolder(m_folder)) {
+    if (!isFolder(m_folder) && lookupError(m_folder) == 0) {
         const std::string gone = m_folder;
         showFolder(nearestFolder(m_folder));
         tellVanished(gone);
@@ -298,6 +301,10 @@ void FileChooserDialog::confirmByKey()
     const std::vector<FileEntry> selected = m_list->selectedEntries();
     if (selected.size() == 1 && !canChoose(selected.front()))
         enterEntry(selected.front());
+    else if (selected.empty() && canConfirm() && m_folder == m_firstFolder)
+        // A key too many, before anything was looked at, must not choose it all.
+        notice(u"Nothing is selected. To choose “%1” itself, press the button “%2”."_s.arg(fileNameText(m_folder),
+                                                                                           m_settings.prompt));
     else
         confirm();
 }
@@ -334,9 +341,20 @@ void FileChooserDialog::choose(std::vector<std::string> paths)
         accept();
         return;
     }
+    refuse(*unusable);
+}
+
+void FileChooserDialog::refuse(const std::string& path)
+{
+    if (const int error = lookupError(path); error != 0) {
+        const QString why = error == ENAMETOOLONG ? u"its path is too long"_s
+                                                  : QString::fromStdString(std::generic_category().message(error));
+        notice(u"“%1” cannot be chosen: %2."_s.arg(fileNameText(fileName(path)), why));
+        return;
+    }
     refresh();
     if (!m_selectionVanished)
-        notice(u"“%1” cannot be chosen."_s.arg(fileNameText(*unusable)));
+        notice(u"“%1” cannot be chosen."_s.arg(fileNameText(path)));
 }
 
 void FileChooserDialog::notice(const QString& words)

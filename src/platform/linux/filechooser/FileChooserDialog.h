@@ -71,10 +71,12 @@ private:
     void confirm();
     [[nodiscard]] bool mayBeChosen(const std::string& path) const;
     void choose(std::vector<std::string> paths);
+    void refuse(const std::string& path);
     void notice(const QString& words);
 
     FileChooserSettings m_settings;
     std::string m_folder = "/";
+    std::string m_firstFolder;
     std::string m_revealed;
     std::vector<std::string> m_chosen;
     bool m_selectionVanished = false;

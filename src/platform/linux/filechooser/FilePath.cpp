@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <cerrno>
 #include <filesystem>
 #include <sys/stat.h>
 #include <system_error>
@@ -49,6 +50,14 @@ bool isFolder(const std::string& path)
 {
     struct stat status = {};
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+int lookupError(const std::string& path)
+{
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) == 0 || errno == ENOENT || errno == ENOTDIR)
+        return 0;
+    return errno;
 }
 
 std::string nearestFolder(const std::string& path)
