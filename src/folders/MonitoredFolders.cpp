@@ -21,6 +21,9 @@ std::optional<std::vector<T>> storedList(NS::UserDefaults& store, const std::str
     if (!store.objectForKey(key))
         return std::nullopt;
     const auto array = store.arrayForKey(key);
+    // Gone by now, when another program has just removed it.
+    if (!array && !store.objectForKey(key))
+        return std::nullopt;
     if (!array)
         NS::fatalError("the stored " + key + " is not an array");
     std::vector<T> list;

@@ -83,7 +83,8 @@ std::string URL::absoluteString() const
 {
     if (!isFileURL())
         return m_text;
-    std::string encoded = "file://";
+    // Without the slash the first name would be a host's.
+    std::string encoded = m_text.starts_with('/') ? "file://" : "file:///";
     for (const char character : m_text) {
         if (isUnreserved(character) || character == '/') {
             encoded += character;

@@ -520,6 +520,30 @@ TEST_F(Folders, NoFoldersArePublishedAsTheEmptySet)
 
 // What stops the program.
 
+/// Settings whose every key another program removes once it was looked at.
+class VanishingDefaults : public NS::UserDefaults {
+public:
+    std::optional<NS::Value> objectForKey(std::string_view key) override
+    {
+        return m_seen.emplace(key).second ? std::optional(NS::Value(NS::Value::Array{})) : std::nullopt;
+    }
+    void setObject_forKey(NS::Value, std::string_view) override {}
+    void removeObjectForKey(std::string_view) override {}
+    bool synchronize() override { return true; }
+
+private:
+    std::set<std::string> m_seen;
+};
+
+TEST_F(Folders, AListThatIsRemovedWhileItIsReadIsNone)
+{
+    folders.arrurl = {"/a"};
+    folders.arrstate = {1};
+    VanishingDefaults store;
+    folders.load(&store);
+    expectInMemory({"/a"}, {1});
+}
+
 using FoldersDeathTest = Folders;
 
 struct WrongList {

@@ -41,6 +41,9 @@ TEST(FileURL, AsTextHasEveryByteEncodedThatAnAddressDoesNotTakeAsItIs)
     EXPECT_EQ(text("/a b%c?d#e[f]"), "file:///a%20b%25c%3Fd%23e%5Bf%5D");
     EXPECT_EQ(text("/caf\u00e9"), "file:///caf%C3%A9");
     EXPECT_EQ(text("/caf\xe9\n"), "file:///caf%E9%0A");
+    // A path that is not absolute counts from the root, and no name in it is taken for a host.
+    EXPECT_EQ(text("home/pat"), "file:///home/pat");
+    EXPECT_EQ(text(""), "file:///");
 }
 
 TEST(URL, OfATextKeepsTheTextAndHasNoPath)
