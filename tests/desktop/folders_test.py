@@ -9,15 +9,25 @@ import unittest
 
 from gi.repository import GLib
 
+from support.broadcasts import Broadcasts
 from support.buses import call
 from support.case import APPLICATION, DesktopTestCase
-from support.folders import CHOOSER, choose, go_to
+from support.folders import CHOOSER, choose, enter_location, go_to
+from support.suite import record
 from support.waiting import eventually, throughout
 
 DUPLICATE = "Some of the folders can not be added because they are already added to the Folders list."
 QUESTION = "Remove selected folder?"
+# As another run left them; what they hold means nothing to the screen.
+BOOKMARKS = [b"\x00one\xff", b"", b"two"]
+# The bytes of the longest path that anything can have: the system's bound counts the end's zero.
+LONGEST_PATH = 4095
 # How long is looked at what must not happen.
 A_MOMENT = 0.5
+
+
+def path_of(length):
+    return ("/srv" + "/x" * length)[:length - 1] + "x"
 
 
 class FoldersTestCase(DesktopTestCase):
@@ -33,6 +43,13 @@ class FoldersTestCase(DesktopTestCase):
     def open_tab(self):
         self.hands.click(self.window.find("page tab", "Folders").extents)
         eventually(lambda: self.window.find("push button", "Add Folder…"), "the folders' tab")
+
+    def go_to_another_tab(self):
+        self.hands.click(self.window.find("page tab", "Menu Items").extents)
+        eventually(lambda: self.window.find("check box", "Open Terminal"), "the menu items")
+
+    def store(self, folders, flags, bookmarks):
+        self.suite.write(foldersArray=folders, foldersArraystate=flags, allBookmark=bookmarks)
 
     def make_folder_of(self, name):
         path = os.path.join(self.home.files, name)
@@ -58,15 +75,42 @@ class FoldersTestCase(DesktopTestCase):
     def noAlert(self):
         return all(window.role not in ("dialog", "alert") for window in self.panel.windows())
 
-    def assertFolders(self, folders, flags, bookmarks):
-        """Both lists, and the number of bookmarks, in the file."""
+    def bookmarks(self, number):
+        """The bookmarks in the file, once there are so many. They are all different."""
         def stored():
-            values = self.suite.read()
-            return (values.get("foldersArray", []), values.get("foldersArraystate", []),
-                    len(values.get("allBookmark", [])))
+            bookmarks = self.suite.read().get("allBookmark", [])
+            return bookmarks if len(bookmarks) == number else None
 
-        self.assertEventuallyEqual(stored, (folders, flags, bookmarks))
-        self.assertTrue(all(isinstance(blob, bytes) for blob in self.suite.read().get("allBookmark", [])))
+        bookmarks = eventually(stored, f"{number} bookmarks")
+        self.assertEqual({type(blob) for blob in bookmarks}, {bytes})
+        self.assertEqual(len(set(bookmarks)), number)
+        return bookmarks
+
+    def published(self):
+        """The paths of the set that the panel lets others read."""
+        addresses = call(self.bus.connection, APPLICATION, "/com/orvikstudio/FinderSync",
+                         "org.freedesktop.DBus.Properties", "Get",
+                         GLib.Variant("(ss)", ("com.orvikstudio.FinderSync", "directoryURLs")))[0]
+        return [urllib.parse.unquote(address.removeprefix("file://")) for address in addresses]
+
+    def assertFolders(self, folders, flags, bookmarks=None):
+        """What the file holds, kind by kind. None stands for no bookmarks' key at all, which is not an empty list."""
+        kept = {} if bookmarks is None else {"allBookmark": bookmarks}
+        self.assertStored(foldersArray=folders, foldersArraystate=flags, menuArrayDic=record(), **kept)
+
+    def assertStays(self, before):
+        """Nothing is written: the file has the bytes of before, and keeps them for a moment."""
+        self.assertEqual(self.suite.bytes(), before)
+        throughout(lambda: self.suite.bytes() == before, "the file stays", A_MOMENT)
+
+    def ask_to_remove(self):
+        self.hands.click(self.window.find("push button", "Remove Folder…").extents)
+        return self.alert(QUESTION)
+
+    def remove(self, row):
+        self.select(row)
+        self.hands.click(self.ask_to_remove().find("push button", "OK").extents)
+        eventually(self.noAlert, "the question to go")
 
     def select(self, row):
         """Clicks beside the row's controls."""
@@ -88,26 +132,60 @@ class Folders(FoldersTestCase):
         self.assertTrue(self.window.find("label", "No folders yet. Add the first one below."))
 
     def test_an_added_folder_is_listed_stored_bookmarked_and_told(self):
+        folders = [self.make_folder_of(name) for name in ("Projects", "Reports")]
+        self.start()
+        self.accept_console_lines()
+        self.add(folders[0])
+
+        self.assertEventuallyEqual(self.rows, [(folders[0], True)])
+        first = self.bookmarks(1)
+        self.assertFolders(folders[:1], [1], first)
+        self.assertEventuallyEqual(self.panel.standard_output, f"[file://{folders[0]}]\n".encode())
+        self.save_picture("folders")
+
+        self.add(folders[1])
+        both = self.bookmarks(2)
+        self.assertEqual(both[:1], first)
+        self.assertFolders(folders, [1, 1], both)
+
+    def test_a_folder_that_vanishes_once_it_is_chosen_is_kept_without_a_bookmark(self):
         folder = self.make_folder_of("Projects")
         self.start()
         self.accept_console_lines()
-        self.add(folder)
+        self.hands.click(self.window.find("push button", "Add Folder…").extents)
+        chooser = self.panel.active_window(CHOOSER)
+        go_to(self.hands, chooser, folder)
+        told = f"[file://{folder}]\n"
+        # It stores the path before it makes the bookmark, and waits there.
+        with self.suite.locked():
+            self.hands.click(chooser.find("push button", CHOOSER).extents)
+            self.assertEventuallyEqual(self.panel.standard_output, told.encode())
+            os.rmdir(folder)
 
+        told += f"could not make a bookmark of {folder}: No such file or directory\nError storing bookmarks\n"
+        self.assertEventuallyEqual(self.panel.standard_output, told.encode())
         self.assertEventuallyEqual(self.rows, [(folder, True)])
-        self.assertFolders([folder], [1], 1)
-        self.assertEventuallyEqual(self.panel.standard_output, f"[file://{folder}]\n".encode())
-        self.save_picture("folders")
+        self.assertEventuallyEqual(self.published, [folder])
+        self.assertFolders([folder], [1])
+        self.assertStays(self.suite.bytes())
 
     def test_a_cancelled_chooser_changes_nothing(self):
-        self.start()
-        before = self.suite.text()
-        self.hands.click(self.window.find("push button", "Add Folder…").extents)
-        self.panel.active_window(CHOOSER)
-        self.hands.press("Escape")
-        eventually(lambda: not self.panel.shows(CHOOSER), "the chooser to go")
+        folder = self.make_folder_of("a")
+        for rows, values in (([], {}), ([(folder, False)], {"foldersArray": [folder], "foldersArraystate": [0],
+                                                            "allBookmark": BOOKMARKS})):
+            with self.subTest(**values):
+                self.suite.write(**values)
+                self.start()
+                self.assertStored(**values, menuArrayDic=record())
+                before = self.suite.bytes()
+                self.hands.click(self.window.find("push button", "Add Folder…").extents)
+                self.panel.active_window(CHOOSER)
+                self.hands.press("Escape")
+                eventually(lambda: not self.panel.shows(CHOOSER), "the chooser to go")
 
-        self.assertEqual(self.rows(), [])
-        self.assertEqual(self.suite.text(), before)
+                self.assertStays(before)
+                self.assertEqual(self.rows(), rows)
+                self.panel.close()
 
     def test_the_chooser_blocks_the_window_that_it_belongs_to(self):
         self.start()
@@ -131,66 +209,106 @@ class Folders(FoldersTestCase):
                    A_MOMENT)
         self.hands.press("Escape")
 
+    def test_a_typed_path_of_a_file_is_not_chosen(self):
+        file = self.home.make_file("Report.pdf")
+        self.start()
+        before = self.suite.bytes()
+        self.hands.click(self.window.find("push button", "Add Folder…").extents)
+        chooser = self.panel.active_window(CHOOSER)
+        enter_location(self.hands, chooser, file)
+
+        eventually(lambda: chooser.find("label", f"“{file}” cannot be chosen."), "the words")
+        throughout(lambda: self.panel.shows(CHOOSER), "the chooser stays", A_MOMENT)
+        self.hands.press("Escape")
+        eventually(lambda: not self.panel.shows(CHOOSER), "the chooser to go")
+        self.assertEqual(self.rows(), [])
+        self.assertStays(before)
+
     def test_a_folder_that_is_listed_gives_the_notice_alone(self):
         folder = self.make_folder_of("Projects")
         self.start()
         self.accept_console_lines()
         self.add(folder)
-        self.assertFolders([folder], [1], 1)
-        before = self.suite.text()
+        self.assertFolders([folder], [1], self.bookmarks(1))
+        before = self.suite.bytes()
         self.add(folder)
 
         notice = self.alert(DUPLICATE)
         self.save_picture("folders-duplicate")
+        self.assertStays(before)
         self.hands.click(notice.find("push button", "OK").extents)
         eventually(self.noAlert, "the notice to go")
         self.assertEqual(self.rows(), [(folder, True)])
-        self.assertEqual(self.suite.text(), before)
+        self.assertStays(before)
 
     def test_removing_asks_and_ok_removes_that_row(self):
         folders = [self.make_folder_of(name) for name in ("a", "b", "c")]
-        self.suite.write(foldersArray=folders, foldersArraystate=[1, 0, 1])
+        self.store(folders, [1, 0, 1], BOOKMARKS)
         self.start()
+        self.assertFolders(folders, [1, 0, 1], BOOKMARKS)
+        before = self.suite.bytes()
         self.select(folders[1])
-        self.hands.click(self.window.find("push button", "Remove Folder…").extents)
 
-        question = self.alert(QUESTION)
+        question = self.ask_to_remove()
         self.save_picture("folders-remove")
+        self.assertStays(before)
         self.hands.click(question.find("push button", "OK").extents)
         self.assertEventuallyEqual(self.rows, [(folders[0], True), (folders[2], True)])
-        self.assertFolders([folders[0], folders[2]], [1, 1], 0)
+        self.assertFolders([folders[0], folders[2]], [1, 1], BOOKMARKS)
+        self.assertStays(self.suite.bytes())
         self.assertTrue(self.noAlert())
+
+    def test_when_the_last_folder_is_removed_empty_lists_and_the_bookmarks_are_left(self):
+        folder = self.make_folder_of("a")
+        self.store([folder], [1], BOOKMARKS)
+        self.start()
+        self.remove(folder)
+
+        self.assertFolders([], [], BOOKMARKS)
+        self.assertEqual(self.rows(), [])
+
+    def test_removing_makes_no_bookmarks_where_there_were_none(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b")]
+        self.suite.write(foldersArray=folders, foldersArraystate=[0, 1])
+        self.start()
+        self.remove(folders[1])
+
+        self.assertFolders(folders[:1], [0])
 
     def test_cancel_removes_nothing(self):
         folder = self.make_folder_of("a")
-        self.suite.write(foldersArray=[folder], foldersArraystate=[1])
+        self.store([folder], [1], BOOKMARKS)
         for answer in ("Cancel", "Escape"):
             with self.subTest(answer=answer):
                 self.start()
+                self.assertFolders([folder], [1], BOOKMARKS)
+                before = self.suite.bytes()
                 self.select(folder)
-                self.hands.click(self.window.find("push button", "Remove Folder…").extents)
-                question = self.alert(QUESTION)
+                question = self.ask_to_remove()
                 if answer == "Cancel":
                     self.hands.click(question.find("push button", "Cancel").extents)
                 else:
                     self.hands.press("Escape")
                 eventually(self.noAlert, "the question to go")
+                self.assertStays(before)
                 self.assertEqual(self.rows(), [(folder, True)])
-                self.assertFolders([folder], [1], 0)
                 self.panel.close()
 
     def test_removing_with_nothing_selected_asks_nothing(self):
         folder = self.make_folder_of("a")
-        self.suite.write(foldersArray=[folder], foldersArraystate=[1])
+        self.store([folder], [1], BOOKMARKS)
         self.start()
+        self.assertFolders([folder], [1], BOOKMARKS)
+        before = self.suite.bytes()
         self.hands.click(self.window.find("push button", "Remove Folder…").extents)
 
         throughout(self.noAlert, "no question is asked", A_MOMENT)
+        self.assertStays(before)
         self.assertEqual(self.rows(), [(folder, True)])
 
     def test_a_folder_is_removed_by_the_keyboard_alone(self):
         folders = [self.make_folder_of(name) for name in ("a", "b")]
-        self.suite.write(foldersArray=folders, foldersArraystate=[1, 1])
+        self.store(folders, [1, 1], BOOKMARKS)
         self.start()
         for _ in range(6):
             if self.window.focused().role == "check box":
@@ -205,36 +323,48 @@ class Folders(FoldersTestCase):
         self.hands.press("Return")
 
         self.assertEventuallyEqual(self.rows, [(folders[0], True)])
-        self.assertFolders(folders[:1], [1], 0)
+        self.assertFolders(folders[:1], [1], BOOKMARKS)
 
     def test_a_click_on_the_checkbox_switches_that_folder_alone(self):
         folders = [self.make_folder_of(name) for name in ("a", "b", "c")]
-        self.suite.write(foldersArray=folders, foldersArraystate=[1, 0, 7])
+        self.store(folders, [1, 0, 7], BOOKMARKS)
         self.start()
         self.assertEqual(self.rows(), [(folders[0], True), (folders[1], False), (folders[2], False)])
 
         for folder, flags in ((folders[0], [0, 0, 7]), (folders[1], [0, 1, 7]), (folders[2], [0, 1, 1])):
             self.hands.click(self.window.find("check box", folder).extents)
-            self.assertFolders(folders, flags, 0)
+            self.assertFolders(folders, flags, BOOKMARKS)
         self.assertEqual([on for _, on in self.rows()], [False, True, True])
+        self.assertStays(self.suite.bytes())
+
+    def test_a_click_on_the_checkbox_makes_no_bookmarks_where_there_were_none(self):
+        folder = self.make_folder_of("a")
+        self.suite.write(foldersArray=[folder], foldersArraystate=[1])
+        self.start()
+        self.hands.click(self.window.find("check box", folder).extents)
+
+        self.assertFolders([folder], [0])
 
     def test_delete_is_for_the_row_that_was_come_to_last(self):
         folders = [self.make_folder_of(name) for name in ("a", "b")]
-        self.suite.write(foldersArray=folders, foldersArraystate=[1, 1])
+        self.store(folders, [1, 1], BOOKMARKS)
         self.start()
         self.select(folders[1])
         self.hands.click(self.window.find("check box", folders[0]).extents)
-        self.assertFolders(folders, [0, 1], 0)
+        self.assertFolders(folders, [0, 1], BOOKMARKS)
         self.hands.press("Delete")
         self.alert(QUESTION)
         self.hands.press("Return")
 
         self.assertEventuallyEqual(self.rows, [(folders[1], True)])
+        self.assertFolders(folders[1:], [1], BOOKMARKS)
 
     def test_behind_a_sheet_a_screen_reader_operates_nothing(self):
         folders = [self.make_folder_of(name) for name in ("a", "b")]
-        self.suite.write(foldersArray=folders, foldersArraystate=[1, 1])
+        self.store(folders, [1, 1], BOOKMARKS)
         self.start()
+        self.assertFolders(folders, [1, 1], BOOKMARKS)
+        before = self.suite.bytes()
         self.select(folders[0])
         remove = self.window.find("push button", "Remove Folder…")
         add = self.window.find("push button", "Add Folder…")
@@ -245,10 +375,26 @@ class Folders(FoldersTestCase):
             control.act(action)
 
         throughout(lambda: len(self.panel.windows()) == 2, "there is one sheet", A_MOMENT)
+        self.assertStays(before)
         self.hands.press("Escape")
         eventually(self.noAlert, "the question to go")
         self.assertEqual(self.rows(), [(folder, True) for folder in folders])
-        self.assertFolders(folders, [1, 1], 0)
+        self.assertStays(before)
+
+    def test_what_another_program_stores_is_not_shown_on_coming_back_but_by_the_next_start(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b")]
+        self.store(folders[:1], [1], BOOKMARKS)
+        self.start()
+        self.go_to_another_tab()
+        self.suite.write(**{**self.suite.read(), "foldersArray": folders, "foldersArraystate": [0, 1]})
+        theirs = self.suite.bytes()
+        self.open_tab()
+
+        throughout(lambda: self.rows() == [(folders[0], True)], "the list stays as it was", A_MOMENT)
+        self.assertStays(theirs)
+        self.panel.close()
+        self.start()
+        self.assertEqual(self.rows(), [(folders[0], False), (folders[1], True)])
 
     def test_a_signal_while_the_chooser_is_up_ends_the_panel_well(self):
         for number in range(4):
@@ -269,46 +415,17 @@ class Folders(FoldersTestCase):
         self.accept_console_lines()
         self.add(folders[0])
         self.add(folders[1])
-        self.assertFolders(folders[:2], [1, 1], 2)
+        former = self.bookmarks(2)
+        self.assertFolders(folders[:2], [1, 1], former)
         self.panel.close()
 
         self.start()
+        self.assertFolders(folders[:2], [1, 1], former)
         self.accept_console_lines()
         self.add(folders[2])
-        self.assertFolders(folders, [1, 1, 1], 1)
-
-    def test_the_set_of_folders_is_broadcast_and_stays_readable(self):
-        folders = [self.make_folder_of(name) for name in ("ä b", "plain")]
-        monitor = subprocess.Popen(
-            ["gdbus", "monitor", "--session", "--dest", "com.orvikstudio.orvikmenu"], stdout=subprocess.PIPE,
-            text=True, env={**self.environment, "PATH": "/usr/bin:/bin"})
-        self.addCleanup(monitor.stdout.close)
-        self.addCleanup(monitor.wait)
-        self.addCleanup(monitor.kill)
-        self.suite.write(foldersArray=folders[:1], foldersArraystate=[0])
-        self.start()
-        self.accept_console_lines()
-        self.add(folders[1])
-        files = "file://" + self.home.files
-        # In the order of the paths' bytes.
-        addresses = [files + "/plain", files + "/%C3%A4%20b"]
-        expected = "DirectoryURLs ([" + ", ".join(f"'{address}'" for address in addresses) + "],)"
-        os.set_blocking(monitor.stdout.fileno(), False)
-        seen = []
-
-        def broadcast():
-            seen.append(monitor.stdout.read() or "")
-            return expected in "".join(seen)
-
-        eventually(broadcast, expected)
-
-        read = subprocess.run(
-            ["gdbus", "call", "--session", "--dest", "com.orvikstudio.orvikmenu", "--object-path",
-             "/com/orvikstudio/FinderSync", "--method", "org.freedesktop.DBus.Properties.Get",
-             "com.orvikstudio.FinderSync", "directoryURLs"],
-            env={**self.environment, "PATH": "/usr/bin:/bin"}, capture_output=True, text=True, check=True, timeout=20)
-        for address in addresses:
-            self.assertIn(address, read.stdout)
+        latter = self.bookmarks(1)
+        self.assertNotIn(latter[0], former)
+        self.assertFolders(folders, [1, 1, 1], latter)
 
     def test_a_stored_list_of_another_kind_stops_the_panel(self):
         for values in ({"foldersArray": ["/a", 1]}, {"foldersArray": "/a"}, {"foldersArraystate": ["1"]}):
@@ -320,36 +437,117 @@ class Folders(FoldersTestCase):
                 self.assertAborted(panel, next(iter(values)))
 
 
+class Publishing(FoldersTestCase):
+    """The set of folders on the bus, for the companion and whoever else wants to know."""
+
+    def watch(self):
+        self.broadcasts = Broadcasts(self.bus.address)
+        self.addCleanup(self.broadcasts.close)
+
+    def address(self, name):
+        return f"file://{self.home.files}/{name}"
+
+    def assertNothingIsBroadcast(self):
+        throughout(lambda: self.broadcasts.signals() == 0, "nothing is broadcast", A_MOMENT)
+
+    def test_the_set_of_folders_is_broadcast_and_stays_readable(self):
+        folders = [self.make_folder_of(name) for name in ("ä b", "plain")]
+        self.watch()
+        self.suite.write(foldersArray=folders[:1], foldersArraystate=[0])
+        self.start()
+        self.accept_console_lines()
+        self.add(folders[1])
+        # In the order of the paths' bytes.
+        addresses = [self.address("plain"), self.address("%C3%A4%20b")]
+        self.assertEventuallyEqual(self.broadcasts.sets, [addresses])
+
+        read = subprocess.run(
+            ["gdbus", "call", "--session", "--dest", "com.orvikstudio.orvikmenu", "--object-path",
+             "/com/orvikstudio/FinderSync", "--method", "org.freedesktop.DBus.Properties.Get",
+             "com.orvikstudio.FinderSync", "directoryURLs"],
+            env={**self.environment, "PATH": "/usr/bin:/bin"}, capture_output=True, text=True, check=True, timeout=20)
+        listed = ", ".join(f"'{address}'" for address in addresses)
+        self.assertEqual(read.stdout, f"(<[{listed}]>,)\n")
+
+    def test_every_removal_broadcasts_the_smaller_set(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b", "c")]
+        self.store(folders, [1, 0, 1], BOOKMARKS)
+        self.watch()
+        self.start()
+
+        sets = []
+        for gone, left in (("b", "ac"), ("a", "c"), ("c", "")):
+            self.remove(os.path.join(self.home.files, gone))
+            sets.append([self.address(name) for name in left])
+            self.assertEventuallyEqual(self.broadcasts.sets, sets)
+            self.assertEqual(self.published(), [os.path.join(self.home.files, name) for name in left])
+
+    def test_neither_the_start_nor_a_switch_nor_a_cancelled_removal_broadcasts_anything(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b")]
+        self.store(folders, [1, 1], BOOKMARKS)
+        self.watch()
+        self.start()
+        self.assertNothingIsBroadcast()
+        self.hands.click(self.window.find("check box", folders[0]).extents)
+        self.assertFolders(folders, [0, 1], BOOKMARKS)
+        self.assertNothingIsBroadcast()
+        self.select(folders[0])
+        self.ask_to_remove()
+        self.hands.press("Escape")
+        eventually(self.noAlert, "the question to go")
+        self.assertNothingIsBroadcast()
+
+        # It would have been seen.
+        self.remove(folders[0])
+        self.assertEventuallyEqual(self.broadcasts.sets, [[self.address("b")]])
+
+
 class Names(FoldersTestCase):
     """Folders whose names are hard to show, store or tell."""
 
     def test_names_are_shown_stored_and_told_without_loss(self):
         names = ["sp ace", "quo'te\"", "new\nline", unicodedata.normalize("NFD", "é"), "日本", "a" * 255]
         folders = [self.make_folder_of(name) for name in names]
-        # As long as a path can be.
-        folders.append("/srv" + "/x" * 2045)
+        folders.append(path_of(LONGEST_PATH))
         self.suite.write(foldersArray=folders, foldersArraystate=[1] * len(folders))
         self.start()
 
         self.assertEqual([name for name, _ in self.rows()], folders)
         self.hands.click(self.window.find("check box", folders[2]).extents)
-        self.assertFolders(folders, [1, 1, 0, 1, 1, 1, 1], 0)
+        self.assertFolders(folders, [1, 1, 0, 1, 1, 1, 1])
 
         added = self.make_folder_of("added last")
         self.accept_console_lines()
         self.add(added)
-        self.assertFolders([*folders, added], [1, 1, 0, 1, 1, 1, 1, 1], 1)
-        addresses = call(self.bus.connection, APPLICATION, "/com/orvikstudio/FinderSync",
-                         "org.freedesktop.DBus.Properties", "Get",
-                         GLib.Variant("(ss)", ("com.orvikstudio.FinderSync", "directoryURLs")))[0]
-        self.assertCountEqual([urllib.parse.unquote(address.removeprefix("file://")) for address in addresses],
-                              [*folders, added])
+        self.assertFolders([*folders, added], [1, 1, 0, 1, 1, 1, 1, 1], self.bookmarks(1))
+        self.assertCountEqual(self.published(), [*folders, added])
+
+    def test_a_path_that_is_longer_than_any_can_be_loses_nothing(self):
+        folder = self.make_folder_of("a")
+        longer = path_of(LONGEST_PATH + 1)
+        self.store([longer, folder], [1, 1], BOOKMARKS)
+        self.start()
+        self.assertEqual(self.rows(), [(longer, True), (folder, True)])
+        self.hands.move_to(self.window.find("list item", longer).extents)
+
+        def tip():
+            # It may be broken between any two characters.
+            return any(found.role == "tool tip" and found.name.replace("\u200b", "") == longer
+                       for window in self.panel.windows() for found in [window, *window.descendants()])
+
+        eventually(tip, "the tool tip")
+        self.hands.click(self.window.find("check box", longer).extents)
+        self.assertFolders([longer, folder], [0, 1], BOOKMARKS)
+        self.remove(folder)
+        self.assertFolders([longer], [0], BOOKMARKS)
+        self.assertEventuallyEqual(self.published, [longer])
 
     def test_both_forms_of_a_letter_are_the_same_folder(self):
         self.suite.write(foldersArray=[os.path.join(self.home.files, unicodedata.normalize("NFD", "Café"))],
                          foldersArraystate=[1])
         folder = self.make_folder_of("Café")
         self.start()
+        before = self.suite.bytes()
         self.accept_console_lines()
         self.hands.click(self.window.find("push button", "Add Folder…").extents)
         chooser = self.panel.active_window(CHOOSER)
@@ -361,12 +559,13 @@ class Names(FoldersTestCase):
         self.hands.press("Return")
         eventually(self.noAlert, "the notice to go")
         self.assertEqual(len(self.rows()), 1)
+        self.assertStays(before)
         self.assertTrue(os.path.isdir(folder))
 
     def test_a_name_that_is_no_text_is_refused_before_anything_is_written(self):
         os.mkdir(os.path.join(os.fsencode(self.home.files), b"caf\xe9"))
         self.start()
-        before = self.suite.text()
+        before = self.suite.bytes()
         self.hands.click(self.window.find("push button", "Add Folder…").extents)
         chooser = self.panel.active_window(CHOOSER)
         go_to(self.hands, chooser, self.home.files)
@@ -377,7 +576,7 @@ class Names(FoldersTestCase):
             lambda: next(label.name for label in chooser.all("label") if "cannot be stored" in label.name), "the words")
         self.assertIn("caf", words)
         self.save_picture("folders-refused")
-        self.assertEqual(self.suite.text(), before)
+        self.assertStays(before)
         self.hands.press("Escape")
         eventually(lambda: not self.panel.shows(CHOOSER), "the chooser to go")
         self.assertEqual(self.rows(), [])

@@ -62,6 +62,12 @@ protected:
         open();
         platform.calls.clear();
     }
+    void goToAnotherTabAndBack()
+    {
+        screen->viewWillDisappear();
+        screen->viewWillAppear();
+        screen->viewDidAppear();
+    }
     void expectStored(const NS::Value::Array& paths, const NS::Value::Array& flags) const
     {
         EXPECT_EQ(platform.suite.at("foldersArray"), paths);
@@ -219,13 +225,23 @@ TEST_F(FoldersScreen, ARowWithoutADeleteButtonIsShown)
 TEST_F(FoldersScreen, AFolderStoredByAnotherIsShownByTheNextScreenOnly)
 {
     openWith({"/a"}, {1});
-    store({"/a", "/b"}, {1, 1});
+    store({"/a", "/b"}, {0, 1});
 
+    goToAnotherTabAndBack();
     table().reloadData();
-    EXPECT_EQ(table().rowCount(), 1U);
+    EXPECT_EQ(rows(), (std::vector<Row>{{"/a", true, "icon of /a"}}));
 
     open();
-    EXPECT_EQ(table().rowCount(), 2U);
+    EXPECT_EQ(rows(), (std::vector<Row>{{"/a", false, "icon of /a"}, {"/b", true, "icon of /b"}}));
+}
+
+TEST_F(FoldersScreen, ComingBackIntoSightAsksAndTellsNobody)
+{
+    openWith({"/a"}, {1});
+
+    goToAnotherTabAndBack();
+
+    EXPECT_TRUE(platform.calls.lines().empty());
 }
 
 // Adding.
@@ -737,6 +753,20 @@ TEST_F(FoldersScreenDeathTest, WithoutItsTableAnAdditionStopsAfterItWasPublished
             confirm({NS::URL::fileURLWithPath("/a")});
         },
         fatalLineAfter(R"(finderSync.setDirectoryURLs(["/a"]))", R"(the outlet "tblview" is empty)"));
+}
+
+TEST_F(FoldersScreenDeathTest, WithoutItsTableAConfirmedRemovalStopsBeforeAnythingIsWritten)
+{
+    openWith({"/a"}, {1});
+    askToRemove(0);
+    sceneOf(*screen).remove("tblview");
+
+    EXPECT_DEATH(
+        {
+            platform.calls.echoOnStandardError();
+            answer(ok);
+        },
+        fatalLineAfter(R"(mainStartWindow.window.endSheet("alert#3.window"))", R"(the outlet "tblview" is empty)"));
 }
 
 TEST_F(FoldersScreenDeathTest, WithoutItsTableRemoveIsFatal)

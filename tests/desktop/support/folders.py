@@ -5,13 +5,18 @@ from .waiting import eventually
 CHOOSER = "Grant Access"
 
 
-def go_to(hands, chooser, folder):
-    """Shows a folder in the chooser, by typing its path."""
+def enter_location(hands, chooser, path):
+    """Types a path into the location field and enters it."""
     hands.press("ctrl+l")
     eventually(lambda: chooser.focused().name == "Location", "the location field to have the keyboard")
     hands.press("ctrl+a")
-    hands.type(folder)
+    hands.type(path)
     hands.press("Return")
+
+
+def go_to(hands, chooser, folder):
+    """Shows a folder in the chooser, by typing its path."""
+    enter_location(hands, chooser, folder)
     eventually(lambda: chooser.focused().name == "Files", "the list to have the keyboard")
 
 

@@ -1,6 +1,8 @@
 """The panel's settings files, read and written as other programs do."""
 
+import contextlib
 import datetime
+import fcntl
 import os
 import plistlib
 
@@ -70,6 +72,16 @@ class SettingsFile:
         with open(os.open(temporary, os.O_WRONLY | os.O_CREAT | os.O_TRUNC, 0o600), "wb") as file:
             plistlib.dump(values, file)
         os.rename(temporary, self.path)
+
+    @contextlib.contextmanager
+    def locked(self):
+        """Keeps every other writer waiting, for as long as it has the patience."""
+        lock = os.open(self.path + ".lock", os.O_RDWR | os.O_CREAT, 0o600)
+        try:
+            fcntl.flock(lock, fcntl.LOCK_EX)
+            yield
+        finally:
+            os.close(lock)
 
     def write_request(self, path, seconds_old=0, **values):
         """Leaves a mail request, as the extension does before it starts the panel."""
