@@ -3,7 +3,10 @@
 #include "platform/linux/widgets/RowList.h"
 #include "platform/linux/widgets/ScrollPane.h"
 
+#include <QHeaderView>
+#include <QMenu>
 #include <QScrollBar>
+#include <QStandardItemModel>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -80,6 +83,58 @@ TEST_F(PanelStyleFixture, AScrollBarHasTheColourOfWhatItScrolls)
     show();
     EXPECT_EQ(grooveOf(*list), baseColor);
     EXPECT_EQ(grooveOf(*pane), windowColor);
+}
+
+/// How many pixels of a picture have a colour.
+int count(const QImage& image, const QColor& color)
+{
+    int found = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            found += image.pixelColor(x, y) == color ? 1 : 0;
+    }
+    return found;
+}
+
+TEST_F(PanelStyleFixture, TheMenuItemThatIsPointedToIsReadOnTheHighlight)
+{
+    QMenu menu;
+    menu.setStyle(&style);
+    QPalette palette = window.palette();
+    const QColor onHighlight(1, 2, 3);
+    palette.setColor(QPalette::HighlightedText, onHighlight);
+    menu.setPalette(palette);
+    QAction* first = menu.addAction(QStringLiteral("First"));
+    QAction* second = menu.addAction(QStringLiteral("Second"));
+    second->setEnabled(false);
+    menu.popup({0, 0});
+    const auto pictureOf = [&](QAction* action) {
+        menu.setActiveAction(action);
+        return menu.grab(menu.actionGeometry(action)).toImage();
+    };
+
+    const QImage pointedTo = pictureOf(first);
+    EXPECT_GT(2 * count(pointedTo, highlight), pointedTo.width() * pointedTo.height());
+    EXPECT_GT(count(pointedTo, onHighlight), 0);
+    EXPECT_NE(pointedTo.pixelColor(0, 0), highlight);
+    EXPECT_EQ(count(pictureOf(second), highlight), 0);
+}
+
+TEST_F(PanelStyleFixture, AListsHeaderIsDividedFromItsRowsByALine)
+{
+    auto* header = new QHeaderView(Qt::Horizontal);
+    header->setStyle(&style);
+    QStandardItemModel columns(0, 2);
+    header->setModel(&columns);
+    column->addWidget(header);
+    show();
+
+    const QImage picture = header->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(2, 2), baseColor);
+    EXPECT_NE(picture.pixelColor(2, picture.height() - 1), baseColor);
+    const int edge = header->sectionSize(0) - 1;
+    EXPECT_NE(picture.pixelColor(edge, picture.height() / 2), baseColor);
+    EXPECT_EQ(picture.pixelColor(edge, 2), baseColor);
 }
 
 } // namespace

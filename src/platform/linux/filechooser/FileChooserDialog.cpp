@@ -134,6 +134,8 @@ void FileChooserDialog::build()
     buttonRow->addWidget(m_confirmButton);
 
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->setSpacing(12);
     layout->addWidget(m_message);
     layout->addLayout(pathRow);
     layout->addWidget(panes, 1);

@@ -140,6 +140,30 @@ void drawFocus(const QStyleOption& option, QPainter& painter)
     painter.drawRoundedRect(outlineOf(option.rect, 2.0), smallRadius, smallRadius);
 }
 
+void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
+{
+    const QPalette& palette = option.palette;
+    const QColor& base = palette.color(QPalette::Base);
+    const bool emphasized = isHovered(option) || isPressed(option);
+    painter.fillRect(option.rect, emphasized ? mixed(base, palette.color(QPalette::Text), 0.06F) : base);
+    const QColor line = dividingLine(palette);
+    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), line);
+    const bool isLast =
+        option.position == QStyleOptionHeader::End || option.position == QStyleOptionHeader::OnlyOneSection;
+    if (isLast)
+        return;
+    constexpr int inset = 6;
+    const int edge = option.direction == Qt::LeftToRight ? option.rect.right() : option.rect.left();
+    painter.fillRect(QRect(edge, option.rect.top() + inset, 1, option.rect.height() - 2 * inset), line);
+}
+
+void drawMenuHighlight(const QStyleOption& option, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    painter.setBrush(option.palette.color(QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 1, -2, -1), smallRadius, smallRadius);
+}
+
 void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter)
 {
     const SmoothPainter smooth(painter);

@@ -13,6 +13,10 @@ void drawLineEdit(const QStyleOption& option, QPainter& painter);
 /// The frame around a list or a group of controls; `filled` with the base colour.
 void drawFrame(const QStyleOption& option, QPainter& painter, bool filled);
 void drawFocus(const QStyleOption& option, QPainter& painter);
+/// Behind the title of a list's column.
+void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter);
+/// Behind a menu's or a menu bar's item that is pointed to.
+void drawMenuHighlight(const QStyleOption& option, QPainter& painter);
 void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter);
 
 } // namespace LinuxDesktop::ControlPainting

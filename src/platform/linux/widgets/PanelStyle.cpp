@@ -29,6 +29,16 @@ QPalette::ColorRole grooveRole(const QWidget* scrollBar)
     return QPalette::Base;
 }
 
+/// The item as it is drawn on the panel's own highlight instead of the base style's.
+QStyleOptionMenuItem onHighlight(const QStyleOptionMenuItem& item)
+{
+    QStyleOptionMenuItem text(item);
+    text.state &= ~(QStyle::State_Selected | QStyle::State_Sunken);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        text.palette.setColor(role, item.palette.color(QPalette::HighlightedText));
+    return text;
+}
+
 /// The handle's place in a scroll bar that is nothing but its groove.
 QRect scrollHandle(const QStyleOptionSlider& option)
 {
@@ -86,6 +96,8 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
 {
     const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    const auto* menuItem = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (element == CE_TabBarTabShape) {
         ControlPainting::drawTab(*option, *painter);
     } else if (element == CE_TabBarTabLabel && tab) {
@@ -107,6 +119,22 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         part.rect = subElementRect(SE_CheckBoxFocusRect, button, widget);
         if (button->state & State_HasFocus)
             ControlPainting::drawFocus(part, *painter);
+    } else if (element == CE_HeaderSection && header) {
+        ControlPainting::drawHeaderSection(*header, *painter);
+    } else if (element == CE_MenuItem && menuItem && menuItem->menuItemType != QStyleOptionMenuItem::Separator &&
+               (menuItem->state & State_Selected) && (menuItem->state & State_Enabled)) {
+        ControlPainting::drawMenuHighlight(*menuItem, *painter);
+        const QStyleOptionMenuItem text = onHighlight(*menuItem);
+        QProxyStyle::drawControl(element, &text, painter, widget);
+    } else if (element == CE_MenuBarItem && menuItem) {
+        painter->fillRect(menuItem->rect, menuItem->palette.window());
+        const bool highlighted = menuItem->state & (State_Selected | State_Sunken);
+        if (highlighted)
+            ControlPainting::drawMenuHighlight(*menuItem, *painter);
+        const QStyleOptionMenuItem text = highlighted ? onHighlight(*menuItem) : *menuItem;
+        const int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine;
+        drawItemText(painter, text.rect, flags, text.palette, text.state & State_Enabled, text.text,
+                     QPalette::WindowText);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -196,6 +224,7 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     case CT_MenuBarItem:
     case CT_MenuItem:
         return size + QSize(8, 4);
+    case CT_HeaderSection:
     case CT_TabBarTab:
         return size + QSize(0, 8);
     default:
