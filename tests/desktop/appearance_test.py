@@ -4,7 +4,9 @@ import os
 import subprocess
 import unittest
 
+from support.accessibility import Extents
 from support.case import DesktopTestCase
+from support.folders import CHOOSER
 from support.waiting import eventually
 
 NO_PREFERENCE, DARK, LIGHT = range(3)
@@ -106,6 +108,32 @@ class TwiceTheDensity(AppearanceTestCase):
             return self.start_with_request(**variables)[0]
 
         self.assertTwiceAsLarge(start, "attach-to-mail-2x")
+
+
+class HalfAsLargeAgainOnASmallScreen(AppearanceTestCase):
+    screen_size = (1024, 768)
+    scale = 1.5
+
+    def on_screen(self, control):
+        """Its place in the screen's own pixels; the accessibility bus tells the scaled ones."""
+        return Extents(*(round(self.scale * number) for number in control.extents))
+
+    def assertOnTheScreen(self, extents):
+        self.assertGreaterEqual(min(extents.x, extents.y), 0)
+        self.assertLessEqual(extents.x + extents.width, self.screen_size[0])
+        self.assertLessEqual(extents.y + extents.height, self.screen_size[1])
+
+    def test_the_first_run_fits_and_is_operated_with_the_pointer(self):
+        self.become_a_newcomer()
+        panel = self.start_panel(QT_SCALE_FACTOR=str(self.scale))
+        window = panel.main_window()
+        self.save_picture("first-run-1.5x")
+
+        self.assertOnTheScreen(self.on_screen(window))
+        button = self.on_screen(window.find("push button", "Choose Folders…"))
+        self.assertOnTheScreen(button)
+        self.hands.click(button)
+        self.assertTrue(panel.active_window(CHOOSER))
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTest>
@@ -118,6 +119,18 @@ TEST_F(PanelStyleFixture, TheMenuItemThatIsPointedToIsReadOnTheHighlight)
     EXPECT_GT(count(pointedTo, onHighlight), 0);
     EXPECT_NE(pointedTo.pixelColor(0, 0), highlight);
     EXPECT_EQ(count(pictureOf(second), highlight), 0);
+}
+
+TEST_F(PanelStyleFixture, TheMenuBarHasALineBelowAllOfIt)
+{
+    auto* bar = add<QMenuBar>();
+    bar->addMenu(QStringLiteral("First"));
+    show();
+
+    const QImage picture = bar->grab().toImage();
+    const QImage below = picture.copy(0, picture.height() - 1, picture.width(), 1);
+    EXPECT_EQ(count(below, below.pixelColor(0, 0)), picture.width());
+    EXPECT_NE(below.pixelColor(0, 0), windowColor);
 }
 
 TEST_F(PanelStyleFixture, AListsHeaderIsDividedFromItsRowsByALine)

@@ -157,11 +157,18 @@ void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
     painter.fillRect(QRect(edge, option.rect.top() + inset, 1, option.rect.height() - 2 * inset), line);
 }
 
+void drawMenuBar(const QStyleOption& option, QPainter& painter)
+{
+    painter.fillRect(option.rect, option.palette.window());
+    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
+                     dividingLine(option.palette));
+}
+
 void drawMenuHighlight(const QStyleOption& option, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
     painter.setBrush(option.palette.color(QPalette::Highlight));
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 1, -2, -1), smallRadius, smallRadius);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 1, -2, -2), smallRadius, smallRadius);
 }
 
 void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter)

@@ -15,6 +15,7 @@ void drawFrame(const QStyleOption& option, QPainter& painter, bool filled);
 void drawFocus(const QStyleOption& option, QPainter& painter);
 /// Behind the title of a list's column.
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter);
+void drawMenuBar(const QStyleOption& option, QPainter& painter);
 /// Behind a menu's or a menu bar's item that is pointed to.
 void drawMenuHighlight(const QStyleOption& option, QPainter& painter);
 void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter);

@@ -126,8 +126,10 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         ControlPainting::drawMenuHighlight(*menuItem, *painter);
         const QStyleOptionMenuItem text = onHighlight(*menuItem);
         QProxyStyle::drawControl(element, &text, painter, widget);
+    } else if (element == CE_MenuBarEmptyArea) {
+        ControlPainting::drawMenuBar(*option, *painter);
     } else if (element == CE_MenuBarItem && menuItem) {
-        painter->fillRect(menuItem->rect, menuItem->palette.window());
+        ControlPainting::drawMenuBar(*menuItem, *painter);
         const bool highlighted = menuItem->state & (State_Selected | State_Sunken);
         if (highlighted)
             ControlPainting::drawMenuHighlight(*menuItem, *painter);
