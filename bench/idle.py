@@ -16,12 +16,17 @@ _SETTLING = 4
 
 
 def switches(process):
-    """Each time a thread gave the processor away it had been woken before."""
-    count = 0
+    """By thread: each time that one gave the processor away it had been woken before."""
+    counts = {}
     for path in glob.glob(f"/proc/{process}/task/*/status"):
         with open(path, encoding="ascii", errors="replace") as file:
-            count += sum(int(line.split()[1]) for line in file if line.startswith("voluntary_ctxt_switches"))
-    return count
+            counts[path] = sum(int(line.split()[1]) for line in file if line.startswith("voluntary_ctxt_switches"))
+    return counts
+
+
+def wake_ups(before, after):
+    """A thread that has ended was woken once at least, to end."""
+    return sum(count - before.get(thread, 0) for thread, count in after.items()) + len(before.keys() - after.keys())
 
 
 def resident_kibibytes(process):
@@ -33,7 +38,7 @@ def watch(title, process, seconds):
     time.sleep(_SETTLING)
     before = switches(process)
     time.sleep(seconds)
-    woken = switches(process) - before
+    woken = wake_ups(before, switches(process))
     print(f"  {title:40} {woken:5} wake-ups in {seconds} s, {resident_kibibytes(process):6} KiB resident", flush=True)
 
 
