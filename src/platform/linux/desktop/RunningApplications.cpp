@@ -15,7 +15,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds timeout = 5s;
+/// Long for a bus, and as long as it may hold up the program's end.
+constexpr std::chrono::milliseconds timeout = 2s;
 
 /// The well-known names on the bus. The bus takes none that is not in reverse-domain form.
 std::vector<std::string> ownedNames(const QDBusConnection& connection)
