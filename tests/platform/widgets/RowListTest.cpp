@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -263,6 +264,53 @@ TEST_F(RowListFixture, AScrolledListStaysWhereItIsWhenTheWindowIsComeBackTo)
     EXPECT_EQ(list.selectedRow(), 1);
     QTest::keyClick(&list, Qt::Key_Down);
     EXPECT_EQ(focusedTitle(), QStringLiteral("Row 2"));
+}
+
+TEST_F(RowListFixture, AClickOnARowOfAScrolledListSelectsThatRow)
+{
+    list.setProperty("selectable", true);
+    show(300);
+    before.setFocus();
+    const int scrolled = list.verticalScrollBar()->maximum() / 2;
+    list.verticalScrollBar()->setValue(scrolled);
+    RowWidget* row = list.rowsInSight().at(3);
+    const QString title = row->accessibleName();
+    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(2, 2));
+
+    EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);
+    EXPECT_EQ(QStringLiteral("Row %1").arg(list.selectedRow()), title);
+    EXPECT_EQ(focusedTitle(), title);
+}
+
+TEST_F(RowListFixture, TheRowBeforeTheLastTakesOverWhenThatGoesBehindAQuestion)
+{
+    list.setProperty("selectable", true);
+    show(300);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    EXPECT_EQ(list.selectedRow(), 299);
+    QDialog question(&window);
+    question.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&question));
+    states.pop_back();
+    list.reloadData();
+    question.close();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    EXPECT_EQ(list.selectedRow(), 298);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 298"));
+}
+
+TEST_F(RowListFixture, TheRowBeforeTheLastTakesOverTheFocusWithoutASelectionToo)
+{
+    show(60);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    states.pop_back();
+    list.reloadData();
+
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 58"));
 }
 
 TEST_F(RowListFixture, TheSelectionStaysAtTheEndWhenTheLastRowGoes)

@@ -28,7 +28,7 @@ bool isByPerson(const QFocusEvent& event)
 RowList::RowList(QWidget* parent) : QAbstractScrollArea(parent), m_emptyLabel(new QLabel(viewport()))
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus);
     viewport()->setBackgroundRole(QPalette::Base);
     viewport()->setAutoFillBackground(true);
     m_emptyLabel->setAlignment(Qt::AlignCenter);
@@ -76,6 +76,9 @@ void RowList::reloadData()
     updateScrollRange();
     layOutRows(Refill::AllRows);
     setCurrentRow(m_currentRow);
+    // The row that had the focus has gone, and another is current in its place.
+    if (window()->focusWidget() == this && m_rows.contains(m_currentRow))
+        moveTo(m_currentRow, 0, Qt::OtherFocusReason);
 }
 
 NS::TableCellView* RowList::makeViewWithIdentifier_owner(std::string_view identifier, NS::SceneObject*)
@@ -143,7 +146,8 @@ void RowList::retireRow(int row)
     RowWidget* widget = m_rows.at(row);
     m_rows.erase(row);
     // Scrolling a row away must not send the focus to another part of the window.
-    const QWidget* focused = QApplication::focusWidget();
+    // The window's own, for a question that is just being answered may have the keyboard.
+    const QWidget* focused = window()->focusWidget();
     const bool hadFocus = focused && widget->isAncestorOf(focused);
     widget->setCurrent(false);
     if (hadFocus)
@@ -190,7 +194,7 @@ void RowList::layOutRows(Refill refill)
     }
     makeSpareRow(last);
     // The list itself takes the focus only while its current row is out of sight.
-    setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::StrongFocus);
+    setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::TabFocus);
 }
 
 /// Once the first and the last row in sight show in part only, there is one row more in sight than now.
@@ -238,7 +242,7 @@ void RowList::setCurrentRow(int row)
     m_currentRow = std::clamp(row, 0, std::max(m_rowCount - 1, 0));
     for (const auto& [shownRow, widget] : m_rows)
         showState(*widget, shownRow);
-    setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::StrongFocus);
+    setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void RowList::selectRow(int row)
@@ -300,6 +304,13 @@ bool RowList::handleKey(int key, qsizetype control)
     }
 }
 
+/// Whether a row that gets the focus is selected.
+bool RowList::selects(const QFocusEvent& event) const
+{
+    // Assistive programs move the focus for a person too; then a selection follows, but none is made.
+    return isByPerson(event) || (m_selectedRow >= 0 && event.reason() == Qt::OtherFocusReason);
+}
+
 bool RowList::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress) {
@@ -325,8 +336,7 @@ bool RowList::eventFilter(QObject* watched, QEvent* event)
         if (number >= 0) {
             setCurrentRow(number);
             // A window that is come back to selects nothing by itself.
-            if (m_selectedRow >= 0 || event->type() == QEvent::MouseButtonPress ||
-                isByPerson(*static_cast<QFocusEvent*>(event)))
+            if (event->type() == QEvent::MouseButtonPress || selects(*static_cast<QFocusEvent*>(event)))
                 selectRow(number);
             if (pressed && m_selectable && !row->controls().isEmpty())
                 row->controls().front()->setFocus(Qt::MouseFocusReason);

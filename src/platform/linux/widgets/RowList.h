@@ -72,6 +72,7 @@ private:
     void updateScrollRange();
     void setCurrentRow(int row);
     void selectRow(int row);
+    [[nodiscard]] bool selects(const QFocusEvent& event) const;
     void showState(RowWidget& widget, int row) const;
     void moveTo(int row, qsizetype control, Qt::FocusReason reason = Qt::TabFocusReason);
     bool handleKey(int key, qsizetype control);
