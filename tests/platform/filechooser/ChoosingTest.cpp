@@ -239,6 +239,66 @@ TEST_F(Choosing, TypingAFilesPathDoesNotChooseItWhereOnlyFoldersCanBeChosen)
     });
 }
 
+TEST_F(Choosing, TheConfirmButtonChoosesThePathThatWasTyped)
+{
+    openInside();
+    EXPECT_EQ(runChooser(chooser,
+                         [&](const ShownChooser& shown) {
+                             shown.typePath(QString::fromStdString(folder.path("sub")));
+                             shown.press(shown.confirmButton());
+                         }),
+              NS::ModalResponseOK);
+    expectChosen(folder.path("sub"));
+}
+
+TEST_F(Choosing, TheConfirmButtonChoosesNothingWhereWhatWasTypedIsNotThere)
+{
+    openInside();
+    EXPECT_EQ(runChooser(chooser,
+                         [&](const ShownChooser& shown) {
+                             shown.typePath(QString::fromStdString(folder.path("none")));
+                             shown.press(shown.confirmButton());
+                             EXPECT_TRUE(shown.dialog().isVisible());
+                             EXPECT_EQ(shown.notice().text(),
+                                       u"“%1” cannot be found."_s.arg(QString::fromStdString(folder.path("none"))));
+                             shown.typePath(u"other"_s);
+                             EXPECT_FALSE(shown.notice().isVisible());
+                             shown.cancel();
+                         }),
+              NS::ModalResponseCancel);
+}
+
+TEST_F(Choosing, WithFilesOnlyTheConfirmButtonGoesToATypedFolderAndChoosesATypedFile)
+{
+    EXPECT_EQ(runChooser(chooser,
+                         [&](const ShownChooser& shown) {
+                             EXPECT_FALSE(shown.confirmButton().isEnabled());
+                             shown.typePath(QString::fromStdString(folder.path("sub")));
+                             EXPECT_TRUE(shown.confirmButton().isEnabled());
+                             shown.press(shown.confirmButton());
+                             EXPECT_EQ(shown.names(), QStringList{u"inside"_s});
+                             EXPECT_FALSE(shown.confirmButton().isEnabled());
+                             shown.typePath(u"inside"_s);
+                             shown.press(shown.confirmButton());
+                         }),
+              NS::ModalResponseOK);
+    expectChosen(folder.path("sub/inside"));
+}
+
+TEST_F(Choosing, SelectingAnItemTakesBackWhatWasTyped)
+{
+    openInside();
+    EXPECT_EQ(runChooser(chooser,
+                         [&](const ShownChooser& shown) {
+                             shown.typePath(QString::fromStdString(folder.path("sub")));
+                             shown.click(u"file"_s);
+                             EXPECT_EQ(shown.pathField().text(), QString::fromStdString(folder.path()));
+                             shown.press(shown.confirmButton());
+                         }),
+              NS::ModalResponseOK);
+    expectChosen(folder.path("file"));
+}
+
 TEST_F(Choosing, SeveralCanBeSelectedOnlyWhenAllowed)
 {
     folder.file("other");

@@ -51,6 +51,20 @@ struct LongPath : testing::Test {
 
 } // namespace
 
+TEST_F(LongPath, ATypedNameThatIsTooLongIsToldAsSuch)
+{
+    const QString name(NAME_MAX + 1, u'n');
+    EXPECT_EQ(runChooser(chooser,
+                         [&](const ShownChooser& shown) {
+                             shown.typePath(QString::fromStdString(top.path()) + u'/' + name);
+                             shown.key(Qt::Key_Return);
+                             EXPECT_EQ(shown.notice().text(),
+                                       u"“%1” cannot be chosen: its path is too long."_s.arg(name));
+                             shown.cancel();
+                         }),
+              NS::ModalResponseCancel);
+}
+
 TEST_F(LongPath, TheLongestCanBeChosen)
 {
     chooser.setDirectoryURL(NS::URL::fileURLWithPath(deepest));

@@ -152,9 +152,14 @@ void FileChooserDialog::build()
 void FileChooserDialog::connectParts()
 {
     connect(m_location, &LocationField::pathEntered, this, &FileChooserDialog::goTo);
+    connect(m_location, &LocationField::textChanged, this, [this] {
+        notice({});
+        updateConfirmButton();
+    });
     connect(m_places, &PlacesList::placeChosen, this, &FileChooserDialog::goTo);
     connect(m_list, &FileList::selectionEdited, this, [this] {
         m_selectionVanished = false;
+        m_location->setFolder(m_folder);
         notice({});
         updateConfirmButton();
     });
@@ -163,7 +168,7 @@ void FileChooserDialog::connectParts()
     connect(m_list, &FileList::confirmed, this, &FileChooserDialog::confirmByKey);
     connect(m_list, &FileList::upRequested, this, &FileChooserDialog::goUp);
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
-    connect(m_confirmButton, &QPushButton::clicked, this, &FileChooserDialog::confirm);
+    connect(m_confirmButton, &QPushButton::clicked, this, &FileChooserDialog::confirmByButton);
 
     const auto shortcut = [this](Qt::Key key, Qt::KeyboardModifiers modifiers, auto&& action) {
         auto* keys = new QShortcut(QKeySequence(QKeyCombination(modifiers, key)), this);
@@ -260,6 +265,8 @@ void FileChooserDialog::goTo(const std::string& path)
         m_list->setFocus();
     } else if (exists(path)) {
         choose({path});
+    } else if (lookupError(path) != 0) {
+        refuse(path);
     } else {
         notice(u"“%1” cannot be found."_s.arg(fileNameText(path)));
     }
@@ -295,7 +302,7 @@ bool FileChooserDialog::canConfirm() const
 
 void FileChooserDialog::updateConfirmButton()
 {
-    m_confirmButton->setEnabled(canConfirm());
+    m_confirmButton->setEnabled(canConfirm() || m_location->otherPath());
 }
 
 void FileChooserDialog::confirmByKey()
@@ -304,11 +311,23 @@ void FileChooserDialog::confirmByKey()
     if (selected.size() == 1 && !canChoose(selected.front()))
         enterEntry(selected.front());
     else if (selected.empty() && canConfirm() && m_folder == m_firstFolder)
-        // A key too many, before anything was looked at, must not choose it all.
+        // A key too many must not choose all that the chooser opens in.
         notice(u"Nothing is selected. To choose “%1” itself, press the button “%2”."_s.arg(fileNameText(m_folder),
                                                                                            m_settings.prompt));
     else
         confirm();
+}
+
+void FileChooserDialog::confirmByButton()
+{
+    // What was typed last is meant, not what the list shows.
+    const auto typed = m_location->otherPath();
+    if (!typed)
+        confirm();
+    else if (mayBeChosen(*typed))
+        choose({*typed});
+    else
+        goTo(*typed);
 }
 
 void FileChooserDialog::confirm()

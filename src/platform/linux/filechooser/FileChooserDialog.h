@@ -68,6 +68,7 @@ private:
     [[nodiscard]] bool canConfirm() const;
     void updateConfirmButton();
     void confirmByKey();
+    void confirmByButton();
     void confirm();
     [[nodiscard]] bool mayBeChosen(const std::string& path) const;
     void choose(std::vector<std::string> paths);

@@ -1,6 +1,6 @@
 #include "platform/linux/filechooser/FileList.h"
 
-#include "platform/linux/filechooser/UnfocusedSelection.h"
+#include "platform/linux/filechooser/SoftSelection.h"
 
 #include <QDateTime>
 #include <QHeaderView>
@@ -181,7 +181,7 @@ void FileList::keyboardSearch(const QString& search)
 void FileList::initViewItemOption(QStyleOptionViewItem* option) const
 {
     QTreeView::initViewItemOption(option);
-    softenUnfocusedSelection(*this, *option);
+    softenSelection(*this, *option);
 }
 
 void FileList::mousePressEvent(QMouseEvent* event)

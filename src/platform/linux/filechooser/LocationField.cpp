@@ -28,6 +28,13 @@ void LocationField::setFolder(const std::string& folder)
     setModified(false);
 }
 
+std::optional<std::string> LocationField::otherPath() const
+{
+    if (text() == fileNameText(m_folder))
+        return std::nullopt;
+    return pathFromTypedText(text(), m_folder);
+}
+
 bool LocationField::event(QEvent* event)
 {
     if (event->type() == QEvent::KeyPress) {

@@ -20,6 +20,8 @@ public:
     explicit LocationField(HiddenFiles hidden, QWidget* parent = nullptr);
 
     void setFolder(const std::string& folder);
+    /// The path that the text now stands for; nothing while it is the folder's.
+    [[nodiscard]] std::optional<std::string> otherPath() const;
 
 signals:
     /// The user confirmed a path by Enter. It need not exist.

@@ -1,7 +1,7 @@
 #include "platform/linux/filechooser/PlacesList.h"
 
 #include "platform/linux/filechooser/FilePath.h"
-#include "platform/linux/filechooser/UnfocusedSelection.h"
+#include "platform/linux/filechooser/SoftSelection.h"
 
 #include <QFile>
 #include <QIcon>
@@ -98,7 +98,7 @@ void PlacesList::keyPressEvent(QKeyEvent* event)
 void PlacesList::initViewItemOption(QStyleOptionViewItem* option) const
 {
     QListWidget::initViewItemOption(option);
-    softenUnfocusedSelection(*this, *option);
+    softenSelection(*this, *option);
 }
 
 void PlacesList::choose(const QListWidgetItem* item)

@@ -134,7 +134,9 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         if (highlighted)
             ControlPainting::drawMenuHighlight(*menuItem, *painter);
         const QStyleOptionMenuItem text = highlighted ? onHighlight(*menuItem) : *menuItem;
-        const int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine;
+        const auto mnemonic =
+            styleHint(SH_UnderlineShortcut, menuItem, widget) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+        const int flags = Qt::AlignCenter | mnemonic | Qt::TextDontClip | Qt::TextSingleLine;
         drawItemText(painter, text.rect, flags, text.palette, text.state & State_Enabled, text.text,
                      QPalette::WindowText);
     } else {
@@ -196,6 +198,8 @@ QRect PanelStyle::subElementRect(SubElement element, const QStyleOption* option,
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
     switch (element) {
+    case SE_HeaderArrow:
+        return rect.translated(0, option->rect.center().y() - rect.center().y());
     case SE_LineEditContents:
         return rect.adjusted(4, 0, -4, 0);
     // The focus is shown around the box, with room between.
@@ -226,7 +230,6 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     case CT_MenuBarItem:
     case CT_MenuItem:
         return size + QSize(8, 4);
-    case CT_HeaderSection:
     case CT_TabBarTab:
         return size + QSize(0, 8);
     default:
@@ -242,6 +245,8 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         return boxExtent;
     case PM_CheckBoxLabelSpacing:
         return 8;
+    case PM_HeaderMargin:
+        return 5;
     case PM_ScrollBarExtent:
         return scrollBarExtent;
     case PM_TabBarTabShiftVertical:
