@@ -5,6 +5,7 @@ the panel with one in sight, and the companion. Needs a display, a session bus a
 Usage: idle.py PROGRAMS [SECONDS]
 """
 
+import contextlib
 import glob
 import os
 import subprocess
@@ -19,7 +20,8 @@ def switches(process):
     """By thread: each time that one gave the processor away it had been woken before."""
     counts = {}
     for path in glob.glob(f"/proc/{process}/task/*/status"):
-        with open(path, encoding="ascii", errors="replace") as file:
+        # It may end at any moment.
+        with contextlib.suppress(OSError), open(path, encoding="ascii", errors="replace") as file:
             counts[path] = sum(int(line.split()[1]) for line in file if line.startswith("voluntary_ctxt_switches"))
     return counts
 

@@ -8,9 +8,9 @@ class QSocketNotifier;
 namespace LinuxDesktop {
 
 /// Turns the signals that ask a process to end (SIGTERM, SIGINT, SIGHUP) into a call on the main thread, so that
-/// a log-out ends the program as its Quit command does. A line to a console that has gone ends nothing. Make it before
-/// any thread is started, the toolkit's included: a thread that does not know of it would end the process at once. Main
-/// thread.
+/// a log-out ends the program as its Quit command does. SIGPIPE is ignored from then on, so a line to a console that
+/// has gone ends nothing. Make it before any thread is started, the toolkit's included: a thread that does not know of
+/// it would end the process at once. Main thread.
 class TerminationSignals {
 public:
     TerminationSignals();

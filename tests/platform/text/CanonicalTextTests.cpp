@@ -56,6 +56,7 @@ TEST(CanonicalText, DiffersWhereOnlyTheLookOrTheMeaningIsAlike)
         // Marks of one class keep their order.
         {"a\u0301\u0300", "a\u0300\u0301"},
         {"zero\u200bwidth", "zerowidth"},
+        {"\ufeffdocs", "docs"},
     };
     for (const auto& [one, other] : different) {
         EXPECT_FALSE(canonicallyEqual(one, other)) << one << " and " << other;
@@ -68,6 +69,9 @@ TEST(CanonicalText, ThatIsNotUtf8IsItselfAlone)
     EXPECT_TRUE(canonicallyEqual("a\xff", "a\xff"));
     EXPECT_FALSE(canonicallyEqual("a\xff", "a\xfe"));
     EXPECT_FALSE(canonicallyEqual("a\xff", "a\ufffd"));
+    // The first byte of two.
+    EXPECT_FALSE(canonicallyEqual("a\xc3", "a\xc4"));
+    EXPECT_FALSE(canonicallyEqual("a\xc3", "a"));
 }
 
 } // namespace

@@ -96,8 +96,10 @@ FileKind FileKinds::kindOf(const std::string& path)
     std::unique_lock lock(m_shared->mutex);
     if (m_shared->asked)
         return FileKind::Folder;
-    if (!std::exchange(m_started, true))
+    if (!m_started) {
         std::thread([shared = m_shared] { shared->answerQuestions(); }).detach();
+        m_started = true;
+    }
     m_shared->asked = path;
     m_shared->answer.reset();
     m_shared->changed.notify_all();

@@ -1,9 +1,10 @@
 #include "platform/linux/text/CanonicalText.h"
 
 #include <QString>
-#include <QUtf8StringView>
+#include <QStringDecoder>
 
 #include <algorithm>
+#include <optional>
 
 namespace LinuxDesktop {
 
@@ -14,15 +15,16 @@ bool isAscii(std::string_view text)
     return std::ranges::all_of(text, [](char character) { return static_cast<unsigned char>(character) < 0x80; });
 }
 
-bool isUtf8(std::string_view text)
+/// Nothing for what is not UTF-8.
+std::optional<QString> decomposed(std::string_view text)
 {
-    return QUtf8StringView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8();
-}
-
-QString decomposed(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
-        .normalized(QString::NormalizationForm_D);
+    using Flag = QStringDecoder::Flag;
+    // A byte order mark is a character of the text like any other.
+    QStringDecoder decode(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+    const QString decoded = decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    if (decode.hasError())
+        return std::nullopt;
+    return decoded.normalized(QString::NormalizationForm_D);
 }
 
 } // namespace
@@ -32,9 +34,10 @@ bool canonicallyEqual(std::string_view one, std::string_view other)
     if (one == other)
         return true;
     // Where one is not ASCII they still can be equal: the Kelvin sign decomposes to a K.
-    if ((isAscii(one) && isAscii(other)) || !isUtf8(one) || !isUtf8(other))
+    if (isAscii(one) && isAscii(other))
         return false;
-    return decomposed(one) == decomposed(other);
+    const auto decomposedOne = decomposed(one);
+    return decomposedOne && decomposedOne == decomposed(other);
 }
 
 } // namespace LinuxDesktop
