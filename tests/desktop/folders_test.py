@@ -14,7 +14,7 @@ from support.buses import call
 from support.case import APPLICATION, DesktopTestCase
 from support.folders import CHOOSER, choose, enter_location, go_to
 from support.suite import record
-from support.waiting import eventually, throughout
+from support.waiting import eventually, settled, throughout
 
 DUPLICATE = "Some of the folders can not be added because they are already added to the Folders list."
 QUESTION = "Remove selected folder?"
@@ -324,6 +324,33 @@ class Folders(FoldersTestCase):
 
         self.assertEventuallyEqual(self.rows, [(folders[0], True)])
         self.assertFolders(folders[:1], [1], BOOKMARKS)
+
+    def selected(self):
+        return [row.name for row in self.window.all("list item") if row.has("selected")]
+
+    def test_in_a_long_list_the_row_that_is_clicked_is_removed_and_then_those_at_the_end(self):
+        folders = [f"/srv/{number:03}" for number in range(300)]
+        self.store(folders, [1] * 300, BOOKMARKS)
+        self.start()
+        self.hands.scroll_down(self.window.find("list item", folders[3]).extents, 10)
+        eventually(lambda: self.rows()[0][0] > folders[3], "the list to scroll")
+        row = settled(self.rows)[4][0]
+        self.select(row)
+        self.assertEqual(self.selected(), [row])
+        folders.remove(row)
+        self.hands.press("Delete")
+        self.alert(QUESTION)
+        self.hands.press("Return")
+        self.assertFolders(folders, [1] * len(folders), BOOKMARKS)
+
+        self.hands.press("End")
+        for _ in range(3):
+            last = folders.pop()
+            self.assertEventuallyEqual(self.selected, [last])
+            self.hands.press("Delete")
+            self.alert(QUESTION)
+            self.hands.press("Return")
+            self.assertFolders(folders, [1] * len(folders), BOOKMARKS)
 
     def test_a_click_on_the_checkbox_switches_that_folder_alone(self):
         folders = [self.make_folder_of(name) for name in ("a", "b", "c")]

@@ -35,6 +35,11 @@ class Hands:
         """Moves the pointer to the middle of `extents`."""
         self._xdotool("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2)
 
+    def scroll_down(self, extents, times):
+        """Turns the wheel over the middle of `extents`."""
+        self.move_to(extents)
+        self._xdotool("click", "--repeat", times, "--delay", 20, 5)
+
     def place(self, window, x, y):
         self._xdotool("windowmove", window, x, y)
 
