@@ -86,6 +86,19 @@ TEST_F(Changes, AVanishedSelectionIsToldAndNothingElseIsChosenInItsPlace)
     });
 }
 
+TEST_F(Changes, WhatIsBeingTypedStaysWhenTheFolderChanges)
+{
+    runChooser(chooser, [&](const ShownChooser& shown) {
+        EXPECT_EQ(shown.selected(), u"b"_s);
+        shown.typePath(u"/some/where"_s);
+        folder.file("zzz");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shown.names().contains(u"zzz"_s); }));
+        EXPECT_EQ(shown.pathField().text(), u"/some/where"_s);
+        EXPECT_EQ(shown.selected(), u"b"_s);
+        shown.cancel();
+    });
+}
+
 TEST_F(Changes, ConfirmingWhatHasJustVanishedKeepsThePanelOpen)
 {
     EXPECT_EQ(runChooser(chooser,

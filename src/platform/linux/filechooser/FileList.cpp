@@ -70,7 +70,10 @@ FileList::FileList(QWidget* parent)
         });
     }
 
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &FileList::selectionEdited);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!m_refreshing)
+            emit selectionEdited();
+    });
     connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
         // A copy: opening a folder replaces the rows.
         emit opened(FileEntry(m_model->entry(index.row())));
@@ -115,6 +118,7 @@ std::vector<std::string> FileList::refreshListing(FolderListing listing)
     const std::string current = currentIndex().isValid() ? m_model->entry(currentIndex().row()).name : std::string();
     const int scrolledTo = verticalScrollBar()->value();
 
+    m_refreshing = true;
     setListing(std::move(listing));
 
     std::vector<std::string> gone;
@@ -128,6 +132,7 @@ std::vector<std::string> FileList::refreshListing(FolderListing listing)
             gone.push_back(entry.name);
     }
     selectionModel()->select(still, QItemSelectionModel::ClearAndSelect);
+    m_refreshing = false;
     verticalScrollBar()->setValue(scrolledTo);
     return gone;
 }

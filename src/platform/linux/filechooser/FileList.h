@@ -29,6 +29,7 @@ public:
     [[nodiscard]] std::vector<FileEntry> selectedEntries() const;
 
 signals:
+    /// Not for a refresh, which selects the same again.
     void selectionEdited();
     /// A double click on the item.
     void opened(const FileEntry& entry);
@@ -53,6 +54,7 @@ private:
 
     FolderModel* m_model;
     QLabel* m_words;
+    bool m_refreshing = false;
 };
 
 } // namespace LinuxDesktop
