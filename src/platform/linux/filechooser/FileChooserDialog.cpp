@@ -302,7 +302,7 @@ bool FileChooserDialog::canConfirm() const
 
 void FileChooserDialog::updateConfirmButton()
 {
-    m_confirmButton->setEnabled(canConfirm() || m_location->otherPath());
+    m_confirmButton->setEnabled(canConfirm() || m_location->isEdited());
 }
 
 void FileChooserDialog::confirmByKey()
@@ -320,14 +320,14 @@ void FileChooserDialog::confirmByKey()
 
 void FileChooserDialog::confirmByButton()
 {
+    if (!m_location->isEdited())
+        return confirm();
     // What was typed last is meant, not what the list shows.
-    const auto typed = m_location->otherPath();
-    if (!typed)
-        confirm();
-    else if (mayBeChosen(*typed))
-        choose({*typed});
+    const std::string typed = m_location->path();
+    if (mayBeChosen(typed))
+        choose({typed});
     else
-        goTo(*typed);
+        goTo(typed);
 }
 
 void FileChooserDialog::confirm()

@@ -20,7 +20,7 @@ namespace LinuxDesktop {
 [[nodiscard]] bool exists(const std::string& path);
 /// Whether a folder is there, links followed.
 [[nodiscard]] bool isFolder(const std::string& path);
-/// errno's value where the system does not say whether something is there: 0 where it does.
+/// errno's value where the system does not say whether something is there; 0 where it does.
 [[nodiscard]] int lookupError(const std::string& path);
 /// The path if it is a folder, else the nearest of its ancestors that is.
 [[nodiscard]] std::string nearestFolder(const std::string& path);

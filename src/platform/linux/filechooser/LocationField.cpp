@@ -28,10 +28,13 @@ void LocationField::setFolder(const std::string& folder)
     setModified(false);
 }
 
-std::optional<std::string> LocationField::otherPath() const
+bool LocationField::isEdited() const
 {
-    if (text() == fileNameText(m_folder))
-        return std::nullopt;
+    return text() != fileNameText(m_folder);
+}
+
+std::string LocationField::path() const
+{
     return pathFromTypedText(text(), m_folder);
 }
 
@@ -57,7 +60,7 @@ void LocationField::keyPressEvent(QKeyEvent* event)
     // Accepted, so that it does not press the default button too.
     event->accept();
     completer()->popup()->hide();
-    emit pathEntered(pathFromTypedText(text(), m_folder));
+    emit pathEntered(path());
 }
 
 void LocationField::propose()

@@ -20,8 +20,10 @@ public:
     explicit LocationField(HiddenFiles hidden, QWidget* parent = nullptr);
 
     void setFolder(const std::string& folder);
-    /// The path that the text now stands for; nothing while it is the folder's.
-    [[nodiscard]] std::optional<std::string> otherPath() const;
+    /// Whether the text is no longer the folder's path.
+    [[nodiscard]] bool isEdited() const;
+    /// The path that the text stands for. It need not exist. Reads folders.
+    [[nodiscard]] std::string path() const;
 
 signals:
     /// The user confirmed a path by Enter. It need not exist.
