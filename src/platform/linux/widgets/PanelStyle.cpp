@@ -198,8 +198,6 @@ QRect PanelStyle::subElementRect(SubElement element, const QStyleOption* option,
 {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);
     switch (element) {
-    case SE_HeaderArrow:
-        return rect.translated(0, option->rect.center().y() - rect.center().y());
     case SE_LineEditContents:
         return rect.adjusted(4, 0, -4, 0);
     // The focus is shown around the box, with room between.
