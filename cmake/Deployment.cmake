@@ -12,3 +12,7 @@ set(ORVIK_SHOWCASE_STORE_PREFIX "macappstore://apps.orvik.example/app/id" CACHE 
 
 configure_file(${CMAKE_SOURCE_DIR}/src/settings/Deployment.h.in
   ${CMAKE_BINARY_DIR}/generated/settings/Deployment.h @ONLY)
+
+add_library(orvik_deployment INTERFACE)
+target_link_libraries(orvik_deployment INTERFACE orvik_options)
+target_include_directories(orvik_deployment INTERFACE ${CMAKE_BINARY_DIR}/generated)

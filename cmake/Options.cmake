@@ -1,14 +1,14 @@
-# One interface target that everything of ours links: warnings as errors, small programs, the build's sanitizers.
+# One interface target that everything of ours links: warnings, small programs, the build's sanitizers.
 add_library(orvik_options INTERFACE)
 target_compile_options(orvik_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual
-  -Wundef -Wimplicit-fallthrough -Werror
+  -Wundef -Wimplicit-fallthrough $<$<BOOL:${ORVIK_WARNINGS_AS_ERRORS}>:-Werror>
   # g++ 12 counts a scoped enumerator as hiding a type of its name, so only locals are looked at there.
   $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow>)
 # What a program holds of its own file counts towards its memory, and nothing of ours gains from more than -O2.
 target_compile_options(orvik_options INTERFACE -ffunction-sections -fdata-sections $<$<CONFIG:Release>:-O2>)
 target_link_options(orvik_options INTERFACE -Wl,--gc-sections -Wl,--as-needed)
-target_include_directories(orvik_options INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_BINARY_DIR}/generated)
+target_include_directories(orvik_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(ORVIK_SANITIZE)
   target_compile_options(orvik_options INTERFACE
     -fsanitize=${ORVIK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/system/FileDescriptor.h"
 
 #include <cstdint>
 #include <map>

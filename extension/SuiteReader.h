@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Value.h"
-#include "platform/linux/defaults/FileOperations.h"
-#include "platform/linux/defaults/SettingsFile.h"
+#include "platform/linux/store/FileOperations.h"
+#include "platform/linux/store/SettingsFile.h"
 
 #include <optional>
 #include <string>

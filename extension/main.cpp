@@ -1,7 +1,7 @@
 #include "extension/Companion.h"
 #include "extension/Complaint.h"
 #include "extension/Handles.h"
-#include "platform/linux/defaults/SettingsFolder.h"
+#include "platform/linux/store/SettingsFolder.h"
 
 #include <cerrno>
 #include <csignal>

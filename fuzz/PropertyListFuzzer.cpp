@@ -1,4 +1,4 @@
-#include "platform/linux/defaults/PropertyList.h"
+#include "platform/linux/store/PropertyList.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,9 +3,9 @@
 // how long a click on a checkbox takes, against a raw write of the same file.
 #include "app/ApplicationClasses.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/widgets/RowList.h"
-#include "platform/linux/widgets/RowWidget.h"
-#include "platform/linux/widgets/TabPages.h"
+#include "platform/linux/scenes/RowList.h"
+#include "platform/linux/scenes/RowWidget.h"
+#include "platform/linux/scenes/TabPages.h"
 #include "registry/ControllerRegistry.h"
 #include "settings/Deployment.h"
 #include "settings/SettingsKeys.h"

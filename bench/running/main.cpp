@@ -1,6 +1,6 @@
 // Measures what it costs to ask for the running applications where very many run: a thousand names on the bus, each
 // with a desktop entry. Needs a session bus that nobody else uses.
-#include "platform/linux/desktop/RunningApplications.h"
+#include "platform/linux/processes/RunningApplications.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

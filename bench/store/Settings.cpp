@@ -1,8 +1,8 @@
 #include "Settings.h"
 
-#include "platform/linux/FileDescriptor.h"
-#include "platform/linux/defaults/PropertyList.h"
-#include "platform/linux/defaults/Store.h"
+#include "platform/linux/store/PropertyList.h"
+#include "platform/linux/store/Store.h"
+#include "platform/linux/system/FileDescriptor.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,8 +2,8 @@
 // ratios. The files lie in the current folder, which should be on a disk.
 
 #include "Settings.h"
-#include "platform/linux/defaults/PropertyList.h"
-#include "platform/linux/defaults/Store.h"
+#include "platform/linux/store/PropertyList.h"
+#include "platform/linux/store/Store.h"
 
 #include <benchmark/benchmark.h>
 #include <chrono>

@@ -1,12 +1,12 @@
 #include "folders/foldersArrvc.h"
 
-#include "folders/FolderPanel.h"
 #include "platform/FatalError.h"
 #include "platform/Platform.h"
 #include "platform/Print.h"
 #include "platform/WindowController.h"
 #include "registry/ControllerRegistry.h"
 #include "settings/SharedSuite.h"
+#include "ui/FolderPanel.h"
 #include "ui/tblcell.h"
 
 #include <string>

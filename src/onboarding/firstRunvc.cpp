@@ -1,12 +1,12 @@
 #include "onboarding/firstRunvc.h"
 
-#include "folders/FolderPanel.h"
 #include "onboarding/ExtensionsPane.h"
 #include "platform/Platform.h"
 #include "platform/WindowController.h"
 #include "registry/ControllerRegistry.h"
 #include "settings/SettingsKeys.h"
 #include "settings/SharedSuite.h"
+#include "ui/FolderPanel.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "defaults/ReadableText.h"
 #include "defaults/TypedValue.h"
-#include "platform/linux/defaults/PropertyList.h"
-#include "platform/linux/defaults/ReplaceFile.h"
+#include "platform/linux/store/PropertyList.h"
+#include "platform/linux/store/ReplaceFile.h"
 #include "settings/Deployment.h"
 
 #include <algorithm>

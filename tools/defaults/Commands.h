@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/defaults/Store.h"
+#include "platform/linux/store/Store.h"
 
 #include <span>
 #include <string>

@@ -1,7 +1,7 @@
 #include "defaults/ReadableText.h"
 
-#include "platform/linux/defaults/DateText.h"
-#include "platform/linux/defaults/RealText.h"
+#include "platform/linux/store/DateText.h"
+#include "platform/linux/store/RealText.h"
 
 #include <algorithm>
 #include <cstddef>

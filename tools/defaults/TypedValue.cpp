@@ -1,7 +1,7 @@
 #include "defaults/TypedValue.h"
 
-#include "platform/linux/defaults/DateText.h"
-#include "platform/linux/defaults/PropertyList.h"
+#include "platform/linux/store/DateText.h"
+#include "platform/linux/store/PropertyList.h"
 
 #include <algorithm>
 #include <array>

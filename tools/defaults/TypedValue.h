@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Value.h"
-#include "platform/linux/defaults/Result.h"
+#include "platform/linux/store/Result.h"
 
 #include <span>
 #include <string>

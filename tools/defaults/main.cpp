@@ -1,6 +1,6 @@
 #include "defaults/Commands.h"
 
-#include "platform/linux/defaults/ReplaceFile.h"
+#include "platform/linux/store/ReplaceFile.h"
 
 #include <csignal>
 #include <cstdio>

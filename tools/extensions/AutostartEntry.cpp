@@ -1,8 +1,8 @@
 #include "extensions/AutostartEntry.h"
 
 #include "extensions/DesktopEntryText.h"
-#include "platform/linux/defaults/FileOperations.h"
-#include "platform/linux/defaults/SettingsFolder.h"
+#include "platform/linux/store/FileOperations.h"
+#include "platform/linux/store/SettingsFolder.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "extensions/Switch.h"
 
-#include "platform/linux/widgets/ThemeColors.h"
+#include "platform/linux/look/ThemeColors.h"
 
 #include <QPainter>
 #include <QSignalBlocker>

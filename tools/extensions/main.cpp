@@ -1,10 +1,10 @@
 #include "extensions/ExtensionControl.h"
 #include "extensions/ExtensionsWindow.h"
-#include "platform/linux/ColorSchemeSetting.h"
-#include "platform/linux/TerminationSignals.h"
 #include "platform/linux/bus/ApplicationName.h"
 #include "platform/linux/bus/SessionBus.h"
-#include "platform/linux/widgets/Appearance.h"
+#include "platform/linux/look/Appearance.h"
+#include "platform/linux/program/ColorSchemeSetting.h"
+#include "platform/linux/program/TerminationSignals.h"
 #include "settings/Deployment.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 #include "platform/ApplicationMain.h"
 
-#include "platform/linux/ColorSchemeSetting.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/TerminationSignals.h"
-#include "platform/linux/widgets/Accessibility.h"
-#include "platform/linux/widgets/Appearance.h"
+#include "platform/linux/look/Appearance.h"
+#include "platform/linux/program/ColorSchemeSetting.h"
+#include "platform/linux/program/TerminationSignals.h"
+#include "platform/linux/scenes/Accessibility.h"
 #include "settings/Deployment.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "platform/linux/DesktopApplication.h"
 
 #include "platform/linux/bus/ApplicationName.h"
-#include "platform/linux/widgets/MainWindow.h"
+#include "platform/linux/scenes/MainWindow.h"
 
 #include <QApplication>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Application.h"
-#include "platform/linux/ModalState.h"
+#include "platform/linux/system/ModalState.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
 #include "platform/linux/DesktopWorkspace.h"
 
-#include "platform/linux/desktop/OpenAddress.h"
+#include "platform/linux/opening/OpenAddress.h"
+#include "platform/linux/scenes/ImageStore.h"
 #include "platform/linux/text/FileNameText.h"
-#include "platform/linux/widgets/ImageStore.h"
 
 #include <QCoreApplication>
 

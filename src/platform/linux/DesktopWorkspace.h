@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/Workspace.h"
-#include "platform/linux/desktop/FileKinds.h"
-#include "platform/linux/desktop/RunningApplications.h"
-#include "platform/linux/filechooser/FileIcons.h"
+#include "platform/linux/chooser/FileIcons.h"
+#include "platform/linux/chooser/FileKinds.h"
+#include "platform/linux/processes/RunningApplications.h"
 
 namespace LinuxDesktop {
 

@@ -1,6 +1,6 @@
 #include "platform/linux/InformationBundle.h"
 
-#include "platform/linux/defaults/PropertyList.h"
+#include "platform/linux/store/PropertyList.h"
 
 #include <fstream>
 #include <iterator>

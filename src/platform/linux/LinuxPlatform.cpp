@@ -4,13 +4,13 @@
 #include "platform/linux/EmptyDefaults.h"
 #include "platform/linux/WidgetTimer.h"
 #include "platform/linux/bookmarks/FolderBookmark.h"
-#include "platform/linux/defaults/PropertyList.h"
-#include "platform/linux/desktop/ComposeEmail.h"
-#include "platform/linux/filechooser/FileChooser.h"
+#include "platform/linux/chooser/FileChooser.h"
+#include "platform/linux/mailing/ComposeEmail.h"
+#include "platform/linux/scenes/WidgetAlert.h"
+#include "platform/linux/scenes/WidgetStoryboard.h"
+#include "platform/linux/store/PropertyList.h"
 #include "platform/linux/text/CanonicalText.h"
 #include "platform/linux/text/FileNameText.h"
-#include "platform/linux/widgets/WidgetAlert.h"
-#include "platform/linux/widgets/WidgetStoryboard.h"
 #include "settings/Deployment.h"
 
 #include <QCoreApplication>

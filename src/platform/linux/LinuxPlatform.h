@@ -5,15 +5,15 @@
 #include "platform/linux/DesktopApplication.h"
 #include "platform/linux/DesktopWorkspace.h"
 #include "platform/linux/InformationBundle.h"
-#include "platform/linux/ModalState.h"
 #include "platform/linux/bus/ApplicationName.h"
 #include "platform/linux/bus/DistributedNotificationCenter.h"
 #include "platform/linux/bus/FinderSyncController.h"
 #include "platform/linux/bus/SessionBus.h"
-#include "platform/linux/defaults/Store.h"
-#include "platform/linux/widgets/ImageStore.h"
-#include "platform/linux/widgets/PointerShape.h"
-#include "platform/linux/widgets/SceneConnections.h"
+#include "platform/linux/scenes/ImageStore.h"
+#include "platform/linux/scenes/PointerShape.h"
+#include "platform/linux/scenes/SceneConnections.h"
+#include "platform/linux/store/Store.h"
+#include "platform/linux/system/ModalState.h"
 
 #include <QObject>
 #include <QString>

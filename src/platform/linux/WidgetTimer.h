@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Timer.h"
-#include "platform/linux/ModalState.h"
+#include "platform/linux/system/ModalState.h"
 
 #include <QPointer>
 #include <QTimer>

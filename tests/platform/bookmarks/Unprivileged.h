@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/bookmarks/FileHandle.h"
+#include "platform/linux/system/FileDescriptor.h"
 
 #include <array>
 #include <fcntl.h>

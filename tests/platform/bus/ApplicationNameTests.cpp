@@ -2,7 +2,7 @@
 
 #include "PrivateBus.h"
 #include "Waiting.h"
-#include "platform/linux/ModalState.h"
+#include "platform/linux/system/ModalState.h"
 
 #include <QElapsedTimer>
 #include <QProcess>

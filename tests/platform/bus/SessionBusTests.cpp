@@ -1,9 +1,9 @@
 #include "PrivateBus.h"
 #include "Waiting.h"
-#include "platform/linux/ModalState.h"
 #include "platform/linux/bus/ApplicationName.h"
 #include "platform/linux/bus/DistributedNotificationCenter.h"
 #include "platform/linux/bus/SessionBus.h"
+#include "platform/linux/system/ModalState.h"
 
 #include <QFile>
 

@@ -1,8 +1,8 @@
 #include "CompanionProcess.h"
 
 #include "../bus/Waiting.h"
-#include "platform/linux/defaults/SettingsFolder.h"
-#include "platform/linux/defaults/Store.h"
+#include "platform/linux/store/SettingsFolder.h"
+#include "platform/linux/store/Store.h"
 #include "settings/Deployment.h"
 
 #include <QDBusArgument>

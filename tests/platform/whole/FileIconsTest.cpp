@@ -1,5 +1,5 @@
 #include "platform/linux/LinuxPlatform.h"
-#include "platform/linux/widgets/ImageStore.h"
+#include "platform/linux/scenes/ImageStore.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "platform/linux/bookmarks/FolderByHandle.h"
 
-#include "platform/linux/bookmarks/ParentFolder.h"
+#include "platform/linux/bookmarks/NearestFolder.h"
 
 #include <climits>
 #include <fcntl.h>
@@ -14,7 +14,7 @@ std::optional<std::string> folderByHandle(const std::string& oldPath, const Fold
         return std::nullopt;
     // Any folder of the file system tells the kernel which one the handle is of. A descriptor that only identifies is
     // not enough for it.
-    const FileDescriptor place(::open(nearestParentFolder(oldPath).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor place(::open(nearestFolderAbove(oldPath).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     const auto identity = place ? FolderIdentity::of(place) : std::nullopt;
     if (!identity || !identity->sameFileSystem(folder))
         return std::nullopt;

@@ -1,6 +1,7 @@
 #include "platform/linux/bookmarks/FolderSearch.h"
 
-#include "platform/linux/bookmarks/ParentFolder.h"
+#include "platform/linux/bookmarks/NearestFolder.h"
+#include "platform/linux/system/ParentFolder.h"
 
 #include <deque>
 #include <dirent.h>
@@ -90,7 +91,7 @@ private:
 std::optional<std::string> searchFolderAround(const std::string& oldPath, const FolderIdentity& folder,
                                               int mostEntries)
 {
-    std::string start = nearestParentFolder(oldPath);
+    std::string start = nearestFolderAbove(oldPath);
     const FileDescriptor place = openFolderToIdentify(start);
     const auto identity = place ? FolderIdentity::of(place) : std::nullopt;
     if (!identity || !identity->sameFileSystem(folder))

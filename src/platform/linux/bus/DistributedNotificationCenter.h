@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/DistributedNotificationCenter.h"
-#include "platform/linux/ModalState.h"
 #include "platform/linux/bus/SessionBus.h"
+#include "platform/linux/system/ModalState.h"
 
 #include <QObject>
 #include <QString>

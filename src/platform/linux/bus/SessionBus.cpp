@@ -1,6 +1,6 @@
 #include "platform/linux/bus/SessionBus.h"
 
-#include "platform/linux/bus/NoSessionBus.h"
+#include "platform/linux/system/NoSessionBus.h"
 
 #include <QByteArrayList>
 

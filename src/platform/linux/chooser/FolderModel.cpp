@@ -1,0 +1,208 @@
+#include "platform/linux/chooser/FolderModel.h"
+
+#include "platform/linux/text/FileNameText.h"
+
+#include <QDateTime>
+#include <QFont>
+#include <QLocale>
+
+#include <algorithm>
+#include <compare>
+
+namespace LinuxDesktop {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QCollator naturalOrder()
+{
+    // The C locale would compare code units, and "10" before "9".
+    const QLocale locale = QLocale().collation();
+    QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    return collator;
+}
+
+QVariant alignment(int column)
+{
+    const Qt::Alignment sideways = column == FolderModel::Name ? Qt::AlignLeft : Qt::AlignRight;
+    return (sideways | Qt::AlignVCenter).toInt();
+}
+
+QString kindText(const FileEntry& entry)
+{
+    switch (entry.kind) {
+    case FileEntry::Kind::Folder:
+        return entry.isLink ? u"Link to a folder"_s : u"Folder"_s;
+    case FileEntry::Kind::File:
+        return entry.isLink ? u"Link to a file"_s : u"File"_s;
+    case FileEntry::Kind::BrokenLink:
+        break;
+    }
+    return u"Link to something that is not there"_s;
+}
+
+} // namespace
+
+FolderModel::FolderModel(QObject* parent) : QAbstractTableModel(parent), m_collator(naturalOrder()) {}
+
+void FolderModel::setEntries(std::vector<FileEntry> entries)
+{
+    // A folder lists its items in the same order as long as it is unchanged, but rows are sorted; so both are
+    // compared in the order of their names.
+    std::vector<const FileEntry*> shown;
+    shown.reserve(m_rows.size());
+    for (const Row& row : m_rows)
+        shown.push_back(&row.entry);
+    std::ranges::sort(shown, {}, [](const FileEntry* entry) -> const std::string& { return entry->name; });
+    std::ranges::sort(entries, {}, &FileEntry::name);
+    if (std::ranges::equal(shown, entries, [](const FileEntry* a, const FileEntry& b) { return *a == b; }))
+        return;
+
+    beginResetModel();
+    m_rows.clear();
+    m_rows.reserve(entries.size());
+    for (FileEntry& entry : entries) {
+        const QString text = fileNameText(entry.name);
+        m_rows.push_back({std::move(entry), text, m_collator.sortKey(text)});
+    }
+    sortRows();
+    endResetModel();
+}
+
+std::optional<int> FolderModel::rowOf(const std::string& name) const
+{
+    const auto found =
+        std::ranges::find(m_rows, name, [](const Row& row) -> const std::string& { return row.entry.name; });
+    if (found == m_rows.end())
+        return {};
+    return static_cast<int>(found - m_rows.begin());
+}
+
+int FolderModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int FolderModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QString FolderModel::sizeText(std::int64_t size)
+{
+    // The toolkit knows no singular.
+    return size == 1 ? tr("1 byte") : QLocale().formattedDataSize(size, 1, QLocale::DataSizeSIFormat);
+}
+
+QString FolderModel::cellText(const Row& row, int column) const
+{
+    const FileEntry& entry = row.entry;
+    if (column == Name)
+        return row.text;
+    if (entry.kind == FileEntry::Kind::BrokenLink)
+        return {};
+    if (column == Size)
+        return entry.kind == FileEntry::Kind::Folder ? QString() : sizeText(entry.size);
+    return QLocale().toString(QDateTime::fromSecsSinceEpoch(entry.modified), QLocale::ShortFormat);
+}
+
+QVariant FolderModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return cellText(row, index.column());
+    case Qt::DecorationRole:
+        return index.column() == Name ? QVariant(m_icons.iconFor(row.entry, row.text)) : QVariant();
+    case Qt::ToolTipRole:
+        // Marked as rich text, so that a name with angle brackets is not taken for it.
+        return index.column() == Name ? QVariant(u"<qt>"_s + row.text.toHtmlEscaped() + u"</qt>"_s) : QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return index.column() == Name ? QVariant(kindText(row.entry)) : QVariant();
+    case Qt::FontRole: {
+        QFont font;
+        font.setItalic(row.entry.isLink);
+        return row.entry.isLink ? QVariant(font) : QVariant();
+    }
+    case Qt::TextAlignmentRole:
+        return alignment(index.column());
+    default:
+        return {};
+    }
+}
+
+QVariant FolderModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return alignment(section);
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case Name:
+        return u"Name"_s;
+    case Size:
+        return u"Size"_s;
+    default:
+        return u"Modified"_s;
+    }
+}
+
+Qt::ItemFlags FolderModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const FileEntry::Kind kind = entry(index.row()).kind;
+    if (kind == FileEntry::Kind::BrokenLink || (kind == FileEntry::Kind::File && !m_filesEnabled))
+        return Qt::ItemNeverHasChildren;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+}
+
+void FolderModel::sort(int column, Qt::SortOrder order)
+{
+    m_sortColumn = column;
+    m_sortOrder = order;
+
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::vector<std::string> names;
+    for (const QModelIndex& index : before)
+        names.push_back(entry(index.row()).name);
+    sortRows();
+    QModelIndexList after;
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after.push_back(index(rowOf(names[static_cast<std::size_t>(i)]).value_or(0), before[i].column()));
+    changePersistentIndexList(before, after);
+    emit layoutChanged({}, VerticalSortHint);
+}
+
+void FolderModel::sortRows()
+{
+    const auto byName = [](const Row& a, const Row& b) -> std::strong_ordering {
+        if (const int order = a.key.compare(b.key); order != 0)
+            return order <=> 0;
+        return a.entry.name <=> b.entry.name;
+    };
+    const auto byColumn = [&](const Row& a, const Row& b) -> std::strong_ordering {
+        if (m_sortColumn == Size && a.entry.size != b.entry.size)
+            return a.entry.size <=> b.entry.size;
+        if (m_sortColumn == Modified && a.entry.modified != b.entry.modified)
+            return a.entry.modified <=> b.entry.modified;
+        return byName(a, b);
+    };
+    std::ranges::sort(m_rows, [&](const Row& a, const Row& b) {
+        const bool folderA = a.entry.kind == FileEntry::Kind::Folder;
+        const bool folderB = b.entry.kind == FileEntry::Kind::Folder;
+        if (folderA != folderB)
+            return folderA;
+        return m_sortOrder == Qt::AscendingOrder ? std::is_lt(byColumn(a, b)) : std::is_lt(byColumn(b, a));
+    });
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/linux/chooser/FolderListing.h"
+
+#include <QLineEdit>
+
+#include <optional>
+#include <string>
+
+class QStringListModel;
+
+namespace LinuxDesktop {
+
+/// Shows the folder's path and takes another. Names are completed while typing; Tab takes over what all the
+/// proposals have in common. Main thread.
+class LocationField : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit LocationField(HiddenFiles hidden, QWidget* parent = nullptr);
+
+    void setFolder(const std::string& folder);
+    /// Whether the text is no longer the folder's path.
+    [[nodiscard]] bool isEdited() const;
+    /// The path that the text stands for. It need not exist. Reads folders.
+    [[nodiscard]] std::string path() const;
+
+signals:
+    /// The user confirmed a path by Enter. It need not exist.
+    void pathEntered(const std::string& path);
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void propose();
+    [[nodiscard]] QString commonPart(Qt::CaseSensitivity sensitivity) const;
+    bool completeCommonPart();
+
+    HiddenFiles m_hidden;
+    std::string m_folder;
+    QStringListModel* m_proposals;
+    /// As it was typed; nothing once the proposals are of another folder.
+    std::optional<QString> m_proposalsFolder;
+};
+
+} // namespace LinuxDesktop

@@ -1,0 +1,185 @@
+#include "platform/linux/look/ControlPainting.h"
+
+#include "platform/linux/look/ThemeColors.h"
+
+#include <algorithm>
+
+namespace LinuxDesktop::ControlPainting {
+
+namespace {
+
+constexpr qreal smallRadius = 4.0;
+constexpr qreal radius = 6.0;
+
+/// The painter for smooth shapes, and as it was before afterwards.
+class SmoothPainter {
+public:
+    explicit SmoothPainter(QPainter& painter) : m_painter(painter)
+    {
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::Antialiasing);
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(Qt::NoBrush);
+    }
+    ~SmoothPainter() { m_painter.restore(); }
+    SmoothPainter(const SmoothPainter&) = delete;
+    SmoothPainter& operator=(const SmoothPainter&) = delete;
+
+private:
+    QPainter& m_painter;
+};
+
+/// Lines of an odd width are sharp when they run through the middles of the pixels.
+QRectF outlineOf(const QRect& rect, qreal width)
+{
+    const qreal inset = width / 2.0;
+    return QRectF(rect).adjusted(inset, inset, -inset, -inset);
+}
+
+bool isPressed(const QStyleOption& option)
+{
+    return option.state & QStyle::State_Sunken;
+}
+
+bool isHovered(const QStyleOption& option)
+{
+    return (option.state & QStyle::State_MouseOver) && (option.state & QStyle::State_Enabled);
+}
+
+bool hasFocus(const QStyleOption& option)
+{
+    return option.state & QStyle::State_HasFocus;
+}
+
+} // namespace
+
+void drawCheckBox(const QStyleOption& option, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    const QPalette& palette = option.palette;
+    const bool on = option.state & QStyle::State_On;
+    QColor fill = on ? palette.color(QPalette::Highlight) : palette.color(QPalette::Base);
+    if (isPressed(option))
+        fill = mixed(fill, palette.color(QPalette::Text), 0.15F);
+    const bool emphasized = on || isHovered(option) || hasFocus(option);
+    painter.setPen(QPen(emphasized ? palette.color(QPalette::Highlight) : controlOutline(palette), 1.5));
+    painter.setBrush(fill);
+    const QRectF box = outlineOf(option.rect, 1.5);
+    painter.drawRoundedRect(box, smallRadius, smallRadius);
+    if (!on)
+        return;
+    painter.setPen(QPen(palette.color(QPalette::HighlightedText), box.width() / 8.0, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    const auto point = [&](qreal x, qreal y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
+    painter.drawPolyline(QPolygonF{{point(0.25, 0.53), point(0.43, 0.71), point(0.76, 0.31)}});
+}
+
+void drawButton(const QStyleOptionButton& option, QPainter& painter)
+{
+    const QPalette& palette = option.palette;
+    const bool flat = option.features & QStyleOptionButton::Flat;
+    if (flat && !isHovered(option) && !isPressed(option))
+        return;
+    const SmoothPainter smooth(painter);
+    QColor fill = palette.color(QPalette::Button);
+    if (isPressed(option))
+        fill = mixed(fill, palette.color(QPalette::ButtonText), 0.16F);
+    else if (isHovered(option))
+        fill = mixed(fill, palette.color(QPalette::ButtonText), 0.06F);
+    const bool isDefault = option.features & QStyleOptionButton::DefaultButton;
+    const bool emphasized = isDefault || isHovered(option) || hasFocus(option);
+    const QColor outline = emphasized ? palette.color(QPalette::Highlight) : controlOutline(palette);
+    const qreal width = hasFocus(option) ? 2.0 : isDefault ? 1.5 : 1.0;
+    if (!flat)
+        painter.setPen(QPen(option.state & QStyle::State_Enabled ? outline : dividingLine(palette), width));
+    painter.setBrush(fill);
+    painter.drawRoundedRect(outlineOf(option.rect, width), radius, radius);
+}
+
+void drawTab(const QStyleOption& option, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    const QPalette& palette = option.palette;
+    if (isHovered(option)) {
+        painter.setBrush(mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.06F));
+        painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 4, -2, -4), radius, radius);
+    }
+    if (option.state & QStyle::State_Selected) {
+        constexpr qreal thickness = 3.0;
+        const QRectF tab(option.rect);
+        painter.setBrush(palette.color(QPalette::Highlight));
+        painter.drawRoundedRect(QRectF(tab.left() + 10, tab.bottom() - thickness, tab.width() - 20, thickness),
+                                thickness / 2.0, thickness / 2.0);
+    }
+}
+
+void drawLineEdit(const QStyleOption& option, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    const QPalette& palette = option.palette;
+    const qreal width = hasFocus(option) ? 2.0 : 1.0;
+    painter.setPen(QPen(hasFocus(option) ? palette.color(QPalette::Highlight) : controlOutline(palette), width));
+    painter.setBrush(palette.color(QPalette::Base));
+    painter.drawRoundedRect(outlineOf(option.rect, width), radius, radius);
+}
+
+void drawFrame(const QStyleOption& option, QPainter& painter, bool filled)
+{
+    const SmoothPainter smooth(painter);
+    painter.setPen(QPen(dividingLine(option.palette), 1.0));
+    if (filled)
+        painter.setBrush(option.palette.color(QPalette::Base));
+    const qreal corner = filled ? 2.0 * smallRadius : 2.0;
+    painter.drawRoundedRect(outlineOf(option.rect, 1.0), corner, corner);
+}
+
+void drawFocus(const QStyleOption& option, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2.0));
+    painter.drawRoundedRect(outlineOf(option.rect, 2.0), smallRadius, smallRadius);
+}
+
+void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
+{
+    const QPalette& palette = option.palette;
+    const QColor& base = palette.color(QPalette::Base);
+    const bool emphasized = isHovered(option) || isPressed(option);
+    painter.fillRect(option.rect, emphasized ? mixed(base, palette.color(QPalette::Text), 0.06F) : base);
+    const QColor line = dividingLine(palette);
+    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), line);
+    const bool isLast =
+        option.position == QStyleOptionHeader::End || option.position == QStyleOptionHeader::OnlyOneSection;
+    if (isLast)
+        return;
+    constexpr int inset = 6;
+    const int edge = option.direction == Qt::LeftToRight ? option.rect.right() : option.rect.left();
+    painter.fillRect(QRect(edge, option.rect.top() + inset, 1, option.rect.height() - 2 * inset), line);
+}
+
+void drawMenuBar(const QStyleOption& option, QPainter& painter)
+{
+    painter.fillRect(option.rect, option.palette.window());
+    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
+                     dividingLine(option.palette));
+}
+
+void drawMenuHighlight(const QStyleOption& option, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    painter.setBrush(option.palette.color(QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 1, -2, -2), smallRadius, smallRadius);
+}
+
+void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    const bool emphasized = isHovered(option) || isPressed(option);
+    const QPalette& palette = option.palette;
+    painter.setBrush(mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), emphasized ? 0.75F : 0.64F));
+    const QRectF bar = QRectF(handle).adjusted(2, 2, -2, -2);
+    const qreal corner = std::min(bar.width(), bar.height()) / 2.0;
+    painter.drawRoundedRect(bar, corner, corner);
+}
+
+} // namespace LinuxDesktop::ControlPainting

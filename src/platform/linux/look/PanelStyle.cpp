@@ -1,0 +1,261 @@
+#include "platform/linux/look/PanelStyle.h"
+
+#include "platform/linux/look/ControlPainting.h"
+#include "platform/linux/look/ThemeColors.h"
+
+#include <QAbstractScrollArea>
+#include <QStyleOption>
+#include <QTabBar>
+
+#include <algorithm>
+
+namespace LinuxDesktop {
+
+namespace {
+
+constexpr int boxExtent = 18;
+/// Between a checkbox and the outer edge of the ring that shows the focus.
+constexpr int focusRoom = 4;
+constexpr int scrollBarExtent = 10;
+constexpr int shortestScrollHandle = 32;
+
+/// The groove goes on what lies beside it.
+QPalette::ColorRole grooveRole(const QWidget* scrollBar)
+{
+    for (const QWidget* each = scrollBar; each; each = each->parentWidget()) {
+        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(each))
+            return area->viewport()->backgroundRole();
+    }
+    return QPalette::Base;
+}
+
+/// The item as it is drawn on the panel's own highlight instead of the base style's.
+QStyleOptionMenuItem onHighlight(const QStyleOptionMenuItem& item)
+{
+    QStyleOptionMenuItem text(item);
+    text.state &= ~(QStyle::State_Selected | QStyle::State_Sunken);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        text.palette.setColor(role, item.palette.color(QPalette::HighlightedText));
+    return text;
+}
+
+/// The handle's place in a scroll bar that is nothing but its groove.
+QRect scrollHandle(const QStyleOptionSlider& option)
+{
+    const bool upright = option.orientation == Qt::Vertical;
+    const int groove = upright ? option.rect.height() : option.rect.width();
+    const qint64 range = qint64{option.maximum} - option.minimum;
+    if (range <= 0)
+        return {};
+    const auto natural = static_cast<int>(qint64{groove} * option.pageStep / (range + option.pageStep));
+    const int length = std::clamp(natural, std::min(shortestScrollHandle, groove), groove);
+    const int position = QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
+                                                         groove - length, option.upsideDown);
+    return upright ? QRect(option.rect.left(), option.rect.top() + position, option.rect.width(), length)
+                   : QRect(option.rect.left() + position, option.rect.top(), length, option.rect.height());
+}
+
+} // namespace
+
+PanelStyle::PanelStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+
+void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    switch (element) {
+    case PE_IndicatorCheckBox:
+        ControlPainting::drawCheckBox(*option, *painter);
+        break;
+    case PE_PanelButtonCommand:
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))
+            ControlPainting::drawButton(*button, *painter);
+        break;
+    case PE_FrameLineEdit:
+    case PE_PanelLineEdit:
+        ControlPainting::drawLineEdit(*option, *painter);
+        break;
+    case PE_Frame:
+        ControlPainting::drawFrame(*option, *painter, !qobject_cast<const QAbstractScrollArea*>(widget));
+        break;
+    case PE_FrameTabBarBase:
+        painter->fillRect(QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1),
+                          dividingLine(option->palette));
+        break;
+    case PE_FrameFocusRect:
+        ControlPainting::drawFocus(*option, *painter);
+        break;
+    case PE_PanelScrollAreaCorner:
+        break;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    const auto* menuItem = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_TabBarTabShape) {
+        ControlPainting::drawTab(*option, *painter);
+    } else if (element == CE_TabBarTabLabel && tab) {
+        // The base style would draw a focus of its own.
+        QStyleOptionTab label(*tab);
+        label.state &= ~State_HasFocus;
+        QProxyStyle::drawControl(element, &label, painter, widget);
+        if (tab->state & State_HasFocus) {
+            label.rect.adjust(2, 4, -2, -6);
+            ControlPainting::drawFocus(label, *painter);
+        }
+    } else if (element == CE_CheckBox && button) {
+        // The base style asks itself where the parts are.
+        QStyleOptionButton part(*button);
+        part.rect = subElementRect(SE_CheckBoxIndicator, button, widget);
+        ControlPainting::drawCheckBox(part, *painter);
+        part.rect = subElementRect(SE_CheckBoxContents, button, widget);
+        QProxyStyle::drawControl(CE_CheckBoxLabel, &part, painter, widget);
+        part.rect = subElementRect(SE_CheckBoxFocusRect, button, widget);
+        if (button->state & State_HasFocus)
+            ControlPainting::drawFocus(part, *painter);
+    } else if (element == CE_HeaderSection && header) {
+        ControlPainting::drawHeaderSection(*header, *painter);
+    } else if (element == CE_MenuItem && menuItem && menuItem->menuItemType != QStyleOptionMenuItem::Separator &&
+               (menuItem->state & State_Selected) && (menuItem->state & State_Enabled)) {
+        ControlPainting::drawMenuHighlight(*menuItem, *painter);
+        const QStyleOptionMenuItem text = onHighlight(*menuItem);
+        QProxyStyle::drawControl(element, &text, painter, widget);
+    } else if (element == CE_MenuBarEmptyArea) {
+        ControlPainting::drawMenuBar(*option, *painter);
+    } else if (element == CE_MenuBarItem && menuItem) {
+        ControlPainting::drawMenuBar(*menuItem, *painter);
+        const bool highlighted = menuItem->state & (State_Selected | State_Sunken);
+        if (highlighted)
+            ControlPainting::drawMenuHighlight(*menuItem, *painter);
+        const QStyleOptionMenuItem text = highlighted ? onHighlight(*menuItem) : *menuItem;
+        const auto mnemonic =
+            styleHint(SH_UnderlineShortcut, menuItem, widget) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+        const int flags = Qt::AlignCenter | mnemonic | Qt::TextDontClip | Qt::TextSingleLine;
+        drawItemText(painter, text.rect, flags, text.palette, text.state & State_Enabled, text.text,
+                     QPalette::WindowText);
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+void PanelStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QTabBar*>(widget))
+        widget->setAttribute(Qt::WA_Hover);
+}
+
+void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    painter->fillRect(bar->rect, bar->palette.color(grooveRole(widget)));
+    if (const QRect handle = scrollHandle(*bar); handle.isValid())
+        ControlPainting::drawScrollHandle(*bar, handle, *painter);
+}
+
+QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
+                                 const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar)
+        return QProxyStyle::subControlRect(control, option, subControl, widget);
+    const QRect handle = scrollHandle(*bar);
+    QRect before = bar->rect;
+    QRect after = bar->rect;
+    if (bar->orientation == Qt::Vertical) {
+        before.setBottom(handle.top() - 1);
+        after.setTop(handle.bottom() + 1);
+    } else {
+        before.setRight(handle.left() - 1);
+        after.setLeft(handle.right() + 1);
+    }
+    switch (subControl) {
+    case SC_ScrollBarGroove:
+        return bar->rect;
+    case SC_ScrollBarSlider:
+        return handle;
+    case SC_ScrollBarSubPage:
+        return before;
+    case SC_ScrollBarAddPage:
+        return after;
+    default:
+        return {};
+    }
+}
+
+QRect PanelStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    switch (element) {
+    case SE_LineEditContents:
+        return rect.adjusted(4, 0, -4, 0);
+    // The focus is shown around the box, with room between.
+    case SE_CheckBoxIndicator:
+        return QStyle::visualRect(option->direction, option->rect, rect.translated(focusRoom, 0));
+    case SE_CheckBoxContents:
+        return QStyle::visualRect(option->direction, option->rect, rect.adjusted(focusRoom, 0, 0, 0));
+    case SE_CheckBoxFocusRect:
+        return subElementRect(SE_CheckBoxIndicator, option, widget)
+            .adjusted(-focusRoom, -focusRoom, focusRoom, focusRoom);
+    default:
+        return rect;
+    }
+}
+
+QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                   const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    switch (type) {
+    case CT_PushButton:
+        return size + QSize(16, 6);
+    case CT_CheckBox:
+        return QSize(size.width() + 2 * focusRoom, std::max(size.height(), boxExtent + 2 * focusRoom));
+    case CT_ItemViewItem:
+    case CT_LineEdit:
+        return size + QSize(0, 6);
+    case CT_MenuBarItem:
+    case CT_MenuItem:
+        return size + QSize(8, 4);
+    case CT_TabBarTab:
+        return size + QSize(0, 8);
+    default:
+        return size;
+    }
+}
+
+int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+        return boxExtent;
+    case PM_CheckBoxLabelSpacing:
+        return 8;
+    case PM_HeaderMargin:
+        return 5;
+    case PM_ScrollBarExtent:
+        return scrollBarExtent;
+    case PM_TabBarTabShiftVertical:
+    case PM_TabBarTabShiftHorizontal:
+    case PM_TabBarTabOverlap:
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+} // namespace LinuxDesktop

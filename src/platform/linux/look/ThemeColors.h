@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/linux/look/Appearance.h"
+
+#include <QColor>
+#include <QPalette>
+
+namespace LinuxDesktop {
+
+/// The panel's own colours. Texts, and the outlines that controls are told by, stand out from what is behind them by
+/// 4.5 to 1 at least, in light and in dark.
+[[nodiscard]] QPalette themePalette(ColorScheme scheme);
+
+/// The outline of a control, by the palette that it is drawn with.
+[[nodiscard]] QColor controlOutline(const QPalette& palette);
+/// A line that only divides.
+[[nodiscard]] QColor dividingLine(const QPalette& palette);
+/// One colour with a share of another in it, from 0 to 1.
+[[nodiscard]] QColor mixed(const QColor& one, const QColor& other, float share);
+
+} // namespace LinuxDesktop

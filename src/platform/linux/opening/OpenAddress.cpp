@@ -1,0 +1,95 @@
+#include "platform/linux/opening/OpenAddress.h"
+
+#include "platform/linux/bus/SessionBus.h"
+#include "platform/linux/opening/OpenPortal.h"
+#include "platform/linux/system/Command.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace LinuxDesktop {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Whoever has no program for an address says so sooner; a browser that is started may run for hours.
+constexpr std::chrono::milliseconds patience = 1s;
+
+/// Where nobody is registered for an address, xdg-open hands it to a browser, whatever its scheme.
+std::vector<std::string> environmentFor(const std::string& address)
+{
+    std::vector<std::string> environment = Command::environment();
+    const bool isForBrowsers = address.starts_with("http:") || address.starts_with("https:");
+    if (!isForBrowsers) {
+        std::erase_if(environment, [](const std::string& variable) { return variable.starts_with("BROWSER="); });
+        environment.emplace_back("BROWSER=false");
+    }
+    return environment;
+}
+
+/// Clears the program away when it ends, if this process still runs by then.
+void clearAwayWhenEnded(Command::Process started)
+{
+    auto process = std::make_shared<Command::Process>(std::move(started));
+    auto* ended = new QSocketNotifier(process->ended().get(), QSocketNotifier::Read, QCoreApplication::instance());
+    QObject::connect(ended, &QSocketNotifier::activated, ended, [process, ended] {
+        static_cast<void>(process->exitStatus());
+        ended->setEnabled(false);
+        ended->deleteLater();
+    });
+}
+
+bool openByCommand(const std::string& address)
+{
+    const auto command = Command::find("xdg-open");
+    if (!command)
+        return false;
+    auto process = Command::start(*command, {"xdg-open", address}, environmentFor(address));
+    if (!process)
+        return false;
+    QEventLoop loop;
+    bool hasEnded = false;
+    auto ended = std::make_unique<QSocketNotifier>(process->ended().get(), QSocketNotifier::Read);
+    QObject::connect(ended.get(), &QSocketNotifier::activated, &loop, [&] {
+        hasEnded = true;
+        loop.quit();
+    });
+    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    ended.reset();
+    if (hasEnded)
+        return process->exitStatus() == 0;
+    clearAwayWhenEnded(std::move(*process));
+    return true;
+}
+
+} // namespace
+
+bool openAddress(SessionBus& bus, const std::string& address)
+{
+    if (const auto connection = bus.connection()) {
+        OpenPortal portal(*connection);
+        if (const auto opened = portal.open(QString::fromStdString(address), patience))
+            return *opened;
+    }
+    return openByCommand(address);
+}
+
+bool startProgram(const std::string& path)
+{
+    auto process = Command::start(path, {path}, Command::environment());
+    if (process)
+        clearAwayWhenEnded(std::move(*process));
+    return process.has_value();
+}
+
+} // namespace LinuxDesktop

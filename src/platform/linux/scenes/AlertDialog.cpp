@@ -1,0 +1,103 @@
+#include "platform/linux/scenes/AlertDialog.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace LinuxDesktop {
+
+namespace {
+
+constexpr int iconExtent = 48;
+constexpr int textWidth = 380;
+
+QLabel* textLabel(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setFixedWidth(textWidth);
+    label->hide();
+    return label;
+}
+
+void showText(QLabel& label, const QString& text)
+{
+    label.setText(text);
+    label.setVisible(!text.isEmpty());
+}
+
+} // namespace
+
+AlertDialog::AlertDialog()
+    : m_icon(new QLabel(this)), m_message(textLabel(this)), m_information(textLabel(this)),
+      m_buttonRow(new QHBoxLayout)
+{
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    m_icon->setFixedSize(iconExtent, iconExtent);
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(8);
+    texts->addWidget(m_message);
+    texts->addWidget(m_information);
+    texts->addStretch();
+    auto* upper = new QHBoxLayout;
+    upper->setSpacing(16);
+    upper->addWidget(m_icon, 0, Qt::AlignTop);
+    upper->addLayout(texts);
+
+    m_buttonRow->setSpacing(8);
+    m_buttonRow->addStretch();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setSpacing(20);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addLayout(upper);
+    layout->addLayout(m_buttonRow);
+}
+
+void AlertDialog::setIcon(const QString& iconName)
+{
+    m_icon->setPixmap(QIcon::fromTheme(iconName).pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
+}
+
+void AlertDialog::setMessage(const QString& text)
+{
+    showText(*m_message, text);
+    setAccessibleName(text);
+}
+
+void AlertDialog::setInformation(const QString& text)
+{
+    showText(*m_information, text);
+    setAccessibleDescription(text);
+    // The message is a headline where more is said below it.
+    QFont font = m_message->font();
+    font.setBold(!text.isEmpty());
+    m_message->setFont(font);
+}
+
+void AlertDialog::addButton(const QString& title)
+{
+    auto* button = new PushButton(this);
+    button->setText(title);
+    button->setAutoDefault(true);
+    button->setDefault(m_buttons.empty());
+    button->setAction([this](NS::Control&) { accept(); });
+    // The default button stands at the far end.
+    m_buttonRow->insertWidget(1, button);
+    if (!m_buttons.empty())
+        setTabOrder(button, m_buttons.front());
+    m_buttons.push_back(button);
+}
+
+void AlertDialog::reject()
+{
+    if (m_buttons.empty())
+        done(Rejected);
+    else
+        m_buttons.back()->click();
+}
+
+} // namespace LinuxDesktop

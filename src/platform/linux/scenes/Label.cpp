@@ -1,0 +1,129 @@
+#include "platform/linux/scenes/Label.h"
+
+#include "platform/linux/text/FileNameText.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+#include <algorithm>
+#include <array>
+
+namespace LinuxDesktop {
+
+namespace {
+
+/// The type scale of the panel.
+struct TextStyle {
+    QLatin1String name;
+    qreal scale;
+    QFont::Weight weight;
+    QPalette::ColorRole role;
+};
+
+constexpr std::array textStyles{
+    TextStyle{QLatin1String("title"), 1.6, QFont::DemiBold, QPalette::WindowText},
+    TextStyle{QLatin1String("heading"), 1.15, QFont::DemiBold, QPalette::WindowText},
+    TextStyle{QLatin1String("secondary"), 1.0, QFont::Normal, QPalette::PlaceholderText},
+};
+
+/// As rich text a long text is wrapped, and a long name after every so many characters; its own marks are not taken
+/// for markup.
+QString wrapped(const QString& text)
+{
+    constexpr QChar breakHere(0x200B);
+    constexpr int longestRun = 32;
+    QString breakable;
+    int run = 0;
+    for (const QChar character : text) {
+        breakable += character;
+        run = character.isSpace() ? 0 : run + 1;
+        if (run >= longestRun && !character.isHighSurrogate()) {
+            breakable += breakHere;
+            run = 0;
+        }
+    }
+    return QStringLiteral("<qt>") + breakable.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
+} // namespace
+
+Label::Label(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+void Label::setTextStyle(const QString& style)
+{
+    m_textStyle = style;
+    const auto* found = std::find_if(textStyles.begin(), textStyles.end(),
+                                     [&](const TextStyle& known) { return style == known.name; });
+    if (found == textStyles.end())
+        return;
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * found->scale);
+    font.setWeight(found->weight);
+    setFont(font);
+    setForegroundRole(found->role);
+}
+
+void Label::setStringValue(std::string_view text)
+{
+    setText(m_isFileName ? fileNameText(text) : QString::fromUtf8(text));
+    emit textChanged(QString::fromUtf8(text));
+}
+
+void Label::setToolTip(std::string_view text)
+{
+    m_toolTip = fileNameText(text);
+}
+
+QSize Label::minimumSizeHint() const
+{
+    const QSize hint = QLabel::minimumSizeHint();
+    return wordWrap() ? hint : QSize(0, hint.height());
+}
+
+bool Label::isCut() const
+{
+    return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+void Label::paintEvent(QPaintEvent* event)
+{
+    if (!isCut()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    paintCut(painter);
+}
+
+void Label::paintCut(QPainter& painter)
+{
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()),
+                          foregroundRole());
+}
+
+bool Label::event(QEvent* event)
+{
+    // A wrapped text is never given less height than its lines need.
+    if (event->type() == QEvent::Polish && wordWrap() && hasHeightForWidth()) {
+        QSizePolicy policy = sizePolicy();
+        policy.setVerticalPolicy(QSizePolicy::Minimum);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+    }
+    if (event->type() == QEvent::ApplicationFontChange)
+        setTextStyle(m_textStyle);
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    const QString tip = !m_toolTip.isEmpty() ? m_toolTip : isCut() ? text() : QString();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip.isEmpty() ? tip : wrapped(tip), this);
+    return true;
+}
+
+} // namespace LinuxDesktop

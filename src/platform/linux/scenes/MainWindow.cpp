@@ -1,0 +1,87 @@
+#include "platform/linux/scenes/MainWindow.h"
+
+#include "platform/linux/scenes/WidgetScene.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QScreen>
+
+namespace LinuxDesktop {
+
+namespace {
+
+/// Counts up, so that of two windows the one with the larger number was in front later.
+constexpr const char* frontOrder = "frontOrder";
+
+} // namespace
+
+MainWindow* MainWindow::front()
+{
+    MainWindow* latest = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* window = qobject_cast<MainWindow*>(widget);
+        if (window && window->isVisible() &&
+            (!latest || window->property(frontOrder).toInt() > latest->property(frontOrder).toInt()))
+            latest = window;
+    }
+    return latest;
+}
+
+void MainWindow::noteInFront()
+{
+    const MainWindow* latest = front();
+    if (latest != this)
+        setProperty(frontOrder, (latest ? latest->property(frontOrder).toInt() : 0) + 1);
+}
+
+void MainWindow::setContentViewController(std::shared_ptr<NS::ViewController> controller)
+{
+    setCentralWidget(&WidgetScene::rootOf(*controller));
+    m_content = std::move(controller);
+}
+
+/// A window as its scene has it may be larger than the screen.
+void MainWindow::fitToScreen()
+{
+    // What a window manager's frame takes, which is not known before the window shows.
+    constexpr QSize frame(16, 48);
+    const QSize room = screen()->availableSize() - frame;
+    setMinimumSize(minimumSize().boundedTo(room));
+    resize(size().boundedTo(room));
+}
+
+void MainWindow::makeKeyAndOrderFront()
+{
+    if (!testAttribute(Qt::WA_WState_Created))
+        fitToScreen();
+    if (isMinimized())
+        showNormal();
+    else
+        show();
+    noteInFront();
+    raise();
+    activateWindow();
+}
+
+void MainWindow::endSheet(NS::Sheet& sheet)
+{
+    if (auto* dialog = dynamic_cast<QDialog*>(&sheet))
+        dialog->done(QDialog::Rejected);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        noteInFront();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_delegate)
+        m_delegate->windowWillClose();
+    event->accept();
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,407 @@
+#include "platform/linux/scenes/RowList.h"
+
+#include "platform/linux/scenes/RowWidget.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace LinuxDesktop {
+
+namespace {
+
+bool isByPerson(const QFocusEvent& event)
+{
+    return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::OtherFocusReason &&
+           event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+RowList::RowList(QWidget* parent) : QAbstractScrollArea(parent), m_emptyLabel(new QLabel(viewport()))
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::TabFocus);
+    viewport()->setBackgroundRole(QPalette::Base);
+    viewport()->setAutoFillBackground(true);
+    m_emptyLabel->setAlignment(Qt::AlignCenter);
+    m_emptyLabel->setWordWrap(true);
+    m_emptyLabel->setTextFormat(Qt::PlainText);
+    m_emptyLabel->hide();
+}
+
+RowList::~RowList() = default;
+
+QString RowList::emptyText() const
+{
+    return m_emptyLabel->text();
+}
+
+void RowList::setEmptyText(const QString& text)
+{
+    m_emptyLabel->setText(text);
+}
+
+QWidget& RowList::emptyLabel() const
+{
+    return *m_emptyLabel;
+}
+
+QList<RowWidget*> RowList::rowsInSight() const
+{
+    QList<RowWidget*> rows;
+    for (const auto& [row, widget] : m_rows)
+        rows.append(widget);
+    return rows;
+}
+
+QSize RowList::sizeHint() const
+{
+    return {320, 240};
+}
+
+void RowList::reloadData()
+{
+    m_loaded = true;
+    m_rowCount = m_dataSource ? static_cast<int>(m_dataSource->numberOfRowsInTableView(*this)) : 0;
+    m_emptyLabel->setVisible(m_rowCount == 0);
+    m_selectedRow = std::min(m_selectedRow, m_rowCount - 1);
+    updateScrollRange();
+    layOutRows(Refill::AllRows);
+    setCurrentRow(m_currentRow);
+    // The row that had the focus has gone, and another is current in its place.
+    if (window()->focusWidget() == this && m_rows.contains(m_currentRow))
+        moveTo(m_currentRow, 0, Qt::OtherFocusReason);
+}
+
+NS::TableCellView* RowList::makeViewWithIdentifier_owner(std::string_view identifier, NS::SceneObject*)
+{
+    RowWidget* row = nullptr;
+    if (m_spareRows.empty()) {
+        row = newRow(identifier);
+        if (!row)
+            return nullptr;
+    } else {
+        row = m_spareRows.back();
+        m_spareRows.pop_back();
+    }
+    m_handedOut.push_back(row);
+    return row->cell();
+}
+
+RowWidget* RowList::newRow(std::string_view identifier)
+{
+    std::unique_ptr<RowWidget> made = m_makeRow ? m_makeRow(identifier) : nullptr;
+    if (!made)
+        return nullptr;
+    RowWidget* row = made.release();
+    const QStringList hidden = property("hiddenInRows").toString().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString& name : hidden) {
+        if (auto* part = row->findChild<QWidget*>(name))
+            part->hide();
+    }
+    row->setParent(viewport());
+    row->prepare();
+    row->installEventFilter(this);
+    // Rows come into being after the rest of the window, and are walked through where the list stands.
+    QWidget* before = this;
+    for (QWidget* control : row->controls()) {
+        control->installEventFilter(this);
+        QWidget::setTabOrder(before, control);
+        before = control;
+    }
+    return row;
+}
+
+void RowList::fillRow(int row)
+{
+    // The row view that showed this row before is the one to be used again, so that it keeps the focus.
+    if (const auto shown = m_rows.find(row); shown != m_rows.end()) {
+        m_spareRows.push_back(shown->second);
+        m_rows.erase(shown);
+    }
+    m_handedOut.clear();
+    const NS::TableCellView* cell =
+        m_delegate ? m_delegate->tableView_viewForTableColumn_row(*this, nullptr, row) : nullptr;
+    for (RowWidget* widget : m_handedOut) {
+        if (cell && widget->cell() == cell)
+            m_rows[row] = widget;
+        else
+            m_spareRows.push_back(widget);
+    }
+    m_handedOut.clear();
+    for (RowWidget* spare : m_spareRows)
+        spare->hide();
+}
+
+void RowList::retireRow(int row)
+{
+    RowWidget* widget = m_rows.at(row);
+    m_rows.erase(row);
+    // Scrolling a row away must not send the focus to another part of the window.
+    // The window's own, for a question that is just being answered may have the keyboard.
+    const QWidget* focused = window()->focusWidget();
+    const bool hadFocus = focused && widget->isAncestorOf(focused);
+    widget->setCurrent(false);
+    if (hadFocus)
+        setFocus(Qt::OtherFocusReason);
+    widget->hide();
+    m_spareRows.push_back(widget);
+}
+
+void RowList::layOutRows(Refill refill)
+{
+    if (!m_loaded)
+        return;
+    if (!isVisible()) {
+        m_stale = m_stale || refill == Refill::AllRows;
+        return;
+    }
+    if (std::exchange(m_stale, false))
+        refill = Refill::AllRows;
+    const int height = rowHeight();
+    if (height <= 0)
+        return;
+    const int top = verticalScrollBar()->value();
+    const int first = top / height;
+    const int last = std::min(m_rowCount - 1, (top + std::max(viewport()->height(), 1) - 1) / height);
+
+    std::vector<int> leaving;
+    for (const auto& [row, widget] : m_rows) {
+        if (row < first || row > last)
+            leaving.push_back(row);
+    }
+    for (const int row : leaving)
+        retireRow(row);
+
+    for (int row = first; row <= last; ++row) {
+        if (refill == Refill::AllRows || !m_rows.contains(row))
+            fillRow(row);
+        const auto shown = m_rows.find(row);
+        if (shown == m_rows.end())
+            continue;
+        RowWidget* widget = shown->second;
+        widget->setGeometry(0, row * height - top, viewport()->width(), height);
+        showState(*widget, row);
+        widget->show();
+    }
+    makeSpareRow(last);
+    // The list itself takes the focus only while its current row is out of sight.
+    setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::TabFocus);
+}
+
+/// Once the first and the last row in sight show in part only, there is one row more in sight than now.
+void RowList::makeSpareRow(int last)
+{
+    const int mostInSight = std::min(m_rowCount, (viewport()->height() - 1) / rowHeight() + 2);
+    const auto made = static_cast<int>(m_rows.size() + m_spareRows.size());
+    if (made >= mostInSight || last + 1 >= m_rowCount || m_rows.empty())
+        return;
+    fillRow(last + 1);
+    if (m_rows.contains(last + 1))
+        retireRow(last + 1);
+}
+
+void RowList::updateScrollRange()
+{
+    const int height = rowHeight();
+    verticalScrollBar()->setPageStep(viewport()->height());
+    verticalScrollBar()->setSingleStep(std::max(height, 1));
+    verticalScrollBar()->setRange(0, std::max(0, m_rowCount * height - viewport()->height()));
+    m_emptyLabel->setGeometry(viewport()->rect().adjusted(16, 16, -16, -16));
+}
+
+int RowList::rowHeight()
+{
+    // Every row is as high as the first.
+    if (m_rowHeight == 0 && m_rowCount > 0) {
+        if (m_rows.empty())
+            fillRow(0);
+        if (!m_rows.empty())
+            m_rowHeight = m_rows.begin()->second->sizeHint().height();
+    }
+    return m_rowHeight;
+}
+
+int RowList::rowOf(const RowWidget& widget) const
+{
+    const auto shown =
+        std::find_if(m_rows.begin(), m_rows.end(), [&](const auto& entry) { return entry.second == &widget; });
+    return shown == m_rows.end() ? -1 : shown->first;
+}
+
+void RowList::setCurrentRow(int row)
+{
+    m_currentRow = std::clamp(row, 0, std::max(m_rowCount - 1, 0));
+    for (const auto& [shownRow, widget] : m_rows)
+        showState(*widget, shownRow);
+    setFocusPolicy(m_rows.contains(m_currentRow) ? Qt::NoFocus : Qt::TabFocus);
+}
+
+void RowList::selectRow(int row)
+{
+    if (!m_selectable || row == m_selectedRow)
+        return;
+    m_selectedRow = row;
+    for (const auto& [shownRow, widget] : m_rows)
+        showState(*widget, shownRow);
+}
+
+void RowList::showState(RowWidget& widget, int row) const
+{
+    if (widget.isCurrent() != (row == m_currentRow))
+        widget.setCurrent(row == m_currentRow);
+    widget.setSelected(m_selectable ? std::optional(row == m_selectedRow) : std::nullopt);
+}
+
+void RowList::moveTo(int row, qsizetype control, Qt::FocusReason reason)
+{
+    setCurrentRow(row);
+    const int height = rowHeight();
+    const int top = m_currentRow * height;
+    if (top < verticalScrollBar()->value())
+        verticalScrollBar()->setValue(top);
+    else if (top + height > verticalScrollBar()->value() + viewport()->height())
+        verticalScrollBar()->setValue(top + height - viewport()->height());
+    const auto shown = m_rows.find(m_currentRow);
+    if (shown == m_rows.end() || shown->second->controls().isEmpty())
+        return;
+    const QList<QWidget*>& controls = shown->second->controls();
+    controls.at(std::clamp<qsizetype>(control, 0, controls.size() - 1))->setFocus(reason);
+}
+
+bool RowList::handleKey(int key, qsizetype control)
+{
+    const int page = std::max(1, viewport()->height() / std::max(rowHeight(), 1) - 1);
+    switch (key) {
+    case Qt::Key_Up:
+        moveTo(m_currentRow - 1, control);
+        return true;
+    case Qt::Key_Down:
+        moveTo(m_currentRow + 1, control);
+        return true;
+    case Qt::Key_PageUp:
+        moveTo(m_currentRow - page, control);
+        return true;
+    case Qt::Key_PageDown:
+        moveTo(m_currentRow + page, control);
+        return true;
+    case Qt::Key_Home:
+        moveTo(0, control);
+        return true;
+    case Qt::Key_End:
+        moveTo(m_rowCount - 1, control);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether a row that gets the focus is selected.
+bool RowList::selects(const QFocusEvent& event) const
+{
+    // Assistive programs move the focus for a person too; then a selection follows, but none is made.
+    return isByPerson(event) || (m_selectedRow >= 0 && event.reason() == Qt::OtherFocusReason);
+}
+
+bool RowList::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto* pressed = static_cast<QKeyEvent*>(event);
+        const auto shown = m_rows.find(m_currentRow);
+        if (shown != m_rows.end()) {
+            const qsizetype control = shown->second->controls().indexOf(static_cast<QWidget*>(watched));
+            if (control >= 0 && handleKey(pressed->key(), control)) {
+                selectRow(m_currentRow);
+                return true;
+            }
+        }
+    } else if (event->type() == QEvent::MouseButtonDblClick && qobject_cast<QPushButton*>(watched)) {
+        // Pressing a row's button may take the row away, and then the second press would be for the row below.
+        return true;
+    } else if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress) {
+        // Whatever way the user came to a row, it is the current one from then on.
+        auto* pressed = qobject_cast<RowWidget*>(watched);
+        auto* row = pressed;
+        if (!row && watched->parent())
+            row = qobject_cast<RowWidget*>(watched->parent());
+        const int number = row ? rowOf(*row) : -1;
+        if (number >= 0) {
+            setCurrentRow(number);
+            // A window that is come back to selects nothing by itself.
+            if (event->type() == QEvent::MouseButtonPress || selects(*static_cast<QFocusEvent*>(event)))
+                selectRow(number);
+            if (pressed && m_selectable && !row->controls().isEmpty())
+                row->controls().front()->setFocus(Qt::MouseFocusReason);
+            // Not to be taken for a click below the rows.
+            if (pressed && event->type() == QEvent::MouseButtonPress)
+                return true;
+        }
+    }
+    return QAbstractScrollArea::eventFilter(watched, event);
+}
+
+void RowList::mousePressEvent(QMouseEvent* event)
+{
+    QAbstractScrollArea::mousePressEvent(event);
+    // Below the last row.
+    selectRow(-1);
+}
+
+void RowList::keyPressEvent(QKeyEvent* event)
+{
+    if (m_rowCount > 0 && handleKey(event->key(), 0))
+        selectRow(m_currentRow);
+    else
+        QAbstractScrollArea::keyPressEvent(event);
+}
+
+void RowList::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    if (m_rowCount == 0 || event->reason() == Qt::OtherFocusReason)
+        return;
+    // A window that is come back to scrolls nothing by itself.
+    if (isByPerson(*event) || m_rows.contains(m_currentRow))
+        moveTo(m_currentRow, event->reason() == Qt::BacktabFocusReason ? 1 : 0, event->reason());
+}
+
+void RowList::resizeEvent(QResizeEvent* event)
+{
+    QAbstractScrollArea::resizeEvent(event);
+    updateScrollRange();
+    layOutRows(Refill::NewRows);
+}
+
+void RowList::scrollContentsBy(int, int)
+{
+    layOutRows(Refill::NewRows);
+}
+
+void RowList::showEvent(QShowEvent* event)
+{
+    QAbstractScrollArea::showEvent(event);
+    if (!m_loaded)
+        reloadData();
+    else
+        layOutRows(Refill::NewRows);
+}
+
+void RowList::changeEvent(QEvent* event)
+{
+    QAbstractScrollArea::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_rowHeight = 0;
+        updateScrollRange();
+        layOutRows(Refill::NewRows);
+    }
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,79 @@
+#include "platform/linux/scenes/RowWidget.h"
+
+#include "platform/linux/look/ThemeColors.h"
+#include "platform/linux/scenes/Label.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QEvent>
+#include <QPainter>
+
+namespace LinuxDesktop {
+
+namespace {
+
+constexpr int selectionBarWidth = 3;
+
+} // namespace
+
+RowWidget::RowWidget(QWidget* parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_Hover);
+}
+
+void RowWidget::prepare()
+{
+    for (auto* button : findChildren<QAbstractButton*>()) {
+        if (!button->isHidden())
+            m_controls.append(button);
+    }
+    if (auto* title = findChild<Label*>()) {
+        connect(title, &Label::textChanged, this, [this](const QString& text) {
+            setAccessibleName(text);
+            for (QWidget* control : m_controls)
+                control->setAccessibleName(text);
+        });
+    }
+    setCurrent(false);
+}
+
+void RowWidget::setCurrent(bool current)
+{
+    m_current = current;
+    for (QWidget* control : m_controls)
+        control->setFocusPolicy(current ? Qt::StrongFocus : Qt::ClickFocus);
+    update();
+}
+
+void RowWidget::setSelected(std::optional<bool> selected)
+{
+    if (selected == m_selected)
+        return;
+    const bool wasKnown = m_selected.has_value();
+    m_selected = selected;
+    update();
+    if (!wasKnown)
+        return;
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void RowWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    QColor tint = palette().color(QPalette::Text);
+    if (m_selected.value_or(false)) {
+        QColor selection = palette().color(QPalette::Highlight);
+        painter.fillRect(QRect(0, 0, selectionBarWidth, height() - 1), selection);
+        selection.setAlphaF(0.16F);
+        painter.fillRect(rect(), selection);
+    } else if (underMouse()) {
+        tint.setAlphaF(0.05F);
+        painter.fillRect(rect(), tint);
+    }
+    painter.fillRect(QRect(0, height() - 1, width(), 1), dividingLine(palette()));
+}
+
+} // namespace LinuxDesktop

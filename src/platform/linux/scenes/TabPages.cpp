@@ -1,0 +1,49 @@
+#include "platform/linux/scenes/TabPages.h"
+
+#include "platform/FatalError.h"
+#include "platform/linux/scenes/WidgetScene.h"
+
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+namespace LinuxDesktop {
+
+TabPages::TabPages(QWidget* parent) : QTabWidget(parent)
+{
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        if (isVisible())
+            loadCurrentPage();
+    });
+}
+
+void TabPages::selectTabViewItemAtIndex(int index)
+{
+    if (index < 0 || index >= count())
+        NS::fatalError("there is no tab " + std::to_string(index));
+    setCurrentIndex(index);
+}
+
+void TabPages::showEvent(QShowEvent* event)
+{
+    loadCurrentPage();
+    QTabWidget::showEvent(event);
+}
+
+void TabPages::loadCurrentPage()
+{
+    QWidget* page = currentWidget();
+    if (!m_loader || !page || page->layout())
+        return;
+    auto screen = m_loader(page->property("scene").toString().toStdString());
+    if (!screen)
+        NS::fatalError("a tab names a scene that does not exist");
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins({});
+    layout->addWidget(&WidgetScene::rootOf(*screen));
+    m_screens.push_back(std::move(screen));
+    // A page that had nothing in it yet was given the focus itself.
+    if (page->hasFocus())
+        focusNextChild();
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,111 @@
+#include "platform/linux/scenes/WidgetStoryboard.h"
+
+#include "platform/CollectionView.h"
+#include "platform/FatalError.h"
+#include "platform/TableView.h"
+#include "platform/WindowController.h"
+#include "platform/linux/scenes/CollectionGrid.h"
+#include "platform/linux/scenes/ImageWidget.h"
+#include "platform/linux/scenes/MainWindow.h"
+#include "platform/linux/scenes/PushButton.h"
+#include "platform/linux/scenes/RowList.h"
+#include "platform/linux/scenes/RowWidget.h"
+#include "platform/linux/scenes/Scenes.h"
+#include "platform/linux/scenes/TabPages.h"
+#include "platform/linux/scenes/WidgetScene.h"
+
+namespace LinuxDesktop {
+
+namespace {
+
+/// An object of the class that the root of a scene, or a button in it, names.
+template<class T>
+T makeCustomClass(const NS::ClassTable::Makers<T>& makers, const QWidget& root)
+{
+    const std::string name = root.property("customClass").toString().toStdString();
+    const auto maker = makers.find(name);
+    if (maker == makers.end())
+        NS::fatalError("there is no class \"" + name + "\" to run a scene");
+    return maker->second();
+}
+
+} // namespace
+
+std::shared_ptr<NS::Controller> WidgetStoryboard::instantiateControllerWithIdentifier(std::string_view identifier)
+{
+    std::unique_ptr<QWidget> root = makeScene(identifier);
+    if (!root)
+        return nullptr;
+    std::shared_ptr<NS::Controller> controller = makeCustomClass(m_classes.controllers, *root);
+    furnish(*root, *controller);
+
+    SceneConnections connections(root.get());
+    controller->connect(connections);
+    connections.wire(m_responders);
+    wakeButtons(*root);
+    controller->setScene(std::make_unique<WidgetScene>(std::move(root), *controller));
+
+    if (auto* screen = dynamic_cast<NS::ViewController*>(controller.get()))
+        screen->viewDidLoad();
+    else if (auto* window = dynamic_cast<NS::WindowController*>(controller.get()))
+        window->windowDidLoad();
+    return controller;
+}
+
+void WidgetStoryboard::wakeButtons(QWidget& root)
+{
+    for (auto* button : root.findChildren<PushButton*>()) {
+        if (button->property("customClass").isValid())
+            button->setCustomButton(makeCustomClass(m_classes.buttons, *button));
+    }
+}
+
+void WidgetStoryboard::furnish(QWidget& root, NS::Controller& controller)
+{
+    for (auto* image : root.findChildren<ImageWidget*>())
+        image->setStore(m_images);
+    for (auto* list : root.findChildren<RowList*>()) {
+        list->setRowMaker([this](std::string_view identifier) { return makeRow(identifier); });
+        list->setDataSource(dynamic_cast<NS::TableViewDataSource*>(&controller));
+        list->setDelegate(dynamic_cast<NS::TableViewDelegate*>(&controller));
+    }
+    for (auto* grid : root.findChildren<CollectionGrid*>()) {
+        grid->setItemMaker([this](std::string_view identifier) {
+            return std::dynamic_pointer_cast<NS::CollectionViewItem>(instantiateControllerWithIdentifier(identifier));
+        });
+        grid->setDataSource(dynamic_cast<NS::CollectionViewDataSource*>(&controller));
+    }
+    for (auto* tabs : root.findChildren<TabPages*>()) {
+        tabs->setLoader([this](std::string_view scene) {
+            return std::dynamic_pointer_cast<NS::ViewController>(instantiateControllerWithIdentifier(scene));
+        });
+    }
+    if (auto* window = qobject_cast<MainWindow*>(&root)) {
+        window->setDelegate(dynamic_cast<NS::WindowDelegate*>(&controller));
+        for (auto* entry : window->findChildren<QAction*>()) {
+            if (entry->property("action").toString() == QLatin1String("performClose:")) {
+                entry->setProperty("action", QVariant());
+                QObject::connect(entry, &QAction::triggered, window, &QWidget::close);
+            }
+        }
+    }
+}
+
+std::unique_ptr<RowWidget> WidgetStoryboard::makeRow(std::string_view identifier)
+{
+    std::unique_ptr<QWidget> root = makeScene(identifier);
+    auto* row = qobject_cast<RowWidget*>(root.get());
+    if (!row)
+        return nullptr;
+    std::unique_ptr<NS::TableCellView> cell = makeCustomClass(m_classes.cells, *row);
+    for (auto* image : row->findChildren<ImageWidget*>())
+        image->setStore(m_images);
+    SceneConnections connections(row);
+    cell->connect(connections);
+    connections.wire(m_responders);
+    row->setCell(std::move(cell));
+    root.release();
+    return std::unique_ptr<RowWidget>(row);
+}
+
+} // namespace LinuxDesktop

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/ClassTable.h"
+#include "platform/Storyboard.h"
+#include "platform/linux/scenes/SceneConnections.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace LinuxDesktop {
+
+class ImageStore;
+class RowWidget;
+
+/// The scenes of resources/Main, run by the program's classes: a scene names its class in the property
+/// "customClass" of its root. Main thread.
+class WidgetStoryboard : public NS::Storyboard {
+public:
+    /// All three must outlive the storyboard and what it makes. `responders` answer the actions that a scene's
+    /// own controller does not.
+    WidgetStoryboard(const NS::ClassTable& classes, ImageStore& images, const ActionMap& responders)
+        : m_classes(classes), m_images(images), m_responders(responders)
+    {}
+
+    std::shared_ptr<NS::Controller> instantiateControllerWithIdentifier(std::string_view identifier) override;
+
+private:
+    std::unique_ptr<RowWidget> makeRow(std::string_view identifier);
+    void wakeButtons(QWidget& root);
+    void furnish(QWidget& root, NS::Controller& controller);
+
+    const NS::ClassTable& m_classes;
+    ImageStore& m_images;
+    const ActionMap& m_responders;
+};
+
+} // namespace LinuxDesktop

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/linux/system/FileDescriptor.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+#include <vector>
+
+/// Other programs. Any thread.
+namespace LinuxDesktop::Command {
+
+/// The path of a program: the first executable file of that name in PATH.
+[[nodiscard]] std::optional<std::string> find(std::string_view name);
+
+/// A started program. It runs on when this is destroyed, also after the end of this process.
+class Process {
+public:
+    /// `id` is a child of this process that nobody else waits for.
+    explicit Process(pid_t id);
+
+    /// Readable once the program has ended.
+    [[nodiscard]] const FileDescriptor& ended() const { return m_ended; }
+    /// The exit status of a program that has ended, which is cleared away; nothing for one that was killed, or that
+    /// runs still.
+    std::optional<int> exitStatus();
+    /// Waits until the program ends, or until there is something to read from `interruption`, then as exitStatus().
+    std::optional<int> wait(const FileDescriptor& interruption);
+
+private:
+    pid_t m_id;
+    FileDescriptor m_ended;
+};
+
+/// This process's environment for another program: a session bus that runs, or none mentioned.
+[[nodiscard]] std::vector<std::string> environment();
+
+/// Starts the program at a path in a session of its own, with no open files but the standard ones, of which standard
+/// output is this process's standard error. `arguments` begin with the program's name. Nothing, and a complaint, when
+/// it cannot be started.
+[[nodiscard]] std::optional<Process> start(const std::string& program, std::vector<std::string> arguments,
+                                           std::vector<std::string> environment);
+
+} // namespace LinuxDesktop::Command

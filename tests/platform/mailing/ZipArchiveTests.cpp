@@ -1,0 +1,235 @@
+#include "platform/linux/mailing/ZipArchive.h"
+
+#include "support/Files.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace LinuxDesktop;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Root may read everything; while this lives the process is another user, when it was root, and owns `folder`.
+class OrdinaryUser {
+public:
+    explicit OrdinaryUser(const fs::path& folder)
+    {
+        if (::geteuid() != 0)
+            return;
+        constexpr uid_t nobody = 65534;
+        EXPECT_EQ(::lchown(folder.c_str(), nobody, nobody), 0);
+        for (const auto& entry : fs::recursive_directory_iterator(folder))
+            EXPECT_EQ(::lchown(entry.path().c_str(), nobody, nobody), 0);
+        EXPECT_EQ(::seteuid(nobody), 0);
+    }
+    ~OrdinaryUser() { EXPECT_EQ(::seteuid(::getuid()), 0); }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+};
+
+/// Files cannot grow beyond that many bytes while this lives: writing fails as on a full disk.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
+};
+
+struct ZipArchive : testing::Test {
+    ZipArchive() { fs::create_directory(folder()); }
+
+    [[nodiscard]] fs::path base() const { return m_base.path().toStdString(); }
+    [[nodiscard]] fs::path folder() const { return base() / "folder"; }
+    [[nodiscard]] fs::path archive() const { return base() / "archive.zip"; }
+
+    /// Packs the folder and keeps what is said.
+    bool zip()
+    {
+        testing::internal::CaptureStderr();
+        const bool zipped = zipFolder(folder(), "folder", archive());
+        m_errors = testing::internal::GetCapturedStderr();
+        return zipped;
+    }
+
+    /// What another implementation finds in the archive: a line an entry with its name's bytes, the type and rights
+    /// of its mode, and the first bytes of its content.
+    [[nodiscard]] std::string listing() const
+    {
+        QProcess python;
+        python.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        python.start(QStringLiteral("python3"), {QStringLiteral("-c"), QStringLiteral(R"(
+import sys, zipfile
+archive = zipfile.ZipFile(sys.argv[1])
+assert archive.testzip() is None
+for entry in archive.infolist():
+    name = entry.filename.encode('utf-8' if entry.flag_bits & 0x800 else 'cp437')
+    print(repr(name)[2:-1], oct(entry.external_attr >> 16)[2:], archive.read(entry)[:20].decode('latin-1'))
+)"),
+                                                 QString::fromStdString(archive().native())});
+        EXPECT_TRUE(python.waitForFinished());
+        EXPECT_EQ(python.exitCode(), 0);
+        return python.readAllStandardOutput().toStdString();
+    }
+
+    QTemporaryDir m_base;
+    std::string m_errors;
+};
+
+} // namespace
+
+TEST_F(ZipArchive, HoldsFilesFoldersAndLinksUnderTheFoldersName)
+{
+    fs::create_directories(folder() / "empty folder");
+    fs::create_directories(folder() / "in" / "ner");
+    Files::write(folder() / "in" / "ner" / "a.txt", "text");
+    Files::write(folder() / "in" / "program", "#!/bin/sh");
+    fs::permissions(folder() / "in" / "program", fs::perms(0750));
+    fs::permissions(folder() / "in" / "ner" / "a.txt", fs::perms(0640));
+    Files::write(folder() / "nothing", "");
+    fs::permissions(folder() / "nothing", fs::perms(0600));
+    for (const auto* name : {".", "empty folder", "in", "in/ner"})
+        fs::permissions(folder() / name, fs::perms(0755));
+    ASSERT_TRUE(zip());
+    EXPECT_EQ(m_errors, "");
+    EXPECT_EQ(listing(), "folder/ 40755 \n"
+                         "folder/empty folder/ 40755 \n"
+                         "folder/in/ 40755 \n"
+                         "folder/in/ner/ 40755 \n"
+                         "folder/in/ner/a.txt 100640 text\n"
+                         "folder/in/program 100750 #!/bin/sh\n"
+                         "folder/nothing 100600 \n");
+    EXPECT_EQ(fs::status(archive()).permissions(), fs::perms(0600));
+}
+
+TEST_F(ZipArchive, StoresLinksAndFollowsNone)
+{
+    fs::create_directory(base() / "outside");
+    Files::write(base() / "outside" / "secret", "secret");
+    fs::create_symlink("../outside", folder() / "a folder");
+    fs::create_symlink("../outside/secret", folder() / "b file");
+    fs::create_symlink("nowhere", folder() / "c nothing");
+    fs::create_symlink(".", folder() / "d itself");
+    ASSERT_TRUE(zip());
+    const std::string found = listing();
+    EXPECT_EQ(found.substr(found.find('\n') + 1), "folder/a folder 120777 ../outside\n"
+                                                  "folder/b file 120777 ../outside/secret\n"
+                                                  "folder/c nothing 120777 nowhere\n"
+                                                  "folder/d itself 120777 .\n");
+}
+
+TEST_F(ZipArchive, FollowsALinkThatIsTheFolderItself)
+{
+    fs::remove(folder());
+    fs::create_directory(base() / "real");
+    Files::write(base() / "real" / "file", "text");
+    fs::create_directory_symlink("real", folder());
+    ASSERT_TRUE(zip());
+    EXPECT_NE(listing().find("folder/file"), std::string::npos);
+}
+
+TEST_F(ZipArchive, KeepsNamesAsTheyAre)
+{
+    Files::write(folder() / "bytes \xff\xfe", "");
+    Files::write(folder() / "line\nend", "");
+    Files::write(folder() / "text \xc3\xa9\xe2\x82\xac", "");
+    ASSERT_TRUE(zip());
+    EXPECT_EQ(m_errors, "");
+    const std::string found = listing();
+    EXPECT_NE(found.find(R"(folder/bytes \xff\xfe )"), std::string::npos) << found;
+    EXPECT_NE(found.find(R"(folder/line\nend )"), std::string::npos) << found;
+    EXPECT_NE(found.find(R"(folder/text \xc3\xa9\xe2\x82\xac )"), std::string::npos) << found;
+}
+
+TEST_F(ZipArchive, HoldsLargeFilesWhole)
+{
+    const std::string content = Files::noise(5'000'001);
+    Files::write(folder() / "large", content);
+    ASSERT_TRUE(zip());
+    ASSERT_EQ(QProcess::execute(QStringLiteral("python3"),
+                                {QStringLiteral("-m"), QStringLiteral("zipfile"), QStringLiteral("-e"),
+                                 QString::fromStdString(archive().native()),
+                                 QString::fromStdString((base() / "extracted").native())}),
+              0);
+    EXPECT_TRUE(Files::read(base() / "extracted" / "folder" / "large") == content);
+}
+
+TEST_F(ZipArchive, LeavesOutWhatCannotBeReadAndSaysSo)
+{
+    Files::write(folder() / "a", "readable");
+    Files::write(folder() / "b", "unreadable");
+    fs::permissions(folder() / "b", fs::perms::none);
+    fs::create_directory(folder() / "c");
+    Files::write(folder() / "c" / "hidden", "unreadable");
+    ASSERT_EQ(::mkfifo((folder() / "d").c_str(), 0600), 0);
+    Files::write(folder() / "e", "readable");
+    {
+        const OrdinaryUser user(base());
+        fs::permissions(folder() / "c", fs::perms::none);
+        ASSERT_TRUE(zip());
+    }
+    const std::string path = folder().native();
+    EXPECT_EQ(m_errors, "orvik-menu: cannot read \"" + path + "/b\": Permission denied\n" +
+                            "orvik-menu: cannot read \"" + path + "/c\": Permission denied\n" +
+                            "orvik-menu: leaving out \"" + path + "/d\": it is not a file\n");
+    const std::string found = listing();
+    EXPECT_NE(found.find("folder/a "), std::string::npos);
+    EXPECT_EQ(found.find("folder/b "), std::string::npos);
+    EXPECT_EQ(found.find("folder/d "), std::string::npos);
+    EXPECT_NE(found.find("folder/e "), std::string::npos);
+}
+
+TEST_F(ZipArchive, OfAnUnreadableFolderIsNotMade)
+{
+    const OrdinaryUser user(base());
+    fs::permissions(folder(), fs::perms::none);
+    EXPECT_FALSE(zip());
+    EXPECT_EQ(m_errors, "orvik-menu: cannot read \"" + folder().native() + "\": Permission denied\n");
+    EXPECT_FALSE(fs::exists(archive()));
+}
+
+TEST_F(ZipArchive, IsNotLeftBehindInPartWhenTheDiskIsFull)
+{
+    Files::write(folder() / "large", Files::noise(3'000'000));
+    {
+        const FullDisk disk(1'000'000);
+        EXPECT_FALSE(zip());
+    }
+    EXPECT_EQ(m_errors, "orvik-menu: cannot write \"" + archive().native() + "\": File too large\n");
+    EXPECT_FALSE(fs::exists(archive()));
+}
+
+TEST_F(ZipArchive, IsNotLeftBehindInPartWhenTheDiskIsFullAtTheVeryEnd)
+{
+    Files::write(folder() / "small", Files::noise(1000));
+    {
+        const FullDisk disk(500);
+        EXPECT_FALSE(zip());
+    }
+    EXPECT_NE(m_errors.find("cannot write"), std::string::npos);
+    EXPECT_FALSE(fs::exists(archive()));
+}
+
+TEST_F(ZipArchive, DoesNotHoldItself)
+{
+    Files::write(folder() / "file", "text");
+    ASSERT_TRUE(zipFolder(folder(), "folder", folder() / "own.zip"));
+    fs::rename(folder() / "own.zip", archive());
+    EXPECT_EQ(listing().find("own.zip"), std::string::npos);
+}

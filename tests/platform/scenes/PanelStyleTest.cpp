@@ -1,0 +1,153 @@
+#include "platform/linux/look/PanelStyle.h"
+#include "platform/linux/scenes/PushButton.h"
+#include "platform/linux/scenes/RowList.h"
+#include "platform/linux/scenes/ScrollPane.h"
+
+#include <QHeaderView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QStandardItemModel>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace LinuxDesktop;
+
+class PanelStyleFixture : public testing::Test {
+protected:
+    PanelStyleFixture()
+    {
+        QPalette palette = window.palette();
+        palette.setColor(QPalette::Window, windowColor);
+        palette.setColor(QPalette::Base, baseColor);
+        palette.setColor(QPalette::Highlight, highlight);
+        window.setPalette(palette);
+        column = new QVBoxLayout(&window);
+    }
+
+    template<class Widget>
+    Widget* add()
+    {
+        auto* widget = new Widget;
+        widget->setStyle(&style);
+        column->addWidget(widget);
+        return widget;
+    }
+    void show()
+    {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    static QColor colorAt(QWidget& widget, QPoint at) { return widget.grab().toImage().pixelColor(at); }
+    /// Of the middle of a button's left edge.
+    static QColor outlineOf(QWidget& button) { return colorAt(button, {0, button.height() / 2}); }
+    /// Of the corner of an area's scroll bar, beside its handle.
+    QColor grooveOf(QAbstractScrollArea& area)
+    {
+        QScrollBar* bar = area.verticalScrollBar();
+        bar->setStyle(&style);
+        bar->setRange(0, 1000);
+        return colorAt(*bar, {0, bar->height() - 1});
+    }
+
+    const QColor windowColor{250, 240, 230};
+    const QColor baseColor{20, 200, 100};
+    const QColor highlight{200, 10, 150};
+    PanelStyle style;
+    QWidget window;
+    QVBoxLayout* column = nullptr;
+};
+
+TEST_F(PanelStyleFixture, TheButtonWithTheFocusIsToldByItsOutline)
+{
+    auto* one = add<PushButton>();
+    auto* other = add<PushButton>();
+    show();
+    one->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(outlineOf(*one), highlight);
+    EXPECT_NE(outlineOf(*other), highlight);
+    other->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(outlineOf(*other), highlight);
+    EXPECT_NE(outlineOf(*one), highlight);
+}
+
+TEST_F(PanelStyleFixture, AScrollBarHasTheColourOfWhatItScrolls)
+{
+    auto* list = add<RowList>();
+    auto* pane = add<ScrollPane>();
+    pane->setBackgroundColor(NS::Color::clearColor);
+    show();
+    EXPECT_EQ(grooveOf(*list), baseColor);
+    EXPECT_EQ(grooveOf(*pane), windowColor);
+}
+
+/// How many pixels of a picture have a colour.
+int count(const QImage& image, const QColor& color)
+{
+    int found = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            found += image.pixelColor(x, y) == color ? 1 : 0;
+    }
+    return found;
+}
+
+TEST_F(PanelStyleFixture, TheMenuItemThatIsPointedToIsReadOnTheHighlight)
+{
+    QMenu menu;
+    menu.setStyle(&style);
+    QPalette palette = window.palette();
+    const QColor onHighlight(1, 2, 3);
+    palette.setColor(QPalette::HighlightedText, onHighlight);
+    menu.setPalette(palette);
+    QAction* first = menu.addAction(QStringLiteral("First"));
+    QAction* second = menu.addAction(QStringLiteral("Second"));
+    second->setEnabled(false);
+    menu.popup({0, 0});
+    const auto pictureOf = [&](QAction* action) {
+        menu.setActiveAction(action);
+        return menu.grab(menu.actionGeometry(action)).toImage();
+    };
+
+    const QImage pointedTo = pictureOf(first);
+    EXPECT_GT(2 * count(pointedTo, highlight), pointedTo.width() * pointedTo.height());
+    EXPECT_GT(count(pointedTo, onHighlight), 0);
+    EXPECT_NE(pointedTo.pixelColor(0, 0), highlight);
+    EXPECT_EQ(count(pictureOf(second), highlight), 0);
+}
+
+TEST_F(PanelStyleFixture, TheMenuBarHasALineBelowAllOfIt)
+{
+    auto* bar = add<QMenuBar>();
+    bar->addMenu(QStringLiteral("First"));
+    show();
+
+    const QImage picture = bar->grab().toImage();
+    const QImage below = picture.copy(0, picture.height() - 1, picture.width(), 1);
+    EXPECT_EQ(count(below, below.pixelColor(0, 0)), picture.width());
+    EXPECT_NE(below.pixelColor(0, 0), windowColor);
+}
+
+TEST_F(PanelStyleFixture, AListsHeaderIsDividedFromItsRowsByALine)
+{
+    auto* header = new QHeaderView(Qt::Horizontal);
+    header->setStyle(&style);
+    QStandardItemModel columns(0, 2);
+    header->setModel(&columns);
+    column->addWidget(header);
+    show();
+
+    const QImage picture = header->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(2, 2), baseColor);
+    EXPECT_NE(picture.pixelColor(2, picture.height() - 1), baseColor);
+    const int edge = header->sectionSize(0) - 1;
+    EXPECT_NE(picture.pixelColor(edge, picture.height() / 2), baseColor);
+    EXPECT_EQ(picture.pixelColor(edge, 2), baseColor);
+}
+
+} // namespace

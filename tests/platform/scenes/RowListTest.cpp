@@ -1,0 +1,435 @@
+#include "platform/linux/scenes/RowList.h"
+#include "platform/linux/scenes/CheckBox.h"
+#include "platform/linux/scenes/ImageWidget.h"
+#include "platform/linux/scenes/Label.h"
+#include "platform/linux/scenes/PushButton.h"
+#include "platform/linux/scenes/RowWidget.h"
+#include "platform/linux/scenes/SceneConnections.h"
+#include "platform/linux/scenes/Scenes.h"
+#include "ui/tblcell.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDialog>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+using namespace LinuxDesktop;
+
+/// A list of checkboxes over a vector of states, counting the row views it causes.
+class RowListFixture : public testing::Test, public NS::TableViewDataSource, public NS::TableViewDelegate {
+protected:
+    RowListFixture()
+    {
+        auto* layout = new QVBoxLayout(&window);
+        layout->setContentsMargins({});
+        layout->addWidget(&before);
+        layout->addWidget(&list);
+        layout->addWidget(&after);
+        list.setProperty("hiddenInRows", QStringLiteral("btnDelete"));
+        list.setEmptyText(QStringLiteral("Nothing here."));
+        list.setDataSource(this);
+        list.setDelegate(this);
+        list.setRowMaker([this](std::string_view identifier) { return makeRow(identifier); });
+    }
+    // The list is a member, not the window's to delete.
+    ~RowListFixture() override
+    {
+        list.setParent(nullptr);
+        before.setParent(nullptr);
+        after.setParent(nullptr);
+    }
+
+    std::unique_ptr<RowWidget> makeRow(std::string_view identifier)
+    {
+        std::unique_ptr<QWidget> scene = makeScene(identifier);
+        auto* row = qobject_cast<RowWidget*>(scene.get());
+        if (!row)
+            return nullptr;
+        ++rowViewsMade;
+        auto cell = std::make_unique<tblcell>();
+        SceneConnections connections(row);
+        cell->connect(connections);
+        row->setCell(std::move(cell));
+        scene.release();
+        return std::unique_ptr<RowWidget>(row);
+    }
+
+    std::ptrdiff_t numberOfRowsInTableView(NS::TableView&) override { return std::ssize(states); }
+
+    NS::TableCellView* tableView_viewForTableColumn_row(NS::TableView& table, const NS::TableColumn*,
+                                                        std::ptrdiff_t row) override
+    {
+        auto* cell = dynamic_cast<tblcell*>(table.makeViewWithIdentifier_owner("tblcell", nullptr));
+        if (row == emptyRow)
+            return nullptr;
+        cell->lbltitle->setStringValue("Row " + std::to_string(row));
+        const bool on = states.at(static_cast<std::size_t>(row));
+        cell->checkbox->setState(on ? NS::ControlState::On : NS::ControlState::Off);
+        cell->checkbox->setTag(row);
+        cell->checkbox->setAction([this](NS::Control& sender) {
+            const auto index = static_cast<std::size_t>(sender.tag());
+            states.at(index) = !states.at(index);
+            list.reloadData();
+        });
+        return cell;
+    }
+
+    void show(int rows, int height = 300)
+    {
+        states.assign(static_cast<std::size_t>(rows), false);
+        window.resize(300, height);
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    CheckBox* boxOf(const QString& title)
+    {
+        for (RowWidget* row : list.rowsInSight()) {
+            if (row->accessibleName() == title)
+                return row->findChild<CheckBox*>();
+        }
+        return nullptr;
+    }
+
+    static QString focusedTitle()
+    {
+        const QWidget* focused = QApplication::focusWidget();
+        return focused ? focused->accessibleName() : QString();
+    }
+
+    QWidget window;
+    QPushButton before;
+    RowList list;
+    QPushButton after;
+    std::vector<bool> states;
+    std::ptrdiff_t emptyRow = -1;
+    int rowViewsMade = 0;
+};
+
+TEST_F(RowListFixture, ShowsItsRowsInOrderFromTheTop)
+{
+    show(3);
+    const QList<RowWidget*> rows = list.rowsInSight();
+    ASSERT_EQ(rows.size(), 3);
+    for (int row = 0; row < 3; ++row) {
+        EXPECT_EQ(rows.at(row)->accessibleName(), QStringLiteral("Row %1").arg(row));
+        EXPECT_EQ(rows.at(row)->y(), row * rows.at(row)->height());
+        EXPECT_TRUE(rows.at(row)->isVisible());
+    }
+}
+
+TEST_F(RowListFixture, ATenThousandRowListMakesRowViewsForTheRowsInSightOnly)
+{
+    show(10'000);
+    const auto inSight = list.rowsInSight().size();
+    EXPECT_LT(inSight, 20);
+    for (int position = 0; position < list.verticalScrollBar()->maximum(); position += 997)
+        list.verticalScrollBar()->setValue(position);
+    // Half a row may show at either end.
+    EXPECT_LE(rowViewsMade, inSight + 2);
+}
+
+TEST_F(RowListFixture, ScrollingMakesNoRowViews)
+{
+    show(500);
+    const int made = rowViewsMade;
+    QScrollBar& bar = *list.verticalScrollBar();
+    for (int value = 0; value <= bar.maximum(); value += 7) {
+        bar.setValue(value);
+        QApplication::processEvents();
+    }
+    EXPECT_EQ(rowViewsMade, made);
+}
+
+TEST_F(RowListFixture, ScrollingToTheEndShowsTheLastRowWhole)
+{
+    show(1000);
+    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum());
+    CheckBox* last = boxOf(QStringLiteral("Row 999"));
+    ASSERT_NE(last, nullptr);
+    const QWidget* row = last->parentWidget();
+    EXPECT_EQ(row->y() + row->height(), list.viewport()->height());
+}
+
+TEST_F(RowListFixture, AClickOnACheckboxOfAScrolledListTogglesThatRow)
+{
+    show(1000);
+    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
+    RowWidget* row = list.rowsInSight().at(2);
+    const int number = row->accessibleName().section(QLatin1Char(' '), 1).toInt();
+    CheckBox* box = row->findChild<CheckBox*>();
+    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+    for (int other = 0; other < 1000; ++other)
+        EXPECT_EQ(states.at(static_cast<std::size_t>(other)), other == number) << other;
+    EXPECT_TRUE(box->isChecked());
+}
+
+TEST_F(RowListFixture, AReloadKeepsTheFocusOnTheRowThatHadIt)
+{
+    show(5);
+    CheckBox* box = boxOf(QStringLiteral("Row 3"));
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Space);
+    EXPECT_TRUE(states.at(3));
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 3"));
+    EXPECT_EQ(QApplication::focusWidget(), box);
+}
+
+TEST_F(RowListFixture, AReusedRowKeepsWhatTheListLeavesUntouched)
+{
+    show(1);
+    auto* button = list.rowsInSight().first()->findChild<PushButton*>();
+    button->setText(QStringLiteral("mine"));
+    list.reloadData();
+    EXPECT_EQ(list.rowsInSight().first()->findChild<PushButton*>()->text(), QStringLiteral("mine"));
+}
+
+TEST_F(RowListFixture, TheArrowAndPageKeysMoveThroughTheRowsAndScroll)
+{
+    show(100);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 1"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 0"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 99"));
+    EXPECT_EQ(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
+    EXPECT_NE(focusedTitle(), QStringLiteral("Row 99"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 0"));
+}
+
+TEST_F(RowListFixture, TabEntersTheListAtItsCurrentRowAndLeavesItAgainBothWays)
+{
+    show(50);
+    before.setFocus();
+    QTest::keyClick(&before, Qt::Key_Tab);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 0"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &after);
+    QTest::keyClick(&after, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 1"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &before);
+}
+
+TEST_F(RowListFixture, ACurrentRowThatIsScrolledAwayIsStillReachedWithTab)
+{
+    show(500);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum());
+    EXPECT_EQ(QApplication::focusWidget(), &list);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 1"));
+
+    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum());
+    before.setFocus();
+    QTest::keyClick(&before, Qt::Key_Tab);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 1"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &after);
+}
+
+TEST_F(RowListFixture, AScrolledListStaysWhereItIsWhenTheWindowIsComeBackTo)
+{
+    list.setProperty("selectable", true);
+    show(500);
+    QTest::mouseClick(list.rowsInSight().at(1), Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(list.selectedRow(), 1);
+    const int scrolled = list.verticalScrollBar()->maximum() / 2;
+    list.verticalScrollBar()->setValue(scrolled);
+
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    EXPECT_EQ(QApplication::focusWidget(), &list);
+    EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);
+    EXPECT_EQ(list.selectedRow(), 1);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 2"));
+}
+
+TEST_F(RowListFixture, AClickOnARowOfAScrolledListSelectsThatRow)
+{
+    list.setProperty("selectable", true);
+    show(300);
+    before.setFocus();
+    const int scrolled = list.verticalScrollBar()->maximum() / 2;
+    list.verticalScrollBar()->setValue(scrolled);
+    RowWidget* row = list.rowsInSight().at(3);
+    const QString title = row->accessibleName();
+    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(2, 2));
+
+    EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);
+    EXPECT_EQ(QStringLiteral("Row %1").arg(list.selectedRow()), title);
+    EXPECT_EQ(focusedTitle(), title);
+}
+
+TEST_F(RowListFixture, TheRowBeforeTheLastTakesOverWhenThatGoesBehindAQuestion)
+{
+    list.setProperty("selectable", true);
+    show(300);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    EXPECT_EQ(list.selectedRow(), 299);
+    QDialog question(&window);
+    question.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&question));
+    states.pop_back();
+    list.reloadData();
+    question.close();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    EXPECT_EQ(list.selectedRow(), 298);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 298"));
+}
+
+TEST_F(RowListFixture, TheRowBeforeTheLastTakesOverTheFocusWithoutASelectionToo)
+{
+    show(60);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    states.pop_back();
+    list.reloadData();
+
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 58"));
+}
+
+TEST_F(RowListFixture, TheSelectionStaysAtTheEndWhenTheLastRowGoes)
+{
+    list.setProperty("selectable", true);
+    show(3);
+    QTest::mouseClick(list.rowsInSight().at(2), Qt::LeftButton, {}, QPoint(2, 2));
+    states.pop_back();
+    list.reloadData();
+    EXPECT_EQ(list.selectedRow(), 1);
+
+    states.clear();
+    list.reloadData();
+    EXPECT_EQ(list.selectedRow(), -1);
+}
+
+TEST_F(RowListFixture, AnEmptyListSaysSoInWords)
+{
+    show(0);
+    auto* words = list.viewport()->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    ASSERT_NE(words, nullptr);
+    EXPECT_TRUE(words->isVisible());
+    EXPECT_EQ(words->text(), QStringLiteral("Nothing here."));
+    states.assign(1, false);
+    list.reloadData();
+    EXPECT_FALSE(words->isVisible());
+    EXPECT_EQ(list.rowsInSight().size(), 1);
+}
+
+TEST_F(RowListFixture, AListThatShrinksShowsNoRowOfBefore)
+{
+    show(8, 500);
+    boxOf(QStringLiteral("Row 7"))->setFocus();
+    states.assign(2, true);
+    list.reloadData();
+    EXPECT_EQ(list.rowsInSight().size(), 2);
+    int visible = 0;
+    for (const RowWidget* row : list.viewport()->findChildren<RowWidget*>())
+        visible += row->isVisible() ? 1 : 0;
+    EXPECT_EQ(visible, 2);
+    EXPECT_TRUE(window.isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(RowListFixture, AListReloadedOutOfSightShowsTheNewRowsWhenItComesBack)
+{
+    show(3);
+    list.hide();
+    states.assign(3, true);
+    list.reloadData();
+    list.show();
+    EXPECT_TRUE(boxOf(QStringLiteral("Row 1"))->isChecked());
+}
+
+TEST_F(RowListFixture, ARowThatTheDelegateHasNoViewForAnyMoreDisappears)
+{
+    show(3);
+    emptyRow = 1;
+    list.reloadData();
+    int visible = 0;
+    for (const RowWidget* row : list.viewport()->findChildren<RowWidget*>())
+        visible += row->isVisible() ? 1 : 0;
+    EXPECT_EQ(visible, 2);
+}
+
+TEST_F(RowListFixture, AssistiveProgramsFindTheWordsOfAnEmptyList)
+{
+    show(0);
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&list);
+    ASSERT_EQ(face->childCount(), 1);
+    EXPECT_EQ(face->child(0)->text(QAccessible::Name), QStringLiteral("Nothing here."));
+}
+
+TEST_F(RowListFixture, ARowThatTheDelegateHasNoViewForStaysEmpty)
+{
+    emptyRow = 1;
+    show(3);
+    EXPECT_EQ(boxOf(QStringLiteral("Row 1")), nullptr);
+    EXPECT_NE(boxOf(QStringLiteral("Row 2")), nullptr);
+    EXPECT_EQ(list.rowsInSight().size(), 2);
+}
+
+TEST_F(RowListFixture, AnIdentifierWithoutASceneGivesNoView)
+{
+    show(1);
+    EXPECT_EQ(list.makeViewWithIdentifier_owner("no such row", nullptr), nullptr);
+}
+
+TEST_F(RowListFixture, AssistiveProgramsFindTheRowsAndTheirCheckboxesByTitle)
+{
+    show(3);
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&list);
+    ASSERT_NE(face, nullptr);
+    EXPECT_EQ(face->role(), QAccessible::List);
+    ASSERT_EQ(face->childCount(), 3);
+    for (int row = 0; row < 3; ++row) {
+        QAccessibleInterface* item = face->child(row);
+        const QString title = QStringLiteral("Row %1").arg(row);
+        EXPECT_EQ(item->role(), QAccessible::ListItem);
+        EXPECT_EQ(item->text(QAccessible::Name), title);
+        EXPECT_EQ(item->parent(), face);
+        EXPECT_EQ(face->indexOfChild(item), row);
+        QAccessibleInterface* box = QAccessible::queryAccessibleInterface(boxOf(title));
+        EXPECT_EQ(box->role(), QAccessible::CheckBox);
+        EXPECT_EQ(box->text(QAccessible::Name), title);
+    }
+    QAccessibleInterface* box = QAccessible::queryAccessibleInterface(boxOf(QStringLiteral("Row 2")));
+    box->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(states.at(2));
+    EXPECT_TRUE(box->state().checked);
+}
+
+TEST_F(RowListFixture, TheRowsGrowWithTheFont)
+{
+    show(3);
+    const int height = list.rowsInSight().first()->height();
+    QFont font = list.font();
+    font.setPointSizeF(font.pointSizeF() * 3);
+    list.setFont(font);
+    EXPECT_GT(list.rowsInSight().first()->height(), height);
+}
+
+} // namespace

@@ -1,0 +1,210 @@
+#include "platform/TabViewController.h"
+#include "platform/TableView.h"
+#include "platform/WindowController.h"
+#include "platform/linux/scenes/ImageStore.h"
+#include "platform/linux/scenes/Label.h"
+#include "platform/linux/scenes/MainWindow.h"
+#include "platform/linux/scenes/RowList.h"
+#include "platform/linux/scenes/RowWidget.h"
+#include "platform/linux/scenes/SceneConnections.h"
+#include "platform/linux/scenes/TabPages.h"
+#include "platform/linux/scenes/WidgetScene.h"
+#include "platform/linux/scenes/WidgetStoryboard.h"
+#include "ui/tblcell.h"
+
+#include <QAction>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace LinuxDesktop;
+
+class Window : public NS::WindowController, public NS::WindowDelegate {
+public:
+    void windowDidLoad() override { ++loaded; }
+    void windowWillClose() override { ++closed; }
+
+    int loaded = 0;
+    int closed = 0;
+};
+
+class Screen : public NS::ViewController, public NS::TableViewDataSource, public NS::TableViewDelegate {
+public:
+    explicit Screen(int& loads) : m_loads(loads) {}
+
+    void connect(NS::Connections& connections) override
+    {
+        connections.outlet("tblview", tblview);
+        connections.outlet("no such view", missing);
+    }
+    void viewDidLoad() override { ++m_loads; }
+
+    std::ptrdiff_t numberOfRowsInTableView(NS::TableView&) override { return 1; }
+    NS::TableCellView* tableView_viewForTableColumn_row(NS::TableView& table, const NS::TableColumn*,
+                                                        std::ptrdiff_t) override
+    {
+        cell = dynamic_cast<tblcell*>(table.makeViewWithIdentifier_owner("tblcell", nullptr));
+        return cell;
+    }
+
+    NS::Outlet<NS::TableView> tblview{"tblview"};
+    NS::Outlet<NS::TableView> missing{"no such view"};
+    tblcell* cell = nullptr;
+
+private:
+    int& m_loads;
+};
+
+class StoryboardFixture : public testing::Test {
+protected:
+    StoryboardFixture()
+    {
+        classes.controllers["mainStartWindow"] = [] { return std::make_shared<Window>(); };
+        classes.controllers["tabviewcontroller"] = [] { return std::make_shared<NS::TabViewController>(); };
+        classes.controllers["ViewController"] = [this] { return screen = std::make_shared<Screen>(screenLoads); };
+        classes.cells["tblcell"] = [] { return std::make_unique<tblcell>(); };
+        responders["menuItem_aboutCLicked:"] = [](NS::Control&) {};
+        responders["terminate:"] = [this](NS::Control&) { ++terminations; };
+    }
+
+    template<class T>
+    std::shared_ptr<T> make(const char* identifier)
+    {
+        return std::dynamic_pointer_cast<T>(storyboard.instantiateControllerWithIdentifier(identifier));
+    }
+
+    static QAction* entryOf(const Window& window, const QString& text)
+    {
+        for (auto* entry : WidgetScene::rootOf(window).findChildren<QAction*>()) {
+            if (entry->text().remove(QLatin1Char('&')) == text)
+                return entry;
+        }
+        return nullptr;
+    }
+
+    NS::ClassTable classes;
+    ActionMap responders;
+    ImageStore images{QStringLiteral(ORVIK_ASSETS)};
+    WidgetStoryboard storyboard{classes, images, responders};
+    std::shared_ptr<Screen> screen;
+    int screenLoads = 0;
+    int terminations = 0;
+};
+
+TEST_F(StoryboardFixture, GivesNothingForASceneThatItDoesNotHave)
+{
+    EXPECT_EQ(storyboard.instantiateControllerWithIdentifier("no such scene"), nullptr);
+}
+
+TEST_F(StoryboardFixture, EachInstanceIsANewOne)
+{
+    EXPECT_NE(make<Screen>("ViewController"), make<Screen>("ViewController"));
+    EXPECT_EQ(screenLoads, 2);
+}
+
+TEST_F(StoryboardFixture, LoadsAWindowAndFillsItsOutlet)
+{
+    const auto window = make<Window>("mainStartWindow");
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->loaded, 1);
+    EXPECT_TRUE(window->window);
+}
+
+TEST_F(StoryboardFixture, FillsTheOutletsThatTheSceneHasAndLeavesOthersEmpty)
+{
+    const auto made = make<Screen>("ViewController");
+    EXPECT_TRUE(made->tblview);
+    EXPECT_FALSE(made->missing);
+    EXPECT_DEATH(made->missing->reloadData(), "orvik-menu: fatal error: the outlet \"no such view\" is empty");
+}
+
+TEST_F(StoryboardFixture, OutletsAreEmptyOnceTheSceneIsGone)
+{
+    const auto made = make<Screen>("ViewController");
+    made->setScene(nullptr);
+    EXPECT_FALSE(made->tblview);
+}
+
+TEST_F(StoryboardFixture, ACellOfTheStoryboardHasAllFourOutletsConnected)
+{
+    const auto made = make<Screen>("ViewController");
+    QWidget& root = WidgetScene::rootOf(*made);
+    root.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&root));
+    ASSERT_NE(made->cell, nullptr);
+    EXPECT_TRUE(made->cell->lbltitle);
+    EXPECT_TRUE(made->cell->imgview);
+    EXPECT_TRUE(made->cell->checkbox);
+    EXPECT_TRUE(made->cell->btnDelete);
+}
+
+TEST_F(StoryboardFixture, ATextIsShownAsItIsAndNotAsMarkup)
+{
+    Label label;
+    label.setStringValue("<b>bold</b> & \xe2\x82\xac");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_EQ(label.text(), QStringLiteral("<b>bold</b> & €"));
+}
+
+TEST_F(StoryboardFixture, AScreenIsMadeWhenItsTabIsFirstShownAndOnlyThen)
+{
+    const auto window = make<Window>("mainStartWindow");
+    const auto tabs = make<NS::TabViewController>("tabviewcontroller");
+    window->window->setContentViewController(tabs);
+    EXPECT_EQ(screenLoads, 0);
+    window->showWindow();
+    EXPECT_EQ(screenLoads, 1);
+    tabs->tabView->selectTabViewItemAtIndex(0);
+    WidgetScene::rootOf(*window).hide();
+    window->showWindow();
+    EXPECT_EQ(screenLoads, 1);
+}
+
+TEST_F(StoryboardFixture, SelectingATabThatDoesNotExistIsFatal)
+{
+    const auto tabs = make<NS::TabViewController>("tabviewcontroller");
+    EXPECT_DEATH(tabs->tabView->selectTabViewItemAtIndex(99), "fatal error: there is no tab 99");
+    EXPECT_DEATH(tabs->tabView->selectTabViewItemAtIndex(-1), "fatal error: there is no tab -1");
+}
+
+TEST_F(StoryboardFixture, ClosingAWindowTellsItsDelegateOnce)
+{
+    const auto window = make<Window>("mainStartWindow");
+    window->showWindow();
+    entryOf(*window, QStringLiteral("Close Window"))->trigger();
+    EXPECT_EQ(window->closed, 1);
+    EXPECT_FALSE(WidgetScene::rootOf(*window).isVisible());
+}
+
+TEST_F(StoryboardFixture, AnActionThatTheControllerDoesNotHaveGoesToTheApplication)
+{
+    const auto window = make<Window>("mainStartWindow");
+    entryOf(*window, QStringLiteral("Quit Orvik Menu"))->trigger();
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(StoryboardFixture, AnActionThatNobodyHasIsFatal)
+{
+    responders.erase("terminate:");
+    EXPECT_DEATH(static_cast<void>(storyboard.instantiateControllerWithIdentifier("mainStartWindow")),
+                 "nothing answers the action \"terminate:\"");
+}
+
+TEST_F(StoryboardFixture, ASceneOfAClassThatDoesNotExistIsFatal)
+{
+    classes.controllers.clear();
+    EXPECT_DEATH(static_cast<void>(storyboard.instantiateControllerWithIdentifier("ViewController")),
+                 "there is no class \"ViewController\"");
+}
+
+TEST_F(StoryboardFixture, AnOutletOfAnotherClassIsFatal)
+{
+    NS::Outlet<NS::TextField> wrong{"tblview"};
+    const auto made = make<Screen>("ViewController");
+    SceneConnections connections(&WidgetScene::rootOf(*made));
+    EXPECT_DEATH(connections.outlet("tblview", wrong), "the view \"tblview\" is of another class");
+}
+
+} // namespace

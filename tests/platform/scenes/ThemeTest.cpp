@@ -1,0 +1,89 @@
+#include "platform/linux/look/ThemeColors.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace LinuxDesktop;
+
+/// Relative luminance, as the Web Content Accessibility Guidelines 2.1 define it.
+double luminance(const QColor& color)
+{
+    const auto linear = [](float channel) {
+        const auto value = static_cast<double>(channel);
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const double lighter = std::max(luminance(one), luminance(other));
+    const double darker = std::min(luminance(one), luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+class Theme : public testing::TestWithParam<ColorScheme> {
+protected:
+    void expectContrast(const char* what, const QColor& one, const QColor& other) const
+    {
+        EXPECT_GE(contrast(one, other), 4.5)
+            << what << ": " << one.name().toStdString() << " on " << other.name().toStdString();
+    }
+
+    QPalette palette = themePalette(GetParam());
+};
+
+TEST_P(Theme, EveryTextStandsOutFromWhatIsBehindIt)
+{
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const auto color = [&](QPalette::ColorRole role) { return palette.color(group, role); };
+        expectContrast("text on the window", color(QPalette::WindowText), color(QPalette::Window));
+        expectContrast("text in a card", color(QPalette::WindowText), color(QPalette::Base));
+        expectContrast("text in a list", color(QPalette::Text), color(QPalette::Base));
+        expectContrast("text in every other row", color(QPalette::Text), color(QPalette::AlternateBase));
+        expectContrast("a button's title", color(QPalette::ButtonText), color(QPalette::Button));
+        expectContrast("secondary text on the window", color(QPalette::PlaceholderText), color(QPalette::Window));
+        expectContrast("secondary text in a card", color(QPalette::PlaceholderText), color(QPalette::Base));
+        expectContrast("a tool tip", color(QPalette::ToolTipText), color(QPalette::ToolTipBase));
+        expectContrast("a link on the window", color(QPalette::Link), color(QPalette::Window));
+    }
+}
+
+TEST_P(Theme, TextsStandOutFromWhatIsHoveredPressedOrSelectedToo)
+{
+    const auto color = [&](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+    for (const float share : {0.06F, 0.16F})
+        expectContrast("a hovered or pressed button's title", color(QPalette::ButtonText),
+                       mixed(color(QPalette::Button), color(QPalette::ButtonText), share));
+    expectContrast("a hovered row", color(QPalette::Text),
+                   mixed(color(QPalette::Base), color(QPalette::Text), 0.05F));
+    expectContrast("a selected row", color(QPalette::Text),
+                   mixed(color(QPalette::Base), color(QPalette::Highlight), 0.16F));
+    expectContrast("a link in a card", color(QPalette::Link), color(QPalette::Base));
+}
+
+TEST_P(Theme, EveryControlStandsOutFromWhatIsBehindIt)
+{
+    const auto color = [&](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+    for (const QPalette::ColorRole behind : {QPalette::Window, QPalette::Base}) {
+        expectContrast("a control's outline", controlOutline(palette), color(behind));
+        expectContrast("a focus ring, a checked box, the selected tab's mark", color(QPalette::Highlight),
+                       color(behind));
+    }
+    expectContrast("a focus ring around a button", color(QPalette::Highlight), color(QPalette::Button));
+    expectContrast("a button's outline", controlOutline(palette), color(QPalette::Button));
+    expectContrast("the knob of a switch that is off", color(QPalette::Base), controlOutline(palette));
+    expectContrast("a check mark, a selected text", color(QPalette::HighlightedText), color(QPalette::Highlight));
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, Theme, testing::Values(ColorScheme::Light, ColorScheme::Dark), [](const auto& tested) {
+    return std::string(tested.param == ColorScheme::Light ? "Light" : "Dark");
+});
+
+} // namespace

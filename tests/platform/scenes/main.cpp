@@ -1,0 +1,16 @@
+#include "platform/linux/scenes/Accessibility.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    // A death test runs the program anew up to its statement, clear of this one's threads.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    LinuxDesktop::installAccessibility();
+    return RUN_ALL_TESTS();
+}
