@@ -1,8 +1,7 @@
 #include "extension/ExtensionSettings.h"
 
-#include "settings/SettingsKeys.h"
-
-#include <string_view>
+#include "settings/Reading.h"
+#include "settings/Settings.h"
 
 namespace MenuExtension {
 
@@ -10,72 +9,54 @@ namespace {
 
 constexpr std::int64_t active = 1;
 
-const NS::Value* valueIn(const NS::Value::Dictionary& values, std::string_view key)
+bool isOn(const Switch& setting, const NS::Value::Dictionary& stored)
 {
-    const auto found = values.find(key);
-    return found == values.end() ? nullptr : &found->second;
+    return read(setting, stored).value_or(setting.initially);
 }
 
-const NS::Value::Array& arrayIn(const NS::Value::Dictionary& values, std::string_view key)
+const NS::Value::Array& arrayIn(const NS::Value::Dictionary& stored, std::string_view key)
 {
     static const NS::Value::Array none;
-    const NS::Value* value = valueIn(values, key);
-    return value && value->array() ? *value->array() : none;
+    const auto found = stored.find(key);
+    return found != stored.end() && found->second.array() ? *found->second.array() : none;
 }
 
-bool booleanIn(const NS::Value::Dictionary& values, std::string_view key, bool otherwise)
-{
-    const NS::Value* value = valueIn(values, key);
-    return value ? value->boolean().value_or(otherwise) : otherwise;
-}
-
-std::vector<MenuItem> menuItemsIn(const NS::Value::Array& stored)
+std::vector<MenuItem> menuItemsIn(const NS::Value::Dictionary& suite)
 {
     std::vector<MenuItem> items;
-    for (const NS::Value& element : stored) {
-        const NS::Value* title = element.dictionary() ? valueIn(*element.dictionary(), MenuItemKey::title) : nullptr;
-        if (title && title->string())
-            items.push_back({*title->string(), booleanIn(*element.dictionary(), MenuItemKey::state, false)});
+    for (const NS::Value::Dictionary& stored : readSound(Settings::menuArrayDic, suite)) {
+        if (auto title = read(MenuItemSettings::title, stored))
+            items.push_back({*std::move(title), isOn(MenuItemSettings::state, stored)});
     }
     return items;
 }
 
 /// The states go with the paths by their position, so an element that is no path still has its state.
-std::vector<Folder> foldersIn(const NS::Value::Array& paths, const NS::Value::Array& states)
+std::vector<Folder> foldersIn(const NS::Value::Dictionary& suite)
 {
+    const NS::Value::Array& paths = arrayIn(suite, Settings::foldersArray.key);
+    const NS::Value::Array& states = arrayIn(suite, Settings::foldersArraystate.key);
     std::vector<Folder> folders;
     for (std::size_t index = 0; index < paths.size(); ++index) {
-        const std::string* path = paths[index].string();
+        auto path = Settings::foldersArray.decode(paths[index]);
         if (!path || !path->starts_with('/'))
             continue;
-        const auto state = index < states.size() ? states[index].integer() : std::nullopt;
-        folders.push_back({*path, state.value_or(active) == active});
+        const auto state = index < states.size() ? Settings::foldersArraystate.decode(states[index]) : std::nullopt;
+        folders.push_back({*std::move(path), state.value_or(active) == active});
     }
     return folders;
-}
-
-std::vector<std::string> stringsIn(const NS::Value::Array& stored)
-{
-    std::vector<std::string> strings;
-    for (const NS::Value& element : stored) {
-        if (element.string())
-            strings.push_back(*element.string());
-    }
-    return strings;
 }
 
 } // namespace
 
 ExtensionSettings settingsFromSuite(const NS::Value::Dictionary& suite)
 {
-    const ExtensionSettings otherwise;
     return {
-        .menuItems = menuItemsIn(arrayIn(suite, SettingsKey::menuArrayDic)),
-        .folders =
-            foldersIn(arrayIn(suite, SettingsKey::foldersArray), arrayIn(suite, SettingsKey::foldersArraystate)),
-        .customFolders = stringsIn(arrayIn(suite, SettingsKey::arrCustomFoldersUrls)),
-        .showMenuIcon = booleanIn(suite, SettingsKey::showmenuicon, otherwise.showMenuIcon),
-        .showInSubmenu = booleanIn(suite, SettingsKey::showinSubMenu, otherwise.showInSubmenu),
+        .menuItems = menuItemsIn(suite),
+        .folders = foldersIn(suite),
+        .customFolders = readSound(Settings::arrCustomFoldersUrls, suite),
+        .showMenuIcon = isOn(Settings::showmenuicon, suite),
+        .showInSubmenu = isOn(Settings::showinSubMenu, suite),
     };
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Value.h"
+#include "settings/Settings.h"
 
 #include <string>
 #include <vector>
@@ -26,8 +27,8 @@ struct ExtensionSettings {
     std::vector<MenuItem> menuItems;
     std::vector<Folder> folders;
     std::vector<std::string> customFolders;
-    bool showMenuIcon = true;
-    bool showInSubmenu = false;
+    bool showMenuIcon = Settings::showmenuicon.initially;
+    bool showInSubmenu = Settings::showinSubMenu.initially;
     friend bool operator==(const ExtensionSettings&, const ExtensionSettings&) = default;
 };
 

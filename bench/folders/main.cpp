@@ -8,7 +8,7 @@
 #include "platform/linux/scenes/TabPages.h"
 #include "registry/ControllerRegistry.h"
 #include "settings/Deployment.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Settings.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -56,9 +56,9 @@ void storeFolders(NS::UserDefaults& suite, int count)
     NS::Value::Array paths;
     for (int number = 0; number < count; ++number)
         paths.emplace_back("/home/someone/Documents/Projects/Folder number " + std::to_string(number));
-    suite.setValue_forKeyPath(std::move(paths), SettingsKey::foldersArray);
+    suite.setValue_forKeyPath(std::move(paths), Settings::foldersArray.key);
     suite.setValue_forKeyPath(NS::Value::Array(static_cast<std::size_t>(count), NS::Value(1)),
-                              SettingsKey::foldersArraystate);
+                              Settings::foldersArraystate.key);
     suite.synchronize();
 }
 
@@ -120,7 +120,7 @@ void click(QWidget& widget, QPoint place)
 
 TabPages& startPanel(LinuxPlatform& platform)
 {
-    platform.standardUserDefaults().setBool_forKey(true, SettingsKey::firstRun);
+    platform.standardUserDefaults().setBool_forKey(true, Settings::firstRun.key);
     platform.loadDelegate().applicationWillFinishLaunching();
     QApplication::processEvents();
     for (QWidget* window : QApplication::topLevelWidgets()) {

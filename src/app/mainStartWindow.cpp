@@ -8,7 +8,7 @@
 #include "registry/ControllerRegistry.h"
 #include "settings/Deployment.h"
 #include "settings/NotificationNames.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Settings.h"
 
 void mainStartWindow::windowDidLoad()
 {
@@ -26,7 +26,7 @@ void mainStartWindow::windowDidLoad()
 std::shared_ptr<NS::ViewController> mainStartWindow::contentViewController()
 {
     // Any stored value counts: presence alone says that the first run is over.
-    if (NS::platform().standardUserDefaults().objectForKey(SettingsKey::firstRun))
+    if (NS::platform().standardUserDefaults().objectForKey(Settings::firstRun.key))
         return m_registry.controller<tabviewcontroller>(ControllerIdentifier::tabviewcontroller);
     return m_registry.controller<firstRunvc>(ControllerIdentifier::firstRunvc);
 }

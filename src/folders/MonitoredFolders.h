@@ -1,28 +1,13 @@
 #pragma once
 
-#include "platform/Bookmark.h"
 #include "platform/URL.h"
 #include "platform/UserDefaults.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <set>
 #include <string>
-#include <string_view>
 #include <vector>
-
-/// What the folders need from outside. Main thread.
-struct MonitoredFolderServices {
-    /// A fresh handle on the shared suite, or nothing.
-    std::function<std::shared_ptr<NS::UserDefaults>()> openSuite;
-    std::function<NS::BookmarkData(const NS::URL& folder)> makeBookmark;
-    /// Replaces the whole set that the file manager's companion watches.
-    std::function<void(const std::set<NS::URL>& folders)> setDirectoryURLs;
-    /// Whether two paths are the same text.
-    std::function<bool(std::string_view one, std::string_view other)> samePath;
-};
 
 /// The bookmarks made since the program started, in the order of adding. The process has one list.
 using RunBookmarks = std::vector<NS::Data>;
@@ -33,10 +18,10 @@ class MonitoredFolders {
 public:
     enum class Added { Yes, AlreadyPresent };
 
-    MonitoredFolders(MonitoredFolderServices services, std::shared_ptr<RunBookmarks> runBookmarks);
+    explicit MonitoredFolders(std::shared_ptr<RunBookmarks> runBookmarks);
 
-    /// Reads both lists from `store`, which may be null. A stored list of another kind is fatal.
-    void load(NS::UserDefaults* store);
+    /// Reads both lists from `stored`, which may be null. A stored list of another kind is fatal.
+    void load(NS::UserDefaults* stored);
 
     /// Appends an active folder, stores both lists, makes its bookmark and publishes; does nothing when its path is
     /// listed. A bookmark that cannot be made is told on standard output alone.
@@ -62,10 +47,8 @@ public:
 
 private:
     void storeFolders(NS::UserDefaults* suite) const;
-    void storeFlags(NS::UserDefaults& suite) const;
     void keepBookmark(const NS::URL& url, NS::UserDefaults* suite);
     void requireRow(std::ptrdiff_t row, std::size_t rows) const;
 
-    MonitoredFolderServices m_services;
     std::shared_ptr<RunBookmarks> m_runBookmarks;
 };

@@ -4,30 +4,13 @@
 #include "platform/Platform.h"
 #include "settings/Deployment.h"
 #include "settings/NotificationNames.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Reading.h"
+#include "settings/Settings.h"
 #include "settings/SharedSuite.h"
 #include "ui/tblcell.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
-
-namespace {
-
-/// The stored list; nothing when there is none or an element is no text.
-std::optional<std::vector<std::string>> storedFolders(NS::UserDefaults& suite)
-{
-    const auto array = suite.arrayForKey(SettingsKey::arrCustomFoldersUrls);
-    if (!array || !std::ranges::all_of(*array, [](const NS::Value& element) { return element.string(); }))
-        return std::nullopt;
-    std::vector<std::string> folders;
-    folders.reserve(array->size());
-    for (const NS::Value& element : *array)
-        folders.push_back(*element.string());
-    return folders;
-}
-
-} // namespace
 
 customFoldersVc::customFoldersVc() : sharedDefaults(openSharedSuite()) {}
 
@@ -51,8 +34,9 @@ void customFoldersVc::viewWillAppear()
 void customFoldersVc::reloadCustomFolders()
 {
     if (sharedDefaults) {
-        if (auto folders = storedFolders(*sharedDefaults))
-            arrCustomFolders = std::move(*folders);
+        const auto stored = sharedDefaults->arrayForKey(Settings::arrCustomFoldersUrls.key);
+        if (auto folders = stored ? readWhole(Settings::arrCustomFoldersUrls, *stored) : std::nullopt)
+            arrCustomFolders = *std::move(folders);
     }
     tblview->reloadData();
 }
@@ -82,11 +66,8 @@ void customFoldersVc::brnDeleteClickedWithSender(NS::Control& sender)
 {
     requireRow(sender.tag());
     arrCustomFolders.erase(arrCustomFolders.begin() + sender.tag());
-    if (sharedDefaults) {
-        sharedDefaults->setValue_forKeyPath(NS::Value::Array(arrCustomFolders.begin(), arrCustomFolders.end()),
-                                            SettingsKey::arrCustomFoldersUrls);
-        sharedDefaults->synchronize();
-    }
+    if (sharedDefaults)
+        store(arrCustomFolders, *sharedDefaults, Settings::arrCustomFoldersUrls.key);
     tblview->reloadData();
 }
 

@@ -14,21 +14,6 @@
 
 namespace {
 
-MonitoredFolderServices servicesOfThePlatform()
-{
-    return {
-        .openSuite = openSharedSuite,
-        .makeBookmark =
-            [](const NS::URL& folder) {
-                return NS::platform().bookmarkDataWithOptions(folder, NS::BookmarkCreationWithSecurityScope);
-            },
-        .setDirectoryURLs =
-            [](const std::set<NS::URL>& folders) { NS::platform().defaultController().setDirectoryURLs(folders); },
-        .samePath = [](std::string_view one,
-                       std::string_view other) { return NS::platform().canonicallyEqual(one, other); },
-    };
-}
-
 std::string listed(const std::vector<NS::URL>& urls)
 {
     std::string text;
@@ -40,8 +25,8 @@ std::string listed(const std::vector<NS::URL>& urls)
 } // namespace
 
 foldersArrvc::foldersArrvc(ControllerRegistry& registry, std::shared_ptr<RunBookmarks> runBookmarks)
-    : folders(servicesOfThePlatform(), std::move(runBookmarks)), sharedDefaults(openSharedSuite()),
-      alert(NS::platform().makeAlert()), alertAlreadyAdded(NS::platform().makeAlert()), m_registry(registry)
+    : folders(std::move(runBookmarks)), sharedDefaults(openSharedSuite()), alert(NS::platform().makeAlert()),
+      alertAlreadyAdded(NS::platform().makeAlert()), m_registry(registry)
 {}
 
 void foldersArrvc::connect(NS::Connections& connections)

@@ -2,7 +2,8 @@
 
 #include "platform/FatalError.h"
 #include "platform/Platform.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Reading.h"
+#include "settings/Settings.h"
 #include "settings/SharedSuite.h"
 
 #include <optional>
@@ -16,17 +17,17 @@ constexpr double freshness = 20.0;
 /// The path of a request that is well-formed and fresh.
 std::optional<std::string> pathOfFreshRequest(NS::UserDefaults& suite)
 {
-    const auto path = suite.objectForKey(SettingsKey::mailAttachPath);
-    if (!path || !path->string())
+    auto path = read(Settings::mailAttachPath, suite);
+    if (!path)
         return std::nullopt;
-    const auto clicked = suite.objectForKey(SettingsKey::AttachClickedDate);
-    if (!clicked || !clicked->date())
+    const auto clicked = read(Settings::AttachClickedDate, suite);
+    if (!clicked)
         return std::nullopt;
-    const double age = NS::platform().now().timeIntervalSinceDate(*clicked->date());
+    const double age = NS::platform().now().timeIntervalSinceDate(*clicked);
     // An age that is not a number compares as stale.
     if (!(age < freshness))
         return std::nullopt;
-    return *path->string();
+    return path;
 }
 
 /// Takes the request out of the suite before anybody is asked, so that it can be acted on only once.
@@ -36,8 +37,8 @@ std::optional<std::string> consumeRequest()
     if (!suite)
         return std::nullopt;
     auto path = pathOfFreshRequest(*suite);
-    suite->removeObjectForKey(SettingsKey::mailAttachPath);
-    suite->removeObjectForKey(SettingsKey::AttachClickedDate);
+    suite->removeObjectForKey(Settings::mailAttachPath.key);
+    suite->removeObjectForKey(Settings::AttachClickedDate.key);
     return path;
 }
 

@@ -1,8 +1,8 @@
 #include "menu/IconTable.h"
 
-#include "menu/MenuCatalogue.h"
 #include "platform/FatalError.h"
 #include "platform/Platform.h"
+#include "settings/MenuCatalogue.h"
 
 IconTable::IconTable()
 {

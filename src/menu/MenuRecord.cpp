@@ -1,9 +1,9 @@
 #include "menu/MenuRecord.h"
 
 #include "platform/FatalError.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Reading.h"
+#include "settings/Settings.h"
 
-#include <cmath>
 #include <optional>
 
 namespace {
@@ -12,28 +12,6 @@ using Items = std::vector<NS::Value::Dictionary>;
 using Flags = std::vector<std::int64_t>;
 
 constexpr std::int64_t on = 1;
-constexpr std::int64_t off = 0;
-
-std::int64_t flagFromNumber(const NS::Value& element)
-{
-    if (const auto integer = element.integer())
-        return *integer;
-    // A number that no flag can hold is not 1, and that is all that counts.
-    if (element.largeInteger())
-        return off;
-    if (const auto real = element.real())
-        return std::abs(*real) < 0x1p63 ? static_cast<std::int64_t>(*real) : off;
-    NS::fatalError("the older menu record holds something that is not a number");
-}
-
-Flags flagsFromArray(const NS::Value::Array& stored)
-{
-    Flags flags;
-    flags.reserve(stored.size());
-    for (const NS::Value& element : stored)
-        flags.push_back(flagFromNumber(element));
-    return flags;
-}
 
 void storeFlags(const Flags& flags, std::string_view legacyKey, NS::UserDefaults& suite)
 {
@@ -43,28 +21,14 @@ void storeFlags(const Flags& flags, std::string_view legacyKey, NS::UserDefaults
 
 NS::Value::Dictionary makeItem(const std::string& title, bool state)
 {
-    return {{std::string(MenuItemKey::title), title}, {std::string(MenuItemKey::state), state}};
-}
-
-std::optional<Items> itemsFromValue(const NS::Value& stored)
-{
-    if (!stored.array())
-        return std::nullopt;
-    Items items;
-    items.reserve(stored.array()->size());
-    for (const NS::Value& element : *stored.array()) {
-        if (!element.dictionary())
-            return std::nullopt;
-        items.push_back(*element.dictionary());
-    }
-    return items;
+    return {{std::string(MenuItemSettings::title.key), title}, {std::string(MenuItemSettings::state.key), state}};
 }
 
 MenuRecord loadLegacyRecord(std::size_t actions, std::string_view legacyKey, NS::UserDefaults* suite)
 {
     MenuRecord record;
     if (const auto stored = suite ? suite->arrayForKey(legacyKey) : std::nullopt) {
-        record.flags = flagsFromArray(*stored);
+        record.flags = require(Settings::save14, *stored);
         if (record.flags.size() == actions)
             return record;
     }
@@ -77,11 +41,9 @@ MenuRecord loadLegacyRecord(std::size_t actions, std::string_view legacyKey, NS:
 MenuRecord migrateLegacyRecord(const std::vector<std::string>& catalogue, std::string_view legacyKey,
                                NS::UserDefaults& suite)
 {
-    const auto stored = suite.arrayForKey(legacyKey);
-    if (!stored)
-        NS::fatalError("the older menu record is not an array");
     MenuRecord record;
-    record.flags = flagsFromArray(*stored);
+    if (auto flags = require(Settings::save14, suite, legacyKey))
+        record.flags = *std::move(flags);
     // A record of the catalogue's own length is started afresh too, on purpose.
     if (catalogue.size() <= record.flags.size())
         record.flags.assign(catalogue.size(), on);
@@ -114,10 +76,9 @@ MenuRecord loadMenuRecord(const std::vector<std::string>& catalogue, std::string
         return loadLegacyRecord(catalogue.size(), legacyKey, suite);
     if (!suite)
         return makeFreshRecord(catalogue, suite);
-    if (const auto stored = suite->objectForKey(SettingsKey::menuArrayDic)) {
-        if (auto items = itemsFromValue(*stored))
-            return {.items = *std::move(items), .flags = {}};
-        return makeFreshRecord(catalogue, suite);
+    if (const auto stored = suite->objectForKey(Settings::menuArrayDic.key)) {
+        auto items = stored->array() ? readWhole(Settings::menuArrayDic, *stored->array()) : std::nullopt;
+        return items ? MenuRecord{.items = *std::move(items), .flags = {}} : makeFreshRecord(catalogue, suite);
     }
     if (suite->objectForKey(legacyKey))
         return migrateLegacyRecord(catalogue, legacyKey, *suite);
@@ -126,24 +87,22 @@ MenuRecord loadMenuRecord(const std::vector<std::string>& catalogue, std::string
 
 void storeMenuItems(const Items& items, NS::UserDefaults& suite)
 {
-    suite.setObject_forKey(NS::Value::Array(items.begin(), items.end()), SettingsKey::menuArrayDic);
+    suite.setObject_forKey(NS::Value::Array(items.begin(), items.end()), Settings::menuArrayDic.key);
     suite.synchronize();
 }
 
 std::string menuItemTitle(const NS::Value::Dictionary& item)
 {
-    const auto title = item.find(MenuItemKey::title);
-    return title != item.end() && title->second.string() ? *title->second.string() : std::string();
+    return read(MenuItemSettings::title, item).value_or(std::string());
 }
 
 bool menuItemState(const NS::Value::Dictionary& item)
 {
-    const auto state = item.find(MenuItemKey::state);
-    return state != item.end() && state->second.boolean().value_or(false);
+    return read(MenuItemSettings::state, item).value_or(MenuItemSettings::state.initially);
 }
 
 void toggleMenuItem(NS::Value::Dictionary& item)
 {
     // What is not a boolean reads as off, so it comes out on.
-    item.insert_or_assign(std::string(MenuItemKey::state), !menuItemState(item));
+    item.insert_or_assign(std::string(MenuItemSettings::state.key), !menuItemState(item));
 }

@@ -1,17 +1,17 @@
 #include "menu/ViewController.h"
 
 #include "menu/IconTable.h"
-#include "menu/MenuCatalogue.h"
 #include "menu/MenuRecord.h"
 #include "platform/FatalError.h"
 #include "settings/ApplicationVersion.h"
-#include "settings/SettingsKeys.h"
+#include "settings/MenuCatalogue.h"
+#include "settings/Settings.h"
 #include "settings/SharedSuite.h"
 #include "ui/tblcell.h"
 
 #include <utility>
 
-ViewController::ViewController() : savekey(SettingsKey::save14), sharedDefaults(openSharedSuite())
+ViewController::ViewController() : savekey(Settings::save14.key), sharedDefaults(openSharedSuite())
 {
     for (const MenuAction& action : menuCatalogue)
         menuItemsarr.emplace_back(action.title);

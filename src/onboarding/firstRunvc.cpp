@@ -4,7 +4,8 @@
 #include "platform/Platform.h"
 #include "platform/WindowController.h"
 #include "registry/ControllerRegistry.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Reading.h"
+#include "settings/Settings.h"
 #include "settings/SharedSuite.h"
 #include "ui/FolderPanel.h"
 
@@ -20,7 +21,7 @@ constexpr std::int64_t active = 1;
 } // namespace
 
 firstRunvc::firstRunvc(ControllerRegistry& registry)
-    : userdefaultskey(SettingsKey::foldersArray), userdefaultsstate(SettingsKey::foldersArraystate),
+    : userdefaultskey(Settings::foldersArray.key), userdefaultsstate(Settings::foldersArraystate.key),
       probe([this] { showFirstStep(); }), m_registry(registry)
 {}
 
@@ -110,16 +111,14 @@ void firstRunvc::storeFolders() const
     const auto suite = openSharedSuite();
     if (!suite)
         return;
-    suite->setValue_forKeyPath(NS::Value::Array(arrurl.begin(), arrurl.end()), userdefaultskey);
-    suite->synchronize();
-    suite->setValue_forKeyPath(NS::Value::Array(arrstate.begin(), arrstate.end()), userdefaultsstate);
-    suite->synchronize();
+    store(arrurl, *suite, userdefaultskey);
+    store(arrstate, *suite, userdefaultsstate);
 }
 
 void firstRunvc::finishIfDone()
 {
     if (!firststepDone || !secondStepDone)
         return;
-    NS::platform().standardUserDefaults().setBool_forKey(true, SettingsKey::firstRun);
+    NS::platform().standardUserDefaults().setBool_forKey(true, Settings::firstRun.key);
     NS::platform().performAfterDelay([self = shared_from_this()] { self->alertdone(); }, alertDelay);
 }

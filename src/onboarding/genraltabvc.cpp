@@ -1,7 +1,8 @@
 #include "onboarding/genraltabvc.h"
 
 #include "onboarding/ExtensionsPane.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Reading.h"
+#include "settings/Settings.h"
 #include "settings/SharedSuite.h"
 
 genraltabvc::genraltabvc() : sharedDefaults(openSharedSuite()), probe([this] { showExtensionState(); }) {}
@@ -20,8 +21,8 @@ void genraltabvc::viewDidLoad()
 {
     NS::ViewController::viewDidLoad();
     checkIsextensionrunning();
-    load(checkboxShowicon, SettingsKey::showmenuicon, true);
-    load(checkbox_showinSubMenu, SettingsKey::showinSubMenu, false);
+    load(checkboxShowicon, Settings::showmenuicon);
+    load(checkbox_showinSubMenu, Settings::showinSubMenu);
 }
 
 void genraltabvc::viewWillAppear()
@@ -46,12 +47,12 @@ void genraltabvc::btnopenSystemPrefrences(NS::Control&)
 
 void genraltabvc::showiconinmenu(NS::Control&)
 {
-    store(*checkboxShowicon, SettingsKey::showmenuicon);
+    keep(*checkboxShowicon, Settings::showmenuicon);
 }
 
 void genraltabvc::showinSubmenu(NS::Control&)
 {
-    store(*checkbox_showinSubMenu, SettingsKey::showinSubMenu);
+    keep(*checkbox_showinSubMenu, Settings::showinSubMenu);
 }
 
 void genraltabvc::showExtensionState()
@@ -62,19 +63,18 @@ void genraltabvc::showExtensionState()
             : "Enable \"Orvik Menu Extension\" in System Preferences > Extensions to make Orvik Menu work.");
 }
 
-/// Shows the stored value. Where none of the right kind is stored, `initially` takes its place.
-void genraltabvc::load(const NS::Outlet<NS::Button>& checkbox, std::string_view key, bool initially)
+/// Shows the stored value. Where none of the right kind is stored, the initial one takes its place.
+void genraltabvc::load(const NS::Outlet<NS::Button>& checkbox, const Switch& setting)
 {
-    const auto stored = sharedDefaults ? sharedDefaults->objectForKey(key) : std::nullopt;
-    const auto flag = stored ? stored->boolean() : std::nullopt;
-    if (!flag && sharedDefaults)
-        sharedDefaults->setBool_forKey(initially, key);
-    checkbox->setState(flag.value_or(initially) ? NS::ControlState::On : NS::ControlState::Off);
+    const auto stored = sharedDefaults ? read(setting, *sharedDefaults) : std::nullopt;
+    if (!stored && sharedDefaults)
+        sharedDefaults->setBool_forKey(setting.initially, setting.key);
+    checkbox->setState(stored.value_or(setting.initially) ? NS::ControlState::On : NS::ControlState::Off);
 }
 
-void genraltabvc::store(const NS::Button& checkbox, std::string_view key)
+void genraltabvc::keep(const NS::Button& checkbox, const Switch& setting)
 {
     const bool on = checkbox.state() == NS::ControlState::On;
     if (sharedDefaults)
-        sharedDefaults->setBool_forKey(on, key);
+        sharedDefaults->setBool_forKey(on, setting.key);
 }

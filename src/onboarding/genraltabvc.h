@@ -6,9 +6,9 @@
 #include "platform/TextField.h"
 #include "platform/UserDefaults.h"
 #include "platform/ViewController.h"
+#include "settings/Setting.h"
 
 #include <memory>
-#include <string_view>
 
 /// The general settings: whether the extension runs, and two display options that the extension reads. Main thread.
 class genraltabvc : public NS::ViewController, public std::enable_shared_from_this<genraltabvc> {
@@ -34,6 +34,6 @@ public:
 
 private:
     void showExtensionState();
-    void load(const NS::Outlet<NS::Button>& checkbox, std::string_view key, bool initially);
-    void store(const NS::Button& checkbox, std::string_view key);
+    void load(const NS::Outlet<NS::Button>& checkbox, const Switch& setting);
+    void keep(const NS::Button& checkbox, const Switch& setting);
 };

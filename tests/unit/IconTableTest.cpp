@@ -1,6 +1,6 @@
 #include "menu/IconTable.h"
 
-#include "menu/MenuCatalogue.h"
+#include "settings/MenuCatalogue.h"
 #include "support/FakePlatform.h"
 #include "support/FatalLine.h"
 

@@ -1,4 +1,4 @@
-#include "menu/MenuCatalogue.h"
+#include "settings/MenuCatalogue.h"
 
 #include <gtest/gtest.h>
 

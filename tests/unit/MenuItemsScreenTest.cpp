@@ -1,7 +1,7 @@
 #include "menu/ViewController.h"
 
 #include "ListScreenTest.h"
-#include "menu/MenuCatalogue.h"
+#include "settings/MenuCatalogue.h"
 #include "support/AtAbort.h"
 #include "support/FatalLine.h"
 
@@ -367,7 +367,7 @@ TEST_F(MenuItemsScreenDeathTest, AMissingVersionIsFatal)
 TEST_F(MenuItemsScreenDeathTest, AnUnreadableOlderRecordIsFatal)
 {
     platform.suite.insert_or_assign("save14", "1, 0, 1");
-    EXPECT_DEATH(open(), fatalLine("the older menu record is not an array"));
+    EXPECT_DEATH(open(), fatalLine("the stored save14 is not an array"));
 }
 
 TEST_F(MenuItemsScreenDeathTest, ATagOutsideTheListIsFatal)

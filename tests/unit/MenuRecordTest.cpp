@@ -1,6 +1,6 @@
 #include "menu/MenuRecord.h"
 
-#include "menu/MenuCatalogue.h"
+#include "settings/MenuCatalogue.h"
 #include "support/FakeUserDefaults.h"
 #include "support/FatalLine.h"
 #include "support/PrintValue.h"
@@ -261,8 +261,7 @@ TEST_P(MenuRecordDeathTest, AFlagThatIsNotANumberIsFatalBeforeAnythingIsWritten)
                 calls.echoOnStandardError();
                 load(GetParam());
             },
-            fatalLineAfter(R"(suite.objectForKey("save14"))",
-                           "the older menu record holds something that is not a number"));
+            fatalLineAfter(R"(suite.objectForKey("save14"))", "the stored save14 has an element of the wrong kind"));
     }
 }
 
@@ -274,7 +273,7 @@ using MenuRecordMigrationDeathTest = MenuRecordTest;
 TEST_F(MenuRecordMigrationDeathTest, AnOlderRecordThatIsNotAnArrayIsFatal)
 {
     domain = {{"save14", "1, 0, 1"}};
-    EXPECT_DEATH(load(), fatalLine("the older menu record is not an array"));
+    EXPECT_DEATH(load(), fatalLine("the stored save14 is not an array"));
 }
 
 // Version 1.8, which keeps the older record alone.

@@ -3,7 +3,7 @@
 #include "platform/URL.h"
 #include "settings/Deployment.h"
 #include "settings/NotificationNames.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Settings.h"
 #include "settings/SharedSuite.h"
 #include "support/FakePlatform.h"
 
@@ -19,19 +19,19 @@ namespace {
 
 TEST(SettingsContract, KeysReadExactlySo)
 {
-    EXPECT_EQ(SettingsKey::menuArrayDic, "menuArrayDic");
-    EXPECT_EQ(SettingsKey::save14, "save14");
-    EXPECT_EQ(SettingsKey::foldersArray, "foldersArray");
-    EXPECT_EQ(SettingsKey::foldersArraystate, "foldersArraystate");
-    EXPECT_EQ(SettingsKey::allBookmark, "allBookmark");
-    EXPECT_EQ(SettingsKey::arrCustomFoldersUrls, "arrCustomFoldersUrls");
-    EXPECT_EQ(SettingsKey::showmenuicon, "showmenuicon");
-    EXPECT_EQ(SettingsKey::showinSubMenu, "showinSubMenu");
-    EXPECT_EQ(SettingsKey::mailAttachPath, "mailAttachPath");
-    EXPECT_EQ(SettingsKey::AttachClickedDate, "AttachClickedDate");
-    EXPECT_EQ(SettingsKey::firstRun, "firstRun");
-    EXPECT_EQ(MenuItemKey::title, "title");
-    EXPECT_EQ(MenuItemKey::state, "state");
+    EXPECT_EQ(Settings::menuArrayDic.key, "menuArrayDic");
+    EXPECT_EQ(Settings::save14.key, "save14");
+    EXPECT_EQ(Settings::foldersArray.key, "foldersArray");
+    EXPECT_EQ(Settings::foldersArraystate.key, "foldersArraystate");
+    EXPECT_EQ(Settings::allBookmark.key, "allBookmark");
+    EXPECT_EQ(Settings::arrCustomFoldersUrls.key, "arrCustomFoldersUrls");
+    EXPECT_EQ(Settings::showmenuicon.key, "showmenuicon");
+    EXPECT_EQ(Settings::showinSubMenu.key, "showinSubMenu");
+    EXPECT_EQ(Settings::mailAttachPath.key, "mailAttachPath");
+    EXPECT_EQ(Settings::AttachClickedDate.key, "AttachClickedDate");
+    EXPECT_EQ(Settings::firstRun.key, "firstRun");
+    EXPECT_EQ(MenuItemSettings::title.key, "title");
+    EXPECT_EQ(MenuItemSettings::state.key, "state");
 }
 
 TEST(SettingsContract, NotificationNamesReadExactlySo)

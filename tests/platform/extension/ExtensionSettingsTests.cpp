@@ -1,7 +1,5 @@
 #include "extension/ExtensionSettings.h"
 
-#include "settings/SettingsKeys.h"
-
 #include <gtest/gtest.h>
 #include <string>
 
@@ -55,15 +53,15 @@ TEST(ExtensionSettings, AreTheDefaultsWhereAValueIsOfTheWrongKind)
 {
     const Array wrongKinds{1, 0.5, "text", NS::Date{0}, NS::Data{1}, Dictionary{{"a", 1}}};
     for (const std::string_view key :
-         {SettingsKey::menuArrayDic, SettingsKey::foldersArray, SettingsKey::foldersArraystate,
-          SettingsKey::arrCustomFoldersUrls, SettingsKey::showmenuicon, SettingsKey::showinSubMenu}) {
+         {Settings::menuArrayDic.key, Settings::foldersArray.key, Settings::foldersArraystate.key,
+          Settings::arrCustomFoldersUrls.key, Settings::showmenuicon.key, Settings::showinSubMenu.key}) {
         for (const NS::Value& wrong : wrongKinds)
             EXPECT_EQ(settingsFromSuite(suiteWith(key, wrong)), ExtensionSettings{}) << key;
     }
     for (const std::string_view key :
-         {SettingsKey::menuArrayDic, SettingsKey::foldersArray, SettingsKey::arrCustomFoldersUrls})
+         {Settings::menuArrayDic.key, Settings::foldersArray.key, Settings::arrCustomFoldersUrls.key})
         EXPECT_EQ(settingsFromSuite(suiteWith(key, true)), ExtensionSettings{}) << key;
-    for (const std::string_view key : {SettingsKey::showmenuicon, SettingsKey::showinSubMenu})
+    for (const std::string_view key : {Settings::showmenuicon.key, Settings::showinSubMenu.key})
         EXPECT_EQ(settingsFromSuite(suiteWith(key, Array{true})), ExtensionSettings{}) << key;
 }
 

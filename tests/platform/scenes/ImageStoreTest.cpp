@@ -1,5 +1,5 @@
 #include "platform/linux/scenes/ImageStore.h"
-#include "menu/MenuCatalogue.h"
+#include "settings/MenuCatalogue.h"
 #include "showcase/ShowcaseCatalogue.h"
 
 #include <QIcon>
