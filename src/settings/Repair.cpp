@@ -1,0 +1,96 @@
+#include "settings/Repair.h"
+
+#include "settings/Settings.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace {
+
+constexpr std::int64_t on = 1;
+
+const NS::Value* valueIn(const NS::Value::Dictionary& suite, std::string_view key)
+{
+    const auto found = suite.find(key);
+    return found == suite.end() ? nullptr : &found->second;
+}
+
+const NS::Value::Array* arrayIn(const NS::Value::Dictionary& suite, std::string_view key)
+{
+    const NS::Value* value = valueIn(suite, key);
+    return value ? value->array() : nullptr;
+}
+
+std::string counted(std::size_t count, std::string_view one, std::string_view several)
+{
+    return std::to_string(count) + ' ' + std::string(count == 1 ? one : several);
+}
+
+/// Each flag as it stands where it is a number; 1 in the place of every other.
+NS::Value::Array flagsOf(const NS::Value::Array& stored, const ListSetting<std::int64_t>& setting)
+{
+    NS::Value::Array flags;
+    for (const NS::Value& element : stored)
+        flags.push_back(setting.decode(element) ? element : NS::Value(on));
+    return flags;
+}
+
+/// The paths and their flags, which go by their places.
+void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
+{
+    const auto& [pathsKey, isPath] = Settings::foldersArray;
+    const auto& [flagsKey, isFlag] = Settings::foldersArraystate;
+    const NS::Value::Array* storedPaths = arrayIn(suite, pathsKey);
+    const NS::Value::Array* storedFlags = arrayIn(suite, flagsKey);
+
+    NS::Value::Array paths;
+    NS::Value::Array flags;
+    for (std::size_t place = 0; storedPaths && place < storedPaths->size(); ++place) {
+        if (!isPath((*storedPaths)[place]))
+            continue;
+        paths.push_back((*storedPaths)[place]);
+        const bool hasFlag = storedFlags && place < storedFlags->size() && isFlag((*storedFlags)[place]);
+        flags.push_back(hasFlag ? (*storedFlags)[place] : NS::Value(on));
+    }
+
+    if (!storedPaths && valueIn(suite, pathsKey)) {
+        mends.push_back({pathsKey, std::nullopt, "The list of folders was no list and was removed."});
+    } else if (storedPaths && paths.size() != storedPaths->size()) {
+        const std::size_t dropped = storedPaths->size() - paths.size();
+        mends.push_back({pathsKey, paths,
+                         counted(dropped, "entry", "entries") + " of the list of folders " +
+                             (dropped == 1 ? "was no path and was removed." : "were no paths and were removed.")});
+    }
+    const bool noFlags = flags.empty() && !valueIn(suite, flagsKey);
+    if (!noFlags && !(storedFlags && *storedFlags == flags))
+        mends.push_back({flagsKey, flags,
+                         "The list that says which folders are active did not match the list of folders. A folder "
+                         "without an entry of its own is active now."});
+}
+
+void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
+{
+    const std::string_view key = Settings::save14.key;
+    const NS::Value::Array* stored = arrayIn(suite, key);
+    if (!stored) {
+        if (valueIn(suite, key))
+            mends.push_back({key, std::nullopt, "The older list of menu items was no list and was removed."});
+        return;
+    }
+    NS::Value::Array flags = flagsOf(*stored, Settings::save14);
+    if (flags != *stored)
+        mends.push_back(
+            {key, std::move(flags),
+             "The older list of menu items had entries that were no numbers. Those menu items are switched "
+             "on now."});
+}
+
+} // namespace
+
+std::vector<Mend> mendsOf(const NS::Value::Dictionary& suite)
+{
+    std::vector<Mend> mends;
+    mendFolders(suite, mends);
+    mendOlderRecord(suite, mends);
+    return mends;
+}
