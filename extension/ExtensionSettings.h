@@ -1,5 +1,6 @@
 #pragma once
 
+#include "extension/menu/Scope.h"
 #include "platform/Value.h"
 #include "settings/Settings.h"
 
@@ -13,13 +14,6 @@ struct MenuItem {
     std::string title;
     bool state = false;
     friend bool operator==(const MenuItem&, const MenuItem&) = default;
-};
-
-/// A folder of the panel's list, by its absolute path.
-struct Folder {
-    std::string path;
-    bool active = true;
-    friend bool operator==(const Folder&, const Folder&) = default;
 };
 
 /// What the shared suite says to the companion.

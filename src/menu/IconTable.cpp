@@ -6,7 +6,7 @@
 
 IconTable::IconTable()
 {
-    for (const MenuAction& action : menuCatalogue) {
+    for (const CatalogueRow& action : menuCatalogue) {
         add(action.title, action.image);
         if (action.title == "Hide / Unhide item") {
             add("Hide item", action.image);

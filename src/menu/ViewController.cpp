@@ -13,7 +13,7 @@
 
 ViewController::ViewController() : savekey(Settings::save14.key), sharedDefaults(openSharedSuite())
 {
-    for (const MenuAction& action : menuCatalogue)
+    for (const CatalogueRow& action : menuCatalogue)
         menuItemsarr.emplace_back(action.title);
 }
 

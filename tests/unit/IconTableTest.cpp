@@ -25,7 +25,7 @@ TEST_F(IconTableTest, HasEighteenTitles)
 TEST_F(IconTableTest, GivesEveryActionOfTheCatalogueItsImage)
 {
     const IconTable table;
-    for (const MenuAction& action : menuCatalogue)
+    for (const CatalogueRow& action : menuCatalogue)
         EXPECT_EQ(table.imageForTitle(action.title), NS::Image(std::string(action.image))) << action.title;
 }
 

@@ -30,7 +30,7 @@ TEST(MenuCatalogue, ListsTheseActionsWithTheseImagesInThisOrder)
     };
     std::vector<std::pair<std::string_view, std::string_view>> listed;
     listed.reserve(menuCatalogue.size());
-    for (const MenuAction& action : menuCatalogue)
+    for (const CatalogueRow& action : menuCatalogue)
         listed.emplace_back(action.title, action.image);
 
     EXPECT_EQ(listed, expected);

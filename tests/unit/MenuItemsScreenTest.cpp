@@ -64,7 +64,7 @@ TEST_F(MenuItemsScreen, BeginsWithTheCatalogueAndEmptyWorkingCopies)
 
     std::vector<std::string> titles;
     titles.reserve(menuCatalogue.size());
-    for (const MenuAction& action : menuCatalogue)
+    for (const CatalogueRow& action : menuCatalogue)
         titles.emplace_back(action.title);
     EXPECT_EQ(made.menuItemsarr, titles);
     EXPECT_EQ(made.savekey, "save14");
@@ -98,7 +98,7 @@ TEST_F(MenuItemsScreen, AFreshRecordShowsTheCatalogueWithEveryCheckboxOnAndItsIc
 
     std::vector<Row> expected;
     expected.reserve(menuCatalogue.size());
-    for (const MenuAction& action : menuCatalogue)
+    for (const CatalogueRow& action : menuCatalogue)
         expected.push_back({std::string(action.title), true, std::string(action.image)});
     EXPECT_EQ(rows(), expected);
     EXPECT_EQ(suiteWrites(), menuWrite);

@@ -27,7 +27,7 @@ std::vector<std::string> catalogueTitles()
 {
     std::vector<std::string> titles;
     titles.reserve(menuCatalogue.size());
-    for (const MenuAction& action : menuCatalogue)
+    for (const CatalogueRow& action : menuCatalogue)
         titles.emplace_back(action.title);
     return titles;
 }

@@ -27,7 +27,7 @@ int visiblePixels(const QPixmap& pixmap)
 TEST(ImageStore, HasEveryImageOfTheCatalogueAndDrawsIt)
 {
     ImageStore store(assets);
-    for (const MenuAction& action : menuCatalogue) {
+    for (const CatalogueRow& action : menuCatalogue) {
         EXPECT_TRUE(store.contains(action.image)) << action.image;
         for (const int extent : {16, 24, 48}) {
             const QPixmap drawn =

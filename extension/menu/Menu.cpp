@@ -1,0 +1,56 @@
+#include "extension/menu/Menu.h"
+
+#include "settings/AppliesTo.h"
+
+#include <algorithm>
+
+namespace MenuExtension {
+
+namespace {
+
+/// Every kind of selection that this one is.
+std::uint32_t kindsOf(const Selection& selection)
+{
+    if (selection.isBackground)
+        return selection.items.size() == 1 ? AppliesTo::Background : 0;
+    const bool one = selection.items.size() == 1;
+    std::uint32_t kinds = 0;
+    if (std::ranges::all_of(selection.items, &SelectedItem::isFolder))
+        kinds |= one ? AppliesTo::OneFolder : AppliesTo::SeveralFolders;
+    else if (one)
+        kinds |= AppliesTo::OneFile;
+    if (std::ranges::all_of(selection.items, &SelectedItem::isPicture))
+        kinds |= one ? AppliesTo::OnePicture : AppliesTo::SeveralPictures;
+    return one ? kinds : kinds | AppliesTo::SeveralItems;
+}
+
+} // namespace
+
+bool isInScope(const Selection& selection, const Scope& scope)
+{
+    if (selection.items.empty())
+        return false;
+    return std::ranges::all_of(selection.items, [&](const SelectedItem& item) {
+        return selection.isBackground ? scope.containsBackground(item.path) : scope.containsItem(item.path);
+    });
+}
+
+bool applies(std::uint32_t appliesTo, const Selection& selection)
+{
+    return !selection.items.empty() && (appliesTo & kindsOf(selection)) != 0;
+}
+
+Menu makeMenu(const MenuSettings& settings, const Selection& selection)
+{
+    Menu menu{.actions = {}, .showIcons = settings.showIcons, .inSubmenu = settings.inSubmenu};
+    if (settings.actions.empty() || !isInScope(selection, settings.scope))
+        return menu;
+    const std::uint32_t kinds = kindsOf(selection);
+    for (const MenuAction& action : settings.actions) {
+        if ((action.appliesTo & kinds) != 0)
+            menu.actions.push_back(&action);
+    }
+    return menu;
+}
+
+} // namespace MenuExtension

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "extension/menu/Scope.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace MenuExtension {
+
+/// An action as the menu shows it.
+struct MenuAction {
+    std::string identifier;
+    std::string title;
+    /// In an icon theme.
+    std::string icon;
+    /// What it applies to: bits of AppliesTo.
+    std::uint32_t appliesTo = 0;
+    friend bool operator==(const MenuAction&, const MenuAction&) = default;
+};
+
+/// What the menu is made of, apart from what was clicked.
+struct MenuSettings {
+    /// Those that are on and can be done here, in the order of the menu.
+    std::vector<MenuAction> actions;
+    Scope scope;
+    bool showIcons = true;
+    bool inSubmenu = false;
+};
+
+/// An item as the file manager knows it.
+struct SelectedItem {
+    /// Absolute, as bytes.
+    std::string_view path;
+    bool isFolder = false;
+    bool isPicture = false;
+};
+
+/// What was clicked.
+struct Selection {
+    /// The folder itself where its background was clicked.
+    std::vector<SelectedItem> items;
+    bool isBackground = false;
+};
+
+/// What a file manager adds to its menu.
+struct Menu {
+    /// Of the settings, which must outlive the menu; none where there is nothing to add.
+    std::vector<const MenuAction*> actions;
+    bool showIcons = false;
+    bool inSubmenu = false;
+};
+
+/// The title of the submenu.
+inline constexpr const char* submenuTitle = "Orvik Menu";
+
+/// Whether every item lies in an active folder; never for an empty selection.
+[[nodiscard]] bool isInScope(const Selection& selection, const Scope& scope);
+/// Whether an action that applies to `appliesTo` applies to the selection.
+[[nodiscard]] bool applies(std::uint32_t appliesTo, const Selection& selection);
+/// Pure. Any thread.
+[[nodiscard]] Menu makeMenu(const MenuSettings& settings, const Selection& selection);
+
+} // namespace MenuExtension
