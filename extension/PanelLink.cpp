@@ -1,6 +1,7 @@
 #include "extension/PanelLink.h"
 
-#include "extension/BusNames.h"
+#include "platform/linux/bus/interfaces/FinderSync.h"
+#include "settings/Deployment.h"
 
 #include <optional>
 #include <string_view>
@@ -8,7 +9,11 @@
 
 namespace MenuExtension {
 
+namespace Panel = BusInterface::FinderSync;
+
 namespace {
+
+const std::string panel{Deployment::applicationIdentifier};
 
 constexpr const char* busName = "org.freedesktop.DBus";
 constexpr const char* busPath = "/org/freedesktop/DBus";
@@ -58,22 +63,21 @@ int PanelLink::call(sd_bus_message* message, void* link, sd_bus_error*)
 int PanelLink::start()
 {
     const std::string rule = std::string("type='signal',sender='") + busName + "',path='" + busPath +
-                             "',interface='" + busName + "',member='NameOwnerChanged',arg0='" + BusNames::panel + "'";
+                             "',interface='" + busName + "',member='NameOwnerChanged',arg0='" + panel + "'";
     int result = keep(m_ownerChanges, [&](sd_bus_slot** slot) {
         return sd_bus_add_match_async(&m_bus, slot, rule.c_str(), call<&PanelLink::handleOwnerChange>, nullptr, this);
     });
     if (result < 0)
         return result;
     result = keep(m_signals, [&](sd_bus_slot** slot) {
-        return sd_bus_match_signal_async(&m_bus, slot, BusNames::panel.c_str(), BusNames::panelPath,
-                                         BusNames::panelInterface, BusNames::directoriesSignal,
-                                         call<&PanelLink::handleSignal>, nullptr, this);
+        return sd_bus_match_signal_async(&m_bus, slot, panel.c_str(), Panel::path, Panel::interface,
+                                         Panel::DirectoryURLs::name, call<&PanelLink::handleSignal>, nullptr, this);
     });
     if (result < 0)
         return result;
     return keep(m_ownerQuestion, [&](sd_bus_slot** slot) {
         return sd_bus_call_method_async(&m_bus, slot, busName, busPath, busName, "GetNameOwner",
-                                        call<&PanelLink::handleOwner>, this, "s", BusNames::panel.c_str());
+                                        call<&PanelLink::handleOwner>, this, "s", panel.c_str());
     });
 }
 
@@ -106,16 +110,16 @@ void PanelLink::setOwner(std::string owner)
         return;
     // Without an answer the signals will do; the panel may not have published anything yet.
     keep(m_propertyQuestion, [&](sd_bus_slot** slot) {
-        return sd_bus_call_method_async(&m_bus, slot, m_owner.c_str(), BusNames::panelPath,
-                                        "org.freedesktop.DBus.Properties", "Get", call<&PanelLink::handleProperty>,
-                                        this, "ss", BusNames::panelInterface, BusNames::directoriesProperty);
+        return sd_bus_call_method_async(&m_bus, slot, m_owner.c_str(), Panel::path, "org.freedesktop.DBus.Properties",
+                                        "Get", call<&PanelLink::handleProperty>, this, "ss", Panel::interface,
+                                        Panel::directoryURLs::name);
     });
 }
 
 int PanelLink::handleProperty(sd_bus_message& message)
 {
     if (!sd_bus_message_is_method_error(&message, nullptr) &&
-        sd_bus_message_enter_container(&message, SD_BUS_TYPE_VARIANT, "as") > 0)
+        sd_bus_message_enter_container(&message, SD_BUS_TYPE_VARIANT, Panel::directoryURLs::type) > 0)
         publishFrom(message);
     return handled;
 }

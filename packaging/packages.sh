@@ -12,6 +12,7 @@ packages_build=(
   libqt6opengl6-dev
   libsystemd-dev
   pkg-config
+  python3
   qt6-svg-dev
 )
 
@@ -37,7 +38,6 @@ packages_virtual_display=(
 
 packages_tests=(
   libgtest-dev
-  python3
 )
 
 packages_tests_desktop=(

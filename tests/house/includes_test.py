@@ -50,12 +50,13 @@ class Graph:
         return seen
 
     def owners(self, source, header):
-        """The targets that a header belongs to; nothing for one that the build makes."""
+        """The targets that a header belongs to; nothing for one that the build makes in no folder of the tree."""
         if header in GENERATED:
             return {GENERATED[header]}
         for root in ("src", ".", "tools"):
-            if (source / root / header).is_file():
-                return self.folders.get(self.folder_of(pathlib.Path(root) / header), set())
+            place = pathlib.Path(root) / header
+            if (source / place).is_file() or str(place.parent) in self.folders:
+                return self.folders.get(self.folder_of(place), set())
         return None
 
 

@@ -1,5 +1,8 @@
 #include "extensions/CompanionOnBus.h"
 
+#include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/ObjectPath.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -32,9 +35,10 @@ void CompanionOnBus::quit()
     const auto connection = m_bus.connection();
     if (!connection)
         return;
+    using namespace BusInterface;
     auto call =
-        QDBusMessage::createMethodCall(m_identifier, u'/' + QString(m_identifier).replace(u'.', u'/'),
-                                       QStringLiteral("com.orvikstudio.FinderSyncExtension"), QStringLiteral("Quit"));
+        QDBusMessage::createMethodCall(m_identifier, QString::fromStdString(objectPath(m_identifier.toStdString())),
+                                       FinderSyncExtension::interface, FinderSyncExtension::Quit::name);
     call.setAutoStartService(false);
     auto* answer = new QDBusPendingCallWatcher(connection->asyncCall(call), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* watcher) {

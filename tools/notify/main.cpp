@@ -1,8 +1,9 @@
-#include "platform/linux/bus/NotificationSignal.h"
 #include "platform/linux/bus/SessionBus.h"
+#include "platform/linux/bus/interfaces/DistributedNotificationCenter.h"
 #include "settings/Deployment.h"
 
 #include <QCoreApplication>
+#include <QDBusMessage>
 #include <QUtf8StringView>
 
 #include <cstdio>
@@ -37,13 +38,13 @@ int usageError(const char* what)
 /// Returns when the bus has taken the signal.
 int post(const QString& name, const QString& object)
 {
-    using namespace LinuxDesktop;
+    using namespace BusInterface::DistributedNotificationCenter;
 
-    SessionBus bus("orvik-notify: there is no session bus");
+    LinuxDesktop::SessionBus bus("orvik-notify: there is no session bus");
     auto connection = bus.connection();
     if (!connection)
         return exitNotSent;
-    const bool sent = connection->send(NotificationSignal::posting(name, object));
+    const bool sent = connection->send(QDBusMessage::createSignal(path, interface, Posted::name) << name << object);
     // The bus handles a program's messages in order: its answer means that it had the signal before.
     const QDBusMessage answer = connection->call(QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),

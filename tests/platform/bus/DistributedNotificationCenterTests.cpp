@@ -2,10 +2,11 @@
 
 #include "PrivateBus.h"
 #include "Waiting.h"
-#include "platform/linux/bus/NotificationSignal.h"
+#include "platform/linux/bus/interfaces/DistributedNotificationCenter.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>
+#include <QDBusMessage>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -30,7 +31,9 @@ struct NotificationCenter : testing::Test {
     void post(const char* name, const char* object = "sender")
     {
         ask(m_bus, QStringLiteral("GetId"), {});
-        m_poster.connection()->send(NotificationSignal::posting(QString::fromUtf8(name), QString::fromUtf8(object)));
+        using namespace BusInterface::DistributedNotificationCenter;
+        m_poster.connection()->send(QDBusMessage::createSignal(path, interface, Posted::name)
+                                    << QString::fromUtf8(name) << QString::fromUtf8(object));
         ask(m_poster, QStringLiteral("GetId"), {});
     }
 
@@ -98,7 +101,7 @@ TEST_F(NotificationCenter, AsksTheBusForNothingButTheObservedPostings)
 
     QStringList signalRules;
     for (const QString& rule : rules.value(m_bus.connection()->baseService()))
-        if (rule.contains(NotificationSignal::interface))
+        if (rule.contains(BusInterface::DistributedNotificationCenter::interface))
             signalRules.append(rule);
     ASSERT_EQ(signalRules.size(), 1);
     EXPECT_TRUE(signalRules.front().contains(QStringLiteral("arg0='A'"))) << signalRules.front().toStdString();

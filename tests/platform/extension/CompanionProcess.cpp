@@ -59,6 +59,14 @@ bool CompanionTest::nameIsOwned()
     return connection().interface()->isServiceRegistered(name);
 }
 
+QByteArray CompanionTest::introspect()
+{
+    const QDBusMessage answer = connection().call(QDBusMessage::createMethodCall(
+        name, path, QStringLiteral("org.freedesktop.DBus.Introspectable"), QStringLiteral("Introspect")));
+    EXPECT_EQ(answer.type(), QDBusMessage::ReplyMessage) << answer.errorMessage().toStdString();
+    return answer.arguments().value(0).toByteArray();
+}
+
 void CompanionTest::quit()
 {
     const QDBusMessage answer =

@@ -30,6 +30,8 @@ protected:
     static int statusOf(QProcess& process);
 
     [[nodiscard]] bool nameIsOwned();
+    /// How the companion describes its object.
+    [[nodiscard]] QByteArray introspect();
     void quit();
 
     // What the companion says that it holds.

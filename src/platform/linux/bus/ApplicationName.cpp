@@ -1,6 +1,7 @@
 #include "platform/linux/bus/ApplicationName.h"
 
 #include "platform/linux/bus/ApplicationInterface.h"
+#include "platform/linux/bus/interfaces/ObjectPath.h"
 
 #include <QDBusMessage>
 
@@ -35,11 +36,6 @@ bool isReply(const QDBusMessage& message)
     return message.type() == QDBusMessage::ReplyMessage;
 }
 
-QString objectPath(QString identifier)
-{
-    return u'/' + identifier.replace(u'.', u'/').replace(u'-', u'_');
-}
-
 } // namespace
 
 QVariantMap platformDataFromEnvironment()
@@ -53,7 +49,8 @@ QVariantMap platformDataFromEnvironment()
 }
 
 ApplicationName::ApplicationName(SessionBus& bus, std::string_view identifier)
-    : m_bus(bus), m_identifier(QString::fromUtf8(identifier)), m_path(objectPath(m_identifier))
+    : m_bus(bus), m_identifier(QString::fromUtf8(identifier)),
+      m_path(QString::fromStdString(BusInterface::objectPath(identifier)))
 {}
 
 ApplicationName::~ApplicationName()

@@ -1,11 +1,13 @@
 #include "platform/linux/bus/DistributedNotificationCenter.h"
 
-#include "platform/linux/bus/NotificationSignal.h"
+#include "platform/linux/bus/interfaces/DistributedNotificationCenter.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace LinuxDesktop {
+
+namespace Notifications = BusInterface::DistributedNotificationCenter;
 
 DistributedNotificationCenter::DistributedNotificationCenter(SessionBus& bus, ModalState& modalState)
     : m_bus(bus), m_modalState(modalState), m_modalEnd(modalState.whenEnded([this] { scheduleDelivery(); }))
@@ -23,8 +25,8 @@ void DistributedNotificationCenter::addObserver_name_object(std::function<void()
         return other.name == observer.name && other.object == observer.object;
     });
     if (!asked)
-        connection->connect({}, NotificationSignal::path, NotificationSignal::interface, NotificationSignal::member,
-                            {observer.name, observer.object}, NotificationSignal::signature, this,
+        connection->connect({}, Notifications::path, Notifications::interface, Notifications::Posted::name,
+                            {observer.name, observer.object}, Notifications::Posted::type, this,
                             SLOT(receive(QString, QString)));
     m_observers.push_back(std::move(observer));
 }

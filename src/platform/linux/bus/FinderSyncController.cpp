@@ -1,6 +1,7 @@
 #include "platform/linux/bus/FinderSyncController.h"
 
-#include "platform/linux/bus/FinderSyncInterface.h"
+#include "findersyncadaptor.h"
+#include "platform/linux/bus/interfaces/FinderSync.h"
 
 #include <QDBusMessage>
 #include <QVariantMap>
@@ -13,10 +14,9 @@
 
 namespace LinuxDesktop {
 
-namespace {
+namespace Published = BusInterface::FinderSync;
 
-const QString path = QStringLiteral("/com/orvikstudio/FinderSync");
-const QString interfaceName = QStringLiteral("com.orvikstudio.FinderSync");
+namespace {
 
 /// The bus drops the connection of whoever sends a longer array.
 constexpr std::size_t longestArray = std::size_t{64} << 20U;
@@ -64,16 +64,16 @@ void FinderSyncController::setDirectoryURLs(const std::set<NS::URL>& urls)
     const bool first = !m_exported;
     if (first) {
         m_exported = std::make_unique<QObject>();
-        m_interface = new FinderSyncInterface(*m_exported);
+        m_interface = new FinderSyncAdaptor(m_exported.get());
     }
-    m_interface->setDirectoryURLs(std::move(*addresses));
+    m_exported->setProperty(Published::directoryURLs::name, *addresses);
     if (first)
-        connection->registerObject(path, m_exported.get(), QDBusConnection::ExportAdaptors);
+        connection->registerObject(Published::path, m_exported.get(), QDBusConnection::ExportAdaptors);
 
-    emit m_interface->DirectoryURLs(m_interface->directoryURLs());
-    auto changed = QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.DBus.Properties"),
+    emit m_interface->DirectoryURLs(*addresses);
+    auto changed = QDBusMessage::createSignal(Published::path, QStringLiteral("org.freedesktop.DBus.Properties"),
                                               QStringLiteral("PropertiesChanged"));
-    changed << interfaceName << QVariantMap() << QStringList{QStringLiteral("directoryURLs")};
+    changed << Published::interface << QVariantMap() << QStringList{Published::directoryURLs::name};
     connection->send(changed);
 }
 

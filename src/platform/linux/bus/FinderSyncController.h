@@ -8,9 +8,9 @@
 #include <memory>
 #include <set>
 
-namespace LinuxDesktop {
+class FinderSyncAdaptor;
 
-class FinderSyncInterface;
+namespace LinuxDesktop {
 
 /// Publishes the watched folders on the session bus, as addresses in the set's order. The object is there from the
 /// first publication on, so a reader can tell that there was none yet. Without a bus nothing happens. Main thread.
@@ -26,9 +26,10 @@ public:
 
 private:
     SessionBus& m_bus;
+    /// Has the addresses as the property that its interface shows.
     std::unique_ptr<QObject> m_exported;
     /// Part of m_exported.
-    FinderSyncInterface* m_interface = nullptr;
+    FinderSyncAdaptor* m_interface = nullptr;
 };
 
 } // namespace LinuxDesktop

@@ -1,0 +1,47 @@
+#include "CompanionProcess.h"
+
+#include <QFile>
+#include <QXmlStreamReader>
+
+namespace {
+
+const QString interface = QStringLiteral("com.orvikstudio.FinderSyncExtension");
+
+/// The members of the interface in their order, a line each: their attributes, and those of what is in them.
+std::vector<std::string> membersIn(const QByteArray& description)
+{
+    std::vector<std::string> members;
+    QXmlStreamReader reader(description);
+    bool inside = false;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.name() == QLatin1String("interface"))
+            inside = reader.isStartElement() && reader.attributes().value(QLatin1String("name")) == interface;
+        else if (inside && reader.isStartElement()) {
+            std::string line = reader.name().toString().toStdString();
+            for (const QXmlStreamAttribute& attribute : reader.attributes())
+                line += " " + attribute.name().toString().toStdString() + "=" +
+                        attribute.value().toString().toStdString();
+            if (reader.name() == QLatin1String("arg") || reader.name() == QLatin1String("annotation"))
+                members.back() += "; " + line;
+            else
+                members.push_back(line);
+        }
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    return members;
+}
+
+} // namespace
+
+using CompanionInterface = CompanionTest;
+
+TEST_F(CompanionInterface, IsTheOneThatIsInstalledForOtherProgramsToRead)
+{
+    QFile file(QStringLiteral(ORVIK_INTERFACES "/") + interface + QStringLiteral(".xml"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+    const auto described = membersIn(file.readAll());
+    ASSERT_FALSE(described.empty());
+    startAndWait();
+    EXPECT_EQ(membersIn(introspect()), described);
+}
