@@ -2,15 +2,16 @@
 
 #include "extensions/DesktopEntryText.h"
 #include "platform/linux/store/FileOperations.h"
+#include "platform/linux/store/ReplaceFile.h"
 #include "platform/linux/store/SettingsFolder.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
-#include <algorithm>
+#include <string>
+#include <sys/stat.h>
 #include <utility>
 
 namespace ExtensionsTool {
@@ -133,20 +134,22 @@ std::optional<QString> AutostartEntry::switchOff()
     return QStringLiteral("Could not remove %1: %2.").arg(path(), file.errorString());
 }
 
+/// Whatever is in the entry's place is replaced itself: what a link leads to is somebody else's.
 std::optional<QString> AutostartEntry::write(const QString& entry) const
 {
     LinuxDesktop::FileOperations operations;
     if (const auto failure = LinuxDesktop::makeFolders(operations, QFile::encodeName(m_folders.own).toStdString()))
         return asSentence(QString::fromStdString(failure->what));
 
-    constexpr QFile::Permissions readableByAll =
-        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
-    QSaveFile file(path());
-    const QByteArray bytes = entry.toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.setPermissions(readableByAll) &&
-        file.commit())
+    const std::string file = QFile::encodeName(path()).toStdString();
+    const std::string prefix = m_extension.identifier.toStdString() + ".new-";
+    const auto written = LinuxDesktop::replaceFile(operations, {entry.toStdString(), file, prefix});
+    constexpr mode_t readableByAll = 0644;
+    if (written && ::fchmod(written->get(), readableByAll) == 0)
         return std::nullopt;
-    return QStringLiteral("Could not write %1: %2.").arg(path(), file.errorString());
+    const QString why =
+        written ? qt_error_string() : QString::fromStdString(written.error()).section(QStringLiteral(": "), -1);
+    return QStringLiteral("Could not write %1: %2.").arg(path(), why);
 }
 
 } // namespace ExtensionsTool

@@ -26,7 +26,8 @@ public:
 
     /// Whether the extension starts at log-in.
     [[nodiscard]] bool isOn() const;
-    /// Writes the user's entry anew. Why that failed, in a sentence, and then nothing has changed.
+    /// Writes the user's entry anew, in the place of whatever has its name; only a folder is in the way. Why that
+    /// failed, in a sentence, and then nothing has changed.
     [[nodiscard]] std::optional<QString> switchOn();
     /// Removes the user's entry, or hides a system-wide one. As above.
     [[nodiscard]] std::optional<QString> switchOff();

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace ExtensionsTool;
 
@@ -100,6 +101,71 @@ TEST_F(Autostart, OfEveryUserIsHiddenFromOneAndBroughtBack)
     EXPECT_FALSE(readFile(path).contains("Hidden"));
 }
 
+TEST_F(Autostart, ReplacesALinkAndLeavesAloneWhatItLeadsTo)
+{
+    const QString target = root.filePath(QStringLiteral("kept.desktop"));
+    const QByteArray contents = "[Desktop Entry]\nExec=something\nHidden=true\n";
+    writeFile(target, contents);
+    ASSERT_TRUE(QDir().mkpath(own()));
+    for (const bool systemWide : {false, true}) {
+        if (systemWide)
+            writeSystemWide();
+        ASSERT_TRUE(QFile::link(target, path));
+        EXPECT_FALSE(entry.isOn()) << "what it leads to counts";
+        EXPECT_EQ(entry.switchOn(), std::nullopt);
+        EXPECT_FALSE(QFileInfo(path).isSymLink());
+        EXPECT_TRUE(entry.isOn());
+        EXPECT_EQ(readFile(target), contents);
+
+        ASSERT_TRUE(QFile::remove(path));
+        ASSERT_TRUE(QFile::link(target, path));
+        EXPECT_EQ(entry.switchOff(), std::nullopt);
+        EXPECT_FALSE(QFileInfo(path).isSymLink());
+        EXPECT_FALSE(entry.isOn());
+        EXPECT_EQ(readFile(target), contents);
+        QFile::remove(path);
+    }
+}
+
+TEST_F(Autostart, ReplacesALinkThatLeadsNowhereToAFolderOrToItself)
+{
+    ASSERT_TRUE(QDir().mkpath(own()));
+    const QString missing = root.filePath(QStringLiteral("missing.desktop"));
+    for (const QString& target : {missing, root.path(), path}) {
+        ASSERT_EQ(::symlink(qPrintable(target), qPrintable(path)), 0);
+        EXPECT_FALSE(entry.isOn());
+        EXPECT_EQ(entry.switchOn(), std::nullopt) << target.toStdString();
+        EXPECT_TRUE(entry.isOn()) << target.toStdString();
+        EXPECT_FALSE(QFile::exists(missing));
+
+        ASSERT_TRUE(QFile::remove(path));
+        ASSERT_EQ(::symlink(qPrintable(target), qPrintable(path)), 0);
+        EXPECT_EQ(entry.switchOff(), std::nullopt) << target.toStdString();
+        EXPECT_TRUE(QDir(own()).isEmpty()) << target.toStdString();
+    }
+}
+
+TEST_F(Autostart, ReplacesAPipeWithoutWaitingForItsOtherEnd)
+{
+    ASSERT_TRUE(QDir().mkpath(own()));
+    const QString pipe = root.filePath(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
+    for (const bool linked : {false, true}) {
+        const auto put = [&] {
+            ASSERT_EQ(linked ? ::symlink(qPrintable(pipe), qPrintable(path)) : ::mkfifo(qPrintable(path), 0600), 0);
+        };
+        put();
+        EXPECT_FALSE(entry.isOn());
+        EXPECT_EQ(entry.switchOn(), std::nullopt);
+        EXPECT_TRUE(entry.isOn());
+        ASSERT_TRUE(QFile::remove(path));
+        put();
+        EXPECT_EQ(entry.switchOff(), std::nullopt);
+        EXPECT_TRUE(
+            QDir(own()).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot).isEmpty());
+    }
+}
+
 TEST_F(Autostart, SaysWhyItCouldNotBeSwitchedAndLeavesThingsAsTheyWere)
 {
     writeFile(root.filePath(QStringLiteral("own")), "a file where the folder should be");
@@ -110,9 +176,7 @@ TEST_F(Autostart, SaysWhyItCouldNotBeSwitchedAndLeavesThingsAsTheyWere)
     ASSERT_TRUE(QFile::remove(root.filePath(QStringLiteral("own"))));
     // Nothing can be renamed to the name of a folder, nor can that be removed as a file.
     ASSERT_TRUE(QDir().mkpath(path + QStringLiteral("/something")));
-    const auto failure = entry.switchOn();
-    ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->startsWith(QStringLiteral("Could not write %1: ").arg(path))) << failure->toStdString();
+    EXPECT_EQ(entry.switchOn(), QStringLiteral("Could not write %1: Is a directory.").arg(path));
     const auto other = entry.switchOff();
     ASSERT_TRUE(other);
     EXPECT_TRUE(other->startsWith(QStringLiteral("Could not remove %1: ").arg(path))) << other->toStdString();
