@@ -5,6 +5,8 @@
 #include "settings/Deployment.h"
 
 #include <array>
+#include <cstddef>
+#include <string_view>
 #include <tuple>
 #include <utility>
 
@@ -27,21 +29,40 @@ struct Shown {
     static bool as(ShowInSubmenu, const CompanionState& state) { return state.settings.showInSubmenu; }
 };
 
-// Negative error numbers go to the library, which answers whoever asked with them.
+/// Whether the bus's library takes the text: it has not the characters that Unicode keeps for no text (U+FDD0 to
+/// U+FDEF, and the last two of each plane), which settings files have. `text` is UTF-8.
+bool isForBus(std::string_view text)
+{
+    for (std::size_t at = 2; at < text.size(); ++at) {
+        const auto byte = [&](std::size_t back) { return static_cast<unsigned char>(text[at - back]); };
+        const bool endsPlane = byte(1) == 0xbf && byte(0) >= 0xbe && (byte(2) & 0x0fU) == 0x0f;
+        if (endsPlane || (byte(2) == 0xef && byte(1) == 0xb7 && byte(0) >= 0x90 && byte(0) <= 0xaf))
+            return false;
+    }
+    return true;
+}
+
+// Negative error numbers go to the library, which answers whoever asked with them. An element whose text is not for
+// the bus is left out, so that it takes no others with it.
 
 int append(sd_bus_message& reply, const std::string& text)
 {
-    return sd_bus_message_append(&reply, "s", text.c_str());
+    return isForBus(text) ? sd_bus_message_append(&reply, "s", text.c_str()) : 0;
+}
+
+int appendPair(sd_bus_message& reply, const std::string& text, bool flag)
+{
+    return isForBus(text) ? sd_bus_message_append(&reply, "(sb)", text.c_str(), static_cast<int>(flag)) : 0;
 }
 
 int append(sd_bus_message& reply, const MenuItem& item)
 {
-    return sd_bus_message_append(&reply, "(sb)", item.title.c_str(), static_cast<int>(item.state));
+    return appendPair(reply, item.title, item.state);
 }
 
 int append(sd_bus_message& reply, const Folder& folder)
 {
-    return sd_bus_message_append(&reply, "(sb)", folder.path.c_str(), static_cast<int>(folder.active));
+    return appendPair(reply, folder.path, folder.active);
 }
 
 int appendValue(sd_bus_message& reply, const char* type, bool flag)
@@ -132,8 +153,7 @@ void BusService::announceChangesSince(const CompanionState& before)
     if (names.empty())
         return;
     names.push_back(nullptr);
-    // The library changes no name. Values that the bus cannot carry (it takes fewer characters than a settings file)
-    // are nobody's loss: who reads them is told so.
+    // The library changes no name.
     sd_bus_emit_properties_changed_strv(&m_bus, path.c_str(), interface, const_cast<char**>(names.data()));
 }
 

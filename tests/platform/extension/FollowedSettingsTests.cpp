@@ -166,14 +166,33 @@ TEST_F(FollowedSettings, ReplaceTheWatchedDirectoriesWithTheFolders)
     EXPECT_TRUE(watches({}));
 }
 
-TEST_F(FollowedSettings, MayHoldWhatTheBusCannotCarry)
+TEST_F(FollowedSettings, MayHoldWhatTheBusCannotCarryWhichIsLeftOut)
+{
+    // Characters that property lists have and the library's bus has not, and their neighbours.
+    for (const std::string character : {"\xef\xb7\x90", "\xef\xb7\xaf", "\xf0\x9f\xbf\xbe", "\xf4\x8f\xbf\xbf"}) {
+        const std::string path = "/a" + character + "/";
+        store({{"menuArrayDic",
+                Array{Dictionary{{"title", path}, {"state", true}}, Dictionary{{"title", "Kept"}, {"state", true}}}},
+               {"foldersArray", Array{path, "/kept"}},
+               {"foldersArraystate", Array{1, 0}},
+               {"arrCustomFoldersUrls", Array{"/\xef\xb7\x8f", path, "/\xef\xb7\xb0", "/\xf0\x9f\xbf\xbd"}}});
+        startAndWait();
+        EXPECT_EQ(items("MenuItems"), (Items{{"Kept", true}}));
+        EXPECT_EQ(items("Folders"), (Items{{"/kept", false}}));
+        EXPECT_EQ(strings("CustomFolders"),
+                  (QStringList{QStringLiteral("/\ufdcf"), QStringLiteral("/\ufdf0"), QStringLiteral("/\U0001fffd")}));
+        EXPECT_EQ(strings("DirectoryURLs").size(), 2) << "an address has none of them";
+        quit();
+        EXPECT_TRUE(waitUntil([&] { return !nameIsOwned(); }));
+    }
+}
+
+TEST_F(FollowedSettings, AreAnnouncedAlsoWhereTheyHoldWhatTheBusCannotCarry)
 {
     startAndWait();
-    // A character that property lists have and the bus has not.
-    store({{"arrCustomFoldersUrls", Array{"\xef\xb7\x90"}}, {"showinSubMenu", true}});
-    EXPECT_TRUE(showsInSubmenu(true));
-    // Until they are replaced, asking for them gives an error.
-    store({{"arrCustomFoldersUrls", Array{"/x"}}, {"showinSubMenu", false}});
-    EXPECT_TRUE(showsInSubmenu(false));
+    Announcements announced(connection());
+    store({{"arrCustomFoldersUrls", Array{"\xef\xb7\x90", "/x"}}, {"showinSubMenu", true}});
+    ASSERT_TRUE(waitUntil([&] { return !announced.isEmpty(); }));
+    EXPECT_EQ(announced.take(), (QStringList{QStringLiteral("CustomFolders"), QStringLiteral("ShowInSubmenu")}));
     EXPECT_EQ(strings("CustomFolders"), QStringList{QStringLiteral("/x")});
 }
