@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/linux/system/Inotify.h"
+
 #include <QObject>
+#include <QSocketNotifier>
 
+#include <memory>
 #include <string>
-
-class QSocketNotifier;
 
 namespace LinuxDesktop {
 
@@ -15,7 +17,6 @@ class FolderWatch : public QObject {
 
 public:
     explicit FolderWatch(QObject* parent = nullptr);
-    ~FolderWatch() override;
 
     /// Watches this folder, and no longer the one before.
     void setFolder(const std::string& folder);
@@ -27,9 +28,10 @@ signals:
 private:
     void drain();
 
-    int m_queue;
+    Inotify m_queue;
     int m_watch = -1;
-    QSocketNotifier* m_notifier = nullptr;
+    /// Goes before the queue does.
+    std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
 } // namespace LinuxDesktop

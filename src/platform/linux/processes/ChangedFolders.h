@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/system/FileDescriptor.h"
+#include "platform/linux/system/Inotify.h"
 
 #include <string>
 
@@ -10,15 +10,13 @@ namespace LinuxDesktop {
 /// files in them. It wakes nobody. Not for several threads at once.
 class ChangedFolders {
 public:
-    ChangedFolders();
-
     /// Counts what changes in the folder from now on.
     void watch(const std::string& folder);
     /// Whether anything changed since the start. Always, where the system has no more watches to give.
     [[nodiscard]] bool any();
 
 private:
-    FileDescriptor m_queue;
+    Inotify m_queue;
     bool m_any = false;
 };
 
