@@ -2,44 +2,60 @@
 
 #include "extension/DirectoryAddress.h"
 
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
+#include <ctime>
 #include <sys/epoll.h>
 #include <utility>
 
 namespace MenuExtension {
+
+namespace {
+
+/// Between the steps in which a program saves a file.
+constexpr std::chrono::milliseconds settlingTime{200};
+constexpr std::chrono::milliseconds pauseWithoutWatches{5000};
+constexpr std::chrono::milliseconds accuracy{10};
+
+constexpr std::uint64_t microseconds(std::chrono::microseconds time)
+{
+    return static_cast<std::uint64_t>(time.count());
+}
+
+} // namespace
 
 Companion::Companion(sd_event& event, sd_bus& bus, std::string settingsFolder)
     : m_event(event), m_bus(bus), m_suite(std::move(settingsFolder)), m_watch(m_suite.path()),
       m_service(bus, m_state, [this] { end(); }),
       m_panel(bus, [this](const std::vector<std::string>& addresses) { watchDirectories(addresses); })
 {
-    takeSettings();
+    takeSettings(m_suite.read());
 }
 
 int Companion::start()
 {
-    if (m_watch.descriptor() >= 0) {
-        sd_event_source* source = nullptr;
-        const auto changed = [](sd_event_source*, int, std::uint32_t, void* companion) {
-            auto& self = *static_cast<Companion*>(companion);
-            if (self.m_watch.takeEvents())
-                self.followSettings();
-            return 0;
-        };
-        const int result = sd_event_add_io(&m_event, &source, m_watch.descriptor(), EPOLLIN, changed, this);
-        m_settingsChanges.reset(source);
-        if (result < 0)
-            return result;
-    }
+    sd_event_source* timer = nullptr;
+    const auto lookAgain = [](sd_event_source*, std::uint64_t, void* companion) {
+        static_cast<Companion*>(companion)->lookAgain();
+        return 0;
+    };
+    int result =
+        sd_event_add_time_relative(&m_event, &timer, CLOCK_MONOTONIC, 0, microseconds(accuracy), lookAgain, this);
+    m_nextLook.reset(timer);
+    if (result >= 0)
+        result = listen();
+    if (result < 0)
+        return result;
+    waitToLookAgain();
 
     sd_bus_slot* slot = nullptr;
     const auto disconnected = [](sd_bus_message*, void* companion, sd_bus_error*) {
         static_cast<Companion*>(companion)->end();
         return 0;
     };
-    int result = sd_bus_match_signal(&m_bus, &slot, nullptr, "/org/freedesktop/DBus/Local",
-                                     "org.freedesktop.DBus.Local", "Disconnected", disconnected, this);
+    result = sd_bus_match_signal(&m_bus, &slot, nullptr, "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local",
+                                 "Disconnected", disconnected, this);
     m_busEnd.reset(slot);
     if (result >= 0)
         result = m_service.publish();
@@ -51,10 +67,24 @@ int Companion::start()
     return result;
 }
 
-void Companion::takeSettings()
+/// Hears of what happens to the settings, from the time on when the system has a queue for it.
+int Companion::listen()
 {
-    const auto values = m_suite.read();
-    // What is known still holds while the file cannot be read.
+    if (m_settingsChanges || m_watch.descriptor() < 0)
+        return 0;
+    sd_event_source* source = nullptr;
+    const auto happened = [](sd_event_source*, int, std::uint32_t, void* companion) {
+        static_cast<Companion*>(companion)->followEvents();
+        return 0;
+    };
+    const int result = sd_event_add_io(&m_event, &source, m_watch.descriptor(), EPOLLIN, happened, this);
+    m_settingsChanges.reset(source);
+    return result;
+}
+
+/// Without values, what is known still holds.
+void Companion::takeSettings(const std::optional<NS::Value::Dictionary>& values)
+{
     if (!values)
         return;
     ExtensionSettings settings = settingsFromSuite(*values);
@@ -63,11 +93,40 @@ void Companion::takeSettings()
     m_state.settings = std::move(settings);
 }
 
-void Companion::followSettings()
+void Companion::followEvents()
+{
+    if (!m_watch.takeEvents())
+        return;
+    m_inDoubt = false;
+    look();
+}
+
+void Companion::lookAgain()
+{
+    if (!m_watch.isWhole())
+        m_watch.tryAgain();
+    // Without room for it the settings are looked for as before.
+    static_cast<void>(listen());
+    look();
+}
+
+/// A file that is missing or damaged counts when it still is at the next look.
+void Companion::look()
 {
     const CompanionState before = m_state;
-    takeSettings();
+    const auto values = m_inDoubt ? m_suite.read() : m_suite.readWhole();
+    m_inDoubt = !values && !m_inDoubt;
+    takeSettings(values);
     m_service.announceChangesSince(before);
+    waitToLookAgain();
+}
+
+/// Nothing wakes the companion while there is nothing to look for.
+void Companion::waitToLookAgain()
+{
+    const bool wanted = m_inDoubt || !m_watch.isWhole();
+    sd_event_source_set_time_relative(m_nextLook.get(), microseconds(m_inDoubt ? settlingTime : pauseWithoutWatches));
+    sd_event_source_set_enabled(m_nextLook.get(), wanted ? SD_EVENT_ONESHOT : SD_EVENT_OFF);
 }
 
 void Companion::watchDirectories(const std::vector<std::string>& addresses)

@@ -6,6 +6,7 @@
 #include "extension/SettingsWatch.h"
 #include "extension/SuiteReader.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,8 +27,12 @@ public:
     [[nodiscard]] int start();
 
 private:
-    void takeSettings();
-    void followSettings();
+    void takeSettings(const std::optional<NS::Value::Dictionary>& values);
+    [[nodiscard]] int listen();
+    void followEvents();
+    void lookAgain();
+    void look();
+    void waitToLookAgain();
     void watchDirectories(const std::vector<std::string>& addresses);
     void end();
 
@@ -39,6 +44,9 @@ private:
     BusService m_service;
     PanelLink m_panel;
     EventSource m_settingsChanges;
+    EventSource m_nextLook;
+    /// Whether what was found last counts only if it is still so at the next look.
+    bool m_inDoubt = false;
     BusSlot m_busEnd;
 };
 

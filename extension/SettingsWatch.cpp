@@ -2,16 +2,13 @@
 
 #include "extension/Complaint.h"
 
-#include <array>
 #include <cerrno>
-#include <cstring>
 #include <deque>
 #include <filesystem>
 #include <optional>
 #include <sys/inotify.h>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 #include <utility>
 
 namespace MenuExtension {
@@ -47,29 +44,35 @@ std::optional<mode_t> typeOf(const std::string& path)
 
 } // namespace
 
-SettingsWatch::SettingsWatch(std::string path)
-    : m_path(std::move(path)), m_inotify(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
+SettingsWatch::SettingsWatch(std::string path) : m_path(std::move(path))
 {
-    if (m_inotify)
-        follow();
-    else
-        complainOnce();
+    follow();
 }
 
-void SettingsWatch::complainOnce()
+void SettingsWatch::follow()
 {
-    if (!std::exchange(m_complained, true))
-        complain("changes of the settings cannot be followed: " + std::generic_category().message(errno));
+    for (const auto& [watch, counting] : m_watches)
+        m_inotify.remove(watch);
+    m_watches.clear();
+    const bool wasWhole = isWhole();
+    m_lack = 0;
+    if (!m_inotify)
+        m_inotify = {};
+    if (!m_inotify)
+        m_lack = errno;
+    else
+        watchTheWay();
+    if (!isWhole() && wasWhole)
+        complain("changes of the settings cannot be followed: " + std::generic_category().message(m_lack) +
+                 "; they are looked for now and then");
+    else if (isWhole() && !wasWhole)
+        complain("changes of the settings are followed again");
 }
 
 /// Watches what the path leads through now. What changes after a step's watch was made is told by that watch, so the
 /// order is: watch, then look.
-void SettingsWatch::follow()
+void SettingsWatch::watchTheWay()
 {
-    for (const auto& [watch, counting] : m_watches)
-        ::inotify_rm_watch(m_inotify.get(), watch);
-    m_watches.clear();
-
     constexpr int mostLinks = 40;
     int links = 0;
     std::filesystem::path folder = "/";
@@ -110,10 +113,10 @@ void SettingsWatch::follow()
 /// Adds to what is watched at `path`. False where nothing is there, or nothing that may be watched.
 bool SettingsWatch::watch(const std::string& path, std::uint32_t events, const std::string& name)
 {
-    const int watch = ::inotify_add_watch(m_inotify.get(), path.c_str(), events | IN_MASK_ADD);
+    const int watch = m_inotify.add(path, events | IN_MASK_ADD);
     if (watch < 0) {
-        if (errno == ENOSPC)
-            complainOnce();
+        if (errno == ENOSPC || errno == ENOMEM)
+            m_lack = errno;
         return false;
     }
     auto& counting = m_watches[watch];
@@ -133,23 +136,9 @@ bool SettingsWatch::concerns(int watch, std::uint32_t what, std::string_view nam
 bool SettingsWatch::takeEvents()
 {
     bool changed = false;
-    // Room for many at once; the system wants it for one of the longest name at least.
-    alignas(inotify_event) std::array<char, 4096> events{};
-    for (;;) {
-        const ssize_t length = ::read(m_inotify.get(), events.data(), events.size());
-        if (length < 0 && errno == EINTR)
-            continue;
-        if (length <= 0)
-            break;
-        for (const char* at = events.data(); at < events.data() + length;) {
-            inotify_event event{};
-            std::memcpy(&event, at, sizeof event);
-            // The name is filled up with NUL.
-            const std::string_view name = event.len > 0 ? at + sizeof event : "";
-            changed = changed || concerns(event.wd, event.mask, name);
-            at += sizeof event + event.len;
-        }
-    }
+    m_inotify.read([&](const LinuxDesktop::Inotify::Event& event) {
+        changed = changed || concerns(event.watch, event.what, event.name);
+    });
     if (changed)
         follow();
     return changed;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/system/FileDescriptor.h"
+#include "platform/linux/system/Inotify.h"
 
 #include <cstdint>
 #include <map>
@@ -15,12 +15,17 @@ namespace MenuExtension {
 /// are busy are looked into no further than the path needs.
 class SettingsWatch {
 public:
-    /// `path` is absolute. Where the system has no watch to give, one line on standard error says so, and changes go
-    /// unnoticed.
+    /// `path` is absolute.
     explicit SettingsWatch(std::string path);
 
+    /// False while the system has too few watches to give, so that changes may go unnoticed. Standard error is told
+    /// of its beginning and its end.
+    [[nodiscard]] bool isWhole() const { return m_lack == 0; }
+    /// Asks for the watches anew. Those who then read the file have missed nothing.
+    void tryAgain() { follow(); }
+
     /// Readable when something has happened; negative where there is no watch.
-    [[nodiscard]] int descriptor() const { return m_inotify.get(); }
+    [[nodiscard]] int descriptor() const { return m_inotify.descriptor(); }
     /// Takes what has happened. True when the file may be another one, or have other contents, than before; a read
     /// that follows misses no change.
     [[nodiscard]] bool takeEvents();
@@ -28,12 +33,13 @@ public:
 private:
     [[nodiscard]] bool concerns(int watch, std::uint32_t what, std::string_view name) const;
     void follow();
-    void complainOnce();
+    void watchTheWay();
     bool watch(const std::string& path, std::uint32_t events, const std::string& name = {});
 
     const std::string m_path;
-    LinuxDesktop::FileDescriptor m_inotify;
-    bool m_complained = false;
+    LinuxDesktop::Inotify m_inotify;
+    /// The error number of what the system had no more of.
+    int m_lack = 0;
     /// For each watch the names in its folder that count; what happens to the folder itself always does.
     std::map<int, std::set<std::string, std::less<>>> m_watches;
 };

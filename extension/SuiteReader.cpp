@@ -13,6 +13,15 @@ SuiteReader::SuiteReader(std::string settingsFolder)
     : m_file(m_operations, std::move(settingsFolder), Deployment::suiteName)
 {}
 
+std::optional<NS::Value::Dictionary> SuiteReader::readWhole()
+{
+    const Snapshot found = m_file.read();
+    if (found.state() != Snapshot::State::Readable)
+        return std::nullopt;
+    m_complaint.clear();
+    return found.values();
+}
+
 std::optional<NS::Value::Dictionary> SuiteReader::read()
 {
     const Snapshot found = m_file.read();

@@ -14,6 +14,9 @@ class SuiteReader {
 public:
     explicit SuiteReader(std::string settingsFolder);
 
+    /// The values of a file that is there and whole. Nothing otherwise, which may pass: there are programs that save
+    /// in steps, and empty or remove the file first.
+    [[nodiscard]] std::optional<NS::Value::Dictionary> readWhole();
     /// The values that the panel finds when it reads now: none where there is no file, those of the last good copy
     /// where the file is damaged. Nothing where it cannot be read at all. What is wrong gets one line on standard
     /// error.

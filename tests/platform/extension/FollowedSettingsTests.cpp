@@ -1,9 +1,12 @@
 #include "../bus/Waiting.h"
 #include "Announcements.h"
 #include "CompanionProcess.h"
+#include "platform/linux/store/PropertyList.h"
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 
 using namespace std::chrono_literals;
 using Array = NS::Value::Array;
@@ -91,6 +94,42 @@ TEST_F(FollowedSettings, FollowAFolderThatIsRemovedAndComesBack)
         EXPECT_TRUE(showsInSubmenu(false));
         store({{"showinSubMenu", true}});
         EXPECT_TRUE(showsInSubmenu(true));
+    }
+}
+
+TEST_F(FollowedSettings, StayAsTheyAreWhileAnotherProgramSavesInSteps)
+{
+    bool inSubmenu = true;
+    const auto values = [&] { return Dictionary{{"foldersArray", Array{"/a"}}, {"showinSubMenu", inSubmenu}}; };
+    store(values());
+    QProcess& companion = startAndWait();
+    Announcements announced(connection());
+    const std::string file = suiteFile();
+    const std::vector<std::function<void()>> firstSteps{
+        [&] { writeInPlace(file, ""); },
+        [&] { writeInPlace(file, "<plist><dict>"); },
+        [&] { fs::remove(file); },
+        [&] { fs::rename(file, file + "~"); },
+    };
+    for (std::size_t index = 0; index < firstSteps.size();) {
+        inSubmenu = !inSubmenu;
+        const std::string text = *LinuxDesktop::PropertyList::serialise(values());
+        const auto begin = std::chrono::steady_clock::now();
+        firstSteps[index]();
+        runFor(30ms);
+        writeInPlace(file, text);
+        const bool quickly = std::chrono::steady_clock::now() - begin < 150ms;
+        EXPECT_TRUE(showsInSubmenu(inSubmenu));
+        runFor(300ms);
+        const QStringList changed = announced.take();
+        // A machine that was busy with other things has not saved as anybody would.
+        if (!quickly) {
+            companion.readAllStandardError();
+            continue;
+        }
+        EXPECT_EQ(changed, QStringList{QStringLiteral("ShowInSubmenu")}) << index;
+        EXPECT_EQ(companion.readAllStandardError(), "") << index;
+        ++index;
     }
 }
 

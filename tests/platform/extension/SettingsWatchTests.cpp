@@ -1,5 +1,7 @@
 #include "extension/SettingsWatch.h"
 
+#include "NoMoreDescriptors.h"
+
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -26,6 +28,8 @@ struct WatchedFile : testing::Test {
     ~WatchedFile() override { fs::remove_all(root); }
 
     void watch() { m_watch.emplace(file); }
+    [[nodiscard]] bool isWhole() const { return m_watch->isWhole(); }
+    void tryAgain() { m_watch->tryAgain(); }
 
     /// Whether a change was told since the last question.
     [[nodiscard]] bool tellsChange()
@@ -199,5 +203,33 @@ TEST_F(WatchedFile, IsSeenWhenItMayBeReadAgain)
     fs::permissions(folder, fs::perms::none);
     EXPECT_TRUE(tellsChange());
     fs::permissions(folder, fs::perms::owner_all);
+    EXPECT_TRUE(tellsChange());
+}
+
+TEST_F(WatchedFile, IsWatchedOnceTheSystemHasAWatchToGive)
+{
+    write(file);
+    testing::internal::CaptureStderr();
+    {
+        const NoMoreDescriptors none;
+        watch();
+        EXPECT_FALSE(isWhole());
+        tryAgain();
+        EXPECT_FALSE(isWhole());
+    }
+    EXPECT_EQ(
+        testing::internal::GetCapturedStderr(),
+        "orvik-menu-extension: changes of the settings cannot be followed: Too many open files; they are looked "
+        "for now and then\n");
+    replace(file);
+    EXPECT_FALSE(tellsChange());
+
+    testing::internal::CaptureStderr();
+    tryAgain();
+    EXPECT_TRUE(isWhole());
+    tryAgain();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "orvik-menu-extension: changes of the settings are followed again\n");
+    replace(file);
     EXPECT_TRUE(tellsChange());
 }
