@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
+#include <set>
+
 namespace {
 
 const QString interface = QStringLiteral("com.orvikstudio.FinderSyncExtension");
@@ -18,10 +20,13 @@ std::vector<std::string> membersIn(const QByteArray& description)
         if (reader.name() == QLatin1String("interface"))
             inside = reader.isStartElement() && reader.attributes().value(QLatin1String("name")) == interface;
         else if (inside && reader.isStartElement()) {
-            std::string line = reader.name().toString().toStdString();
+            std::set<std::string> attributes;
             for (const QXmlStreamAttribute& attribute : reader.attributes())
-                line += " " + attribute.name().toString().toStdString() + "=" +
-                        attribute.value().toString().toStdString();
+                attributes.insert(attribute.name().toString().toStdString() + "=" +
+                                  attribute.value().toString().toStdString());
+            std::string line = reader.name().toString().toStdString();
+            for (const std::string& attribute : attributes)
+                line += " " + attribute;
             if (reader.name() == QLatin1String("arg") || reader.name() == QLatin1String("annotation"))
                 members.back() += "; " + line;
             else
