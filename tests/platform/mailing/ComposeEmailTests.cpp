@@ -1,9 +1,11 @@
 #include "platform/linux/mailing/ComposeEmail.h"
 
+#include "ShownWindows.h"
+
 #include "../bus/PrivateBus.h"
 #include "../bus/Waiting.h"
+#include "platform/linux/mailing/MailText.h"
 #include "platform/linux/system/FileDescriptor.h"
-#include "platform/linux/system/TemporaryFolders.h"
 #include "support/Files.h"
 
 #include <QElapsedTimer>
@@ -13,6 +15,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <vector>
 
 using namespace LinuxDesktop;
@@ -74,6 +77,7 @@ struct Mail : testing::Test {
         m_portal.kill();
         m_portal.waitForFinished();
         qputenv("PATH", m_pathBefore);
+        ShownWindows::closeAll();
     }
 
     [[nodiscard]] fs::path base() const { return m_base.path().toStdString(); }
@@ -124,6 +128,15 @@ struct Mail : testing::Test {
     [[nodiscard]] std::ptrdiff_t temporaries() const
     {
         return std::distance(fs::directory_iterator(runtime()), fs::directory_iterator());
+    }
+
+    /// The one that was made of a folder.
+    [[nodiscard]] fs::path archive() const
+    {
+        for (const auto& entry : fs::recursive_directory_iterator(runtime()))
+            if (entry.path().extension() == ".zip")
+                return entry.path();
+        return {};
     }
 
     const QByteArray m_pathBefore = qgetenv("PATH");
@@ -214,15 +227,58 @@ TEST_F(Mail, SurvivesTheRealCommandWhateverTheName)
     }
 }
 
-TEST_F(Mail, GoesToTheCommandWhenThePortalRefuses)
+struct FailingPortal : Mail, testing::WithParamInterface<const char*> {};
+
+TEST_P(FailingPortal, LeavesTheItemToTheCommand)
 {
-    startPortal("refuse");
+    startPortal(GetParam());
     install("xdg-email", mailCommandStandIn);
     makeService();
     send(makeItem("file", "text"));
     ASSERT_TRUE(arrives());
     EXPECT_EQ(recorded("attachment1"), "text");
     EXPECT_FALSE(recorded("arguments").empty());
+    EXPECT_EQ(ShownWindows::texts(), "");
+}
+
+TEST_P(FailingPortal, AndNoCommandAreToldToThePerson)
+{
+    startPortal(GetParam());
+    makeService();
+    testing::internal::CaptureStderr();
+    send(makeItem("file", "text"));
+    EXPECT_TRUE(waitUntil([] { return ShownWindows::texts().find("“file” was not sent.") != std::string::npos; }));
+    EXPECT_NE(ShownWindows::texts().find("No mail program could be opened"), std::string::npos);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("no xdg-email, and no help from the portal"),
+              std::string::npos);
+}
+
+INSTANTIATE_TEST_SUITE_P(Mail, FailingPortal,
+                         testing::Values("refuse", "fail", "fail elsewhere", "vanish", "vanish later"));
+
+TEST_F(Mail, CancelledInThePortalsOwnWindowGoesNowhereElse)
+{
+    startPortal("be cancelled");
+    install("xdg-email", mailCommandStandIn);
+    makeService();
+    send(makeItem("file", "text"));
+    ASSERT_TRUE(waitUntil([this] { return fs::exists(record() / "asked"); }));
+    runFor(500ms);
+    EXPECT_FALSE(fs::exists(record() / "arguments"));
+    EXPECT_EQ(ShownWindows::texts(), "");
+}
+
+TEST_F(Mail, EndsAtOnceWhileThePortalIsSilent)
+{
+    startPortal("be silent");
+    install("xdg-email", mailCommandStandIn);
+    makeService();
+    send(makeItem("file", "text"));
+    ASSERT_TRUE(waitUntil([this] { return fs::exists(record() / "asked"); }));
+    QElapsedTimer timer;
+    timer.start();
+    m_service.reset();
+    EXPECT_LT(timer.elapsed(), 1000);
 }
 
 TEST_F(Mail, GoesToThePortalWhereBothExist)
@@ -277,7 +333,10 @@ TEST_F(Mail, SaysWhatCannotBeAttachedAndSendsNothing)
     testing::internal::CaptureStderr();
     makeService();
     send(base() / "missing");
+    EXPECT_EQ(ShownWindows::texts(), "“missing” was not sent.\nIt cannot be read: No such file or directory\n");
+    ShownWindows::closeAll();
     send("/dev/null");
+    EXPECT_EQ(ShownWindows::texts(), "“null” was not sent.\nIt cannot be read: it is not a file\n");
     m_service.reset();
     EXPECT_FALSE(fs::exists(record() / "arguments"));
     const std::string errors = testing::internal::GetCapturedStderr();
@@ -289,14 +348,31 @@ TEST_F(Mail, SaysWhatCannotBeAttachedAndSendsNothing)
 
 TEST_F(Mail, SaysThatTheCommandRefused)
 {
-    install("xdg-email", "#!/bin/sh\n: > \"$ORVIK_RECORD/done\"\nexit 3\n");
+    install("xdg-email", "#!/bin/sh\nexit 3\n");
     testing::internal::CaptureStderr();
     makeService();
     send(makeItem("file", "text"));
-    ASSERT_TRUE(arrives());
-    runFor(200ms);
-    m_service.reset();
+    EXPECT_TRUE(waitUntil([] { return !ShownWindows::texts().empty(); }));
+    EXPECT_NE(ShownWindows::texts().find("“file” was not sent.\nNo mail program"), std::string::npos);
     EXPECT_NE(testing::internal::GetCapturedStderr().find("exit status 3\n"), std::string::npos);
+}
+
+TEST_F(Mail, SendsNoArchiveThatLacksSomethingAndSaysWhat)
+{
+    install("xdg-email", mailCommandStandIn);
+    makeService();
+    fs::create_directory(base() / "items" / "folder");
+    makeItem("folder/file", "text");
+    ASSERT_EQ(::mkfifo((base() / "items" / "folder" / "pipe").c_str(), 0600), 0);
+    testing::internal::CaptureStderr();
+    send(base() / "items" / "folder");
+    runFor(500ms);
+    EXPECT_EQ(ShownWindows::texts(),
+              "“folder” was not sent.\nOne item in it cannot be packed:\n“pipe”: it is not a file\n");
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("cannot pack"), std::string::npos);
+    EXPECT_FALSE(fs::exists(record() / "arguments"));
+    m_service.reset();
+    EXPECT_EQ(temporaries(), 0);
 }
 
 TEST_F(Mail, HandsAFolderOverAsOneArchiveThatGoesInTheEnd)
@@ -345,6 +421,7 @@ TEST_F(Mail, KeepsAnArchiveForASlowMailProgramWhenTheProgramEndsAtOnce)
     makeService(1500ms);
     fs::create_directory(base() / "items" / "folder");
     send(base() / "items" / "folder");
+    ASSERT_TRUE(waitUntil([this] { return fs::exists(record() / "process"); }));
     m_service.reset();
     ASSERT_TRUE(fs::exists(record() / "done"));
     EXPECT_TRUE(recorded("attachment1").starts_with("PK"));
@@ -376,15 +453,15 @@ TEST_F(Mail, DoesNotKeepTheCallerWaiting)
     EXPECT_EQ(recorded("attachment1"), "text");
 }
 
-TEST_F(Mail, FinishesInTheEndWhatIsUnderWay)
+TEST_F(Mail, HasPackedAFolderBeforeItReturnsWhereNoEventLoopRuns)
 {
-    install("xdg-email", mailCommandStandIn);
-    makeService(2s);
+    startPortal("accept");
+    makeService();
     fs::create_directory(base() / "items" / "folder");
     makeItem("folder/large", Files::noise(20'000'000));
     send(base() / "items" / "folder");
-    m_service.reset();
-    EXPECT_GT(recorded("attachment1").size(), 20'000'000U);
+    EXPECT_GT(fs::file_size(archive()), 20'000'000U);
+    ASSERT_TRUE(arrives());
 }
 
 TEST_F(Mail, SendsNothingWhenTheArchiveCannotBeMade)
@@ -396,6 +473,9 @@ TEST_F(Mail, SendsNothingWhenTheArchiveCannotBeMade)
     fs::create_directory(base() / "items" / "folder");
     send(base() / "items" / "folder");
     m_service.reset();
+    EXPECT_EQ(ShownWindows::texts(), "“folder” was not sent.\nIt cannot be prepared in " +
+                                         MailText::quoted((base() / "missing").native()).toStdString() +
+                                         ": No such file or directory\n");
     EXPECT_NE(testing::internal::GetCapturedStderr().find("cannot make a folder in"), std::string::npos);
     EXPECT_FALSE(fs::exists(record() / "arguments"));
 }

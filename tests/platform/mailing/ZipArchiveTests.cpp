@@ -5,10 +5,12 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace LinuxDesktop;
@@ -34,19 +36,19 @@ public:
     OrdinaryUser& operator=(const OrdinaryUser&) = delete;
 };
 
-/// Files cannot grow beyond that many bytes while this lives: writing fails as on a full disk.
-class FullDisk {
+/// Files cannot grow beyond that many bytes while this lives.
+class FileSizeLimit {
 public:
-    explicit FullDisk(rlim_t bytes)
+    explicit FileSizeLimit(rlim_t bytes)
     {
         std::signal(SIGXFSZ, SIG_IGN);
         ::getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit limit{bytes, m_before.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &limit);
     }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
 
 private:
     rlimit m_before{};
@@ -63,9 +65,21 @@ struct ZipArchive : testing::Test {
     bool zip()
     {
         testing::internal::CaptureStderr();
-        const bool zipped = zipFolder(folder(), "folder", archive());
+        m_failure = zipFolder(folder(), "folder", archive(), m_progress);
         m_errors = testing::internal::GetCapturedStderr();
-        return zipped;
+        return !m_failure;
+    }
+
+    /// Takes no room, and hours to pack.
+    void makeHugeFile() const
+    {
+        Files::write(folder() / "huge", "");
+        fs::resize_file(folder() / "huge", std::uintmax_t{400} * 1024 * 1024 * 1024);
+    }
+    void waitForTheFirstBytes() const
+    {
+        while (m_progress.bytes == 0)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
 
     /// What another implementation finds in the archive: a line an entry with its name's bytes, the type and rights
@@ -90,6 +104,8 @@ for entry in archive.infolist():
 
     QTemporaryDir m_base;
     std::string m_errors;
+    AttachingProgress m_progress;
+    std::optional<AttachingFailure> m_failure;
 };
 
 } // namespace
@@ -170,29 +186,58 @@ TEST_F(ZipArchive, HoldsLargeFilesWhole)
     EXPECT_TRUE(Files::read(base() / "extracted" / "folder" / "large") == content);
 }
 
-TEST_F(ZipArchive, LeavesOutWhatCannotBeReadAndSaysSo)
+TEST_F(ZipArchive, IsNotMadeWithoutWhatCannotBeReadAndSaysWhatThatIs)
 {
     Files::write(folder() / "a", "readable");
     Files::write(folder() / "b", "unreadable");
     fs::permissions(folder() / "b", fs::perms::none);
     fs::create_directory(folder() / "c");
     Files::write(folder() / "c" / "hidden", "unreadable");
-    ASSERT_EQ(::mkfifo((folder() / "d").c_str(), 0600), 0);
+    fs::create_directory(folder() / "d");
+    ASSERT_EQ(::mkfifo((folder() / "d" / "pipe").c_str(), 0600), 0);
     Files::write(folder() / "e", "readable");
     {
         const OrdinaryUser user(base());
         fs::permissions(folder() / "c", fs::perms::none);
-        ASSERT_TRUE(zip());
+        EXPECT_FALSE(zip());
     }
+    EXPECT_FALSE(fs::exists(archive()));
     const std::string path = folder().native();
-    EXPECT_EQ(m_errors, "orvik-menu: cannot read \"" + path + "/b\": Permission denied\n" +
-                            "orvik-menu: cannot read \"" + path + "/c\": Permission denied\n" +
-                            "orvik-menu: leaving out \"" + path + "/d\": it is not a file\n");
-    const std::string found = listing();
-    EXPECT_NE(found.find("folder/a "), std::string::npos);
-    EXPECT_EQ(found.find("folder/b "), std::string::npos);
-    EXPECT_EQ(found.find("folder/d "), std::string::npos);
-    EXPECT_NE(found.find("folder/e "), std::string::npos);
+    EXPECT_EQ(m_errors, "orvik-menu: cannot pack \"" + path + "/b\": Permission denied\n" +
+                            "orvik-menu: cannot pack \"" + path + "/c\": Permission denied\n" +
+                            "orvik-menu: cannot pack \"" + path + "/d/pipe\": it is not a file\n");
+    ASSERT_TRUE(m_failure);
+    EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Incomplete);
+    EXPECT_EQ(m_failure->leftOutCount, 3U);
+    ASSERT_EQ(m_failure->leftOut.size(), 3U);
+    EXPECT_EQ(m_failure->leftOut[2].path, "d/pipe");
+    EXPECT_EQ(m_failure->leftOut[2].reason, "it is not a file");
+}
+
+TEST_F(ZipArchive, NamesTheFirstOfManyThatCannotBePackedAndCountsThemAll)
+{
+    for (int number = 0; number < 1000; ++number)
+        ASSERT_EQ(::mkfifo((folder() / std::to_string(number)).c_str(), 0600), 0);
+    EXPECT_FALSE(zip());
+    ASSERT_TRUE(m_failure);
+    EXPECT_EQ(m_failure->leftOutCount, 1000U);
+    EXPECT_EQ(m_failure->leftOut.size(), 4U);
+    EXPECT_EQ(std::ranges::count(m_errors, '\n'), 4);
+}
+
+TEST_F(ZipArchive, IsNotMadeOfAFileThatBecomesShorterMeanwhile)
+{
+    makeHugeFile();
+    std::thread other([this] {
+        waitForTheFirstBytes();
+        fs::resize_file(folder() / "huge", 10);
+    });
+    EXPECT_FALSE(zip());
+    other.join();
+    ASSERT_TRUE(m_failure);
+    EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Incomplete);
+    EXPECT_EQ(m_failure->leftOut.at(0).reason, "it became shorter");
+    EXPECT_FALSE(fs::exists(archive()));
 }
 
 TEST_F(ZipArchive, OfAnUnreadableFolderIsNotMade)
@@ -201,35 +246,59 @@ TEST_F(ZipArchive, OfAnUnreadableFolderIsNotMade)
     fs::permissions(folder(), fs::perms::none);
     EXPECT_FALSE(zip());
     EXPECT_EQ(m_errors, "orvik-menu: cannot read \"" + folder().native() + "\": Permission denied\n");
+    EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Unreadable);
     EXPECT_FALSE(fs::exists(archive()));
 }
 
-TEST_F(ZipArchive, IsNotLeftBehindInPartWhenTheDiskIsFull)
+TEST_F(ZipArchive, IsNotLeftBehindInPartWhenItCannotBeWritten)
 {
     Files::write(folder() / "large", Files::noise(3'000'000));
     {
-        const FullDisk disk(1'000'000);
+        const FileSizeLimit limit(1'000'000);
         EXPECT_FALSE(zip());
     }
     EXPECT_EQ(m_errors, "orvik-menu: cannot write \"" + archive().native() + "\": File too large\n");
+    EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Unwritable);
     EXPECT_FALSE(fs::exists(archive()));
 }
 
-TEST_F(ZipArchive, IsNotLeftBehindInPartWhenTheDiskIsFullAtTheVeryEnd)
+TEST_F(ZipArchive, IsNotLeftBehindInPartWhenItCannotBeWrittenAtTheVeryEnd)
 {
     Files::write(folder() / "small", Files::noise(1000));
     {
-        const FullDisk disk(500);
+        const FileSizeLimit limit(500);
         EXPECT_FALSE(zip());
     }
     EXPECT_NE(m_errors.find("cannot write"), std::string::npos);
     EXPECT_FALSE(fs::exists(archive()));
 }
 
+TEST_F(ZipArchive, LeavesAnotherFileInItsPlaceAlone)
+{
+    Files::write(archive(), "another's");
+    EXPECT_FALSE(zip());
+    EXPECT_EQ(m_failure->reason, "File exists");
+    EXPECT_EQ(Files::read(archive()), "another's");
+}
+
+TEST_F(ZipArchive, OfWhateverSizeIsGivenUpSoonAndNotLeftBehind)
+{
+    makeHugeFile();
+    std::thread other([this] {
+        waitForTheFirstBytes();
+        m_progress.cancelled = true;
+    });
+    EXPECT_FALSE(zip());
+    other.join();
+    EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Cancelled);
+    EXPECT_EQ(m_errors, "");
+    EXPECT_FALSE(fs::exists(archive()));
+}
+
 TEST_F(ZipArchive, DoesNotHoldItself)
 {
     Files::write(folder() / "file", "text");
-    ASSERT_TRUE(zipFolder(folder(), "folder", folder() / "own.zip"));
+    ASSERT_FALSE(zipFolder(folder(), "folder", folder() / "own.zip", m_progress));
     fs::rename(folder() / "own.zip", archive());
     EXPECT_EQ(listing().find("own.zip"), std::string::npos);
 }

@@ -1,7 +1,10 @@
 #include "platform/linux/mailing/EmailPortal.h"
 
+#include <QDBusError>
 #include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
+#include <QEventLoop>
 #include <QVariantMap>
 
 #include <chrono>
@@ -12,41 +15,38 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds startTimeout = 5s;
+constexpr std::chrono::milliseconds startPatience = 5s;
+/// Half of the time that the process has after a hand-over, so that there is some left for another way.
+constexpr std::chrono::milliseconds composePatience = 10s;
 
 QString interface()
 {
     return QStringLiteral("org.freedesktop.portal.Email");
 }
 
-QDBusMessage methodCall(const QString& itsInterface, const QString& method)
-{
-    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Desktop"),
-                                          QStringLiteral("/org/freedesktop/portal/desktop"), itsInterface, method);
-}
-
 } // namespace
 
-bool answers(const QDBusConnection& connection)
+bool exists(const QDBusConnection& connection)
 {
-    auto call = methodCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    QDBusMessage call = portalCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call << interface() << QStringLiteral("version");
-    return connection.call(call, QDBus::Block, static_cast<int>(startTimeout.count())).type() ==
-           QDBusMessage::ReplyMessage;
+    const QDBusPendingCallWatcher reply(connection.asyncCall(call, static_cast<int>(startPatience.count())));
+    QEventLoop loop;
+    QObject::connect(&reply, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return !reply.isError() || reply.error().type() == QDBusError::NoReply;
 }
 
-QDBusMessage compose(const QDBusConnection& connection, const std::vector<FileDescriptor>& files)
+std::unique_ptr<PortalRequest> compose(const QDBusConnection& connection, const std::vector<FileDescriptor>& files)
 {
     QList<QDBusUnixFileDescriptor> attachments;
     for (const auto& file : files)
         attachments.append(QDBusUnixFileDescriptor(file.get()));
     qDBusRegisterMetaType<QList<QDBusUnixFileDescriptor>>();
-    const QVariantMap options{{QStringLiteral("attachment_fds"), QVariant::fromValue(attachments)}};
-
     const QString noParentWindow = QStringLiteral("");
-    auto call = methodCall(interface(), QStringLiteral("ComposeEmail"));
-    call << noParentWindow << options;
-    return connection.call(call);
+    return std::make_unique<PortalRequest>(
+        connection, interface(), QStringLiteral("ComposeEmail"), QVariantList{noParentWindow},
+        QVariantMap{{QStringLiteral("attachment_fds"), QVariant::fromValue(attachments)}}, composePatience);
 }
 
 } // namespace LinuxDesktop::EmailPortal

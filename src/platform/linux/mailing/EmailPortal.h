@@ -1,20 +1,22 @@
 #pragma once
 
+#include "platform/linux/portal/PortalRequest.h"
 #include "platform/linux/system/FileDescriptor.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
 
+#include <memory>
 #include <vector>
 
-/// The desktop's e-mail portal. Any thread.
+/// The desktop's e-mail portal. Main thread.
 namespace LinuxDesktop::EmailPortal {
 
-/// Whether the portal is there. Blocks while the bus starts it, 5 seconds at most.
-[[nodiscard]] bool answers(const QDBusConnection& connection);
+/// Whether there is one; a portal that does not answer is there. Handles other events for up to 5 seconds while the
+/// bus starts it, but not the user's input.
+[[nodiscard]] bool exists(const QDBusConnection& connection);
 
-/// Asks for a new message with these open files attached. Blocks until the portal has taken or refused it; the
-/// answer is a reply or an error.
-[[nodiscard]] QDBusMessage compose(const QDBusConnection& connection, const std::vector<FileDescriptor>& files);
+/// Asks for a new message with these open files attached.
+[[nodiscard]] std::unique_ptr<PortalRequest> compose(const QDBusConnection& connection,
+                                                     const std::vector<FileDescriptor>& files);
 
 } // namespace LinuxDesktop::EmailPortal

@@ -1,6 +1,7 @@
 #include "platform/linux/mailing/ZipArchive.h"
 
 #include "platform/linux/mailing/MailableName.h"
+#include "platform/linux/mailing/SparingFile.h"
 #include "platform/linux/system/Complaint.h"
 #include "platform/linux/system/FileDescriptor.h"
 
@@ -17,6 +18,8 @@
 #include <memory>
 #include <string_view>
 #include <sys/stat.h>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 namespace LinuxDesktop {
@@ -24,6 +27,13 @@ namespace LinuxDesktop {
 namespace {
 
 constexpr std::size_t bufferSize = std::size_t{256} * 1024;
+/// So many of the items that cannot be packed are told by name.
+constexpr std::size_t mostNamed = 4;
+
+std::string reasonOf(int error)
+{
+    return std::generic_category().message(error);
+}
 
 struct Closer {
     void operator()(archive* writer) const { archive_write_free(writer); }
@@ -59,16 +69,24 @@ private:
 /// A folder on its way into an archive.
 class Packing {
 public:
-    Packing(const std::string& folder, const std::string& name, const std::string& archive, FileDescriptor file)
-        : m_folder(folder), m_name(name), m_archive(archive), m_file(std::move(file)), m_writer(archive_write_new()),
-          m_entry(archive_entry_new()), m_buffer(bufferSize)
+    Packing(const std::string& folder, const std::string& name, const std::string& archive,
+            AttachingProgress& progress)
+        : m_folder(folder), m_name(name), m_archive(archive), m_progress(progress), m_file(archive),
+          m_writer(archive_write_new()), m_entry(archive_entry_new()), m_buffer(bufferSize)
     {}
 
-    [[nodiscard]] bool run() { return open() && addTree() && finish(); }
+    /// Nothing when the archive is there, with everything in it.
+    [[nodiscard]] std::optional<AttachingFailure> run()
+    {
+        static_cast<void>(open() && addTree() && finish());
+        return std::move(m_failure);
+    }
 
 private:
     bool open()
     {
+        if (m_file.error() != 0)
+            return cannotWrite();
         archive_write_set_bytes_per_block(m_writer.get(), static_cast<int>(bufferSize));
         archive_write_set_bytes_in_last_block(m_writer.get(), 1);
         const bool opened = archive_write_set_format_zip(m_writer.get()) == ARCHIVE_OK &&
@@ -77,20 +95,10 @@ private:
     }
 
     /// The library's way to the file. It is never told of an error, since it would not clear up after one: an error
-    /// is kept, and ends the packing at the next question for it.
+    /// is kept by the file, and ends the packing at the next question for it.
     static la_ssize_t write(archive*, void* packing, const void* bytes, std::size_t size)
     {
-        auto& self = *static_cast<Packing*>(packing);
-        const auto* next = static_cast<const char*>(bytes);
-        for (std::size_t left = size; left > 0 && self.m_writeError == 0;) {
-            const ssize_t written = ::write(self.m_file.get(), next, left);
-            if (written < 0) {
-                self.m_writeError = errno == EINTR ? 0 : errno;
-                continue;
-            }
-            next += written;
-            left -= static_cast<std::size_t>(written);
-        }
+        static_cast<Packing*>(packing)->m_file.write(bytes, size);
         return static_cast<la_ssize_t>(size);
     }
 
@@ -103,21 +111,25 @@ private:
         };
         const Tree tree(fts_open(roots.data(), FTS_COMFOLLOW | FTS_PHYSICAL | FTS_NOCHDIR, byName));
         if (!tree)
-            return cannotRead(m_folder, errno);
+            return cannotReadFolder(errno);
         errno = 0;
         while (const FTSENT* node = fts_read(tree.get())) {
             if (!add(*node))
                 return false;
             errno = 0;
         }
-        return errno == 0 || cannotRead(m_folder, errno);
+        return errno == 0 || cannotReadFolder(errno);
     }
 
+    /// False when the packing is to end.
     bool add(const FTSENT& node)
     {
+        if (isCancelled())
+            return false;
         switch (node.fts_info) {
         case FTS_D:
-            return addFolder(node);
+            describe(node, *node.fts_statp);
+            return writeHeader(node);
         case FTS_DP:
             return true;
         case FTS_F:
@@ -128,31 +140,22 @@ private:
         case FTS_DNR:
         case FTS_NS:
         case FTS_ERR:
-            cannotRead(node.fts_path, node.fts_errno);
-            return node.fts_level > FTS_ROOTLEVEL;
+            if (node.fts_level == FTS_ROOTLEVEL)
+                return cannotReadFolder(node.fts_errno);
+            return leaveOut(node, reasonOf(node.fts_errno));
         case FTS_DC:
-            cannotRead(node.fts_path, ELOOP);
-            return true;
+            return leaveOut(node, reasonOf(ELOOP));
         default:
-            complain("leaving out", node.fts_path, "it is not a file");
-            return true;
+            return leaveOut(node, "it is not a file");
         }
-    }
-
-    bool addFolder(const FTSENT& node)
-    {
-        describe(node, *node.fts_statp);
-        return writeHeader(node);
     }
 
     bool addLink(const FTSENT& node)
     {
         std::array<char, PATH_MAX> target{};
         const ssize_t length = ::readlink(node.fts_accpath, target.data(), target.size() - 1);
-        if (length < 0) {
-            cannotRead(node.fts_path, errno);
-            return true;
-        }
+        if (length < 0)
+            return leaveOut(node, reasonOf(errno));
         describe(node, *node.fts_statp);
         archive_entry_copy_symlink(m_entry.get(), target.data());
         return writeHeader(node);
@@ -164,41 +167,40 @@ private:
         const FileDescriptor file(
             ::open(node.fts_accpath, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
         struct stat status = {};
-        if (!file || ::fstat(file.get(), &status) != 0) {
-            cannotRead(node.fts_path, errno);
-            return true;
-        }
-        if (!S_ISREG(status.st_mode) || isArchive(status))
+        if (!file || ::fstat(file.get(), &status) != 0)
+            return leaveOut(node, reasonOf(errno));
+        if (!S_ISREG(status.st_mode))
+            return leaveOut(node, "it is not a file");
+        if (m_file.is(status))
             return true;
         ssize_t length = ::read(file.get(), m_buffer.data(), m_buffer.size());
-        if (length < 0) {
-            cannotRead(node.fts_path, errno);
-            return true;
-        }
+        if (length < 0)
+            return leaveOut(node, reasonOf(errno));
 
         describe(node, status);
         archive_entry_set_size(m_entry.get(), status.st_size);
         if (!writeHeader(node))
             return false;
+        // What is known not to be sent is only looked at.
+        if (m_incomplete)
+            return true;
         // A file that grows meanwhile is taken at the size that its header has.
-        for (off_t left = status.st_size; length > 0 && left > 0;) {
+        for (off_t left = status.st_size; left > 0;) {
+            if (isCancelled())
+                return false;
+            if (length < 0)
+                return leaveOut(node, reasonOf(errno));
+            if (length == 0)
+                return leaveOut(node, "it became shorter");
             const auto part = static_cast<std::size_t>(std::min<off_t>(length, left));
             if (archive_write_data(m_writer.get(), m_buffer.data(), part) != static_cast<la_ssize_t>(part) ||
-                m_writeError != 0)
+                m_file.error() != 0)
                 return cannotWrite();
+            m_progress.bytes += part;
             left -= static_cast<off_t>(part);
             length = ::read(file.get(), m_buffer.data(), m_buffer.size());
-            if (length < 0)
-                return cannotRead(node.fts_path, errno);
         }
         return archive_write_finish_entry(m_writer.get()) >= ARCHIVE_WARN || cannotWrite();
-    }
-
-    [[nodiscard]] bool isArchive(const struct stat& status) const
-    {
-        struct stat archive = {};
-        return ::fstat(m_file.get(), &archive) == 0 && archive.st_dev == status.st_dev &&
-               archive.st_ino == status.st_ino;
     }
 
     void describe(const FTSENT& node, const struct stat& status)
@@ -209,72 +211,98 @@ private:
         archive_entry_set_mtime(m_entry.get(), status.st_mtim.tv_sec, status.st_mtim.tv_nsec);
     }
 
+    /// The node's path from the folder on.
+    [[nodiscard]] std::string_view pathBelow(const FTSENT& node) const
+    {
+        auto below = std::string_view(node.fts_path).substr(m_folder.size());
+        if (below.starts_with('/'))
+            below.remove_prefix(1);
+        return below;
+    }
+
     [[nodiscard]] std::string nameInArchive(const FTSENT& node) const
     {
-        const auto below = std::string_view(node.fts_path).substr(m_folder.size());
-        std::string name = m_name;
-        if (!below.empty() && below.front() != '/')
-            name += '/';
-        return name.append(below);
+        const auto below = pathBelow(node);
+        return below.empty() ? m_name : m_name + '/' + std::string(below);
     }
 
     bool writeHeader(const FTSENT& node)
     {
+        if (m_incomplete)
+            return true;
         const LocaleFor locale(archive_entry_pathname(m_entry.get()));
         const int result = archive_write_header(m_writer.get(), m_entry.get());
-        if (result == ARCHIVE_FATAL)
+        if (result == ARCHIVE_FATAL || m_file.error() != 0)
             return cannotWrite();
         if (result == ARCHIVE_FAILED)
-            return cannotRead(node.fts_path, archive_errno(m_writer.get()));
+            return leaveOut(node, reasonOf(archive_errno(m_writer.get())));
         return true;
     }
 
     bool finish()
     {
-        if (archive_write_close(m_writer.get()) != ARCHIVE_OK || m_writeError != 0)
-            return cannotWrite();
-        if (m_file.close())
-            return true;
-        m_writeError = errno;
-        return cannotWrite();
+        if (m_incomplete) {
+            m_failure = std::move(m_incomplete);
+            return false;
+        }
+        return (archive_write_close(m_writer.get()) == ARCHIVE_OK && m_file.close()) || cannotWrite();
+    }
+
+    bool isCancelled()
+    {
+        if (m_progress.cancelled)
+            m_failure = AttachingFailure{AttachingFailure::Kind::Cancelled};
+        return m_progress.cancelled;
+    }
+
+    /// Always true: the rest is looked at too, for whoever wants to know what else stands in the way.
+    bool leaveOut(const FTSENT& node, const std::string& reason)
+    {
+        if (!m_incomplete)
+            m_incomplete = AttachingFailure{AttachingFailure::Kind::Incomplete};
+        if (m_incomplete->leftOut.size() < mostNamed) {
+            m_incomplete->leftOut.push_back({std::string(pathBelow(node)), reason});
+            complain("cannot pack", node.fts_path, reason);
+        }
+        ++m_incomplete->leftOutCount;
+        return true;
+    }
+
+    bool cannotReadFolder(int error)
+    {
+        complain("cannot read", m_folder, error);
+        m_failure = AttachingFailure{AttachingFailure::Kind::Unreadable, reasonOf(error)};
+        return false;
     }
 
     bool cannotWrite()
     {
-        complain("cannot write", m_archive, m_writeError != 0 ? m_writeError : archive_errno(m_writer.get()));
-        return false;
-    }
-
-    static bool cannotRead(std::string_view path, int error)
-    {
-        complain("cannot read", path, error);
+        const int error = m_file.error() != 0 ? m_file.error() : archive_errno(m_writer.get());
+        complain("cannot write", m_archive, error);
+        m_failure = AttachingFailure::unwritable(error);
         return false;
     }
 
     const std::string& m_folder;
     const std::string& m_name;
     const std::string& m_archive;
-    FileDescriptor m_file;
+    AttachingProgress& m_progress;
+    SparingFile m_file;
     Writer m_writer;
     Entry m_entry;
     std::vector<char> m_buffer;
-    /// The errno value of the first write that failed.
-    int m_writeError = 0;
+    /// What keeps the archive from being made.
+    std::optional<AttachingFailure> m_failure;
+    /// What is missing in it, once something is.
+    std::optional<AttachingFailure> m_incomplete;
 };
 
 } // namespace
 
-bool zipFolder(const std::string& folder, const std::string& name, const std::string& archive)
+std::optional<AttachingFailure> zipFolder(const std::string& folder, const std::string& name,
+                                          const std::string& archive, AttachingProgress& progress)
 {
-    FileDescriptor file(::open(archive.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    if (!file) {
-        complain("cannot write", archive, errno);
-        return false;
-    }
-    if (Packing(folder, name, archive, std::move(file)).run())
-        return true;
-    ::unlink(archive.c_str());
-    return false;
+    return Packing(folder, name, archive, progress).run();
 }
 
 } // namespace LinuxDesktop

@@ -1,7 +1,7 @@
 #include "platform/linux/opening/OpenAddress.h"
 
 #include "platform/linux/bus/SessionBus.h"
-#include "platform/linux/opening/OpenPortal.h"
+#include "platform/linux/portal/PortalRequest.h"
 #include "platform/linux/system/Command.h"
 
 #include <QCoreApplication>
@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,6 +24,8 @@ using namespace std::chrono_literals;
 
 /// Whoever has no program for an address says so sooner; a browser that is started may run for hours.
 constexpr std::chrono::milliseconds patience = 1s;
+/// Enough for a portal that has to be started first.
+constexpr std::chrono::milliseconds portalPatience = 3s;
 
 /// Where nobody is registered for an address, xdg-open hands it to a browser, whatever its scheme.
 std::vector<std::string> environmentFor(const std::string& address)
@@ -48,12 +51,15 @@ void clearAwayWhenEnded(Command::Process started)
     });
 }
 
-bool openByCommand(const std::string& address)
+std::optional<Command::Process> startCommand(const std::string& address)
 {
     const auto command = Command::find("xdg-open");
-    if (!command)
-        return false;
-    auto process = Command::start(*command, {"xdg-open", address}, environmentFor(address));
+    return command ? Command::start(*command, {"xdg-open", address}, environmentFor(address)) : std::nullopt;
+}
+
+bool openByCommand(const std::string& address)
+{
+    auto process = startCommand(address);
     if (!process)
         return false;
     QEventLoop loop;
@@ -72,14 +78,49 @@ bool openByCommand(const std::string& address)
     return true;
 }
 
+/// Leaves an answer that the user is asked for to come later.
+void lookAfter(std::unique_ptr<PortalRequest> request, const std::string& address)
+{
+    auto* asked = request.release();
+    asked->setParent(QCoreApplication::instance());
+    QObject::connect(asked, &PortalRequest::answered, asked, [asked, address](PortalRequest::Answer answer) {
+        asked->deleteLater();
+        if (answer != PortalRequest::Answer::Failed)
+            return;
+        if (auto process = startCommand(address))
+            clearAwayWhenEnded(std::move(*process));
+    });
+}
+
+/// What the portal answered; nothing while the user is still being asked.
+std::optional<PortalRequest::Answer> openByPortal(const QDBusConnection& connection, const std::string& address)
+{
+    const QString noParentWindow = QStringLiteral("");
+    auto request = std::make_unique<PortalRequest>(
+        connection, QStringLiteral("org.freedesktop.portal.OpenURI"), QStringLiteral("OpenURI"),
+        QVariantList{noParentWindow, QString::fromStdString(address)}, QVariantMap{}, portalPatience);
+    QEventLoop loop;
+    std::optional<PortalRequest::Answer> answer;
+    QObject::connect(request.get(), &PortalRequest::answered, &loop, [&](PortalRequest::Answer given) {
+        answer = given;
+        loop.quit();
+    });
+    QObject::connect(request.get(), &PortalRequest::taken, &loop,
+                     [&loop] { QTimer::singleShot(patience, &loop, &QEventLoop::quit); });
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!answer)
+        lookAfter(std::move(request), address);
+    return answer;
+}
+
 } // namespace
 
 bool openAddress(SessionBus& bus, const std::string& address)
 {
     if (const auto connection = bus.connection()) {
-        OpenPortal portal(*connection);
-        if (const auto opened = portal.open(QString::fromStdString(address), patience))
-            return *opened;
+        const auto answer = openByPortal(*connection, address);
+        if (answer != PortalRequest::Answer::Failed)
+            return answer != PortalRequest::Answer::Cancelled;
     }
     return openByCommand(address);
 }

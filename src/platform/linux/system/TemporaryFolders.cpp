@@ -17,13 +17,12 @@ namespace {
 
 constexpr std::string_view rootPrefix = "orvik-menu-mail-";
 
-std::string baseFolder()
+/// For the caller to find after the complaint.
+void complainOf(const std::string& what, const std::string& path)
 {
-    if (const char* folder = std::getenv("XDG_RUNTIME_DIR"); folder && *folder == '/')
-        return folder;
-    std::error_code error;
-    const auto folder = std::filesystem::temp_directory_path(error);
-    return error ? "/tmp" : folder.native();
+    const int error = errno;
+    complain(what, path, error);
+    errno = error;
 }
 
 /// The folder, open and locked; nothing when it is not the user's own folder or another process has it.
@@ -62,16 +61,25 @@ TemporaryFolders::~TemporaryFolders()
         removeTree(m_root);
 }
 
+std::string TemporaryFolders::place()
+{
+    if (const char* folder = std::getenv("XDG_RUNTIME_DIR"); folder && *folder == '/')
+        return folder;
+    std::error_code error;
+    const auto folder = std::filesystem::temp_directory_path(error);
+    return error ? "/tmp" : folder.native();
+}
+
 std::optional<std::string> TemporaryFolders::make()
 {
     const std::lock_guard guard(m_mutex);
     if (!m_lock && !makeRoot()) {
-        complain("cannot make a folder in", baseFolder(), errno);
+        complainOf("cannot make a folder in", place());
         return std::nullopt;
     }
     std::string folder = m_root + '/' + std::to_string(++m_made);
     if (::mkdir(folder.c_str(), S_IRWXU) != 0) {
-        complain("cannot make", folder, errno);
+        complainOf("cannot make", folder);
         return std::nullopt;
     }
     return folder;
@@ -82,7 +90,7 @@ bool TemporaryFolders::makeRoot()
     // Between making and locking it another process may take the folder for a leftover: then it is made again.
     constexpr int attempts = 10;
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        std::string root = baseFolder() + '/' + std::string(rootPrefix) + "XXXXXX";
+        std::string root = place() + '/' + std::string(rootPrefix) + "XXXXXX";
         if (!::mkdtemp(root.data()))
             return false;
         auto lock = lockFolder(root);
@@ -99,7 +107,7 @@ bool TemporaryFolders::makeRoot()
 void TemporaryFolders::removeLeftovers()
 {
     std::error_code error;
-    for (std::filesystem::directory_iterator entry(baseFolder(), error), end; !error && entry != end;
+    for (std::filesystem::directory_iterator entry(place(), error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string path = entry->path().native();
         if (entry->path().filename().native().starts_with(rootPrefix))

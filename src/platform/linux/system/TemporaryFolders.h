@@ -18,7 +18,10 @@ public:
     TemporaryFolders(const TemporaryFolders&) = delete;
     TemporaryFolders& operator=(const TemporaryFolders&) = delete;
 
-    /// A new, empty folder that only the user may enter. Nothing, and a complaint, when it cannot be made.
+    /// The folder that they are made in.
+    [[nodiscard]] static std::string place();
+
+    /// A new, empty folder that only the user may enter. Nothing, with errno and a complaint, when it cannot be made.
     [[nodiscard]] std::optional<std::string> make();
 
     /// Removes the folders of processes that were killed. Those of processes that run are left alone.

@@ -1,0 +1,75 @@
+#include "platform/linux/mailing/PreparingWindow.h"
+
+#include "platform/linux/mailing/MailText.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <chrono>
+
+namespace LinuxDesktop {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int contentWidth = 380;
+
+} // namespace
+
+PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progress)
+    : m_progress(progress), m_bytes(new QLabel(this))
+{
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setWindowTitle(MailText::windowTitle);
+    const QString text = QStringLiteral("Preparing %1 for sending…").arg(names);
+    setAccessibleName(text);
+
+    auto* what = new QLabel(text, this);
+    what->setTextFormat(Qt::PlainText);
+    what->setWordWrap(true);
+    what->setFixedWidth(contentWidth);
+    auto* bar = new QProgressBar(this);
+    // How much there is to do is not known beforehand.
+    bar->setRange(0, 0);
+    bar->setTextVisible(false);
+    bar->setAccessibleName(text);
+    m_bytes->setForegroundRole(QPalette::PlaceholderText);
+    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
+    connect(cancel, &QPushButton::clicked, this, &PreparingWindow::reject);
+
+    auto* lower = new QHBoxLayout;
+    lower->addWidget(m_bytes);
+    lower->addStretch();
+    lower->addWidget(cancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setSpacing(12);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(what);
+    layout->addWidget(bar);
+    layout->addLayout(lower);
+
+    auto* tick = new QTimer(this);
+    connect(tick, &QTimer::timeout, this, &PreparingWindow::showProgress);
+    tick->start(200ms);
+    showProgress();
+}
+
+void PreparingWindow::showProgress()
+{
+    m_bytes->setText(QLocale().formattedDataSize(static_cast<qint64>(m_progress.bytes.load())));
+}
+
+void PreparingWindow::reject()
+{
+    m_progress.cancelled = true;
+    QDialog::reject();
+}
+
+} // namespace LinuxDesktop
