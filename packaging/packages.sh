@@ -48,6 +48,8 @@ packages_tests_desktop=(
   python3-gi
   python3-pyatspi
   util-linux
+  xdg-desktop-portal
+  xdg-desktop-portal-gtk
 )
 
 packages_bench=(

@@ -55,18 +55,32 @@ class About(DesktopTestCase):
         self.assertEqual(self.opened_by_portal(), [PAGES["Web Site"]])
         self.assertEqual(opened(), [])
 
-    def test_an_address_that_the_portal_did_not_open_is_not_told_as_opened(self):
-        opened = install_handler(self.home, "x-scheme-handler/http")
+    def press_where_the_portal_answers(self, answer):
         self.start_portal()
-        for answer in (1, 2):
-            with self.subTest(answer=answer):
-                self.answer_openings(answer)
-                self.start()
-                self.press_button("Web Site")
-                eventually(lambda: len(self.opened_by_portal()) == answer, "the portal to be asked")
-                throughout(lambda: self.panel.standard_output() == b"", "nothing is said", A_MOMENT)
-                self.panel.close()
+        self.answer_openings(answer)
+        self.start()
+        self.press_button("Web Site")
+        eventually(self.opened_by_portal, "the portal to be asked")
+
+    def test_an_address_that_the_person_refused_at_the_portal_is_not_opened(self):
+        opened = install_handler(self.home, "x-scheme-handler/http")
+        self.press_where_the_portal_answers(1)
+
+        throughout(lambda: self.panel.standard_output() == b"", "nothing is said", A_MOMENT)
         self.assertEqual(opened(), [])
+
+    def test_an_address_that_the_portal_could_not_open_is_opened_without_it(self):
+        opened = install_handler(self.home, "x-scheme-handler/http")
+        self.press_where_the_portal_answers(2)
+
+        self.assertEventuallyEqual(opened, [PAGES["Web Site"]])
+        self.assertEventuallyEqual(self.panel.standard_output, OPENED)
+
+    def test_an_address_that_neither_portal_nor_browser_opens_is_not_told_as_opened(self):
+        install_handler(self.home)
+        self.press_where_the_portal_answers(2)
+
+        throughout(lambda: self.panel.standard_output() == b"" and self.panel.is_running(), "nothing is said", 2.0)
 
     def test_without_a_browser_nothing_is_said(self):
         install_handler(self.home)

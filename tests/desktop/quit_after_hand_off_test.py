@@ -4,7 +4,9 @@ import os
 import time
 import unittest
 
+from support import portal
 from support.case import DesktopTestCase
+from support.mail import CommandMessages
 from support.panel import CHOOSER
 from support.waiting import eventually
 
@@ -37,6 +39,25 @@ class QuitAfterHandOff(DesktopTestCase):
         self.assertLess(waited, 23)
         self.assertEqual(len(messages.all()), 1)
         self.assertEqual(self.archives(), [])
+
+    def test_the_process_ends_after_twenty_seconds_whether_or_not_the_portal_answers(self):
+        self.start_portal()
+        self.answer_mail(portal.SILENCE)
+        commands = CommandMessages(self.home.install_mail_command())
+        self.suite.write_request(self.home.make_file("Report.pdf", b"report"))
+        panel = self.start_panel()
+        panel.chooser()
+        self.hands.press("Return")
+        eventually(lambda: not panel.shows(CHOOSER), "the chooser to go")
+        handed_over = time.monotonic()
+
+        self.assertEqual(panel.wait_for_end(within=25), 0)
+
+        waited = time.monotonic() - handed_over
+        self.assertGreater(waited, 19)
+        self.assertLess(waited, 22)
+        # Long before the end the portal was given up.
+        self.assertEqual(commands.only().attachments, [b"report"])
 
 
 if __name__ == "__main__":

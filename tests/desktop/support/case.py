@@ -131,6 +131,11 @@ class DesktopTestCase(unittest.TestCase):
         call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "AnswerOpening",
              GLib.Variant("(u)", (answer,)))
 
+    def answer_mail(self, answer):
+        """The same for messages, or `portal.SILENCE`."""
+        call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "AnswerMail",
+             GLib.Variant("(u)", (answer,)))
+
     def opened_by_portal(self):
         return call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "Opened")[0]
 

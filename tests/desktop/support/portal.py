@@ -25,6 +25,8 @@ _OPEN = "org.freedesktop.portal.OpenURI"
 _REQUEST = "org.freedesktop.portal.Request"
 # What a test asks of the stand-in itself.
 TESTING = "com.orvikstudio.Testing"
+# The answer of a portal that hangs.
+SILENCE = 99
 
 _COLOR_SCHEME = ("org.freedesktop.appearance", "color-scheme")
 
@@ -36,10 +38,29 @@ class Portal(dbus.service.Object):
         self._color_scheme = color_scheme
         self._messages = 0
         self._answer = 0
+        self._mail_answer = 0
         self._opened = []
 
-    @dbus.service.method(_MAIL, in_signature="sa{sv}", out_signature="o")
-    def ComposeEmail(self, parent, options):
+    def _respond(self, sender, options, answer):
+        """The handle of a request that is answered soon."""
+        request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options.get('handle_token', 'unnamed')}"
+        response = dbus.lowlevel.SignalMessage(request, _REQUEST, "Response")
+        response.append(dbus.UInt32(answer), dbus.Dictionary({}, signature="sv"), signature="ua{sv}")
+        response.set_destination(sender)
+        GLib.idle_add(lambda: self.connection.send_message(response) and False)
+        return request
+
+    @dbus.service.method(_MAIL, in_signature="sa{sv}", out_signature="o", sender_keyword="sender",
+                         async_callbacks=("taken", "refused"))
+    def ComposeEmail(self, parent, options, sender, taken, refused):
+        if self._mail_answer == SILENCE:
+            self._asked_in_vain = refused
+            return
+        if self._mail_answer == 0:
+            self._keep(parent, options)
+        taken(self._respond(sender, options, self._mail_answer))
+
+    def _keep(self, parent, options):
         self._messages += 1
         unfinished = os.path.join(self._folder, "unfinished")
         os.mkdir(unfinished)
@@ -52,7 +73,6 @@ class Portal(dbus.service.Object):
         with open(f"{unfinished}/message.json", "w", encoding="ascii") as file:
             json.dump({"parent": str(parent), "options": sorted(options), "names": names}, file)
         os.rename(unfinished, os.path.join(self._folder, str(self._messages)))
-        return f"{PATH}/request/{self._messages}"
 
     @dbus.service.method(dbus.PROPERTIES_IFACE, in_signature="ss", out_signature="v")
     def Get(self, interface, name):
@@ -76,17 +96,17 @@ class Portal(dbus.service.Object):
     @dbus.service.method(_OPEN, in_signature="ssa{sv}", out_signature="o", sender_keyword="sender")
     def OpenURI(self, parent, address, options, sender):
         self._opened.append(str(address))
-        request = f"{PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
-        answer = dbus.lowlevel.SignalMessage(request, _REQUEST, "Response")
-        answer.append(dbus.UInt32(self._answer), dbus.Dictionary({}, signature="sv"), signature="ua{sv}")
-        answer.set_destination(sender)
-        GLib.idle_add(lambda: self.connection.send_message(answer) and False)
-        return request
+        return self._respond(sender, options, self._answer)
 
     @dbus.service.method(TESTING, in_signature="u")
     def AnswerOpening(self, answer):
         """0: opened, 1: the person said no, 2: it failed."""
         self._answer = answer
+
+    @dbus.service.method(TESTING, in_signature="u")
+    def AnswerMail(self, answer):
+        """The same numbers for mail, or SILENCE."""
+        self._mail_answer = answer
 
     @dbus.service.method(TESTING, out_signature="as")
     def Opened(self):

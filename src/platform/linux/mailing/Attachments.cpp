@@ -123,7 +123,7 @@ std::optional<std::string> Attachments::copy(const std::string& path)
 
 std::optional<std::string> Attachments::temporaryFile(const std::string& name)
 {
-    const auto folder = m_folders.make();
+    const auto folder = m_folders->make();
     if (!folder)
         return fail(AttachingFailure::unwritable(errno));
     m_temporary = true;
@@ -133,6 +133,7 @@ std::optional<std::string> Attachments::temporaryFile(const std::string& name)
 std::nullopt_t Attachments::fail(AttachingFailure failure)
 {
     m_failure = std::move(failure);
+    m_folders.reset();
     return std::nullopt;
 }
 

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace LinuxDesktop {
@@ -22,7 +23,7 @@ public:
     /// Copies those whose names would not reach a mail program through a command.
     void makeMailable();
 
-    /// Why make() or makeMailable() did not do it; there is nothing to send then.
+    /// Why make() or makeMailable() did not do it; there is nothing to send then, and nothing is left behind.
     [[nodiscard]] const std::optional<AttachingFailure>& failure() const { return m_failure; }
     [[nodiscard]] const std::vector<std::string>& items() const { return m_items; }
     /// The files, and the same open for reading.
@@ -44,7 +45,7 @@ private:
     std::vector<std::string> m_items;
     std::vector<std::string> m_paths;
     std::vector<FileDescriptor> m_files;
-    TemporaryFolders m_folders;
+    std::optional<TemporaryFolders> m_folders{std::in_place};
     bool m_temporary = false;
     std::optional<AttachingFailure> m_failure;
 };

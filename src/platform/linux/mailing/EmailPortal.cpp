@@ -2,9 +2,7 @@
 
 #include <QDBusError>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
-#include <QEventLoop>
 #include <QVariantMap>
 
 #include <chrono>
@@ -30,11 +28,8 @@ bool exists(const QDBusConnection& connection)
 {
     QDBusMessage call = portalCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call << interface() << QStringLiteral("version");
-    const QDBusPendingCallWatcher reply(connection.asyncCall(call, static_cast<int>(startPatience.count())));
-    QEventLoop loop;
-    QObject::connect(&reply, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return !reply.isError() || reply.error().type() == QDBusError::NoReply;
+    const QDBusMessage reply = connection.call(call, QDBus::Block, static_cast<int>(startPatience.count()));
+    return reply.type() == QDBusMessage::ReplyMessage || QDBusError(reply).type() == QDBusError::NoReply;
 }
 
 std::unique_ptr<PortalRequest> compose(const QDBusConnection& connection, const std::vector<FileDescriptor>& files)

@@ -11,8 +11,7 @@
 /// The desktop's e-mail portal. Main thread.
 namespace LinuxDesktop::EmailPortal {
 
-/// Whether there is one; a portal that does not answer is there. Handles other events for up to 5 seconds while the
-/// bus starts it, but not the user's input.
+/// Whether there is one; a portal that does not answer is there. Blocks while the bus starts it, 5 seconds at most.
 [[nodiscard]] bool exists(const QDBusConnection& connection);
 
 /// Asks for a new message with these open files attached.

@@ -19,6 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int contentWidth = 380;
+constexpr int barHeight = 8;
 
 } // namespace
 
@@ -38,6 +39,7 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
     // How much there is to do is not known beforehand.
     bar->setRange(0, 0);
     bar->setTextVisible(false);
+    bar->setFixedHeight(barHeight);
     bar->setAccessibleName(text);
     m_bytes->setForegroundRole(QPalette::PlaceholderText);
     auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);

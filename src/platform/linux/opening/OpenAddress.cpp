@@ -51,15 +51,12 @@ void clearAwayWhenEnded(Command::Process started)
     });
 }
 
-std::optional<Command::Process> startCommand(const std::string& address)
-{
-    const auto command = Command::find("xdg-open");
-    return command ? Command::start(*command, {"xdg-open", address}, environmentFor(address)) : std::nullopt;
-}
-
 bool openByCommand(const std::string& address)
 {
-    auto process = startCommand(address);
+    const auto command = Command::find("xdg-open");
+    if (!command)
+        return false;
+    auto process = Command::start(*command, {"xdg-open", address}, environmentFor(address));
     if (!process)
         return false;
     QEventLoop loop;
@@ -78,38 +75,25 @@ bool openByCommand(const std::string& address)
     return true;
 }
 
-/// Leaves an answer that the user is asked for to come later.
-void lookAfter(std::unique_ptr<PortalRequest> request, const std::string& address)
-{
-    auto* asked = request.release();
-    asked->setParent(QCoreApplication::instance());
-    QObject::connect(asked, &PortalRequest::answered, asked, [asked, address](PortalRequest::Answer answer) {
-        asked->deleteLater();
-        if (answer != PortalRequest::Answer::Failed)
-            return;
-        if (auto process = startCommand(address))
-            clearAwayWhenEnded(std::move(*process));
-    });
-}
-
-/// What the portal answered; nothing while the user is still being asked.
+/// The user is handled once the portal had the time to open the address without asking: from then on it is them
+/// that the answer waits for. No answer comes where the program ends first.
 std::optional<PortalRequest::Answer> openByPortal(const QDBusConnection& connection, const std::string& address)
 {
     const QString noParentWindow = QStringLiteral("");
-    auto request = std::make_unique<PortalRequest>(
-        connection, QStringLiteral("org.freedesktop.portal.OpenURI"), QStringLiteral("OpenURI"),
-        QVariantList{noParentWindow, QString::fromStdString(address)}, QVariantMap{}, portalPatience);
+    const PortalRequest request(connection, QStringLiteral("org.freedesktop.portal.OpenURI"),
+                                QStringLiteral("OpenURI"), {noParentWindow, QString::fromStdString(address)}, {},
+                                portalPatience);
     QEventLoop loop;
     std::optional<PortalRequest::Answer> answer;
-    QObject::connect(request.get(), &PortalRequest::answered, &loop, [&](PortalRequest::Answer given) {
+    QObject::connect(&request, &PortalRequest::answered, &loop, [&](PortalRequest::Answer given) {
         answer = given;
         loop.quit();
     });
-    QObject::connect(request.get(), &PortalRequest::taken, &loop,
+    QObject::connect(&request, &PortalRequest::taken, &loop,
                      [&loop] { QTimer::singleShot(patience, &loop, &QEventLoop::quit); });
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     if (!answer)
-        lookAfter(std::move(request), address);
+        loop.exec();
     return answer;
 }
 
@@ -120,7 +104,7 @@ bool openAddress(SessionBus& bus, const std::string& address)
     if (const auto connection = bus.connection()) {
         const auto answer = openByPortal(*connection, address);
         if (answer != PortalRequest::Answer::Failed)
-            return answer != PortalRequest::Answer::Cancelled;
+            return answer == PortalRequest::Answer::Done;
     }
     return openByCommand(address);
 }
