@@ -1,6 +1,7 @@
 """The end of a process that was started only to send an item by mail."""
 
 import os
+import signal
 import time
 import unittest
 
@@ -8,7 +9,7 @@ from support import portal
 from support.case import DesktopTestCase
 from support.mail import CommandMessages
 from support.panel import CHOOSER
-from support.waiting import eventually
+from support.waiting import eventually, throughout
 
 
 class QuitAfterHandOff(DesktopTestCase):
@@ -38,6 +39,23 @@ class QuitAfterHandOff(DesktopTestCase):
         self.assertGreater(waited, 19)
         self.assertLess(waited, 23)
         self.assertEqual(len(messages.all()), 1)
+        self.assertEqual(self.archives(), [])
+
+    def test_a_process_that_keeps_an_archive_for_the_mail_program_ends_when_it_is_asked_twice(self):
+        messages = self.start_portal()
+        folder = os.path.join(self.home.files, "Photos")
+        os.mkdir(folder)
+        self.suite.write_request(folder)
+        panel = self.start_panel()
+        panel.chooser()
+        self.hands.press("Return")
+        messages.only()
+        panel.send(signal.SIGTERM)
+        throughout(lambda: panel.is_running() and self.archives(), "the archive is kept", 1.0)
+
+        panel.send(signal.SIGTERM)
+
+        self.assertEqual(panel.wait_for_end(within=5), 0)
         self.assertEqual(self.archives(), [])
 
     def test_the_process_ends_after_twenty_seconds_whether_or_not_the_portal_answers(self):
