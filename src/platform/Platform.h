@@ -65,8 +65,8 @@ public:
     [[nodiscard]] virtual Date now() = 0;
     /// Calls `perform` once on the main thread, `delay` seconds from now; after a modal panel that runs then.
     virtual void performAfterDelay(std::function<void()> perform, double delay) = 0;
-    /// Calls `fire` on the main thread every `interval` seconds, the first time one interval from now. Turns that
-    /// fall into a modal panel are left out.
+    /// Calls `fire` on the main thread every `interval` seconds, the first time one interval from now. Of the turns
+    /// that fall into a modal panel one comes, after it.
     [[nodiscard]] virtual std::shared_ptr<Timer> scheduledTimerWithTimeInterval(double interval,
                                                                                 std::function<void()> fire) = 0;
     /// Calls `work` soon on a background thread. Any thread.

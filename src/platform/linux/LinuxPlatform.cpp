@@ -2,7 +2,6 @@
 
 #include "platform/FatalError.h"
 #include "platform/linux/EmptyDefaults.h"
-#include "platform/linux/WidgetTimer.h"
 #include "platform/linux/bookmarks/FolderBookmark.h"
 #include "platform/linux/chooser/FileChooser.h"
 #include "platform/linux/mailing/ComposeEmail.h"
@@ -13,7 +12,7 @@
 #include "platform/linux/text/FileNameText.h"
 #include "settings/Deployment.h"
 
-#include <QCoreApplication>
+#include <QPointer>
 #include <QRandomGenerator>
 #include <QTimer>
 
@@ -43,6 +42,17 @@ std::chrono::milliseconds milliseconds(double seconds)
 {
     return std::chrono::milliseconds(std::llround(seconds * 1000.0));
 }
+
+/// A repeating timer of the main event loop. Main thread.
+class RepeatingTimer : public NS::Timer {
+public:
+    explicit RepeatingTimer(QPointer<QTimer> timer) : m_timer(std::move(timer)) {}
+
+    void invalidate() override { delete m_timer.data(); }
+
+private:
+    QPointer<QTimer> m_timer;
+};
 
 } // namespace
 
@@ -124,23 +134,41 @@ NS::Date LinuxPlatform::now()
 
 void LinuxPlatform::performAfterDelay(std::function<void()> perform, double delay)
 {
-    QTimer::singleShot(milliseconds(delay), Qt::PreciseTimer, &m_timers, [this, perform = std::move(perform)] {
-        if (m_modalState.active())
-            m_heldBack.push_back(perform);
-        else
-            perform();
+    QTimer::singleShot(milliseconds(delay), Qt::PreciseTimer, &m_timers,
+                       [this, perform = std::move(perform)] { performOutsidePanels(perform); });
+}
+
+std::shared_ptr<NS::Timer> LinuxPlatform::scheduledTimerWithTimeInterval(double interval, std::function<void()> fire)
+{
+    const QPointer timer = new QTimer(&m_timers);
+    timer->setTimerType(Qt::PreciseTimer);
+    // However many turns fall into a panel, one waits for its end.
+    const auto waits = std::make_shared<bool>(false);
+    const auto turn = [timer, waits, fire = std::move(fire)] {
+        *waits = false;
+        if (timer)
+            fire();
+    };
+    QObject::connect(timer, &QTimer::timeout, timer, [this, waits, turn] {
+        if (!std::exchange(*waits, true))
+            performOutsidePanels(turn);
     });
+    timer->start(milliseconds(interval));
+    return std::make_shared<RepeatingTimer>(timer);
+}
+
+void LinuxPlatform::performOutsidePanels(std::function<void()> perform)
+{
+    if (m_modalState.active())
+        m_heldBack.push_back(std::move(perform));
+    else
+        perform();
 }
 
 void LinuxPlatform::performHeldBack()
 {
     for (auto& perform : std::exchange(m_heldBack, {}))
-        dispatchToMainQueue(std::move(perform));
-}
-
-std::shared_ptr<NS::Timer> LinuxPlatform::scheduledTimerWithTimeInterval(double interval, std::function<void()> fire)
-{
-    return std::make_shared<WidgetTimer>(m_timers, m_modalState, milliseconds(interval), std::move(fire));
+        dispatchToMainQueue([this, perform = std::move(perform)] { performOutsidePanels(perform); });
 }
 
 void LinuxPlatform::dispatchToGlobalQueue(std::function<void()> work)

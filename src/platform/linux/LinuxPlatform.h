@@ -61,6 +61,8 @@ public:
     void dispatchToMainQueue(std::function<void()> work) override;
 
 private:
+    /// Now, or after the modal panel that runs.
+    void performOutsidePanels(std::function<void()> perform);
     void performHeldBack();
 
     const NS::ClassTable& m_classes;

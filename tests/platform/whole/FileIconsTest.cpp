@@ -1,24 +1,21 @@
-#include "platform/linux/LinuxPlatform.h"
+#include "WholePlatform.h"
+
 #include "platform/linux/scenes/ImageStore.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 using LinuxDesktop::ImageStore;
 using namespace Qt::StringLiterals;
 
-class FileIcons : public testing::Test {
+class FileIcons : public WholePlatform {
 protected:
     NS::Image iconFor(const QString& path) { return platform.sharedWorkspace().iconForFile(path.toStdString()); }
 
     QTemporaryDir folder;
-    NS::ClassTable classes;
-    LinuxDesktop::LinuxPlatform platform{classes, QStringLiteral("/nonexistent")};
 };
 
 TEST_F(FileIcons, AreThoseOfTheThemeForWhatIsThere)

@@ -1,8 +1,7 @@
-#include "platform/linux/LinuxPlatform.h"
+#include "WholePlatform.h"
+
 #include "showcase/PromotedApplications.h"
 #include "showcase/PromotionOrders.h"
-
-#include <gtest/gtest.h>
 
 #include <map>
 #include <set>
@@ -10,15 +9,7 @@
 
 namespace {
 
-/// The desktop's own platform, installed for the test.
-class ShowcaseNeeds : public testing::Test {
-protected:
-    ShowcaseNeeds() { NS::installPlatform(&platform); }
-    ~ShowcaseNeeds() override { NS::installPlatform(nullptr); }
-
-    NS::ClassTable classes;
-    LinuxDesktop::LinuxPlatform platform{classes, QStringLiteral("/nonexistent")};
-};
+using ShowcaseNeeds = WholePlatform;
 
 TEST_F(ShowcaseNeeds, EachOfTheNineOrdersIsAsLikelyAsTheOthers)
 {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/linux/LinuxPlatform.h"
+
+#include <gtest/gtest.h>
+
+/// The desktop's own platform, installed for the test, with no files of its own.
+class WholePlatform : public testing::Test {
+protected:
+    WholePlatform() { NS::installPlatform(&platform); }
+    ~WholePlatform() override { NS::installPlatform(nullptr); }
+
+    NS::ClassTable classes;
+    LinuxDesktop::LinuxPlatform platform{classes, QStringLiteral("/nonexistent")};
+};
