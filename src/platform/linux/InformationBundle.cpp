@@ -1,9 +1,6 @@
 #include "platform/linux/InformationBundle.h"
 
-#include "platform/linux/store/PropertyList.h"
-
-#include <fstream>
-#include <iterator>
+#include "platform/linux/store/Snapshot.h"
 
 namespace LinuxDesktop {
 
@@ -12,10 +9,10 @@ const std::optional<NS::Value::Dictionary>& InformationBundle::infoDictionary()
     if (m_read)
         return m_information;
     m_read = true;
-    std::ifstream file(m_folder + "/Info.plist", std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    if (const auto parsed = PropertyList::parse(bytes); parsed && parsed->dictionary())
-        m_information = *parsed->dictionary();
+    FileOperations files;
+    const Snapshot file = Snapshot::read(files, m_folder + "/Info.plist");
+    if (file.state() == Snapshot::State::Readable)
+        m_information = file.values();
     return m_information;
 }
 
