@@ -3,4 +3,7 @@
 #include "platform/TabViewController.h"
 
 /// The tabs of the start window, as their scene defines them.
-class tabviewcontroller : public NS::TabViewController {};
+class tabviewcontroller : public NS::TabViewController {
+public:
+    void viewDidLoad() override { NS::TabViewController::viewDidLoad(); }
+};

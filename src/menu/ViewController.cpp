@@ -62,6 +62,16 @@ void ViewController::checkboxActionWithSender(NS::Control& sender)
 
 void ViewController::btngetPermission(NS::Control&) {}
 
+const std::any& ViewController::representedObject() const
+{
+    return NS::ViewController::representedObject();
+}
+
+void ViewController::setRepresentedObject(std::any object)
+{
+    NS::ViewController::setRepresentedObject(std::move(object));
+}
+
 bool ViewController::panel_shouldEnableURL(NS::OpenPanel&, const NS::URL&)
 {
     return true;

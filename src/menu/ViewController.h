@@ -33,6 +33,9 @@ public:
     /// Deliberately does nothing.
     void btngetPermission(NS::Control& sender);
 
+    [[nodiscard]] const std::any& representedObject() const override;
+    void setRepresentedObject(std::any object) override;
+
     bool panel_shouldEnableURL(NS::OpenPanel& panel, const NS::URL& url) override;
 
     NS::Outlet<NS::TableView> tblview{"tblview"};

@@ -3,6 +3,7 @@
 #include "platform/Connections.h"
 #include "platform/Geometry.h"
 
+#include <any>
 #include <memory>
 #include <utility>
 
@@ -37,6 +38,13 @@ public:
     virtual void viewWillAppear() {}
     virtual void viewDidAppear() {}
     virtual void viewWillDisappear() {}
+
+    /// What the screen stands for, of any kind; empty until it is set. The platform keeps it and no more.
+    [[nodiscard]] virtual const std::any& representedObject() const { return m_representedObject; }
+    virtual void setRepresentedObject(std::any object) { m_representedObject = std::move(object); }
+
+private:
+    std::any m_representedObject;
 };
 
 } // namespace NS

@@ -1,11 +1,13 @@
 #include "mail/AttachToMail.h"
 
+#include "mail/SendEmail.h"
 #include "support/FakePlatform.h"
 #include "support/FatalLine.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <concepts>
 #include <limits>
 #include <string>
 #include <vector>
@@ -13,6 +15,9 @@
 namespace {
 
 using Lines = std::vector<std::string>;
+
+// Nothing ever makes one, but it could be made and would be a delegate.
+static_assert(std::derived_from<SendEmail, NS::SharingServiceDelegate> && std::default_initializable<SendEmail>);
 
 class AttachToMail : public testing::Test {
 protected:

@@ -5,6 +5,7 @@
 #include "support/AtAbort.h"
 #include "support/FatalLine.h"
 
+#include <any>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -352,6 +353,16 @@ TEST_F(MenuItemsScreen, AsAPanelsDelegateItEnablesEveryItem)
 
     for (const char* path : {"", "/", "/home/user/report.txt"})
         EXPECT_TRUE(made.panel_shouldEnableURL(*panel, NS::URL::fileURLWithPath(path)));
+}
+
+TEST_F(MenuItemsScreen, KeepsWhatItIsSaidToStandFor)
+{
+    ViewController made;
+    EXPECT_FALSE(made.representedObject().has_value());
+
+    made.setRepresentedObject(std::string("a document"));
+
+    EXPECT_EQ(std::any_cast<std::string>(made.representedObject()), "a document");
 }
 
 // What stops the program.
