@@ -90,13 +90,20 @@ class MailAtLaunch(DesktopTestCase):
         self.assertEqual(self.panel.wait_for_end(within=5), 0)
         self.assertEqual(self.messages.all(), [])
 
-    def test_a_termination_signal_ends_the_chooser_and_the_process(self):
-        self.start_with_request()
+    def test_the_signals_that_ask_to_end_do_so_without_the_panel_coming_up(self):
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(signal=number):
+                self.become_someone_new()
+                self.suite.write_request(self.path, theirs="stays")
+                self.panel = self.start_panel()
+                self.panel.chooser()
 
-        self.panel.send(signal.SIGTERM)
+                self.panel.send(number)
 
-        self.assertEqual(self.panel.wait_for_end(within=5), 0)
-        self.assertEqual(self.messages.all(), [])
+                self.assertEqual(self.panel.wait_for_end(), 0)
+                # The panel's window would have stored its record of the actions.
+                self.assertStored(0, theirs="stays")
+                self.assertEqual(self.messages.all(), [])
 
     def test_a_date_in_the_future_is_fresh(self):
         self.assertTrue(self.start_with_request(seconds_old=-60))

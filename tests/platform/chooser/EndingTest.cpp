@@ -31,22 +31,22 @@ struct Ending : testing::Test {
 
 } // namespace
 
-TEST_F(Ending, QuittingTheProgramAborts)
+TEST_F(Ending, QuittingTheProgramCancels)
 {
     const auto [answer, status] = runInProgram(chooser, [](const ShownChooser&) { QCoreApplication::quit(); });
-    EXPECT_EQ(answer, LinuxDesktop::ModalResponseAborted);
+    EXPECT_EQ(answer, NS::ModalResponseCancel);
     EXPECT_EQ(status, 0);
     EXPECT_FALSE(chooser.URL());
     EXPECT_FALSE(modal.active());
 }
 
-TEST_F(Ending, LeavingTheEventLoopsAborts)
+TEST_F(Ending, LeavingTheEventLoopsCancels)
 {
     const auto [answer, status] = runInProgram(chooser, [](const ShownChooser& shown) {
         QCoreApplication::exit(3);
         shown.dialog().hide();
     });
-    EXPECT_EQ(answer, LinuxDesktop::ModalResponseAborted);
+    EXPECT_EQ(answer, NS::ModalResponseCancel);
     EXPECT_EQ(status, 3);
 }
 

@@ -8,23 +8,6 @@ namespace LinuxDesktop {
 
 namespace {
 
-/// Notices that the program is asked to quit, which closes its windows as a user would.
-class QuitWatch : public QObject {
-public:
-    QuitWatch() { QCoreApplication::instance()->installEventFilter(this); }
-
-    [[nodiscard]] bool quitting() const { return m_quitting; }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        m_quitting = m_quitting || event->type() == QEvent::Quit;
-        return false;
-    }
-
-private:
-    bool m_quitting = false;
-};
-
 void showInFront(QDialog& dialog)
 {
     dialog.setWindowModality(Qt::ApplicationModal);
@@ -77,23 +60,18 @@ void FileChooser::setPrompt(std::string_view prompt)
 int FileChooser::runModal()
 {
     const ModalState::Session session(m_modalState);
-    const QuitWatch quit;
     FileChooserDialog dialog(m_settings);
     QEventLoop loop;
-    std::optional<int> answer;
-    QObject::connect(&dialog, &QDialog::finished, &loop, [&](int result) {
-        answer = result;
-        loop.quit();
-    });
+    QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
 
     showInFront(dialog);
     loop.exec();
 
-    if (answer == QDialog::Accepted) {
-        take(dialog);
-        return NS::ModalResponseOK;
-    }
-    return answer && !quit.quitting() ? NS::ModalResponseCancel : ModalResponseAborted;
+    // Rejected too where the end of the program ended the loop.
+    if (dialog.result() != QDialog::Accepted)
+        return NS::ModalResponseCancel;
+    take(dialog);
+    return NS::ModalResponseOK;
 }
 
 void FileChooser::beginSheetModalForWindow_completionHandler(NS::Window& parent, std::function<void(int)> handler)

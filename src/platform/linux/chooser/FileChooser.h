@@ -9,9 +9,6 @@
 
 namespace LinuxDesktop {
 
-/// runModal's answer when the program ended its event loop while the panel was shown.
-inline constexpr int ModalResponseAborted = -1001;
-
 /// The open panel as a window of this program. Needs a QApplication. Main thread.
 class FileChooser : public NS::OpenPanel {
 public:
