@@ -18,3 +18,7 @@ if(ORVIK_SANITIZE)
   target_compile_definitions(orvik_options INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(orvik_options INTERFACE -fsanitize=${ORVIK_SANITIZE})
 endif()
+
+# What the programs print for --version: whatever does not is not built anew for another one.
+add_library(orvik_version INTERFACE)
+target_compile_definitions(orvik_version INTERFACE ORVIK_VERSION="${PROJECT_VERSION}")

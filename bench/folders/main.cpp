@@ -3,6 +3,8 @@
 // how long a click on a checkbox takes, against a raw write of the same file.
 #include "app/ApplicationClasses.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/bus/ApplicationName.h"
+#include "platform/linux/bus/SessionBus.h"
 #include "platform/linux/scenes/RowList.h"
 #include "platform/linux/scenes/RowWidget.h"
 #include "platform/linux/scenes/TabPages.h"
@@ -134,7 +136,9 @@ Figures measure(int count, const std::string& folder)
 {
     ControllerRegistry registry;
     const NS::ClassTable classes = applicationClasses(registry);
-    LinuxPlatform platform(classes, QStringLiteral(ORVIK_RESOURCES));
+    SessionBus bus("");
+    ApplicationName name(bus, Deployment::applicationIdentifier);
+    LinuxPlatform platform(classes, QStringLiteral(ORVIK_RESOURCES), bus, name);
     NS::installPlatform(&platform);
     storeFolders(*platform.userDefaultsWithSuiteName(Deployment::suiteName), count);
     // Opens on the menu items, which warm up what every list needs.

@@ -32,7 +32,8 @@ void AppDelegate::applicationWillFinishLaunching()
     case AttachToMailOutcome::NoRequest:
         break;
     }
-    NS::platform().sharedApplication().setActivationPolicy(NS::ActivationPolicy::Regular);
+    if (!NS::platform().sharedApplication().setActivationPolicy(NS::ActivationPolicy::Regular))
+        return;
     // The controller shows its window itself.
     static_cast<void>(m_registry.controller<mainStartWindow>(ControllerIdentifier::mainStartWindow));
 }

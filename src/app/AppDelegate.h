@@ -13,6 +13,10 @@ public:
 
     void connect(NS::Connections& connections) override;
     void applicationWillFinishLaunching() override;
+    /// Deliberately does nothing.
+    void applicationDidFinishLaunching() override {}
+    /// Deliberately does nothing: every change is stored already.
+    void applicationWillTerminate() override {}
     /// A second start may have been made for a request; this process is the one to handle it.
     void applicationShouldHandleReopen_hasVisibleWindows(bool flag) override;
 

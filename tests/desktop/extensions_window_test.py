@@ -3,17 +3,18 @@
 import os
 import shutil
 import signal
-import subprocess
 import unittest
 
 from gi.repository import GLib
 
-from support.buses import call_bus
-from support.case import EXTENSION, DesktopTestCase
+from support.buses import call, call_bus
+from support.case import APPLICATION, EXTENSION, DesktopTestCase
 from support.waiting import eventually, throughout
 
 WINDOW = "Extensions"
 TITLE = "Orvik Menu Extension"
+# Of the window itself.
+WINDOW_NAME = APPLICATION + ".extensions"
 
 ON = "It is running, and it starts at log-in."
 OFF = "It is switched off."
@@ -161,6 +162,27 @@ class ExtensionsWindow(DesktopTestCase):
         first.active_window(WINDOW)
         self.assertFalse(self.windows.is_iconified(window))
 
+    def test_what_it_was_started_with_to_come_to_the_front_does_not_reach_the_companion(self):
+        self.start(XDG_ACTIVATION_TOKEN="a token", DESKTOP_STARTUP_ID="a start")
+        self.switch_on()
+
+        self.assertNoTokenIn(self.companion())
+
+    def test_a_token_that_no_program_could_be_started_with_is_not_taken(self):
+        self.start()
+        call(self.bus.connection, WINDOW_NAME, "/" + WINDOW_NAME.replace(".", "/"), "org.freedesktop.Application",
+             "Activate", GLib.Variant("(a{sv})", ({"activation-token": GLib.Variant("s", "x" * 200_000)},)))
+        self.switch_on()
+
+        self.assertNoTokenIn(self.companion())
+
+    def assertNoTokenIn(self, process):
+        with open(f"/proc/{process}/environ", "rb") as file:
+            environment = file.read()
+        self.assertIn(b"DISPLAY=", environment)
+        self.assertNotIn(b"XDG_ACTIVATION_TOKEN", environment)
+        self.assertNotIn(b"DESKTOP_STARTUP_ID", environment)
+
     def test_without_a_session_bus_the_switch_cannot_be_operated(self):
         # Without a bus there is no accessibility either, so the window is looked at from outside.
         program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-extensions"),
@@ -170,17 +192,6 @@ class ExtensionsWindow(DesktopTestCase):
         self.hands.press("Tab", "space")
         throughout(lambda: not os.path.exists(self.folder), "nothing is written", 0.3)
         self.assertEqual(program.complaints(), ["orvik-menu-extensions: there is no session bus"])
-
-    def test_it_explains_itself_without_a_display(self):
-        for option, beginning in (("--help", "Usage: orvik-menu-extensions"), ("--version", "orvik-menu-extensions ")):
-            answer = self.run_tool("orvik-menu-extensions", option)
-            self.assertEqual((answer.returncode, answer.stderr), (0, b""))
-            self.assertTrue(answer.stdout.decode().startswith(beginning))
-        with self.subTest("a wrong argument"):
-            answer = subprocess.run([os.path.join(self.programs, "orvik-menu-extensions"), "--loud"],
-                                    env=self.environment, check=False, capture_output=True, timeout=20)
-            self.assertEqual(answer.returncode, 2)
-            self.assertIn(b"unknown argument: --loud", answer.stderr)
 
 
 if __name__ == "__main__":

@@ -8,15 +8,19 @@ class FakeApplication : public NS::Application {
 public:
     explicit FakeApplication(CallLog& calls) : m_calls(calls) {}
 
-    void setActivationPolicy(NS::ActivationPolicy policy) override
+    bool setActivationPolicy(NS::ActivationPolicy policy) override
     {
         m_calls.record("application", "setActivationPolicy", policy);
+        return !runsAlready;
     }
     void activateIgnoringOtherApps(bool flag) override
     {
         m_calls.record("application", "activateIgnoringOtherApps", flag);
     }
     void terminate() override { m_calls.record("application", "terminate"); }
+
+    /// Whether another process is the program that shows windows.
+    bool runsAlready = false;
 
 private:
     CallLog& m_calls;

@@ -33,7 +33,7 @@ public:
     std::shared_ptr<NS::UserDefaults> userDefaultsWithSuiteName(std::string_view name) override;
     NS::UserDefaults& standardUserDefaults() override { return m_standardUserDefaults; }
     FakeDistributedNotificationCenter& defaultCenter() override { return m_center; }
-    NS::Application& sharedApplication() override { return m_application; }
+    FakeApplication& sharedApplication() override { return m_application; }
     FakeBundle& mainBundle() override { return m_bundle; }
     std::shared_ptr<NS::Storyboard> storyboardWithName_bundle(std::string_view name, NS::Bundle& bundle) override;
     std::unique_ptr<NS::OpenPanel> makeOpenPanel(NS::ChosenPaths paths) override;

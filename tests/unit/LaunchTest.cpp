@@ -147,6 +147,27 @@ TEST_F(Launch, IsNormalAfterAnyOtherAnswerOfThePanel)
     EXPECT_TRUE(platform.calls.startingWith("mail.").empty());
 }
 
+TEST_F(Launch, StopsBeforeAnyWindowWhenAnotherProcessHasBecomeTheApplication)
+{
+    platform.sharedApplication().runsAlready = true;
+
+    launch();
+
+    EXPECT_EQ(platform.calls.startingWith("application."), (Lines{"application.setActivationPolicy(0)"}));
+    EXPECT_TRUE(platform.calls.startingWithAnyOf({"storyboard.", "mainStartWindow.", "center."}).empty());
+}
+
+TEST_F(Launch, TheStepsThatFollowItDoNothing)
+{
+    launch();
+    platform.calls.clear();
+
+    delegate.applicationDidFinishLaunching();
+    delegate.applicationWillTerminate();
+
+    EXPECT_EQ(platform.calls.lines(), Lines{});
+}
+
 using LaunchDeathTest = Launch;
 
 TEST_F(LaunchDeathTest, AHandOffWithoutAMailServiceIsFatal)

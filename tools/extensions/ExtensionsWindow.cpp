@@ -21,7 +21,6 @@ constexpr int initialWidth = 620;
 ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& controls, const QIcon& icon)
 {
     setWindowTitle(QStringLiteral("Extensions"));
-    setWindowIcon(icon);
 
     auto* introduction = new QLabel(QStringLiteral("Extensions bring Orvik Menu into other programs."), this);
     introduction->setWordWrap(true);
@@ -46,14 +45,6 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
 
     setMinimumWidth(narrowest);
     resize(initialWidth, layout->totalHeightForWidth(initialWidth));
-}
-
-void ExtensionsWindow::comeToFront()
-{
-    if (isMinimized())
-        showNormal();
-    raise();
-    activateWindow();
 }
 
 bool ExtensionsWindow::event(QEvent* event)

@@ -14,11 +14,8 @@ class ExtensionsWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// The controls must outlive the window.
+    /// The controls must outlive the window. `icon` is shown beside each.
     ExtensionsWindow(const std::vector<ExtensionControl*>& controls, const QIcon& icon);
-
-    /// Brings it to the front, also where it is minimised.
-    void comeToFront();
 
 protected:
     bool event(QEvent* event) override;

@@ -1,51 +1,35 @@
 #include "platform/linux/DesktopApplication.h"
 
 #include "platform/linux/bus/ApplicationName.h"
+#include "platform/linux/program/Program.h"
 #include "platform/linux/scenes/MainWindow.h"
 
 #include <QApplication>
 #include <QWidget>
 
+#include <cstdlib>
 #include <utility>
 
 namespace LinuxDesktop {
 
-DesktopApplication::DesktopApplication(ApplicationName& name, ModalState& modalState, std::function<void()> reopened)
-    : m_name(name), m_modalState(modalState), m_reopened(std::move(reopened)),
-      m_modalEnd(modalState.whenEnded([this] { reopenIfItWaits(); }))
+DesktopApplication::DesktopApplication(ApplicationName& name, std::function<void()> reopened)
+    : m_name(name), m_reopened(std::move(reopened))
 {}
 
-void DesktopApplication::reopenIfItWaits()
-{
-    if (std::exchange(m_reopenWaits, false))
-        QMetaObject::invokeMethod(
-            qApp, [this] { reopen(); }, Qt::QueuedConnection);
-}
-
-void DesktopApplication::reopen()
-{
-    if (m_modalState.active())
-        m_reopenWaits = true;
-    else
-        m_reopened();
-}
-
-void DesktopApplication::setActivationPolicy(NS::ActivationPolicy policy)
+bool DesktopApplication::setActivationPolicy(NS::ActivationPolicy policy)
 {
     if (policy != NS::ActivationPolicy::Regular)
-        return;
-    m_name.whenActivated([this](const QString& activationToken) {
-        // Where the compositor guards the focus, the token is what lets a window come to the front.
-        if (!activationToken.isEmpty())
-            qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+        return true;
+    m_name.whenActivated([this] {
         activateIgnoringOtherApps(true);
-        reopen();
+        m_reopened();
     });
-    // Another process may have become the program since this one looked.
-    if (m_name.claim() == ApplicationName::Claim::OwnedByAnother) {
-        static_cast<void>(m_name.activateOther({}));
-        terminate();
-    }
+    if (m_name.claim() != ApplicationName::Claim::OwnedByAnother)
+        return true;
+    // Another process has become the program since this one looked.
+    static_cast<void>(m_name.activateOther({}));
+    terminate();
+    return false;
 }
 
 void DesktopApplication::activateIgnoringOtherApps(bool)
@@ -56,16 +40,23 @@ void DesktopApplication::activateIgnoringOtherApps(bool)
         front = MainWindow::front();
     if (!front)
         return;
-    if (front->isMinimized())
-        front->showNormal();
-    front->raise();
-    front->activateWindow();
+    bringToFront(*front);
 }
 
 void DesktopApplication::terminate()
 {
     m_terminated = true;
-    QCoreApplication::exit(0);
+    QCoreApplication::exit(EXIT_SUCCESS);
+}
+
+int DesktopApplication::run(NS::ApplicationDelegate& delegate)
+{
+    delegate.applicationWillFinishLaunching();
+    if (!m_terminated)
+        delegate.applicationDidFinishLaunching();
+    const int status = m_terminated ? EXIT_SUCCESS : QApplication::exec();
+    delegate.applicationWillTerminate();
+    return status;
 }
 
 } // namespace LinuxDesktop

@@ -56,13 +56,13 @@ private:
 
 } // namespace
 
-LinuxPlatform::LinuxPlatform(const NS::ClassTable& classes, const QString& resources)
+LinuxPlatform::LinuxPlatform(const NS::ClassTable& classes, const QString& resources, SessionBus& bus,
+                             ApplicationName& name)
     : m_classes(classes), m_standardDefaults(m_store.open(Deployment::applicationIdentifier)),
-      m_bundle(resources.toStdString()), m_images(resources + QStringLiteral("/Assets")),
-      m_bus("orvik-menu: no session bus: the panel works, but hears nothing of the extension"),
-      m_name(m_bus, Deployment::applicationIdentifier), m_center(m_bus, m_modalState), m_finderSync(m_bus),
-      m_workspace(m_bus), m_application(m_name, m_modalState,
-                                        [this] { m_delegate->applicationShouldHandleReopen_hasVisibleWindows(true); })
+      m_bundle(resources.toStdString()), m_images(resources + QStringLiteral("/Assets")), m_bus(bus),
+      m_center(bus, m_modalState), m_finderSync(bus), m_workspace(bus), m_application(name, [this] {
+          performSoonOutsidePanels([this] { m_delegate->applicationShouldHandleReopen_hasVisibleWindows(true); });
+      })
 {
     if (!m_standardDefaults)
         m_standardDefaults = std::make_shared<EmptyDefaults>();
@@ -165,10 +165,15 @@ void LinuxPlatform::performOutsidePanels(std::function<void()> perform)
         perform();
 }
 
+void LinuxPlatform::performSoonOutsidePanels(std::function<void()> perform)
+{
+    dispatchToMainQueue([this, perform = std::move(perform)] { performOutsidePanels(perform); });
+}
+
 void LinuxPlatform::performHeldBack()
 {
     for (auto& perform : std::exchange(m_heldBack, {}))
-        dispatchToMainQueue([this, perform = std::move(perform)] { performOutsidePanels(perform); });
+        performSoonOutsidePanels(std::move(perform));
 }
 
 void LinuxPlatform::dispatchToGlobalQueue(std::function<void()> work)

@@ -5,10 +5,8 @@
 #include "platform/linux/DesktopApplication.h"
 #include "platform/linux/DesktopWorkspace.h"
 #include "platform/linux/InformationBundle.h"
-#include "platform/linux/bus/ApplicationName.h"
 #include "platform/linux/bus/DistributedNotificationCenter.h"
 #include "platform/linux/bus/FinderSyncController.h"
-#include "platform/linux/bus/SessionBus.h"
 #include "platform/linux/scenes/ImageStore.h"
 #include "platform/linux/scenes/PointerShape.h"
 #include "platform/linux/scenes/SceneConnections.h"
@@ -23,15 +21,16 @@
 
 namespace LinuxDesktop {
 
+class ApplicationName;
+class SessionBus;
+
 /// The vocabulary on a freedesktop.org desktop. One a process, made after the QApplication. Main thread.
 class LinuxPlatform : public NS::Platform {
 public:
-    /// `resources` is the folder of the installed files. `classes` must outlive the platform.
-    LinuxPlatform(const NS::ClassTable& classes, const QString& resources);
+    /// `resources` is the folder of the installed files. The others must outlive the platform.
+    LinuxPlatform(const NS::ClassTable& classes, const QString& resources, SessionBus& bus, ApplicationName& name);
     ~LinuxPlatform() override;
 
-    [[nodiscard]] ApplicationName& applicationName() { return m_name; }
-    [[nodiscard]] SessionBus& sessionBus() { return m_bus; }
     [[nodiscard]] DesktopApplication& application() { return m_application; }
     /// Makes the application's delegate and connects it to the main storyboard.
     [[nodiscard]] NS::ApplicationDelegate& loadDelegate();
@@ -63,6 +62,8 @@ public:
 private:
     /// Now, or after the modal panel that runs.
     void performOutsidePanels(std::function<void()> perform);
+    /// The same from a later turn of the event loop.
+    void performSoonOutsidePanels(std::function<void()> perform);
     void performHeldBack();
 
     const NS::ClassTable& m_classes;
@@ -71,10 +72,8 @@ private:
     InformationBundle m_bundle;
     ImageStore m_images;
     ModalState m_modalState;
-    SessionBus m_bus;
-    // Before the name, so that the name is given back first: a folder that is being packed holds the end up.
+    SessionBus& m_bus;
     std::unique_ptr<NS::SharingService> m_composeEmail;
-    ApplicationName m_name;
     DistributedNotificationCenter m_center;
     FinderSyncController m_finderSync;
     DesktopWorkspace m_workspace;

@@ -4,12 +4,16 @@
 #include "Waiting.h"
 #include "platform/linux/system/ModalState.h"
 
+#include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QElapsedTimer>
 #include <QProcess>
 
 #include <csignal>
 #include <gtest/gtest.h>
 #include <optional>
+#include <string>
+#include <utility>
 
 using namespace LinuxDesktop;
 using namespace std::chrono_literals;
@@ -62,41 +66,93 @@ struct NamedApplication : testing::Test {
         return gdbus.exitCode();
     }
 
+    /// Owns the name, and notes the token that each activation gives to the window that it activates.
+    void claim()
+    {
+        m_name.whenActivated([this] { m_token = qgetenv("XDG_ACTIVATION_TOKEN"); });
+        ASSERT_EQ(m_name.claim(), ApplicationName::Claim::Owned);
+    }
+    /// Of the next activation.
+    QByteArray tokenOfActivation()
+    {
+        EXPECT_TRUE(waitUntil([this] { return m_token.has_value(); }));
+        return std::exchange(m_token, std::nullopt).value_or("no activation");
+    }
+    /// Activates the program as another one would.
+    void activate(const QVariantMap& platformData)
+    {
+        auto call =
+            QDBusMessage::createMethodCall(identifier, QStringLiteral("/org/example/two_part/Program"),
+                                           QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+        call << platformData;
+        SessionBus others("none");
+        QDBusPendingCall answer = others.connection()->asyncCall(call);
+        EXPECT_TRUE(waitUntil([&] { return answer.isFinished(); }));
+        EXPECT_FALSE(answer.isError());
+    }
+
     PrivateBus m_daemon;
     SessionBus m_bus{"none"};
     ApplicationName m_name{m_bus, identifier.toStdString()};
+    std::optional<QByteArray> m_token;
 };
 
 } // namespace
 
 TEST_F(NamedApplication, IsActivatedByASecondStartWithItsToken)
 {
-    std::optional<QString> token;
-    m_name.whenActivated([&](const QString& given) { token = given; });
-    ASSERT_EQ(m_name.claim(), ApplicationName::Claim::Owned);
+    claim();
     EXPECT_FALSE(m_name.ownedByAnother());
 
     SecondStart second("a token", "a startup id");
     EXPECT_EQ(second.nextLine(), "activated");
-    ASSERT_TRUE(waitUntil([&] { return token.has_value(); }));
-    EXPECT_EQ(*token, QStringLiteral("a token"));
+    EXPECT_EQ(tokenOfActivation(), "a token");
 }
 
 TEST_F(NamedApplication, TakesTheStartupIdWhereThereIsNoToken)
 {
-    std::optional<QString> token;
-    m_name.whenActivated([&](const QString& given) { token = given; });
-    ASSERT_EQ(m_name.claim(), ApplicationName::Claim::Owned);
-
+    claim();
     SecondStart second(nullptr, "a startup id");
-    ASSERT_TRUE(waitUntil([&] { return token.has_value(); }));
-    EXPECT_EQ(*token, QStringLiteral("a startup id"));
+    EXPECT_EQ(tokenOfActivation(), "a startup id");
+}
+
+TEST_F(NamedApplication, UsesATokenOnce)
+{
+    claim();
+    SecondStart first("a token");
+    EXPECT_EQ(tokenOfActivation(), "a token");
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+
+    SecondStart second;
+    EXPECT_EQ(tokenOfActivation(), "");
+}
+
+TEST_F(NamedApplication, TakesNoTokenThatIsLongerThanTokensAre)
+{
+    claim();
+    const QString longest(4096, u'x');
+    for (const auto& [sent, taken] : {std::pair(longest, longest), std::pair(longest + u'x', QString()),
+                                      std::pair(QString(200'000, u'x'), QString())}) {
+        activate({{QStringLiteral("activation-token"), sent}});
+        EXPECT_EQ(QString::fromUtf8(tokenOfActivation()), taken) << sent.size();
+    }
+    activate({{QStringLiteral("activation-token"), QString(200'000, u'x')},
+              {QStringLiteral("desktop-startup-id"), QStringLiteral("a startup id")}});
+    EXPECT_EQ(tokenOfActivation(), "a startup id");
+}
+
+TEST_F(NamedApplication, HandsOnNoTokenThatIsLongerThanTokensAre)
+{
+    claim();
+    const std::string tooLong(100'000, 'x');
+    SecondStart second(tooLong.c_str(), "a startup id");
+    EXPECT_EQ(tokenOfActivation(), "a startup id");
 }
 
 TEST_F(NamedApplication, IsActivatedWhileAModalPanelRuns)
 {
     bool activated = false;
-    m_name.whenActivated([&](const QString&) { activated = true; });
+    m_name.whenActivated([&] { activated = true; });
     ASSERT_EQ(m_name.claim(), ApplicationName::Claim::Owned);
 
     ModalState modal;
@@ -109,7 +165,7 @@ TEST_F(NamedApplication, AnswersBeforeItActs)
 {
     bool acted = false;
     std::optional<SecondStart> second;
-    m_name.whenActivated([&](const QString&) {
+    m_name.whenActivated([&] {
         acted = true;
         EXPECT_TRUE(second->process.waitForFinished(3000)) << "it still waits for the handler";
     });
@@ -121,7 +177,7 @@ TEST_F(NamedApplication, AnswersBeforeItActs)
 TEST_F(NamedApplication, ComesToTheFrontForWhatItIsAskedToOpen)
 {
     bool activated = false;
-    m_name.whenActivated([&](const QString&) { activated = true; });
+    m_name.whenActivated([&] { activated = true; });
     ASSERT_EQ(m_name.claim(), ApplicationName::Claim::Owned);
     EXPECT_EQ(callWithGdbus({QStringLiteral("org.freedesktop.Application.Open"), QStringLiteral("['file:///etc']"),
                              QStringLiteral("{}")}),
@@ -169,6 +225,19 @@ TEST_F(NamedApplication, GivesTheNameBackInTheEnd)
     SessionBus otherBus("none");
     ApplicationName other(otherBus, "org.example.Brief");
     EXPECT_EQ(other.claim(), ApplicationName::Claim::Owned);
+}
+
+TEST_F(NamedApplication, CanGiveTheNameBackAndTakeItAgain)
+{
+    ASSERT_EQ(m_name.claim(), ApplicationName::Claim::Owned);
+    m_name.release();
+    m_name.release();
+    SessionBus otherBus("none");
+    {
+        ApplicationName other(otherBus, identifier.toStdString());
+        EXPECT_EQ(other.claim(), ApplicationName::Claim::Owned);
+    }
+    EXPECT_EQ(m_name.claim(), ApplicationName::Claim::Owned);
 }
 
 TEST_F(NamedApplication, ActivatesNobodyWhenNobodyOwnsTheName)

@@ -1,4 +1,6 @@
+#include "platform/linux/bus/ActivationToken.h"
 #include "platform/linux/bus/ApplicationName.h"
+#include "platform/linux/bus/SessionBus.h"
 
 #include <QCoreApplication>
 
@@ -10,7 +12,7 @@ int main(int argc, char** argv)
 {
     using namespace LinuxDesktop;
 
-    const QVariantMap platformData = platformDataFromEnvironment();
+    const QVariantMap platformData = ActivationToken::platformDataFromEnvironment();
     const QCoreApplication application(argc, argv);
     SessionBus bus("no bus");
     ApplicationName name(bus, argv[1]);

@@ -86,7 +86,9 @@ TEST(QueuesAtTheEnd, WorkThatHasBegunIsWaitedFor)
     std::atomic<bool> done = false;
     {
         const NS::ClassTable classes;
-        LinuxDesktop::LinuxPlatform platform(classes, QStringLiteral("/nonexistent"));
+        LinuxDesktop::SessionBus bus("");
+        LinuxDesktop::ApplicationName name(bus, "org.example.Whole");
+        LinuxDesktop::LinuxPlatform platform(classes, QStringLiteral("/nonexistent"), bus, name);
         std::binary_semaphore begun(0);
         platform.dispatchToGlobalQueue([&] {
             begun.release();

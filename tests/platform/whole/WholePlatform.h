@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/bus/ApplicationName.h"
+#include "platform/linux/bus/SessionBus.h"
 
 #include <gtest/gtest.h>
 
@@ -11,5 +13,7 @@ protected:
     ~WholePlatform() override { NS::installPlatform(nullptr); }
 
     NS::ClassTable classes;
-    LinuxDesktop::LinuxPlatform platform{classes, QStringLiteral("/nonexistent")};
+    LinuxDesktop::SessionBus bus{""};
+    LinuxDesktop::ApplicationName name{bus, "org.example.Whole"};
+    LinuxDesktop::LinuxPlatform platform{classes, QStringLiteral("/nonexistent"), bus, name};
 };

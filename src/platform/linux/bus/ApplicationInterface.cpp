@@ -1,5 +1,7 @@
 #include "platform/linux/bus/ApplicationInterface.h"
 
+#include "platform/linux/bus/ActivationToken.h"
+
 #include <QDBusError>
 
 #include <utility>
@@ -7,17 +9,15 @@
 namespace LinuxDesktop {
 
 ApplicationInterface::ApplicationInterface(QObject& exported, QDBusConnection connection,
-                                           std::function<void(QString)> activated)
+                                           std::function<void()> activated)
     : QDBusAbstractAdaptor(&exported), m_connection(std::move(connection)), m_activated(std::move(activated))
 {}
 
 void ApplicationInterface::Activate(const QVariantMap& platformData)
 {
-    QString token = platformData.value(QStringLiteral("activation-token")).toString();
-    if (token.isEmpty())
-        token = platformData.value(QStringLiteral("desktop-startup-id")).toString();
     QMetaObject::invokeMethod(
-        this, [this, token] { m_activated(token); }, Qt::QueuedConnection);
+        this, [this, token = ActivationToken::in(platformData)] { ActivationToken::use(token, m_activated); },
+        Qt::QueuedConnection);
 }
 
 void ApplicationInterface::Open(const QStringList&, const QVariantMap& platformData)

@@ -20,8 +20,7 @@ class ApplicationInterface final : public QDBusAbstractAdaptor {
 public:
     /// Owned by `exported`, which is registered on `connection`. `activated` is called from a later turn of the event
     /// loop, after the caller has been answered.
-    ApplicationInterface(QObject& exported, QDBusConnection connection,
-                         std::function<void(QString activationToken)> activated);
+    ApplicationInterface(QObject& exported, QDBusConnection connection, std::function<void()> activated);
 
     // The names and arguments are the interface's.
     Q_SLOT void Activate(const QVariantMap& platformData);
@@ -31,7 +30,7 @@ public:
 
 private:
     QDBusConnection m_connection;
-    std::function<void(QString)> m_activated;
+    std::function<void()> m_activated;
 };
 
 } // namespace LinuxDesktop

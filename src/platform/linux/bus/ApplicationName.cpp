@@ -38,27 +38,19 @@ bool isReply(const QDBusMessage& message)
 
 } // namespace
 
-QVariantMap platformDataFromEnvironment()
-{
-    QVariantMap data;
-    if (const QString token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN"); !token.isEmpty())
-        data.insert(QStringLiteral("activation-token"), token);
-    if (const QString identifier = qEnvironmentVariable("DESKTOP_STARTUP_ID"); !identifier.isEmpty())
-        data.insert(QStringLiteral("desktop-startup-id"), identifier);
-    return data;
-}
-
 ApplicationName::ApplicationName(SessionBus& bus, std::string_view identifier)
     : m_bus(bus), m_identifier(QString::fromUtf8(identifier)),
       m_path(QString::fromStdString(BusInterface::objectPath(identifier)))
 {}
 
-ApplicationName::~ApplicationName()
+void ApplicationName::release()
 {
     if (!m_exported)
         return;
+    // The name goes first, so that whoever sees it can activate its owner.
     if (const auto connection = m_bus.connection())
         askBus(*connection, QStringLiteral("ReleaseName"), {m_identifier});
+    m_exported.reset();
 }
 
 bool ApplicationName::ownedByAnother()
@@ -93,9 +85,9 @@ ApplicationName::Claim ApplicationName::claim()
 
     // The object comes before the name, so that whoever sees the name can activate its owner.
     auto exported = std::make_unique<QObject>();
-    new ApplicationInterface(*exported, *connection, [this](const QString& activationToken) {
+    new ApplicationInterface(*exported, *connection, [this] {
         if (m_activated)
-            m_activated(activationToken);
+            m_activated();
     });
     connection->registerObject(m_path, exported.get(), QDBusConnection::ExportAdaptors);
     const QDBusMessage answer = askBus(*connection, QStringLiteral("RequestName"), {m_identifier, doNotQueue});
@@ -108,7 +100,7 @@ ApplicationName::Claim ApplicationName::claim()
     return Claim::Owned;
 }
 
-void ApplicationName::whenActivated(std::function<void(QString)> activated)
+void ApplicationName::whenActivated(std::function<void()> activated)
 {
     m_activated = std::move(activated);
 }

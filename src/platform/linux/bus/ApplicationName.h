@@ -12,11 +12,6 @@
 
 namespace LinuxDesktop {
 
-/// What this process was started with so that its window, or the window of the instance it hands over to, may come
-/// to the front: the platform data of an activation. Ask before the QApplication exists, which takes the variables
-/// out of the environment.
-[[nodiscard]] QVariantMap platformDataFromEnvironment();
-
 /// The application's identifier as a name on the session bus: one process owns it, and others activate that one
 /// through the interface org.freedesktop.Application. Main thread.
 class ApplicationName {
@@ -24,8 +19,7 @@ public:
     enum class Claim { Owned, OwnedByAnother, NoBus };
 
     ApplicationName(SessionBus& bus, std::string_view identifier);
-    /// Gives the name back.
-    ~ApplicationName();
+    ~ApplicationName() { release(); }
     ApplicationName(const ApplicationName&) = delete;
     ApplicationName& operator=(const ApplicationName&) = delete;
 
@@ -34,17 +28,19 @@ public:
     /// Activates the owner and waits for its answer, 5 seconds at most. False when nobody answered.
     [[nodiscard]] bool activateOther(const QVariantMap& platformData);
 
-    /// Makes this process the owner, until destruction, unless another is. Blocks for one bus call.
+    /// Makes this process the owner, until release(), unless another is. Blocks for one bus call.
     [[nodiscard]] Claim claim();
-    /// What to do when another process activates this one, with its activation token (empty where it has none).
+    /// Gives the name back, if it is this process's.
+    void release();
+    /// What to do when another process activates this one; the window that is activated then may come to the front.
     /// Called from the event loop, also while a modal panel runs; the other process does not wait for it.
-    void whenActivated(std::function<void(QString activationToken)> activated);
+    void whenActivated(std::function<void()> activated);
 
 private:
     SessionBus& m_bus;
     QString m_identifier;
     QString m_path;
-    std::function<void(QString)> m_activated;
+    std::function<void()> m_activated;
     /// What others call; there while the name is owned.
     std::unique_ptr<QObject> m_exported;
 };

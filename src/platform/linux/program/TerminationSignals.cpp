@@ -42,6 +42,8 @@ void TerminationSignals::whenAsked(std::function<void()> asked)
 {
     if (m_descriptor < 0)
         return;
+    // Two at once on a descriptor are one too many for the toolkit.
+    m_notifier.reset();
     m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
                      [descriptor = m_descriptor, asked = std::move(asked)] {

@@ -18,8 +18,8 @@ public:
     TerminationSignals(const TerminationSignals&) = delete;
     TerminationSignals& operator=(const TerminationSignals&) = delete;
 
-    /// Calls `asked` for each signal, from the event loop; those that came before wait for it. Needs the
-    /// QCoreApplication.
+    /// Calls `asked`, and no other, for each signal from now on, from the event loop; those that came before wait for
+    /// it. Needs the QCoreApplication.
     void whenAsked(std::function<void()> asked);
 
 private:

@@ -1,0 +1,145 @@
+#include "platform/linux/program/Program.h"
+
+#include "platform/linux/bus/ActivationToken.h"
+#include "platform/linux/bus/ApplicationName.h"
+#include "platform/linux/bus/SessionBus.h"
+#include "platform/linux/look/Appearance.h"
+#include "platform/linux/program/ColorSchemeSetting.h"
+#include "platform/linux/program/DisplayConnection.h"
+#include "platform/linux/program/TerminationSignals.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+#include <utility>
+
+namespace LinuxDesktop {
+
+namespace {
+
+constexpr int exitUsage = 2;
+
+/// Answers the options that need no desktop. Whether there was one.
+bool answerOption(const ProgramDescription& description, int argc, char** argv)
+{
+    const auto* option = std::find_if(argv + 1, argv + argc, [](std::string_view argument) {
+        return argument == "--help" || argument == "--version";
+    });
+    if (option == argv + argc)
+        return false;
+    if (*option == std::string_view("--help"))
+        std::fputs(description.usage, stdout);
+    else
+        std::printf("%s " ORVIK_VERSION "\n", description.name.c_str());
+    return true;
+}
+
+/// The first window is activated with the token that the program was started with, which is used up then.
+class StartToken : public QObject {
+public:
+    StartToken() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Expose) {
+            ActivationToken::forget();
+            QCoreApplication::instance()->removeEventFilter(this);
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+int Program::run(const ProgramDescription& description, int argc, char** argv, const Main& main)
+{
+    if (answerOption(description, argc, argv))
+        return EXIT_SUCCESS;
+    const QVariantMap platformData = ActivationToken::platformDataFromEnvironment();
+    TerminationSignals terminationSignals;
+    SessionBus::keepToolkitFromStartingOne();
+    const auto application = connectToDisplay(argc, argv, description.name + ": " + description.noDisplay);
+    if (argc > 1) {
+        std::fprintf(stderr, "%s: unknown argument: %s\n%s", description.name.c_str(), argv[1], description.usage);
+        return exitUsage;
+    }
+    QApplication::setApplicationName(QString::fromStdString(description.name));
+    QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
+    QGuiApplication::setDesktopFileName(QString::fromStdString(description.identifier));
+
+    SessionBus bus(description.name + ": " + description.noSessionBus);
+    ApplicationName name(bus, description.identifier);
+    Program program(description, platformData, terminationSignals, bus, name);
+    // The running one comes to the front, and takes on what this start may have been made for.
+    if (name.ownedByAnother())
+        return program.activateOther();
+
+    const StartToken startToken;
+    applyAppearance(ColorScheme::Light);
+    const ColorSchemeSetting colorScheme(
+        bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); });
+    // It is drawn in many sizes, which can wait until the window shows.
+    QTimer::singleShot(0, application.get(), [] { QApplication::setWindowIcon(icon()); });
+    program.whenAskedToEnd([] { QCoreApplication::quit(); });
+    // A process that is ending is not the one to be activated.
+    QObject::connect(application.get(), &QCoreApplication::aboutToQuit, [&name] { name.release(); });
+    return main(program);
+}
+
+Program::Program(const ProgramDescription& description, const QVariantMap& platformData,
+                 TerminationSignals& terminationSignals, SessionBus& bus, ApplicationName& name)
+    : m_description(description), m_platformData(platformData), m_terminationSignals(terminationSignals), m_bus(bus),
+      m_name(name)
+{}
+
+QString Program::resources()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" ORVIK_RESOURCES));
+}
+
+QIcon Program::icon()
+{
+    return QIcon(resources() + QStringLiteral("/Assets/orvik-menu.svg"));
+}
+
+void Program::whenAskedToEnd(std::function<void()> asked)
+{
+    m_terminationSignals.whenAsked(std::move(asked));
+}
+
+int Program::show(QWidget& window)
+{
+    m_name.whenActivated([&window] { bringToFront(window); });
+    // Another process may have become the program since this one looked.
+    if (m_name.claim() == ApplicationName::Claim::OwnedByAnother)
+        return activateOther();
+    bringToFront(window);
+    return QApplication::exec();
+}
+
+int Program::activateOther()
+{
+    if (m_name.activateOther(m_platformData))
+        return EXIT_SUCCESS;
+    std::fprintf(stderr, "%s: it is running already, but does not answer\n", m_description.name.c_str());
+    return EXIT_FAILURE;
+}
+
+void bringToFront(QWidget& window)
+{
+    if (window.isMinimized())
+        window.showNormal();
+    else
+        window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace LinuxDesktop
