@@ -1,8 +1,6 @@
 #include "platform/linux/program/Program.h"
 
 #include "platform/linux/bus/ActivationToken.h"
-#include "platform/linux/bus/ApplicationName.h"
-#include "platform/linux/bus/SessionBus.h"
 #include "platform/linux/look/Appearance.h"
 #include "platform/linux/program/ColorSchemeSetting.h"
 #include "platform/linux/program/DisplayConnection.h"
@@ -74,29 +72,26 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
     QGuiApplication::setDesktopFileName(QString::fromStdString(description.identifier));
 
-    SessionBus bus(description.name + ": " + description.noSessionBus);
-    ApplicationName name(bus, description.identifier);
-    Program program(description, platformData, terminationSignals, bus, name);
+    Program program(description, platformData, terminationSignals);
     // The running one comes to the front, and takes on what this start may have been made for.
-    if (name.ownedByAnother())
+    if (program.m_name.ownedByAnother())
         return program.activateOther();
 
     const StartToken startToken;
     applyAppearance(ColorScheme::Light);
     const ColorSchemeSetting colorScheme(
-        bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); });
+        program.m_bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); });
     // It is drawn in many sizes, which can wait until the window shows.
     QTimer::singleShot(0, application.get(), [] { QApplication::setWindowIcon(icon()); });
     program.whenAskedToEnd([] { QCoreApplication::quit(); });
     // A process that is ending is not the one to be activated.
-    QObject::connect(application.get(), &QCoreApplication::aboutToQuit, [&name] { name.release(); });
+    QObject::connect(application.get(), &QCoreApplication::aboutToQuit, [&program] { program.m_name.release(); });
     return main(program);
 }
 
-Program::Program(const ProgramDescription& description, const QVariantMap& platformData,
-                 TerminationSignals& terminationSignals, SessionBus& bus, ApplicationName& name)
-    : m_description(description), m_platformData(platformData), m_terminationSignals(terminationSignals), m_bus(bus),
-      m_name(name)
+Program::Program(const ProgramDescription& description, const QVariantMap& platformData, TerminationSignals& endings)
+    : m_description(description), m_platformData(platformData), m_terminationSignals(endings),
+      m_bus(description.name + ": " + description.noSessionBus), m_name(m_bus, description.identifier)
 {}
 
 QString Program::resources()

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/linux/bus/ApplicationName.h"
+#include "platform/linux/bus/SessionBus.h"
+
 #include <QIcon>
 #include <QString>
 #include <QVariantMap>
@@ -11,8 +14,6 @@ class QWidget;
 
 namespace LinuxDesktop {
 
-class ApplicationName;
-class SessionBus;
 class TerminationSignals;
 
 /// What a program with windows says of itself.
@@ -56,15 +57,14 @@ public:
     int show(QWidget& window);
 
 private:
-    Program(const ProgramDescription& description, const QVariantMap& platformData,
-            TerminationSignals& terminationSignals, SessionBus& bus, ApplicationName& name);
+    Program(const ProgramDescription& description, const QVariantMap& platformData, TerminationSignals& endings);
     int activateOther();
 
     const ProgramDescription& m_description;
     const QVariantMap& m_platformData;
     TerminationSignals& m_terminationSignals;
-    SessionBus& m_bus;
-    ApplicationName& m_name;
+    SessionBus m_bus;
+    ApplicationName m_name;
 };
 
 /// Shows the window in front of the others, also where it is minimised.
