@@ -105,7 +105,7 @@ protected:
     static void TearDownTestSuite() { qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"); }
 
     PrivateBus m_daemon;
-    const NS::ClassTable m_classes;
+    NS::ClassTable m_classes;
     LinuxDesktop::SessionBus m_bus{""};
     LinuxDesktop::ApplicationName m_name{m_bus, "org.example.Whole"};
     LinuxDesktop::LinuxPlatform m_platform{m_classes, QStringLiteral("/nonexistent"), m_bus, m_name};

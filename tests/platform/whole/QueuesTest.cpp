@@ -85,7 +85,7 @@ TEST(QueuesAtTheEnd, WorkThatHasBegunIsWaitedFor)
 {
     std::atomic<bool> done = false;
     {
-        const NS::ClassTable classes;
+        NS::ClassTable classes;
         LinuxDesktop::SessionBus bus("");
         LinuxDesktop::ApplicationName name(bus, "org.example.Whole");
         LinuxDesktop::LinuxPlatform platform(classes, QStringLiteral("/nonexistent"), bus, name);

@@ -41,7 +41,7 @@ QVariantMap platformDataFromEnvironment()
 QString in(const QVariantMap& platformData)
 {
     for (const Kind& kind : kinds) {
-        if (const QString token = bounded(platformData.value(QLatin1String(kind.key)).toString()); !token.isEmpty())
+        if (QString token = bounded(platformData.value(QLatin1String(kind.key)).toString()); !token.isEmpty())
             return token;
     }
     return {};
