@@ -31,9 +31,9 @@ protected:
         m_givesUp.setSingleShot(true);
     }
 
-    void reference(const std::string& name, Milliseconds delay)
+    void reference(const std::string& what, Milliseconds delay)
     {
-        QTimer::singleShot(delay, Qt::PreciseTimer, &m_loop, [this, name] { note(name); });
+        QTimer::singleShot(delay, Qt::PreciseTimer, &m_loop, [this, what] { note(what); });
     }
     void note(const std::string& what)
     {
