@@ -1,17 +1,6 @@
 #include "platform/linux/scenes/Scenes.h"
 
-#include "ui_UtilityKitWindow.h"
-#include "ui_ViewController.h"
-#include "ui_aboutVc.h"
-#include "ui_collectionView_cell.h"
-#include "ui_customFoldersVc.h"
-#include "ui_firstRunvc.h"
-#include "ui_foldersArrvc.h"
-#include "ui_genraltabvc.h"
-#include "ui_mainStartWindow.h"
-#include "ui_tabviewcontroller.h"
-#include "ui_tblcell.h"
-#include "ui_utilityKitvc.h"
+#include "SceneDesigns.h"
 
 #include <algorithm>
 #include <array>
@@ -20,12 +9,19 @@ namespace LinuxDesktop {
 
 namespace {
 
-template<class Root, class Design>
-std::unique_ptr<QWidget> make()
+/// The root is of the class that the design asks for.
+template<class Design, class Root>
+std::unique_ptr<QWidget> makeRoot(void (Design::*setUp)(Root*))
 {
     auto root = std::make_unique<Root>();
-    Design().setupUi(root.get());
+    (Design().*setUp)(root.get());
     return root;
+}
+
+template<class Design>
+std::unique_ptr<QWidget> make()
+{
+    return makeRoot(&Design::setupUi);
 }
 
 struct Scene {
@@ -34,18 +30,7 @@ struct Scene {
 };
 
 constexpr std::array scenes{
-    Scene{"mainStartWindow", make<MainWindow, Ui::mainStartWindow>},
-    Scene{"tabviewcontroller", make<QWidget, Ui::tabviewcontroller>},
-    Scene{"ViewController", make<QWidget, Ui::ViewController>},
-    Scene{"firstRunvc", make<QWidget, Ui::firstRunvc>},
-    Scene{"genraltabvc", make<QWidget, Ui::genraltabvc>},
-    Scene{"aboutVc", make<QWidget, Ui::aboutVc>},
-    Scene{"foldersArrvc", make<QWidget, Ui::foldersArrvc>},
-    Scene{"customFoldersVc", make<QWidget, Ui::customFoldersVc>},
-    Scene{"UtilityKitWindow", make<MainWindow, Ui::UtilityKitWindow>},
-    Scene{"utilityKitvc", make<QWidget, Ui::utilityKitvc>},
-    Scene{"collectionView_cell", make<CardWidget, Ui::collectionView_cell>},
-    Scene{"tblcell", make<RowWidget, Ui::tblcell>},
+#include "SceneTable.inc"
 };
 
 } // namespace

@@ -18,14 +18,12 @@ namespace LinuxDesktop {
 
 namespace {
 
-/// An object of the class that the root of a scene, or a button in it, names.
 template<class T>
-T makeCustomClass(const NS::ClassTable::Makers<T>& makers, const QWidget& root)
+T makeObject(const NS::ClassTable::Makers<T>& makers, std::string_view className)
 {
-    const std::string name = root.property("customClass").toString().toStdString();
-    const auto maker = makers.find(name);
+    const auto maker = makers.find(className);
     if (maker == makers.end())
-        NS::fatalError("there is no class \"" + name + "\" to run a scene");
+        NS::fatalError("there is no class \"" + std::string(className) + "\" to run a scene");
     return maker->second();
 }
 
@@ -36,7 +34,7 @@ std::shared_ptr<NS::Controller> WidgetStoryboard::instantiateControllerWithIdent
     std::unique_ptr<QWidget> root = makeScene(identifier);
     if (!root)
         return nullptr;
-    std::shared_ptr<NS::Controller> controller = makeCustomClass(m_classes.controllers, *root);
+    std::shared_ptr<NS::Controller> controller = makeObject(m_classes.controllers, identifier);
     furnish(*root, *controller);
 
     SceneConnections connections(root.get());
@@ -55,8 +53,9 @@ std::shared_ptr<NS::Controller> WidgetStoryboard::instantiateControllerWithIdent
 void WidgetStoryboard::wakeButtons(QWidget& root)
 {
     for (auto* button : root.findChildren<PushButton*>()) {
-        if (button->property("customClass").isValid())
-            button->setCustomButton(makeCustomClass(m_classes.buttons, *button));
+        const std::string className = button->property("customClass").toString().toStdString();
+        if (!className.empty())
+            button->setCustomButton(makeObject(m_classes.buttons, className));
     }
 }
 
@@ -97,7 +96,7 @@ std::unique_ptr<RowWidget> WidgetStoryboard::makeRow(std::string_view identifier
     auto* row = qobject_cast<RowWidget*>(root.get());
     if (!row)
         return nullptr;
-    std::unique_ptr<NS::TableCellView> cell = makeCustomClass(m_classes.cells, *row);
+    std::unique_ptr<NS::TableCellView> cell = makeObject(m_classes.cells, identifier);
     for (auto* image : row->findChildren<ImageWidget*>())
         image->setStore(m_images);
     SceneConnections connections(row);

@@ -13,8 +13,8 @@ namespace LinuxDesktop {
 class ImageStore;
 class RowWidget;
 
-/// The scenes of resources/Main, run by the program's classes: a scene names its class in the property
-/// "customClass" of its root. Main thread.
+/// The scenes of resources/Main, each run by the program's class of its name; a button may name a class of its own in
+/// the property "customClass". Main thread.
 class WidgetStoryboard : public NS::Storyboard {
 public:
     /// All three must outlive the storyboard and what it makes. `responders` answer the actions that a scene's
