@@ -16,7 +16,7 @@ customFoldersVc::customFoldersVc() : sharedDefaults(openSharedSuite()) {}
 
 void customFoldersVc::connect(NS::Connections& connections)
 {
-    connections.outlet("tblview", tblview);
+    connections.outlet(tblview);
 }
 
 void customFoldersVc::viewDidLoad()

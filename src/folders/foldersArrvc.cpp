@@ -31,7 +31,7 @@ foldersArrvc::foldersArrvc(ControllerRegistry& registry, std::shared_ptr<RunBook
 
 void foldersArrvc::connect(NS::Connections& connections)
 {
-    connections.outlet("tblview", tblview);
+    connections.outlet(tblview);
     connections.action("btnAddItems:", [this](NS::Control& sender) { btnAddItems(sender); });
     connections.action("btnremoveitem:", [this](NS::Control& sender) { btnremoveitem(sender); });
 }

@@ -19,7 +19,7 @@ ViewController::ViewController() : savekey(Settings::save14.key), sharedDefaults
 
 void ViewController::connect(NS::Connections& connections)
 {
-    connections.outlet("tblview", tblview);
+    connections.outlet(tblview);
     connections.action("btngetPermission:", [this](NS::Control& sender) { btngetPermission(sender); });
 }
 

@@ -27,8 +27,8 @@ firstRunvc::firstRunvc(ControllerRegistry& registry)
 
 void firstRunvc::connect(NS::Connections& connections)
 {
-    connections.outlet("btnuserfolder", btnuserfolder);
-    connections.outlet("btnpreferences", btnpreferences);
+    connections.outlet(btnuserfolder);
+    connections.outlet(btnpreferences);
     connections.action("btnsystemPrefrences:", [this](NS::Control& sender) { btnsystemPrefrences(sender); });
     connections.action("btnselectfolder:", [this](NS::Control& sender) { btnselectfolder(sender); });
 }

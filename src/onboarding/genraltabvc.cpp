@@ -9,9 +9,9 @@ genraltabvc::genraltabvc() : sharedDefaults(openSharedSuite()), probe([this] { s
 
 void genraltabvc::connect(NS::Connections& connections)
 {
-    connections.outlet("lblextensionstate", lblextensionstate);
-    connections.outlet("checkboxShowicon", checkboxShowicon);
-    connections.outlet("checkbox_showinSubMenu", checkbox_showinSubMenu);
+    connections.outlet(lblextensionstate);
+    connections.outlet(checkboxShowicon);
+    connections.outlet(checkbox_showinSubMenu);
     connections.action("btnopenSystemPrefrences:", [this](NS::Control& sender) { btnopenSystemPrefrences(sender); });
     connections.action("showiconinmenu:", [this](NS::Control& sender) { showiconinmenu(sender); });
     connections.action("showinSubmenu:", [this](NS::Control& sender) { showinSubmenu(sender); });

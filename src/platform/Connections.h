@@ -15,17 +15,17 @@ class Connections {
 public:
     virtual ~Connections() = default;
 
-    /// Fills the outlet with the scene's view of that name. A scene without one leaves it empty; a view of
-    /// another class is fatal.
+    /// Fills the outlet with the scene's view of its name. A scene without one leaves it empty; a view of another
+    /// class is fatal.
     template<class T>
-    void outlet(std::string_view name, Outlet<T>& outlet)
+    void outlet(Outlet<T>& outlet)
     {
-        View* view = viewNamed(name);
+        View* view = viewNamed(outlet.name());
         if (!view)
             return;
         auto* typed = dynamic_cast<T*>(view);
         if (!typed)
-            fatalError("the view \"" + std::string(name) + "\" is of another class than its outlet");
+            fatalError("the view \"" + std::string(outlet.name()) + "\" is of another class than its outlet");
         outlet.connect(*typed);
     }
 

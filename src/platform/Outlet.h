@@ -14,8 +14,10 @@ namespace NS {
 template<class T>
 class Outlet {
 public:
-    /// `name` must outlive the outlet (a literal).
+    /// `name`, that of the view in its scene, must outlive the outlet (a literal).
     explicit Outlet(std::string_view name) : m_name(name) {}
+
+    [[nodiscard]] std::string_view name() const { return m_name; }
 
     void connect(T& view)
     {

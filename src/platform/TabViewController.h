@@ -16,7 +16,7 @@ public:
 /// Runs a screen of tabs, which its scene defines.
 class TabViewController : public ViewController {
 public:
-    void connect(Connections& connections) override { connections.outlet("tabView", tabView); }
+    void connect(Connections& connections) override { connections.outlet(tabView); }
 
     Outlet<TabView> tabView{"tabView"};
 };

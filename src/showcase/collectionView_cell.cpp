@@ -2,9 +2,9 @@
 
 void collectionView_cell::connect(NS::Connections& connections)
 {
-    connections.outlet("lblapptype", lblapptype);
-    connections.outlet("btnappstore", btnappstore);
-    connections.outlet("imgview", imgview);
-    connections.outlet("lblsubtitle", lblsubtitle);
-    connections.outlet("lbltitle", lbltitle);
+    connections.outlet(lblapptype);
+    connections.outlet(btnappstore);
+    connections.outlet(imgview);
+    connections.outlet(lblsubtitle);
+    connections.outlet(lbltitle);
 }

@@ -23,9 +23,9 @@ constexpr double firstLayoutDelay = 0.1;
 
 void utilityKitvc::connect(NS::Connections& connections)
 {
-    connections.outlet("lblotherapps", lblotherapps);
-    connections.outlet("scrollview", scrollview);
-    connections.outlet("collectionView", collectionView);
+    connections.outlet(lblotherapps);
+    connections.outlet(scrollview);
+    connections.outlet(collectionView);
 }
 
 void utilityKitvc::viewDidLoad()

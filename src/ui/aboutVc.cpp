@@ -21,7 +21,7 @@ void openInBrowser(std::string_view address)
 
 void aboutVc::connect(NS::Connections& connections)
 {
-    connections.outlet("lblAppversion", lblAppversion);
+    connections.outlet(lblAppversion);
     connections.action("btnfacebook:", [this](NS::Control& sender) { btnfacebook(sender); });
     connections.action("btntwitter:", [this](NS::Control& sender) { btntwitter(sender); });
     connections.action("btnweb:", [this](NS::Control& sender) { btnweb(sender); });

@@ -2,8 +2,8 @@
 
 void tblcell::connect(NS::Connections& connections)
 {
-    connections.outlet("lbltitle", lbltitle);
-    connections.outlet("imgview", imgview);
-    connections.outlet("checkbox", checkbox);
-    connections.outlet("btnDelete", btnDelete);
+    connections.outlet(lbltitle);
+    connections.outlet(imgview);
+    connections.outlet(checkbox);
+    connections.outlet(btnDelete);
 }

@@ -25,7 +25,7 @@ TEST_F(Outlet, IsFilledWithTheViewOfItsName)
 {
     auto& title = scene.add<FakeTextField>("title");
 
-    static_cast<NS::Connections&>(scene).outlet("title", outlet);
+    static_cast<NS::Connections&>(scene).outlet(outlet);
 
     ASSERT_TRUE(outlet);
     EXPECT_EQ(&*outlet, &title);
@@ -35,7 +35,7 @@ TEST_F(Outlet, StaysEmptyWhereTheSceneHasNoSuchView)
 {
     scene.add<FakeTextField>("subtitle");
 
-    static_cast<NS::Connections&>(scene).outlet("title", outlet);
+    static_cast<NS::Connections&>(scene).outlet(outlet);
 
     EXPECT_FALSE(outlet);
 }
@@ -66,7 +66,7 @@ TEST_F(OutletDeathTest, UsingOneWhoseViewIsGoneIsFatal)
 TEST_F(OutletDeathTest, AViewOfAnotherClassIsFatal)
 {
     scene.add<FakeButton>("title");
-    EXPECT_DEATH(static_cast<NS::Connections&>(scene).outlet("title", outlet),
+    EXPECT_DEATH(static_cast<NS::Connections&>(scene).outlet(outlet),
                  fatalLine(R"(the view "title" is of another class than its outlet)"));
 }
 

@@ -36,8 +36,8 @@ public:
 
     void connect(NS::Connections& connections) override
     {
-        connections.outlet("tblview", tblview);
-        connections.outlet("no such view", missing);
+        connections.outlet(tblview);
+        connections.outlet(missing);
     }
     void viewDidLoad() override { ++m_loads; }
 
@@ -204,7 +204,7 @@ TEST_F(StoryboardFixture, AnOutletOfAnotherClassIsFatal)
     NS::Outlet<NS::TextField> wrong{"tblview"};
     const auto made = make<Screen>("ViewController");
     SceneConnections connections(&WidgetScene::rootOf(*made));
-    EXPECT_DEATH(connections.outlet("tblview", wrong), "the view \"tblview\" is of another class");
+    EXPECT_DEATH(connections.outlet(wrong), "the view \"tblview\" is of another class");
 }
 
 } // namespace
