@@ -1,8 +1,8 @@
 # The values that a deployment chooses. They reach the code through settings/Deployment.h alone.
 set(ORVIK_APPLICATION_IDENTIFIER "com.orvikstudio.orvikmenu" CACHE STRING "Application bundle identifier")
-set(ORVIK_EXTENSION_IDENTIFIER "com.orvikstudio.orvikmenu.findersyncextension" CACHE STRING
+set(ORVIK_EXTENSION_IDENTIFIER "${ORVIK_APPLICATION_IDENTIFIER}.findersyncextension" CACHE STRING
   "Extension bundle identifier, all lower case")
-set(ORVIK_SUITE_NAME "ORVIK4MENU.com.orvikstudio.orvikmenu" CACHE STRING "Shared settings suite")
+set(ORVIK_SUITE_NAME "ORVIK4MENU.${ORVIK_APPLICATION_IDENTIFIER}" CACHE STRING "Shared settings suite")
 set(ORVIK_WEB_ADDRESS "http://orvikstudio.example/" CACHE STRING "The maker's web site")
 set(ORVIK_TWITTER_ADDRESS "https://twitter.example/orvikapp" CACHE STRING "The maker's Twitter page")
 set(ORVIK_FACEBOOK_ADDRESS "https://facebook.example/orvik.studio" CACHE STRING "The maker's Facebook page")

@@ -1,6 +1,27 @@
 #include "support/FakeDistributedNotificationCenter.h"
 
+#include "settings/Deployment.h"
+
+#include <algorithm>
+#include <iterator>
 #include <utility>
+
+std::string observes(std::string_view name)
+{
+    return "center.addObserver_name_object(" + described(name) + ", " + described(Deployment::extensionIdentifier) +
+           ')';
+}
+
+std::vector<std::string> otherSenders()
+{
+    const std::string extension(Deployment::extensionIdentifier);
+    std::string otherCase;
+    std::ranges::transform(extension, std::back_inserter(otherCase), [](char letter) {
+        return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+    });
+    return {"", std::string(Deployment::applicationIdentifier), otherCase, extension + '2',
+            extension.substr(0, extension.size() - 1)};
+}
 
 void FakeDistributedNotificationCenter::addObserver_name_object(std::function<void()> handler, std::string_view name,
                                                                 std::string_view object)

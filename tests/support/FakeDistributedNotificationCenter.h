@@ -9,6 +9,12 @@
 #include <string_view>
 #include <vector>
 
+/// How the call log tells that the extension's notification of that name is observed.
+[[nodiscard]] std::string observes(std::string_view name);
+
+/// Sender objects that are like the extension's identifier, and are not it.
+[[nodiscard]] std::vector<std::string> otherSenders();
+
 /// A notification centre on which the test posts in place of another program.
 class FakeDistributedNotificationCenter : public NS::DistributedNotificationCenter {
 public:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "settings/Deployment.h"
 #include "support/CallLog.h"
 #include "support/FakeAlert.h"
 #include "support/FakeApplication.h"
@@ -20,6 +21,10 @@
 #include <memory>
 #include <set>
 #include <string>
+
+/// How the call log tells that the shared suite is opened.
+inline const std::string opensSharedSuite =
+    "platform.userDefaultsWithSuiteName(\"" + std::string(Deployment::suiteName) + "\")";
 
 /// A desktop in memory. It is the process's platform for as long as it lives, records every call in `calls`, and
 /// numbers what it hands out anew (suite#1, panel#1), so that a test tells a fresh handle from an old one.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Workspace.h"
+#include "settings/Deployment.h"
 #include "support/CallLog.h"
 
 #include <functional>
@@ -36,7 +37,7 @@ public:
     {
         running.clear();
         if (runs)
-            running.push_back({NS::ActivationPolicy::Accessory, "com.orvikstudio.orvikmenu.findersyncextension"});
+            running.push_back({NS::ActivationPolicy::Accessory, std::string(Deployment::extensionIdentifier)});
     }
 
     bool opens = true;

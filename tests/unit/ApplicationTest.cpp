@@ -4,6 +4,7 @@
 #include "app/mainStartWindow.h"
 #include "app/tabviewcontroller.h"
 #include "onboarding/firstRunvc.h"
+#include "settings/Deployment.h"
 #include "showcase/utilityKitvc.h"
 #include "support/FakeButton.h"
 #include "support/FakeCollectionView.h"
@@ -13,12 +14,6 @@
 
 #include <memory>
 #include <string>
-
-namespace {
-
-constexpr std::string_view extension = "com.orvikstudio.orvikmenu.findersyncextension";
-
-} // namespace
 
 ApplicationTest::ApplicationTest()
 {
@@ -65,7 +60,7 @@ void ApplicationTest::leaveMailRequest(double age, std::string_view path)
 
 void ApplicationTest::postFromExtension(std::string_view name)
 {
-    platform.defaultCenter().post(name, extension);
+    platform.defaultCenter().post(name, Deployment::extensionIdentifier);
 }
 
 bool ApplicationTest::mailRequestIsStored() const

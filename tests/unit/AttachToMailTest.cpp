@@ -44,7 +44,7 @@ TEST_F(AttachToMail, AFreshRequestIsReadRemovedConfirmedAndHandedOverInThisOrder
 
     EXPECT_EQ(platform.calls.lines(),
               (Lines{
-                  R"(platform.userDefaultsWithSuiteName("ORVIK4MENU.com.orvikstudio.orvikmenu"))",
+                  opensSharedSuite,
                   R"(suite#1.objectForKey("mailAttachPath"))",
                   R"(suite#1.objectForKey("AttachClickedDate"))",
                   R"(platform.now)",

@@ -1,6 +1,7 @@
 #include "folders/customFoldersVc.h"
 
 #include "ListScreenTest.h"
+#include "settings/Deployment.h"
 #include "support/FakeTextField.h"
 #include "support/FatalLine.h"
 
@@ -13,8 +14,6 @@
 namespace {
 
 using Lines = std::vector<std::string>;
-
-constexpr std::string_view extension = "com.orvikstudio.orvikmenu.findersyncextension";
 
 class CustomFoldersScreen : public ListScreenTest {
 protected:
@@ -42,7 +41,7 @@ protected:
         screen->viewWillAppear();
         platform.calls.clear();
     }
-    void postReload(std::string_view object = extension)
+    void postReload(std::string_view object = Deployment::extensionIdentifier)
     {
         platform.defaultCenter().post("ReloadCustomFolders", object);
     }
@@ -72,8 +71,7 @@ TEST_F(CustomFoldersScreen, BeginsEmptyWithAHandleOfItsOwn)
     EXPECT_FALSE(made.tblview);
     EXPECT_TRUE(made.sharedDefaults);
     EXPECT_TRUE(made.arrCustomFolders.empty());
-    EXPECT_EQ(platform.calls.lines(),
-              (Lines{R"(platform.userDefaultsWithSuiteName("ORVIK4MENU.com.orvikstudio.orvikmenu"))"}));
+    EXPECT_EQ(platform.calls.lines(), (Lines{opensSharedSuite}));
 }
 
 TEST_F(CustomFoldersScreen, ListensOnceWhenItLoadsAndReadsNothingYet)
@@ -81,10 +79,8 @@ TEST_F(CustomFoldersScreen, ListensOnceWhenItLoadsAndReadsNothingYet)
     store(NS::Value::Array{"/a"});
     open();
 
-    EXPECT_EQ(
-        platform.calls.startingWithAnyOf({"center.", "suite#", "customFoldersVc."}),
-        (Lines{
-            R"(center.addObserver_name_object("ReloadCustomFolders", "com.orvikstudio.orvikmenu.findersyncextension"))"}));
+    EXPECT_EQ(platform.calls.startingWithAnyOf({"center.", "suite#", "customFoldersVc."}),
+              (Lines{observes("ReloadCustomFolders")}));
     EXPECT_EQ(table().rowCount(), 0U);
 }
 
@@ -145,11 +141,10 @@ TEST_F(CustomFoldersScreen, HearsNoOtherSenderAndNoOtherName)
     openWith({"/a"});
     store(NS::Value::Array{"/b"});
 
-    for (const char* sender : {"", "com.orvikstudio.orvikmenu", "com.orvikstudio.orvikmenu.FinderSyncExtension",
-                               "com.orvikstudio.orvikmenu.findersyncextension2"})
+    for (const std::string& sender : otherSenders())
         postReload(sender);
     for (const char* name : {"", "reloadCustomFolders", "ReloadCustomFolders2", "ShowUtilityKit"})
-        platform.defaultCenter().post(name, extension);
+        platform.defaultCenter().post(name, Deployment::extensionIdentifier);
 
     expectUntouched();
     EXPECT_EQ(titles(), (Lines{"a"}));
@@ -229,7 +224,7 @@ TEST_F(CustomFoldersScreen, ARowsTitleTellsTheFullPathToThoseWhoPointAtIt)
     EXPECT_EQ(table().rowScene(0).view<FakeTextField>("lbltitle").toolTip(), "/Users/a/Projects");
 }
 
-TEST_F(CustomFoldersScreen, ARowIsFilledInThisOrderAndItsCheckboxIsLeftAlone)
+TEST_F(CustomFoldersScreen, ARowIsFilledInThisOrder)
 {
     openWith({});
     store(NS::Value::Array{"/srv/a"});
@@ -240,9 +235,20 @@ TEST_F(CustomFoldersScreen, ARowIsFilledInThisOrderAndItsCheckboxIsLeftAlone)
               (Lines{readStored, reload, makeRowView, R"(tblcell#1.lbltitle.setStringValue("a"))",
                      R"(tblcell#1.lbltitle.setToolTip("/srv/a"))", R"(workspace.iconForFile("/srv/a"))",
                      R"(tblcell#1.imgview.setImage("icon of /srv/a"))"}));
-    platform.calls.clear();
-    checkbox(0).click();
-    expectUntouched();
+}
+
+TEST_F(CustomFoldersScreen, TheCheckboxesAreLeftAlone)
+{
+    openWith({"/a", "/b"});
+    expectLeftAlone("checkbox");
+}
+
+TEST_F(CustomFoldersScreen, APathThatEndsInASlashIsThatOfItsFolder)
+{
+    openWith({"/srv/a/"});
+
+    EXPECT_EQ(rows(), (std::vector<Row>{{"a", false, "icon of /srv/a"}}));
+    EXPECT_EQ(table().rowScene(0).view<FakeTextField>("lbltitle").toolTip(), "/srv/a");
 }
 
 TEST_F(CustomFoldersScreen, EveryDeleteButtonIsTaggedWithItsRow)

@@ -1,5 +1,6 @@
 #include "onboarding/ExtensionStatusProbe.h"
 
+#include "settings/Deployment.h"
 #include "support/FakePlatform.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ namespace {
 using Lines = std::vector<std::string>;
 using Results = std::vector<bool>;
 
-constexpr const char* extension = "com.orvikstudio.orvikmenu.findersyncextension";
+const std::string extension(Deployment::extensionIdentifier);
 
 NS::RunningApplication accessory(std::optional<std::string> identifier)
 {
@@ -91,9 +92,9 @@ TEST_F(StatusProbe, WithNothingRunningAnswersNoAndUpdates)
 
 TEST_F(StatusProbe, WithoutTheExtensionAnswersNoAndUpdates)
 {
-    EXPECT_EQ(resultsOf({accessory("com.orvikstudio.orvikmenu"), accessory("org.example.findersyncextension"),
-                         accessory(""), accessory(std::string(extension) + '2'),
-                         accessory("com.orvikstudio.orvikmenu.findersyncextensio")}),
+    EXPECT_EQ(resultsOf({accessory(std::string(Deployment::applicationIdentifier)),
+                         accessory("org.example.findersyncextension"), accessory(""), accessory(extension + '2'),
+                         accessory(extension.substr(0, extension.size() - 1))}),
               (Results{false}));
 }
 
@@ -105,8 +106,12 @@ TEST_F(StatusProbe, FindsTheExtensionAmongOthers)
 
 TEST_F(StatusProbe, ComparesIdentifiersWithoutRegardToCase)
 {
-    EXPECT_EQ(resultsOf({accessory("com.OrvikStudio.orvikMENU.FinderSyncExtension")}), (Results{true}));
-    EXPECT_EQ(resultsOf({accessory("COM.ORVIKSTUDIO.ORVIKMENU.FINDERSYNCEXTENSION")}), (Results{true}));
+    std::string otherCase = extension;
+    for (char& letter : otherCase) {
+        if (letter >= 'a' && letter <= 'z')
+            letter = static_cast<char>(letter - 'a' + 'A');
+        EXPECT_EQ(resultsOf({accessory(otherCase)}), (Results{true}));
+    }
 }
 
 TEST_F(StatusProbe, LooksAtNoApplicationOfAnotherPolicy)

@@ -78,8 +78,7 @@ TEST_F(GeneralTab, BeginsWithAHandleAndNothingElse)
     EXPECT_TRUE(made.sharedDefaults);
     EXPECT_FALSE(made.probe.timer);
     EXPECT_FALSE(made.probe.isextensionrunning);
-    EXPECT_EQ(platform.calls.lines(),
-              (Lines{R"(platform.userDefaultsWithSuiteName("ORVIK4MENU.com.orvikstudio.orvikmenu"))"}));
+    EXPECT_EQ(platform.calls.lines(), (Lines{opensSharedSuite}));
 }
 
 TEST_F(GeneralTab, LoadingSchedulesAProbeThenLoadsTheIconsCheckboxThenTheSubmenus)

@@ -7,10 +7,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <cstdlib>
+#include <latch>
+#include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <thread>
+#include <vector>
 
 namespace {
+
+using namespace std::chrono_literals;
 
 class IconTableTest : public testing::Test {
 protected:
@@ -72,6 +82,50 @@ TEST_F(IconTableTest, TheProcessHasOneThatIsBuiltOnce)
 
     EXPECT_EQ(&iconTable(), &first);
     EXPECT_TRUE(platform.calls.lines().empty());
+}
+
+/// A platform that loads an image only once a second thread loads one too, or none has come for a while.
+class SlowImages : public FakePlatform {
+public:
+    std::optional<NS::Image> imageNamed(std::string_view name) override
+    {
+        std::unique_lock lock(m_mutex);
+        if (++loaded > 1)
+            m_second.notify_all();
+        else
+            m_second.wait_for(lock, 200ms, [this] { return loaded > 1; });
+        return NS::Image(std::string(name));
+    }
+
+    int loaded = 0;
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_second;
+};
+
+/// Asks for the process's table from several threads at a time. Answers how many images were loaded.
+int imagesLoadedByManyThreads()
+{
+    SlowImages platform;
+    std::latch start(4);
+    {
+        std::vector<std::jthread> threads;
+        for (int thread = 0; thread < 4; ++thread) {
+            threads.emplace_back([&] {
+                start.arrive_and_wait();
+                static_cast<void>(iconTable());
+            });
+        }
+    }
+    return platform.loaded;
+}
+
+TEST(IconTableDeathTest, AFirstUseByManyThreadsBuildsItOnce)
+{
+    // In a process of its own, which has no table yet.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(std::exit(imagesLoadedByManyThreads()), testing::ExitedWithCode(18), "");
 }
 
 class AMissingImageDeathTest : public IconTableTest, public testing::WithParamInterface<const char*> {};

@@ -8,6 +8,21 @@
 #include <memory>
 #include <ostream>
 
+namespace {
+
+/// Tags of a button that its scene has just made, before and after a click. No row has them.
+constexpr std::ptrdiff_t untouched = -7;
+constexpr std::ptrdiff_t clicked = -8;
+
+void addButton(FakeScene& scene, std::string_view name)
+{
+    auto& button = scene.add<FakeButton>(name);
+    button.setTag(untouched);
+    button.setAction([](NS::Control& sender) { sender.setTag(clicked); });
+}
+
+} // namespace
+
 void PrintTo(const Row& row, std::ostream* stream)
 {
     *stream << '"' << row.title << "\" " << (row.on ? "on" : "off") << ' ' << row.image.value_or("no image");
@@ -23,8 +38,8 @@ void ListScreenTest::useRowWithout(std::string_view view)
     makeRow = [missing = std::string(view)](FakeScene& scene) {
         scene.add<FakeTextField>("lbltitle");
         scene.add<FakeImageView>("imgview");
-        scene.add<FakeButton>("checkbox");
-        scene.add<FakeButton>("btnDelete");
+        addButton(scene, "checkbox");
+        addButton(scene, "btnDelete");
         if (!missing.empty())
             scene.remove(missing);
         return std::make_unique<tblcell>();
@@ -68,6 +83,18 @@ std::vector<Row> ListScreenTest::rows() const
     for (std::size_t index = 0; index < table().rowCount(); ++index)
         shown.push_back(row(index));
     return shown;
+}
+
+void ListScreenTest::expectLeftAlone(std::string_view button)
+{
+    EXPECT_EQ(platform.calls.containing('.' + std::string(button) + '.'), std::vector<std::string>{});
+    ASSERT_GT(table().rowCount(), 1U);
+    for (std::size_t index = 0; index < table().rowCount(); ++index) {
+        auto& control = table().rowScene(index).view<FakeButton>(button);
+        EXPECT_EQ(control.tag(), untouched) << "row " << index;
+        control.click();
+        EXPECT_EQ(control.tag(), clicked) << "row " << index;
+    }
 }
 
 void ListScreenTest::expectAnEmptyRow(const std::function<void()>& show) const

@@ -43,6 +43,8 @@ protected:
     [[nodiscard]] Row row(std::size_t index) const;
     [[nodiscard]] std::vector<Row> rows() const;
 
+    /// Expects that the screen has not touched the button of that name in any of its rows.
+    void expectLeftAlone(std::string_view button);
     /// Expects that `show` shows one row, and that as an empty one.
     void expectAnEmptyRow(const std::function<void()>& show) const;
     /// Expects that `show` ends in a row without that view, with `callBefore` as the last call.

@@ -164,8 +164,14 @@ TEST_F(Folders, AreReadAndWrittenUnderTheKeysOfTheTwoFields)
     load();
     expectInMemory({"/a"}, {0});
     folders.removeAt(0);
-
     EXPECT_EQ(platform.suite, (NS::Value::Dictionary{{"paths", NS::Value::Array{}}, {"flags", NS::Value::Array{}}}));
+    add("/b");
+    folders.toggleAt(0);
+    folders.storeFlags();
+
+    EXPECT_EQ(platform.suite.at("paths"), (NS::Value::Array{"/b"}));
+    EXPECT_EQ(platform.suite.at("flags"), (NS::Value::Array{0}));
+    EXPECT_EQ(platform.calls.containing("foldersArray"), Lines{});
 }
 
 // Adding.

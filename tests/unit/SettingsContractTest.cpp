@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,48 +39,6 @@ TEST(SettingsContract, NotificationNamesReadExactlySo)
     EXPECT_EQ(NotificationName::ReloadCustomFolders, "ReloadCustomFolders");
 }
 
-TEST(SettingsContract, TheExtensionsIdentifierIsTheApplicationsWithItsSuffix)
-{
-    EXPECT_EQ(Deployment::extensionIdentifier,
-              std::string(Deployment::applicationIdentifier) + ".findersyncextension");
-    EXPECT_EQ(Deployment::extensionIdentifier.size(), 45U);
-}
-
-TEST(SettingsContract, TheSuiteIsNamedByTheTeamAndTheApplication)
-{
-    EXPECT_EQ(Deployment::suiteName, "ORVIK4MENU." + std::string(Deployment::applicationIdentifier));
-    EXPECT_EQ(Deployment::suiteName.size(), 36U);
-}
-
-TEST(SettingsContract, TheExtensionsIdentifierIsInLowerCase)
-{
-    EXPECT_TRUE(std::ranges::none_of(Deployment::extensionIdentifier,
-                                     [](char character) { return character >= 'A' && character <= 'Z'; }));
-}
-
-TEST(SettingsContract, TheMakersPagesAreWebAddressesOfTheirForms)
-{
-    EXPECT_TRUE(Deployment::webAddress.starts_with("http://"));
-    EXPECT_EQ(Deployment::webAddress.size(), 27U);
-    EXPECT_TRUE(Deployment::twitterAddress.starts_with("https://"));
-    EXPECT_EQ(Deployment::twitterAddress.size(), 32U);
-    EXPECT_TRUE(Deployment::facebookAddress.starts_with("https://"));
-    EXPECT_EQ(Deployment::facebookAddress.size(), 37U);
-}
-
-TEST(SettingsContract, TheStoresPageEndsInTheApplicationsNumberThere)
-{
-    const std::string_view address = Deployment::storeAddress;
-    EXPECT_TRUE(address.starts_with("macappstore://"));
-    EXPECT_EQ(address.size(), 47U);
-
-    const std::size_t before = address.rfind("/app/id");
-    ASSERT_NE(before, std::string_view::npos);
-    const std::string_view number = address.substr(before + std::string_view("/app/id").size());
-    EXPECT_FALSE(number.empty());
-    EXPECT_EQ(number.find_first_not_of("0123456789"), std::string_view::npos);
-}
-
 TEST(SettingsContract, EveryPageIsAnAddress)
 {
     for (const std::string_view address :
@@ -98,9 +54,7 @@ TEST(SharedSuite, IsOpenedByNameAndAnewEachTime)
     const auto second = openSharedSuite();
 
     EXPECT_NE(first, second);
-    EXPECT_EQ(
-        platform.calls.lines(),
-        std::vector<std::string>(2, R"(platform.userDefaultsWithSuiteName("ORVIK4MENU.com.orvikstudio.orvikmenu"))"));
+    EXPECT_EQ(platform.calls.lines(), std::vector<std::string>(2, opensSharedSuite));
 }
 
 TEST(SharedSuite, IsNothingWhereItCannotBeRead)

@@ -164,19 +164,12 @@ TEST_F(ShowcaseScreen, AppearingDrawsThenChecksThenFillsThenLaysOut)
     Lines expected{"platform.arc4random_uniform(9)"};
     for (const ShowcaseApplication& each : showcaseCatalogue)
         expected.push_back("platform.fileExistsAtPath(\"" + std::string(each.installedPath) + "\")");
-    const std::string description(application(5).description);
-    const Lines rest{
-        R"(platform.imageNamed("showcase-pallix"))",
-        "utilityKitvc.collectionView.reloadData",
-        R"(utilityKitvc.collectionView.makeItemWithIdentifier_forIndexPath("collectionView_cell", 0))",
-        R"(collectionView_cell#1.lbltitle.setStringValue("Pallix"))",
-        R"(collectionView_cell#1.imgview.setImage("showcase-pallix"))",
-        "collectionView_cell#1.lblsubtitle.setStringValue(\"" + description + "\")",
-        R"(collectionView_cell#1.lblapptype.setStringValue("Productivity"))",
-        "utilityKitvc.collectionView.setCollectionViewLayout(430, 220, 10, 40, 20, 40, 0)",
-    };
-    expected.insert(expected.end(), rest.begin(), rest.end());
-    EXPECT_EQ(platform.calls.lines(), expected);
+    expected.insert(expected.end(),
+                    {R"(platform.imageNamed("showcase-pallix"))", "utilityKitvc.collectionView.reloadData",
+                     "utilityKitvc.collectionView.setCollectionViewLayout(430, 220, 10, 40, 20, 40, 0)"});
+    EXPECT_EQ(platform.calls.startingWithAnyOf({"platform.", "utilityKitvc.collectionView.reloadData",
+                                                "utilityKitvc.collectionView.setCollectionViewLayout"}),
+              expected);
 }
 
 TEST_F(ShowcaseScreen, TheOrderDrawnIsTheOneShown)

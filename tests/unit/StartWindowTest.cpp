@@ -30,15 +30,14 @@ TEST_F(StartWindow, ChoosesItsContentThenShowsThenListens)
 
     launch();
 
-    EXPECT_EQ(
-        platform.calls.startingWithAnyOf({"standard.", "mainStartWindow.", "center."}),
-        (Lines{
-            R"(standard.objectForKey("firstRun"))",
-            R"(mainStartWindow.window.setContentViewController("tabviewcontroller"))",
-            R"(mainStartWindow.window.makeKeyAndOrderFront)",
-            R"(center.addObserver_name_object("AttachFileToMail", "com.orvikstudio.orvikmenu.findersyncextension"))",
-            R"(center.addObserver_name_object("ShowUtilityKit", "com.orvikstudio.orvikmenu.findersyncextension"))",
-        }));
+    EXPECT_EQ(platform.calls.startingWithAnyOf({"standard.", "mainStartWindow.", "center."}),
+              (Lines{
+                  R"(standard.objectForKey("firstRun"))",
+                  R"(mainStartWindow.window.setContentViewController("tabviewcontroller"))",
+                  R"(mainStartWindow.window.makeKeyAndOrderFront)",
+                  observes("AttachFileToMail"),
+                  observes("ShowUtilityKit"),
+              }));
 }
 
 // Its content.
@@ -178,8 +177,7 @@ TEST_F(StartWindow, NotificationsOfOtherSendersAreIgnored)
     leaveMailRequest(5.0);
     platform.calls.clear();
 
-    for (const char* sender : {"", "com.orvikstudio.orvikmenu", "com.orvikstudio.orvikmenu.FinderSyncExtension",
-                               "com.orvikstudio.orvikmenu.findersyncextension2"}) {
+    for (const std::string& sender : otherSenders()) {
         platform.defaultCenter().post("AttachFileToMail", sender);
         platform.defaultCenter().post("ShowUtilityKit", sender);
     }
