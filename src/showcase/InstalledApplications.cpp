@@ -11,7 +11,6 @@ std::array<bool, showcaseCatalogue.size()> installed{};
 
 void checkInstalledApplications()
 {
-    installed.fill(false);
     for (std::size_t index = 0; index < showcaseCatalogue.size(); ++index)
         installed[index] = NS::platform().fileExistsAtPath(showcaseCatalogue[index].installedPath);
 }

@@ -55,7 +55,6 @@ void utilityKitvc::viewDidAppear()
 void utilityKitvc::build()
 {
     randomPrmotarr = drawPromotionOrder();
-    allappsDic.clear();
     checkInstalledApplications();
     allappsDic = promotedApplications(randomPrmotarr);
     collectionView->reloadData();
