@@ -4,6 +4,7 @@ import os
 import unittest
 
 from support.case import DesktopTestCase
+from support.deployment import FACEBOOK_ADDRESS, STORE_ADDRESS, TWITTER_ADDRESS, WEB_ADDRESS
 from support.handler import install_handler
 from support.pointer import Pointer
 from support.waiting import eventually, give_time, throughout
@@ -12,9 +13,9 @@ OPENED = b"default browser was successfully opened\n"
 A_MOMENT = 0.5
 
 PAGES = {
-    "Web Site": "http://orvikstudio.example/",
-    "Twitter": "https://twitter.example/orvikapp",
-    "Facebook": "https://facebook.example/orvik.studio",
+    "Web Site": WEB_ADDRESS,
+    "Twitter": TWITTER_ADDRESS,
+    "Facebook": FACEBOOK_ADDRESS,
 }
 
 
@@ -94,7 +95,7 @@ class About(DesktopTestCase):
         self.start()
         self.press_button("Rate Orvik Menu")
 
-        self.assertEventuallyEqual(opened, ["macappstore://apps.orvik.example/app/id10000001"])
+        self.assertEventuallyEqual(opened, [STORE_ADDRESS])
         throughout(lambda: self.panel.standard_output() == b"", "nothing is said", A_MOMENT)
 
     def test_a_store_address_that_nothing_opens_does_nothing(self):

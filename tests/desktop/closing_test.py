@@ -5,7 +5,8 @@ import signal
 import time
 import unittest
 
-from support.case import APPLICATION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import APPLICATION
 from support.suite import TITLES, record
 from support.waiting import eventually
 

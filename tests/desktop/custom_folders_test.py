@@ -3,7 +3,8 @@
 import os
 import unittest
 
-from support.case import APPLICATION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import APPLICATION
 from support.suite import record
 from support.waiting import eventually, throughout
 

@@ -8,7 +8,8 @@ import unittest
 from gi.repository import GLib
 
 from support.buses import call, call_bus
-from support.case import APPLICATION, EXTENSION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import APPLICATION, EXTENSION
 from support.waiting import eventually, throughout
 
 WINDOW = "Extensions"

@@ -7,7 +7,8 @@ import stat
 import unittest
 
 from support import accessibility
-from support.case import EXTENSION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import EXTENSION
 from support.extension import AUTOSTART, EXTENSIONS, EXTENSIONS_NAME, Companion, processes_of
 from support.folders import CHOOSER, choose, go_to
 from support.panel import MAIN_WINDOW

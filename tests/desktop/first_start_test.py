@@ -3,8 +3,9 @@
 import os
 import unittest
 
-from support.case import APPLICATION, DesktopTestCase
-from support.suite import SUITE, TITLES, SettingsFile, record
+from support.case import DesktopTestCase
+from support.deployment import APPLICATION, SUITE
+from support.suite import TITLES, SettingsFile, record
 
 
 class FirstStart(DesktopTestCase):

@@ -11,7 +11,8 @@ from gi.repository import GLib
 
 from support.broadcasts import Broadcasts
 from support.buses import call
-from support.case import APPLICATION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import APPLICATION
 from support.folders import CHOOSER, choose, enter_location, go_to
 from support.suite import record
 from support.waiting import eventually, settled, throughout
@@ -489,7 +490,7 @@ class Publishing(FoldersTestCase):
         self.assertEventuallyEqual(self.broadcasts.sets, [addresses])
 
         read = subprocess.run(
-            ["gdbus", "call", "--session", "--dest", "com.orvikstudio.orvikmenu", "--object-path",
+            ["gdbus", "call", "--session", "--dest", APPLICATION, "--object-path",
              "/com/orvikstudio/FinderSync", "--method", "org.freedesktop.DBus.Properties.Get",
              "com.orvikstudio.FinderSync", "directoryURLs"],
             env={**self.environment, "PATH": "/usr/bin:/bin"}, capture_output=True, text=True, check=True, timeout=20)

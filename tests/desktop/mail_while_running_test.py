@@ -3,7 +3,8 @@
 import datetime
 import unittest
 
-from support.case import EXTENSION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import EXTENSION
 from support.panel import CHOOSER
 from support.suite import record
 from support.waiting import eventually, throughout

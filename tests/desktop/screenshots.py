@@ -8,7 +8,8 @@ import subprocess
 import sys
 import unittest
 
-from support.case import EXTENSION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import EXTENSION
 from support.folders import CHOOSER as FOLDER_CHOOSER
 from support.folders import go_to
 from support.panel import CHOOSER as MAIL_CHOOSER

@@ -3,7 +3,8 @@
 import signal
 import unittest
 
-from support.case import APPLICATION, DesktopTestCase
+from support.case import DesktopTestCase
+from support.deployment import APPLICATION
 from support.panel import CHOOSER, MAIN_WINDOW
 from support.suite import record, seconds_ago
 from support.waiting import eventually

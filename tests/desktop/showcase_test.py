@@ -3,6 +3,7 @@
 import unittest
 
 from support.case import DesktopTestCase
+from support.deployment import SHOWCASE_STORE_PREFIX
 from support.handler import install_handler
 from support.panel import MAIN_WINDOW
 from support.waiting import eventually, throughout
@@ -18,7 +19,7 @@ APPLICATIONS = ["Tessel", "Mirelo", "Kelvo", "Dravet", "Pallix", "Ostrel", "Fenn
 
 
 def store_page(title):
-    return f"macappstore://apps.orvik.example/app/id{1_000_000_001 + APPLICATIONS.index(title)}"
+    return f"{SHOWCASE_STORE_PREFIX}{1_000_000_001 + APPLICATIONS.index(title)}"
 
 
 class ShowcaseTestCase(DesktopTestCase):

@@ -239,7 +239,9 @@ TEST_F(CustomFoldersScreen, ARowIsFilledInThisOrder)
 
 TEST_F(CustomFoldersScreen, TheCheckboxesAreLeftAlone)
 {
-    openWith({"/a", "/b"});
+    open();
+    store(NS::Value::Array{"/a", "/b"});
+    screen->viewWillAppear();
     expectLeftAlone("checkbox");
 }
 

@@ -176,7 +176,8 @@ TEST_F(FoldersScreen, ARowIsFilledInThisOrder)
 
 TEST_F(FoldersScreen, TheDeleteButtonsAreLeftAlone)
 {
-    openWith({"/a", "/b"}, {1, 0});
+    store({"/a", "/b"}, {1, 0});
+    open();
     expectLeftAlone("btnDelete");
 }
 

@@ -12,16 +12,14 @@ from gi.repository import GLib
 
 from . import portal, processes
 from .buses import SessionBus, call
+from .deployment import APPLICATION, SUITE
 from .display import VirtualDisplay
 from .home import Home
 from .mail import PortalMessages
 from .panel import Panel
-from .suite import SUITE, SettingsFile, as_text
+from .suite import SettingsFile, as_text
 from .waiting import PATIENCE, GaveUp, eventually
 from .windows import Hands, Windows
-
-EXTENSION = "com.orvikstudio.orvikmenu.findersyncextension"
-APPLICATION = "com.orvikstudio.orvikmenu"
 
 _TOOL_TIMEOUT = 20
 

@@ -2,12 +2,13 @@
 
 import os
 
+from .deployment import APPLICATION, EXTENSION
 from .waiting import eventually
 
 EXTENSIONS = "Extensions"
-EXTENSIONS_NAME = "com.orvikstudio.orvikmenu.extensions"
+EXTENSIONS_NAME = APPLICATION + ".extensions"
 PROGRAM = "orvik-menu-extension"
-AUTOSTART = "autostart/com.orvikstudio.orvikmenu.findersyncextension.desktop"
+AUTOSTART = f"autostart/{EXTENSION}.desktop"
 
 
 def processes_of(program, environment_mark):
@@ -40,13 +41,9 @@ class Companion:
     def start(self):
         """As at log-in."""
         self._case.start_program(PROGRAM)
-        eventually(lambda: self._case.bus.has_owner(self._name), "the companion")
-
-    @property
-    def _name(self):
-        return "com.orvikstudio.orvikmenu.findersyncextension"
+        eventually(lambda: self._case.bus.has_owner(EXTENSION), "the companion")
 
     def kill(self, signal_number):
         for process in self.processes():
             os.kill(process, signal_number)
-        eventually(lambda: not self._case.bus.has_owner(self._name), "the companion to go")
+        eventually(lambda: not self._case.bus.has_owner(EXTENSION), "the companion to go")

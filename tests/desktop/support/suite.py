@@ -6,8 +6,6 @@ import fcntl
 import os
 import plistlib
 
-SUITE = "ORVIK4MENU.com.orvikstudio.orvikmenu"
-
 TITLES = [
     "Open Terminal",
     "Open System Preferences",

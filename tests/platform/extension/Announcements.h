@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CompanionProcess.h"
+
 #include <QDBusConnection>
 #include <QObject>
 #include <QStringList>
@@ -14,8 +16,8 @@ class Announcements : public QObject {
 public:
     explicit Announcements(QDBusConnection connection)
     {
-        connection.connect({}, QStringLiteral("/com/orvikstudio/orvikmenu/findersyncextension"),
-                           QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"),
+        connection.connect({}, companionPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
+                           QStringLiteral("PropertiesChanged"),
                            {QStringLiteral("com.orvikstudio.FinderSyncExtension")}, {}, this,
                            SLOT(note(QString, QVariantMap, QStringList)));
     }

@@ -17,10 +17,15 @@ namespace {
 
 const QString name =
     QString::fromUtf8(Deployment::extensionIdentifier.data(), Deployment::extensionIdentifier.size());
-const QString path = QStringLiteral("/com/orvikstudio/orvikmenu/findersyncextension");
+const QString path = companionPath();
 const QString interface = QStringLiteral("com.orvikstudio.FinderSyncExtension");
 
 } // namespace
+
+QString companionPath()
+{
+    return u'/' + QString(name).replace(u'.', u'/').replace(u'-', u'_');
+}
 
 CompanionTest::~CompanionTest()
 {

@@ -5,6 +5,7 @@
 #include "platform/linux/bus/SessionBus.h"
 
 #include <QProcess>
+#include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QVariant>
@@ -14,6 +15,9 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+/// Of the companion's object on the bus: the path that the companion's name makes.
+[[nodiscard]] QString companionPath();
 
 /// A bus and a settings folder of its own, and companions that run there.
 class CompanionTest : public testing::Test {
