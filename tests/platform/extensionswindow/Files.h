@@ -2,6 +2,7 @@
 
 #include "extensions/AutostartEntry.h"
 #include "extensions/Extension.h"
+#include "settings/Deployment.h"
 
 #include <QByteArray>
 #include <QString>
@@ -15,7 +16,8 @@ struct AutostartTestFolders {
 
     QTemporaryDir root;
     ExtensionsTool::Extension extension{
-        .identifier = QStringLiteral("com.orvikstudio.orvikmenu.findersyncextension"),
+        .identifier =
+            QString::fromUtf8(Deployment::extensionIdentifier.data(), Deployment::extensionIdentifier.size()),
         .program = QStringLiteral(ORVIK_EXTENSION_PROGRAM),
         .title = QStringLiteral("A title"),
         .explanation = QStringLiteral("An explanation."),
