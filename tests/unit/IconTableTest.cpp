@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <cstddef>
 #include <cstdlib>
 #include <latch>
 #include <mutex>
@@ -107,11 +108,13 @@ private:
 /// Asks for the process's table from several threads at a time. Answers how many images were loaded.
 int imagesLoadedByManyThreads()
 {
+    constexpr std::size_t count = 4;
     SlowImages platform;
-    std::latch start(4);
+    std::latch start(count);
     {
         std::vector<std::jthread> threads;
-        for (int thread = 0; thread < 4; ++thread) {
+        threads.reserve(count);
+        while (threads.size() < count) {
             threads.emplace_back([&] {
                 start.arrive_and_wait();
                 static_cast<void>(iconTable());
