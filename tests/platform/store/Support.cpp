@@ -70,6 +70,14 @@ void SettingsTest::store(const NS::Value::Dictionary& values) const
     ASSERT_TRUE(domain->synchronize());
 }
 
+std::shared_ptr<LinuxDesktop::Domain>
+SettingsTest::writingAtOnce(std::shared_ptr<LinuxDesktop::FileOperations> files) const
+{
+    const auto queue = std::make_shared<LinuxDesktop::DelayedQueue>();
+    queue->stop();
+    return std::make_shared<LinuxDesktop::Domain>(std::move(files), queue, folder(), domainName);
+}
+
 std::optional<NS::Value> SettingsTest::stored(std::string_view key) const
 {
     LinuxDesktop::Store store(folder());

@@ -46,6 +46,9 @@ public:
     void makeFolder() const;
     /// Puts `values` there through a store of its own.
     void store(const NS::Value::Dictionary& values) const;
+    /// The domain, its file changed through `files`. Writes and makes its copy at once, on the thread that asks.
+    [[nodiscard]] std::shared_ptr<LinuxDesktop::Domain>
+    writingAtOnce(std::shared_ptr<LinuxDesktop::FileOperations> files) const;
     /// What a process that starts now finds.
     [[nodiscard]] std::optional<NS::Value> stored(std::string_view key) const;
 
