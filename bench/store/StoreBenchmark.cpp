@@ -2,6 +2,7 @@
 // ratios. The files lie in the current folder, which should be on a disk.
 
 #include "Settings.h"
+#include "TemporaryFolder.h"
 #include "platform/linux/store/PropertyList.h"
 #include "platform/linux/store/Store.h"
 
@@ -21,31 +22,6 @@ namespace {
 
 using namespace StoreBench;
 using LinuxDesktop::Store;
-
-/// A folder that goes with the program.
-class Folder {
-public:
-    Folder()
-    {
-        if (!::mkdtemp(m_path.data())) {
-            std::perror("mkdtemp");
-            std::exit(1);
-        }
-        m_path = std::filesystem::absolute(m_path);
-    }
-    ~Folder()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-
-    [[nodiscard]] const std::string& path() const { return m_path; }
-
-private:
-    std::string m_path = "orvik-bench-store-XXXXXX";
-};
 
 /// Settings as a panel keeps them, in a file of about 2 KB.
 void makeSuite(const std::string& folder)
@@ -131,7 +107,7 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 1;
 
-    const Folder folder;
+    const TemporaryFolder folder;
     makeSuite(folder.path());
     const std::map<std::string, std::unique_ptr<Settings> (*)(const std::string&)> contestants{
         {"write/system-calls", withSystemCalls},
