@@ -104,8 +104,8 @@ struct RecordedDisk::Disk {
 
 void RecordedDisk::forEachCut(const std::function<void(const DiskAfterCut&)>& visit) const
 {
-    // A longer record without a flush would take for ever.
-    constexpr std::size_t mostUncertain = 12;
+    // So that a long record without a flush does not take for ever. The older ones are lost then.
+    constexpr std::size_t mostUncertain = 10;
     Disk disk;
     DiskAfterCut cut;
     cut.sure = [&disk](std::string_view path) -> std::optional<std::string> {
@@ -121,11 +121,11 @@ void RecordedDisk::forEachCut(const std::function<void(const DiskAfterCut&)>& vi
             cut.isDamaged = true;
             cut.notedSinceDamage = -1;
         }
-        if (disk.uncertain.size() > mostUncertain)
-            std::abort();
-        for (std::uint64_t chosen = 0; chosen < std::uint64_t{1} << disk.uncertain.size(); ++chosen) {
+        const std::size_t count = disk.uncertain.size();
+        const std::size_t older = count > mostUncertain ? count - mostUncertain : 0;
+        for (std::uint64_t chosen = 0; chosen < std::uint64_t{1} << (count - older); ++chosen) {
             for (const auto unflushed : {Unflushed::Kept, Unflushed::Lost, Unflushed::Halved, Unflushed::Zeros}) {
-                cut.tree = disk.tree(chosen, unflushed);
+                cut.tree = disk.tree(chosen << older, unflushed);
                 if (seen.insert({cut.tree, cut.noted, cut.notedSinceDamage}).second)
                     visit(cut);
             }
@@ -231,15 +231,6 @@ int RecordedDisk::rename(const std::string& from, const std::string& to)
     const int result = FileOperations::rename(from, to);
     if (result == 0)
         rename({{inside(to), named(inside(from))}, {inside(from), noFile}});
-    return result;
-}
-
-int RecordedDisk::exchange(const std::string& one, const std::string& other)
-{
-    const std::lock_guard lock(m_mutex);
-    const int result = FileOperations::exchange(one, other);
-    if (result == 0)
-        rename({{inside(one), named(inside(other))}, {inside(other), named(inside(one))}});
     return result;
 }
 

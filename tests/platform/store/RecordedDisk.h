@@ -52,7 +52,6 @@ public:
     [[nodiscard]] int syncFile(int descriptor) override;
     [[nodiscard]] int syncFolder(int descriptor) override;
     [[nodiscard]] int rename(const std::string& from, const std::string& to) override;
-    [[nodiscard]] int exchange(const std::string& one, const std::string& other) override;
     [[nodiscard]] int link(const std::string& existing, const std::string& name) override;
     int unlink(const std::string& path) override;
     [[nodiscard]] int makeFolder(const std::string& path, mode_t mode) override;

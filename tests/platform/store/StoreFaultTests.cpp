@@ -30,7 +30,6 @@ enum class Call {
     SyncFile,
     SyncFolder,
     Rename,
-    Exchange,
     Link,
     Unlink,
     MakeFolder,
@@ -58,8 +57,6 @@ std::vector<int> errorsOf(Call call)
         return {EIO, ENOSPC, EDQUOT};
     case Call::Rename:
         return {EXDEV, EACCES, ENOSPC, EROFS, EIO};
-    case Call::Exchange:
-        return {EINVAL, EXDEV, EACCES, ENOSPC, EIO};
     case Call::Link:
         return {EPERM, EMLINK, EXDEV, EACCES, ENOSPC, EIO, EEXIST};
     case Call::Unlink:
@@ -80,8 +77,8 @@ struct Fault {
 
 std::ostream& operator<<(std::ostream& stream, const Fault& fault)
 {
-    constexpr std::array names{"open for reading", "open lock", "create",   "open folder", "write",  "sync file",
-                               "sync folder",      "rename",    "exchange", "link",        "unlink", "make folder"};
+    constexpr std::array names{"open for reading", "open lock", "create", "open folder", "write",      "sync file",
+                               "sync folder",      "rename",    "link",   "unlink",      "make folder"};
     stream << "call " << fault.at << ", " << names.at(static_cast<std::size_t>(fault.call)) << ": ";
     if (fault.error == shortWrite)
         stream << "short";
@@ -93,7 +90,7 @@ std::ostream& operator<<(std::ostream& stream, const Fault& fault)
 }
 
 /// What the file system can do.
-enum class Features { All, NeitherLinksNorExchange };
+enum class Features { All, NoLinks };
 
 class FaultyOperations : public LinuxDesktop::FileOperations {
 public:
@@ -139,16 +136,14 @@ public:
     {
         return fails(Call::Rename) ? -1 : done(FileOperations::rename(from, to));
     }
-    int exchange(const std::string& one, const std::string& other) override
-    {
-        if (fails(Call::Exchange) || lacks(EINVAL))
-            return -1;
-        return done(FileOperations::exchange(one, other));
-    }
     int link(const std::string& existing, const std::string& name) override
     {
-        if (fails(Call::Link) || lacks(EPERM))
+        if (fails(Call::Link))
             return -1;
+        if (m_features == Features::NoLinks) {
+            errno = EPERM;
+            return -1;
+        }
         return done(FileOperations::link(existing, name));
     }
     int unlink(const std::string& path) override
@@ -179,12 +174,6 @@ private:
             return 0;
         return errno = m_fault->error;
     }
-    [[nodiscard]] bool lacks(int error) const
-    {
-        errno = error;
-        return m_features == Features::NeitherLinksNorExchange;
-    }
-
     template<class Result>
     Result done(Result result)
     {
@@ -243,7 +232,7 @@ protected:
         }
         EXPECT_TRUE(acknowledged.size() == 2 || !complaints.empty());
 
-        const auto calls = operations->calls();
+        auto calls = operations->calls();
         operations->mend();
         whatIsSaid([&] {
             domain->setObject_forKey("third", "third");
@@ -392,9 +381,9 @@ INSTANTIATE_TEST_SUITE_P(Everywhere, StoreFaults,
                                             ::testing::Values(Features::All)),
                          nameOf);
 
-INSTANTIATE_TEST_SUITE_P(OnAPlainFileSystem, StoreFaults,
+INSTANTIATE_TEST_SUITE_P(WithoutHardLinks, StoreFaults,
                          ::testing::Combine(::testing::ValuesIn(starts), ::testing::Values(First::Writes),
-                                            ::testing::Values(Features::NeitherLinksNorExchange)),
+                                            ::testing::Values(Features::NoLinks)),
                          nameOf);
 
 } // namespace
