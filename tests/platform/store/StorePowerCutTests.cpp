@@ -2,8 +2,8 @@
 #include "Support.h"
 #include "platform/linux/store/PropertyList.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
@@ -66,6 +66,8 @@ protected:
             SCOPED_TRACE(describe(cut));
             const int copied = countIn(cut.sure(copyName()));
             if (cut.isDamaged) {
+                EXPECT_TRUE(std::ranges::any_of(cut.tree, [](const auto& entry) { return entry.second == garbage; }))
+                    << "the damaged file has gone";
                 // What was on disk as a copy before the damage can be had back, and what was promised after it.
                 checkReading(cut.tree, std::max(copied, cut.notedSinceDamage + 1), Expected::Anything);
             } else {
