@@ -18,6 +18,11 @@ if(ORVIK_SANITIZE)
   target_compile_definitions(orvik_options INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(orvik_options INTERFACE -fsanitize=${ORVIK_SANITIZE})
 endif()
+if(ORVIK_FUZZ)
+  # What a fuzzer is led by: the ways through the code under test, not only through the fuzzer itself.
+  target_compile_options(orvik_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(orvik_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # What the programs print for --version: whatever does not is not built anew for another one.
 add_library(orvik_version INTERFACE)

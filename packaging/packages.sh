@@ -52,6 +52,12 @@ packages_tests_desktop=(
   xdg-desktop-portal-gtk
 )
 
+packages_fuzz=(
+  clang
+  libclang-rt-dev
+  llvm
+)
+
 packages_bench=(
   libbenchmark-dev
   libglib2.0-dev
