@@ -1,8 +1,8 @@
 #include "platform/linux/processes/EntryFolder.h"
 
+#include "platform/linux/system/FolderStream.h"
+
 #include <algorithm>
-#include <dirent.h>
-#include <memory>
 #include <string_view>
 #include <sys/stat.h>
 #include <utility>
@@ -14,10 +14,6 @@ namespace {
 constexpr int mostFolders = 1'000;
 constexpr int mostNames = 100'000;
 constexpr std::string_view suffix = ".desktop";
-
-struct CloseStream {
-    void operator()(DIR* stream) const { ::closedir(stream); }
-};
 
 struct Name {
     std::string text;
@@ -39,7 +35,7 @@ public:
         if (m_foldersLeft == 0)
             return;
         --m_foldersLeft;
-        const std::unique_ptr<DIR, CloseStream> stream(::opendir(folder.c_str()));
+        const FolderStream stream = openFolder(folder);
         struct stat status = {};
         if (!stream || ::fstat(::dirfd(stream.get()), &status) != 0)
             return;
