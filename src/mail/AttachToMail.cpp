@@ -18,10 +18,14 @@ constexpr double freshness = 20.0;
 std::optional<std::string> pathOfFreshRequest(NS::UserDefaults& suite)
 {
     auto path = read(Settings::mailAttachPath, suite);
-    if (!path)
-        return std::nullopt;
-    const auto clicked = read(Settings::AttachClickedDate, suite);
-    if (!clicked)
+    std::optional<NS::Date> clicked;
+    // Another request may take this one's place between the two.
+    for (std::optional<std::string> before; path && path != before;) {
+        before = path;
+        clicked = read(Settings::AttachClickedDate, suite);
+        path = read(Settings::mailAttachPath, suite);
+    }
+    if (!path || !clicked)
         return std::nullopt;
     const double age = NS::platform().now().timeIntervalSinceDate(*clicked);
     // An age that is not a number compares as stale.

@@ -9,7 +9,10 @@
 #include <cmath>
 #include <concepts>
 #include <limits>
+#include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -47,6 +50,7 @@ TEST_F(AttachToMail, AFreshRequestIsReadRemovedConfirmedAndHandedOverInThisOrder
                   opensSharedSuite,
                   R"(suite#1.objectForKey("mailAttachPath"))",
                   R"(suite#1.objectForKey("AttachClickedDate"))",
+                  R"(suite#1.objectForKey("mailAttachPath"))",
                   R"(platform.now)",
                   R"(suite#1.removeObjectForKey("mailAttachPath"))",
                   R"(suite#1.removeObjectForKey("AttachClickedDate"))",
@@ -62,6 +66,60 @@ TEST_F(AttachToMail, AFreshRequestIsReadRemovedConfirmedAndHandedOverInThisOrder
                   R"(platform.sharingServiceNamed("compose-email"))",
                   R"(mail.performWithItems(["/home/user/chosen.txt"]))",
               }));
+}
+
+/// The suite while another program replaces the request, once, when its path has been read.
+class ReplacedSuite : public FakeUserDefaults {
+public:
+    ReplacedSuite(FakePlatform& platform, NS::Value::Dictionary next)
+        : FakeUserDefaults(platform.calls, "suite", platform.suite), m_platform(platform), m_next(std::move(next))
+    {}
+
+    std::optional<NS::Value> objectForKey(std::string_view key) override
+    {
+        auto value = FakeUserDefaults::objectForKey(key);
+        if (key == "mailAttachPath" && m_next)
+            m_platform.suite = *std::exchange(m_next, std::nullopt);
+        return value;
+    }
+
+private:
+    FakePlatform& m_platform;
+    std::optional<NS::Value::Dictionary> m_next;
+};
+
+class ReplacedRequest : public FakePlatform {
+public:
+    std::shared_ptr<NS::UserDefaults> userDefaultsWithSuiteName(std::string_view) override
+    {
+        return std::make_shared<ReplacedSuite>(*this, next);
+    }
+
+    NS::Value::Dictionary next;
+};
+
+TEST(AttachToMailRequest, ThatReplacesAnotherBetweenTwoReadsIsTakenWhole)
+{
+    ReplacedRequest platform;
+    const double now = platform.clock.now().timeIntervalSince1970;
+    platform.suite = {{"mailAttachPath", "/stale"}, {"AttachClickedDate", NS::Date{now - 60.0}}};
+    platform.next = {{"mailAttachPath", "/fresh"}, {"AttachClickedDate", NS::Date{now}}};
+
+    EXPECT_EQ(attachToMail(), AttachToMailOutcome::HandedOver);
+
+    EXPECT_EQ(platform.calls.containing("setDirectoryURL"), (Lines{R"(panel#1.setDirectoryURL("/fresh"))"}));
+    EXPECT_TRUE(platform.suite.empty());
+}
+
+TEST(AttachToMailRequest, ThatGoesBetweenTwoReadsIsNone)
+{
+    ReplacedRequest platform;
+    platform.suite = {{"mailAttachPath", "/gone"}, {"AttachClickedDate", platform.clock.now()}};
+    platform.next = {{"AttachClickedDate", platform.clock.now()}};
+
+    EXPECT_EQ(attachToMail(), AttachToMailOutcome::NoRequest);
+
+    EXPECT_TRUE(platform.suite.empty());
 }
 
 TEST_F(AttachToMail, TheRequestIsGoneWhileThePanelIsOpen)
