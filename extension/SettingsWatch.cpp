@@ -1,6 +1,6 @@
 #include "extension/SettingsWatch.h"
 
-#include "extension/Complaint.h"
+#include "platform/linux/system/Complaint.h"
 
 #include <cerrno>
 #include <deque>
@@ -63,10 +63,10 @@ void SettingsWatch::follow()
     else
         watchTheWay();
     if (!isWhole() && wasWhole)
-        complain("changes of the settings cannot be followed: " + std::generic_category().message(m_lack) +
-                 "; they are looked for now and then");
+        LinuxDesktop::complain("changes of the settings cannot be followed: " +
+                               std::generic_category().message(m_lack) + "; they are looked for now and then");
     else if (isWhole() && !wasWhole)
-        complain("changes of the settings are followed again");
+        LinuxDesktop::complain("changes of the settings are followed again");
 }
 
 /// Watches what the path leads through now. What changes after a step's watch was made is told by that watch, so the

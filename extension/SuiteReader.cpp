@@ -1,6 +1,5 @@
 #include "extension/SuiteReader.h"
 
-#include "extension/Complaint.h"
 #include "settings/Deployment.h"
 
 #include <utility>
@@ -28,24 +27,19 @@ std::optional<NS::Value::Dictionary> SuiteReader::read()
     switch (found.state()) {
     case Snapshot::State::Absent:
     case Snapshot::State::Readable:
-        m_complaint.clear();
+        m_complaints.allIsWell();
         return found.values();
     case Snapshot::State::Damaged:
-        say(path() + " is not a readable property list (" + found.why() +
-            "); the last good copy is used where there is one");
-        return m_file.readBackup().values();
+        m_complaints.complain(path() + " is not a readable property list (" + found.why() +
+                              "); the last good copy is used where there is one");
+        if (const Snapshot copy = m_file.readBackup(); copy.state() != Snapshot::State::Inaccessible)
+            return copy.values();
+        break;
     case Snapshot::State::Inaccessible:
-        say("could not read " + path() + ": " + found.why());
+        m_complaints.complain("could not read " + path() + ": " + found.why());
         break;
     }
     return std::nullopt;
-}
-
-void SuiteReader::say(const std::string& complaint)
-{
-    if (complaint != m_complaint)
-        complain(complaint);
-    m_complaint = complaint;
 }
 
 } // namespace MenuExtension

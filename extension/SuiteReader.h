@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Value.h"
+#include "platform/linux/store/Complaints.h"
 #include "platform/linux/store/FileOperations.h"
 #include "platform/linux/store/SettingsFile.h"
 
@@ -25,12 +26,9 @@ public:
     [[nodiscard]] const std::string& path() const { return m_file.path(); }
 
 private:
-    void say(const std::string& complaint);
-
     LinuxDesktop::FileOperations m_operations;
     LinuxDesktop::SettingsFile m_file;
-    /// What standard error has been told, so that it is told once.
-    std::string m_complaint;
+    LinuxDesktop::Complaints m_complaints;
 };
 
 } // namespace MenuExtension

@@ -1,7 +1,7 @@
 #include "extension/Companion.h"
-#include "extension/Complaint.h"
 #include "extension/Handles.h"
 #include "platform/linux/store/SettingsFolder.h"
+#include "platform/linux/system/Complaint.h"
 
 #include <cerrno>
 #include <csignal>
@@ -14,6 +14,7 @@
 namespace {
 
 using namespace MenuExtension;
+using LinuxDesktop::complain;
 
 constexpr int exitUsage = 2;
 

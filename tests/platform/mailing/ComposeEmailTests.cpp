@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -340,10 +341,11 @@ TEST_F(Mail, SaysWhatCannotBeAttachedAndSendsNothing)
     m_service.reset();
     EXPECT_FALSE(fs::exists(record() / "arguments"));
     const std::string errors = testing::internal::GetCapturedStderr();
-    EXPECT_NE(errors.find("orvik-menu: cannot attach \"" + (base() / "missing").native() +
+    const std::string program = program_invocation_short_name;
+    EXPECT_NE(errors.find(program + ": cannot attach \"" + (base() / "missing").native() +
                           "\": No such file or directory\n"),
               std::string::npos);
-    EXPECT_NE(errors.find("orvik-menu: cannot attach \"/dev/null\": it is not a file\n"), std::string::npos);
+    EXPECT_NE(errors.find(program + ": cannot attach \"/dev/null\": it is not a file\n"), std::string::npos);
 }
 
 TEST_F(Mail, SaysThatTheCommandRefused)

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -17,6 +18,9 @@ using namespace LinuxDesktop;
 namespace fs = std::filesystem;
 
 namespace {
+
+/// What complaints begin with.
+const std::string program = program_invocation_short_name;
 
 /// Root may read everything; while this lives the process is another user, when it was root, and owns `folder`.
 class OrdinaryUser {
@@ -203,9 +207,9 @@ TEST_F(ZipArchive, IsNotMadeWithoutWhatCannotBeReadAndSaysWhatThatIs)
     }
     EXPECT_FALSE(fs::exists(archive()));
     const std::string path = folder().native();
-    EXPECT_EQ(m_errors, "orvik-menu: cannot pack \"" + path + "/b\": Permission denied\n" +
-                            "orvik-menu: cannot pack \"" + path + "/c\": Permission denied\n" +
-                            "orvik-menu: cannot pack \"" + path + "/d/pipe\": it is not a file\n");
+    EXPECT_EQ(m_errors, program + ": cannot pack \"" + path + "/b\": Permission denied\n" + program +
+                            ": cannot pack \"" + path + "/c\": Permission denied\n" + program + ": cannot pack \"" +
+                            path + "/d/pipe\": it is not a file\n");
     ASSERT_TRUE(m_failure);
     EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Incomplete);
     EXPECT_EQ(m_failure->leftOutCount, 3U);
@@ -245,7 +249,7 @@ TEST_F(ZipArchive, OfAnUnreadableFolderIsNotMade)
     const OrdinaryUser user(base());
     fs::permissions(folder(), fs::perms::none);
     EXPECT_FALSE(zip());
-    EXPECT_EQ(m_errors, "orvik-menu: cannot read \"" + folder().native() + "\": Permission denied\n");
+    EXPECT_EQ(m_errors, program + ": cannot read \"" + folder().native() + "\": Permission denied\n");
     EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Unreadable);
     EXPECT_FALSE(fs::exists(archive()));
 }
@@ -257,7 +261,7 @@ TEST_F(ZipArchive, IsNotLeftBehindInPartWhenItCannotBeWritten)
         const FileSizeLimit limit(1'000'000);
         EXPECT_FALSE(zip());
     }
-    EXPECT_EQ(m_errors, "orvik-menu: cannot write \"" + archive().native() + "\": File too large\n");
+    EXPECT_EQ(m_errors, program + ": cannot write \"" + archive().native() + "\": File too large\n");
     EXPECT_EQ(m_failure->kind, AttachingFailure::Kind::Unwritable);
     EXPECT_FALSE(fs::exists(archive()));
 }

@@ -3,6 +3,7 @@
 #include "support/Files.h"
 
 #include <QTemporaryDir>
+#include <cerrno>
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -101,6 +102,7 @@ TEST_F(RuntimeFolder, ThatIsMissingIsComplainedOf)
     TemporaryFolders folders;
     testing::internal::CaptureStderr();
     EXPECT_FALSE(folders.make());
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "orvik-menu: cannot make a folder in \"" + path().native() +
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), std::string(program_invocation_short_name) +
+                                                          ": cannot make a folder in \"" + path().native() +
                                                           "/missing\\x0afolder\": No such file or directory\n");
 }

@@ -1,25 +1,20 @@
 #include "platform/linux/store/Complaints.h"
 
-#include <cstdio>
+#include "platform/linux/system/Complaint.h"
 
 namespace LinuxDesktop {
-
-void report(const std::string& line)
-{
-    std::fprintf(stderr, "orvik-menu: %s\n", line.c_str());
-}
 
 void Complaints::complain(const std::string& line)
 {
     const std::lock_guard lock(m_mutex);
-    if (m_reported.insert(line).second)
-        report(line);
+    if (m_said.insert(line).second)
+        LinuxDesktop::complain(line);
 }
 
 void Complaints::allIsWell()
 {
     const std::lock_guard lock(m_mutex);
-    m_reported.clear();
+    m_said.clear();
 }
 
 } // namespace LinuxDesktop

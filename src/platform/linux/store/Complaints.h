@@ -6,10 +6,7 @@
 
 namespace LinuxDesktop {
 
-/// Writes one line on standard error. Any thread.
-void report(const std::string& line);
-
-/// Reports what goes wrong, once each until things go well again. Any thread.
+/// Says what goes wrong on standard error, once each until things go well again. Any thread.
 class Complaints {
 public:
     void complain(const std::string& line);
@@ -17,7 +14,7 @@ public:
 
 private:
     std::mutex m_mutex;
-    std::set<std::string> m_reported;
+    std::set<std::string> m_said;
 };
 
 } // namespace LinuxDesktop

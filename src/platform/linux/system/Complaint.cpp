@@ -1,6 +1,7 @@
 #include "platform/linux/system/Complaint.h"
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <string>
 #include <system_error>
@@ -28,11 +29,15 @@ std::string printable(std::string_view text)
 
 } // namespace
 
+void complain(std::string_view what)
+{
+    const std::string line = std::string(program_invocation_short_name) + ": " + printable(what) + "\n";
+    std::fputs(line.c_str(), stderr);
+}
+
 void complain(std::string_view what, std::string_view path, std::string_view why)
 {
-    const std::string line =
-        "orvik-menu: " + std::string(what) + " \"" + printable(path) + "\": " + printable(why) + "\n";
-    std::fputs(line.c_str(), stderr);
+    complain(std::string(what) + " \"" + std::string(path) + "\": " + std::string(why));
 }
 
 void complain(std::string_view what, std::string_view path, int error)
