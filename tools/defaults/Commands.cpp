@@ -10,8 +10,11 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <functional>
 #include <limits>
+#include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -118,7 +121,7 @@ Outcome withContents(Store& store, const std::string& name,
 
 Outcome stored(Domain& domain)
 {
-    if (domain.synchronize())
+    if (domain.finish())
         return success();
     return failed("could not store in " + domain.path());
 }
@@ -198,12 +201,21 @@ Outcome exportTo(const std::string& path, std::string bytes)
 {
     if (path == "-")
         return success(std::move(bytes));
-    // Settings are their owner's alone, so a new file is too.
-    FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
     LinuxDesktop::FileOperations files;
-    if (!file || !LinuxDesktop::writeAll(files, file.get(), bytes) || !file.close())
-        return failed(LinuxDesktop::systemFailure("could not write", path).what);
-    return success();
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        // A pipe or a device, which must stay what it is.
+        FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
+        if (!file || !LinuxDesktop::writeAll(files, file.get(), bytes) || !file.close())
+            return failed(LinuxDesktop::systemFailure("could not write", path).what);
+        return success();
+    }
+    std::error_code error;
+    const auto target = LinuxDesktop::linkTarget(std::filesystem::absolute(path, error).native());
+    if (!target)
+        return failed(target.error());
+    const auto written = LinuxDesktop::replaceFile(files, {bytes, *target, ".orvik-defaults-"});
+    return written ? success() : failed(written.error());
 }
 
 Outcome exportDomain(Store& store, Arguments arguments)

@@ -1,22 +1,14 @@
 #include "defaults/Commands.h"
 
 #include "platform/linux/store/ReplaceFile.h"
+#include "platform/linux/system/Complaint.h"
 
+#include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <unistd.h>
 #include <vector>
-
-namespace {
-
-void say(const std::string& message)
-{
-    std::fprintf(stderr, "orvik-defaults: %s\n", message.c_str());
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -27,10 +19,10 @@ int main(int argc, char** argv)
     LinuxDesktop::Store store;
     DefaultsTool::Outcome outcome = DefaultsTool::run(store, std::vector<std::string>(argv + 1, argv + argc));
     if (!outcome.message.empty())
-        say(outcome.message);
+        LinuxDesktop::complain(outcome.message);
     LinuxDesktop::FileOperations files;
     if (!LinuxDesktop::writeAll(files, STDOUT_FILENO, outcome.output)) {
-        say(LinuxDesktop::systemFailure("could not write to", "standard output").what);
+        LinuxDesktop::complain("cannot write to", "standard output", errno);
         outcome.status = DefaultsTool::ExitStatus::Failed;
     }
     // Without the store's end: what could not be stored is not tried again behind the answer's back.

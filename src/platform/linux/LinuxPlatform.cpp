@@ -100,6 +100,8 @@ std::shared_ptr<NS::Storyboard> LinuxPlatform::storyboardWithName_bundle(std::st
 
 std::unique_ptr<NS::OpenPanel> LinuxPlatform::makeOpenPanel(NS::ChosenPaths paths)
 {
+    // What led to the panel is over, whatever becomes of the program while the user thinks.
+    m_store.writeNow();
     auto panel = std::make_unique<FileChooser>(m_modalState);
     if (paths == NS::ChosenPaths::Storable)
         panel->setRefusal(refusalOfUnstorable);

@@ -185,12 +185,4 @@ TEST(PropertyList, ValuesAreIdenticalOnlyWithTheirKindAndBits)
         identical(NS::Value(NS::Value::Dictionary{{"a", 1.5}}), NS::Value(NS::Value::Dictionary{{"a", 1.5}})));
 }
 
-TEST(PropertyList, DatesAreBroughtToWholeSecondsAtEveryDepth)
-{
-    EXPECT_EQ(inWholeSeconds(NS::Value::Dictionary{
-                  {"a", NS::Value::Array{NS::Value(NS::Date{1.75}), NS::Value(NS::Date{-1.25})}}, {"r", 1.75}}),
-              NS::Value(NS::Value::Dictionary{
-                  {"a", NS::Value::Array{NS::Value(NS::Date{1.0}), NS::Value(NS::Date{-2.0})}}, {"r", 1.75}}));
-}
-
 } // namespace

@@ -5,7 +5,9 @@
 #include <chrono>
 #include <csignal>
 #include <cstdint>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -14,6 +16,8 @@
 namespace {
 
 using namespace DefaultsTests;
+using namespace std::chrono_literals;
+using LinuxDesktop::FileDescriptor;
 using LinuxDesktop::Store;
 
 class StoreConcurrency : public SettingsTest, public ::testing::Test {
@@ -103,6 +107,31 @@ TEST_F(StoreConcurrency, NobodyStarvesWhileOthersWriteWithoutABreak)
         ::waitpid(writer, nullptr, 0);
     }
     EXPECT_LT(longest, std::chrono::seconds(2));
+}
+
+TEST_F(StoreConcurrency, ALockThatIsLetGoIsTakenAtOnce)
+{
+    store({{"k", 0}});
+    Store store(folder());
+    const auto domain = store.open(domainName);
+    std::chrono::steady_clock::duration waited{};
+    for (int i = 1; i <= 10; ++i) {
+        FileDescriptor lock(::open(file(".lock").c_str(), O_RDWR | O_CLOEXEC));
+        ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
+        std::chrono::steady_clock::time_point freed;
+        std::thread holding([&] {
+            std::this_thread::sleep_for(30ms);
+            freed = std::chrono::steady_clock::now();
+            lock.close();
+        });
+        domain->setObject_forKey(i, "k");
+        EXPECT_TRUE(domain->synchronize());
+        const auto done = std::chrono::steady_clock::now();
+        holding.join();
+        waited += done - freed;
+    }
+    // Not at the next look of a slow pace, each time.
+    EXPECT_LT(waited, 400ms);
 }
 
 TEST_F(StoreConcurrency, AProgramThatReplacesTheFileIsPickedUpByARunningWriter)

@@ -324,6 +324,61 @@ TEST_F(StoreFailures, ALockHeldByAnotherProgramIsWaitedForTwoSecondsAndTriedAgai
     EXPECT_EQ(holder.status, 0);
 }
 
+TEST_F(StoreFailures, ALockThatIsKeptIsWaitedForOnceAndWithoutBusyness)
+{
+    store({{"k", 0}});
+    {
+        Store store(folder());
+        const auto domain = store.open(domainName);
+        FileDescriptor lock(::open(file(".lock").c_str(), O_RDWR | O_CLOEXEC));
+        ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
+        testing::internal::CaptureStderr();
+        rusage before{};
+        rusage after{};
+        ::getrusage(RUSAGE_SELF, &before);
+        domain->setObject_forKey(1, "k");
+        EXPECT_FALSE(domain->synchronize());
+        ::getrusage(RUSAGE_SELF, &after);
+        EXPECT_LT(after.ru_nvcsw - before.ru_nvcsw, 200);
+
+        const auto start = std::chrono::steady_clock::now();
+        for (int i = 2; i <= 20; ++i) {
+            domain->setObject_forKey(i, "k");
+            EXPECT_FALSE(domain->synchronize());
+        }
+        EXPECT_LT(std::chrono::steady_clock::now() - start, 1900ms);
+        const std::string complaint = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(linesOf(complaint), 1) << complaint;
+        EXPECT_EQ(stored("k"), NS::Value(0));
+
+        lock.close();
+        EXPECT_TRUE(holdsWithin(4s, [&] { return stored("k") == NS::Value(20); }));
+    }
+    EXPECT_EQ(readFile(file(".bak")), readFile(file()));
+}
+
+TEST_F(StoreFailures, TheStoresEndWaitsForTheLockOnceMore)
+{
+    store({{"k", 0}});
+    FileDescriptor lock(::open(file(".lock").c_str(), O_RDWR | O_CLOEXEC));
+    ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
+    std::thread holding;
+    {
+        Store store(folder());
+        const auto domain = store.open(domainName);
+        domain->setObject_forKey(1, "k");
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(domain->synchronize());
+        testing::internal::GetCapturedStderr();
+        holding = std::thread([&] {
+            std::this_thread::sleep_for(300ms);
+            lock.close();
+        });
+    }
+    holding.join();
+    EXPECT_EQ(stored("k"), NS::Value(1));
+}
+
 TEST_F(StoreFailures, ReadsDoNotWaitForAWriteThatWaitsForTheLock)
 {
     store({{"k", 1}});

@@ -1,6 +1,7 @@
 #include "Support.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
@@ -13,6 +14,7 @@
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -77,6 +79,29 @@ private:
     std::vector<std::string> m_calls;
 };
 
+/// Makes whoever flushes the last good copy, the second file that is flushed, wait for a permission.
+class SlowDisk : public LinuxDesktop::FileOperations {
+public:
+    void permit() { m_permission.set_value(); }
+    [[nodiscard]] bool isWaiting() const { return m_waiting; }
+
+    int syncFile(int descriptor) override
+    {
+        if (++m_flushes == 2) {
+            m_waiting = true;
+            m_permitted.wait_for(60s);
+            m_waiting = false;
+        }
+        return FileOperations::syncFile(descriptor);
+    }
+
+private:
+    std::atomic<int> m_flushes{0};
+    std::atomic<bool> m_waiting{false};
+    std::promise<void> m_permission;
+    const std::shared_future<void> m_permitted = m_permission.get_future().share();
+};
+
 /// Makes whoever creates the last good copy wait for a permission.
 class SlowCopy : public LinuxDesktop::FileOperations {
 public:
@@ -134,7 +159,8 @@ TEST_F(StoreFiles, DataReachTheDiskBeforeTheNameAndTheNameBeforeTheAnswer)
     const auto recorder = std::make_shared<Recorder>();
     const std::vector<std::string> beforeTheAnswer{"create .lock", "create temporary", "write",
                                                    "flush file",   "rename to .plist", "flush folder"};
-    const std::vector<std::string> afterIt{"create .lock", "create temporary", "write", "rename to .bak"};
+    const std::vector<std::string> afterIt{"create temporary", "write", "flush file", "create .lock",
+                                           "rename to .bak"};
     {
         Store store(folder(), recorder);
         const auto domain = store.open(domainName);
@@ -162,6 +188,60 @@ TEST_F(StoreFiles, SynchronizeWaitsForTheSettingsAndNotForTheirCopy)
     EXPECT_EQ(readFile(file(".bak")), readFile(file()));
 }
 
+TEST_F(StoreFiles, NobodyWaitsUntilTheCopyIsOnDisk)
+{
+    const auto disk = std::make_shared<SlowDisk>();
+    {
+        Store store(folder(), disk);
+        const auto domain = store.open(domainName);
+        domain->setObject_forKey(0, "k");
+        ASSERT_TRUE(domain->synchronize());
+        ASSERT_TRUE(holdsWithin(10s, [&] { return disk->isWaiting(); }));
+        for (int i = 1; i < 10; ++i) {
+            domain->setObject_forKey(i, "k");
+            EXPECT_TRUE(domain->synchronize());
+        }
+        EXPECT_TRUE(disk->isWaiting());
+        disk->permit();
+    }
+    EXPECT_EQ(stored("k"), NS::Value(9));
+    EXPECT_EQ(readFile(file(".bak")), readFile(file()));
+}
+
+TEST_F(StoreFiles, WritingWithoutABreakDoesNotPutTheCopyOffForGood)
+{
+    Store store(folder());
+    const auto domain = store.open(domainName);
+    int i = 0;
+    EXPECT_TRUE(holdsWithin(20s, [&] {
+        domain->setObject_forKey(++i, "k");
+        return domain->synchronize() && fs::exists(file(".bak"));
+    }));
+}
+
+TEST_F(StoreFiles, AWriteThatChangesNothingMakesTheCopyThatAKilledWriterDidNot)
+{
+    store({{"k", 1}});
+    writeFile(file(), propertyList("<dict><key>k</key><integer>2</integer></dict>"));
+    {
+        Store store(folder());
+        store.open(domainName)->setObject_forKey(2, "k");
+    }
+    EXPECT_EQ(readFile(file(".bak")), readFile(file()));
+}
+
+TEST_F(StoreFiles, ATemporaryWhoseWriterLivesStays)
+{
+    makeFolder();
+    LinuxDesktop::FileOperations files;
+    const std::string target = folder() + "/target";
+    auto made = LinuxDesktop::NewFile::make(files, {"bytes", target, "target.tmp-"});
+    ASSERT_TRUE(made);
+    LinuxDesktop::removeStaleTemporaries(files, target, "target.tmp-");
+    EXPECT_TRUE(std::move(*made).takePlace());
+    EXPECT_EQ(readFile(target), "bytes");
+}
+
 TEST_F(StoreFiles, ARunningProgramMakesTheCopySoon)
 {
     Store store(folder());
@@ -176,9 +256,11 @@ TEST_F(StoreFiles, ARunningProgramMakesTheCopySoon)
 TEST_F(StoreFiles, AHandleThatOutlivesTheStoreMakesTheCopyAtOnce)
 {
     std::shared_ptr<LinuxDesktop::Domain> domain = Store(folder()).open(domainName);
-    domain->setObject_forKey(1, "k");
-    EXPECT_EQ(stored("k"), NS::Value(1));
-    EXPECT_EQ(readFile(file(".bak")), readFile(file()));
+    for (int i = 1; i <= 3; ++i) {
+        domain->setObject_forKey(i, "k");
+        EXPECT_EQ(stored("k"), NS::Value(i));
+        EXPECT_EQ(readFile(file(".bak")), readFile(file()));
+    }
 }
 
 TEST_F(StoreFiles, AWriteThatChangesNothingOnlyFlushes)

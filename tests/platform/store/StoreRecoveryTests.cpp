@@ -1,6 +1,7 @@
 #include "Support.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
@@ -148,6 +149,22 @@ TEST_F(StoreRecovery, DamageRightAfterAWriteLosesNothingWhileTheLockIsHeld)
     EXPECT_EQ(readFile(file()), "garbage");
 }
 
+TEST_F(StoreRecovery, WhatAnotherProgramWroteLaterIsNotUndoneByTheProgramThatWroteBefore)
+{
+    Store store(folder());
+    const auto domain = store.open(domainName);
+    for (int i = 0; i < 20; ++i) {
+        domain->setObject_forKey("mine " + std::to_string(i), "k");
+        ASSERT_TRUE(domain->synchronize());
+        const std::string theirs = "theirs " + std::to_string(i);
+        this->store({{"k", theirs}});
+        damage("garbage");
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(domain->objectForKey("k"), NS::Value(theirs));
+        testing::internal::GetCapturedStderr();
+    }
+}
+
 TEST_F(StoreRecovery, AWriterSetsADamagedFileAsideToo)
 {
     store({{"k", "good"}});
@@ -178,6 +195,87 @@ TEST_F(StoreRecovery, AtMostFiveDamagedFilesAreKeptTheNewestOnes)
         contents.push_back(readFile(folder() + "/" + name));
     EXPECT_EQ(contents, (std::vector<std::string>{"garbage 3", "garbage 4", "garbage 5", "garbage 6", "garbage 7"}));
     EXPECT_TRUE(fs::exists(file(".corrupt-notes")));
+}
+
+TEST_F(StoreRecovery, AClockThatWasSetBackDropsNoneOfTheNewerOnes)
+{
+    store({{"k", "good"}});
+    for (int i = 0; i < 5; ++i)
+        writeFile(file(".corrupt-29991231T235959.99999" + std::to_string(i + 5) + "Z"), "older " + std::to_string(i));
+    testing::internal::CaptureStderr();
+    for (int i = 0; i < 3; ++i) {
+        damage("garbage " + std::to_string(i));
+        EXPECT_EQ(stored("k"), NS::Value("good"));
+    }
+    testing::internal::GetCapturedStderr();
+    std::vector<std::string> contents;
+    for (const std::string& name : files(".corrupt-"))
+        contents.push_back(readFile(folder() + "/" + name));
+    EXPECT_EQ(contents, (std::vector<std::string>{"older 3", "older 4", "garbage 0", "garbage 1", "garbage 2"}));
+}
+
+/// Does not let the last good copy be read, as long as it is told to.
+class NoCopyToRead : public LinuxDesktop::FileOperations {
+public:
+    explicit NoCopyToRead(int error) : m_error(error) {}
+    std::atomic<bool> failing = true;
+
+    LinuxDesktop::FileDescriptor open(const std::string& path, int flags, mode_t mode) override
+    {
+        if (failing && path.ends_with(".bak")) {
+            errno = m_error;
+            return {};
+        }
+        return FileOperations::open(path, flags, mode);
+    }
+
+private:
+    int m_error;
+};
+
+TEST_F(StoreRecovery, ACopyThatCannotBeReadIsNotTakenForNone)
+{
+    store({{"k", "good"}});
+    damage("garbage");
+    for (const int error : {EMFILE, EIO, EACCES}) {
+        const auto operations = std::make_shared<NoCopyToRead>(error);
+        Store store(folder(), operations);
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(store.open(domainName));
+        EXPECT_FALSE(store.open(domainName));
+        EXPECT_EQ(std::ranges::count(testing::internal::GetCapturedStderr(), '\n'), 1);
+        EXPECT_EQ(readFile(file()), "garbage");
+        EXPECT_TRUE(files(".corrupt-").empty());
+    }
+    const auto operations = std::make_shared<NoCopyToRead>(EMFILE);
+    Store store(folder(), operations);
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(store.open(domainName));
+    operations->failing = false;
+    const auto domain = store.open(domainName);
+    testing::internal::GetCapturedStderr();
+    ASSERT_TRUE(domain);
+    EXPECT_EQ(domain->objectForKey("k"), NS::Value("good"));
+}
+
+TEST_F(StoreRecovery, ARunningProgramKeepsWhatItHasReadAndWrittenWhereNoCopyCanBeRead)
+{
+    store({{"k", "good"}});
+    const auto operations = std::make_shared<NoCopyToRead>(EMFILE);
+    Store store(folder(), operations);
+    const auto domain = store.open(domainName);
+    EXPECT_EQ(domain->objectForKey("k"), NS::Value("good"));
+    damage("garbage");
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(domain->objectForKey("k"), NS::Value("good"));
+    domain->setObject_forKey(1, "new");
+    EXPECT_FALSE(domain->synchronize());
+    EXPECT_EQ(readFile(file()), "garbage");
+    operations->failing = false;
+    EXPECT_TRUE(domain->synchronize());
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(stored("k"), NS::Value("good"));
+    EXPECT_EQ(stored("new"), NS::Value(1));
 }
 
 TEST_F(StoreRecovery, WhoeverWritesInPlaceAtThisMomentMayFinish)

@@ -164,6 +164,22 @@ TEST_F(StoreOfOneDomain, ADateIsStoredInWholeSeconds)
     EXPECT_NE(readFile(file()).find("<date>2024-01-01T00:00:05Z</date>"), std::string::npos);
 }
 
+TEST_F(StoreOfOneDomain, AFractionThatAFileHoldsSurvivesAChangeBesideIt)
+{
+    makeFolder();
+    writeFile(file(), propertyList("<dict><key>menuArrayDic</key><array><dict><key>title</key><string>New</string>"
+                                   "<key>state</key><true/><key>since</key><date>2024-01-01T00:00:05.25Z</date>"
+                                   "</dict></array></dict>"));
+    auto items = m_defaults->arrayForKey("menuArrayDic");
+    ASSERT_TRUE(items && items->size() == 1);
+    auto item = *items->front().dictionary();
+    item.insert_or_assign("state", false);
+    m_defaults->setObject_forKey(NS::Value::Array{NS::Value(item)}, "menuArrayDic");
+    ASSERT_TRUE(m_defaults->synchronize());
+    EXPECT_EQ(stored("menuArrayDic"), NS::Value(NS::Value::Array{NS::Value(item)}));
+    EXPECT_NE(readFile(file()).find("<date>2024-01-01T00:00:05.25Z</date>"), std::string::npos);
+}
+
 TEST_F(StoreOfOneDomain, ReplacingTheContentsLeavesNothingElse)
 {
     store({{"a", 1}, {"b", 2}});

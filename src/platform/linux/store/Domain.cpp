@@ -3,7 +3,9 @@
 #include "platform/FatalError.h"
 #include "platform/linux/store/PropertyList.h"
 #include "platform/linux/store/SettingsFolder.h"
+#include "platform/linux/system/Complaint.h"
 
+#include <cmath>
 #include <utility>
 #include <variant>
 
@@ -14,9 +16,18 @@ namespace {
 /// Long enough for what one action writes to go to the disk together; short, because another program may be about
 /// to write the same key.
 constexpr std::chrono::milliseconds writeDelay{20};
-constexpr std::chrono::milliseconds retryDelay{1000};
-/// So that writes without a break are tidied up after once in a while only.
-constexpr std::chrono::milliseconds tidyDelay{20};
+constexpr std::chrono::milliseconds retryDelay{100};
+/// So that writes without a break are copied once in a while only, as copying keeps the disk busy.
+constexpr std::chrono::milliseconds copyDelay{20};
+/// A copy is brought to the disk before it is known whether it can be used.
+constexpr std::chrono::milliseconds copyRetryDelay{1000};
+constexpr int mostLateCopies = 25;
+
+void requireStorable(std::string_view key)
+{
+    if (const auto reason = PropertyList::unstorableKeyReason(key))
+        NS::fatalError("a key that cannot be stored: " + *reason);
+}
 
 } // namespace
 
@@ -26,62 +37,67 @@ Domain::Domain(std::shared_ptr<FileOperations> files, std::shared_ptr<DelayedQue
       m_lock(*m_files, m_file.lockPath())
 {}
 
-NS::Value::Dictionary Domain::Changes::over(const NS::Value::Dictionary& values) const
+/// What the key holds, as of the last refresh(), which whoever asked knows from now on.
+std::optional<NS::Value> Domain::see(std::string_view key)
 {
-    NS::Value::Dictionary result;
-    if (cleared == 0)
-        result = values;
-    for (const auto& [key, change] : keys) {
-        if (change.value)
-            result.insert_or_assign(key, *change.value);
-        else
-            result.erase(key);
-    }
-    return result;
+    auto value = m_changes.over(m_snapshot.values(), key);
+    if (const auto seen = m_seen.find(key); seen != m_seen.end())
+        seen->second = value;
+    else
+        m_seen.emplace(key, value);
+    return value;
 }
 
 std::optional<NS::Value> Domain::objectForKey(std::string_view key)
 {
     std::unique_lock state(m_state);
     refresh(state);
-    if (const auto change = m_changes.keys.find(key); change != m_changes.keys.end())
-        return change->second.value;
-    if (m_changes.cleared != 0)
-        return std::nullopt;
-    const auto& values = m_snapshot.values();
-    const auto found = values.find(key);
-    return found == values.end() ? std::nullopt : std::optional(found->second);
+    return see(key);
 }
 
 void Domain::setObject_forKey(NS::Value value, std::string_view key)
 {
-    if (const auto reason = PropertyList::unstorableReason(value))
-        NS::fatalError("a value that cannot be stored: " + *reason);
-    change(key, PropertyList::inWholeSeconds(std::move(value)));
+    requireStorable(key);
+    if (const auto date = value.date())
+        value = NS::Date{std::floor(date->timeIntervalSince1970)};
+    auto text = PropertyList::textInRoot(value);
+    if (!text)
+        NS::fatalError("a value that cannot be stored: " + text.error());
+    std::unique_lock state(m_state);
+    m_seen.insert_or_assign(std::string(key), value);
+    m_changes.set(key, std::move(value), std::move(*text));
+    writeSoon(std::move(state));
 }
 
 void Domain::removeObjectForKey(std::string_view key)
 {
-    change(key, std::nullopt);
-}
-
-void Domain::change(std::string_view key, std::optional<NS::Value> value)
-{
-    if (const auto reason = PropertyList::unstorableKeyReason(key))
-        NS::fatalError("a key that cannot be stored: " + *reason);
+    requireStorable(key);
     std::unique_lock state(m_state);
-    m_changes.keys.insert_or_assign(std::string(key), Change{std::move(value), ++m_serial});
+    if (!m_seen.contains(key) && m_changes.isRemoved(key))
+        return;
+    // What was set and is not written yet hides another value, which it would have replaced.
+    if (!m_seen.contains(key) || m_changes.isSet(key))
+        refresh(state);
+    if (!m_seen.contains(key))
+        static_cast<void>(see(key));
+    const auto seen = std::move(m_seen.extract(m_seen.find(key)).mapped());
+    // Seen to be gone because another removal waits.
+    if (!seen && m_changes.isRemoved(key))
+        return;
+    std::vector<NS::Value> meant;
+    if (seen)
+        meant.push_back(*seen);
+    if (const auto held = m_snapshot.values().find(key); m_changes.isSet(key) && held != m_snapshot.values().end())
+        meant.push_back(held->second);
+    m_changes.remove(key, std::move(meant));
     writeSoon(std::move(state));
 }
 
 void Domain::replaceContents(const NS::Value::Dictionary& values)
 {
-    Changes changes;
     std::unique_lock state(m_state);
-    changes.cleared = ++m_serial;
-    for (const auto& [key, value] : values)
-        changes.keys.emplace(key, Change{PropertyList::inWholeSeconds(value), m_serial});
-    m_changes = std::move(changes);
+    m_changes.replaceAll(values);
+    m_seen.clear();
     writeSoon(std::move(state));
 }
 
@@ -91,7 +107,10 @@ std::optional<NS::Value::Dictionary> Domain::contents()
     refresh(state);
     if (m_snapshot.state() == Snapshot::State::Absent && m_changes.empty())
         return std::nullopt;
-    return m_changes.over(m_snapshot.values());
+    auto contents = m_changes.over(m_snapshot.values());
+    for (const auto& [key, value] : contents)
+        m_seen.insert_or_assign(key, value);
+    return contents;
 }
 
 bool Domain::isAccessible()
@@ -116,20 +135,43 @@ void Domain::writeNow()
         const std::lock_guard state(m_state);
         m_writeIsDue = false;
     }
-    if (saveOrRetry())
-        tidy();
+    static_cast<void>(synchronize());
 }
 
 /// The caller of synchronize() waits for the settings only.
-void Domain::tidySoon()
+void Domain::copySoon(std::chrono::milliseconds delay)
 {
     {
         const std::lock_guard state(m_state);
-        if (!m_uncopied || std::exchange(m_tidyingIsDue, true))
+        if (!m_uncopied || std::exchange(m_copyIsDue, true))
             return;
     }
-    if (!post(&Domain::tidy, tidyDelay))
-        tidy();
+    if (post(&Domain::copyNow, delay))
+        return;
+    copy(Clock::now() + DomainLock::longestWait, Copying::UnderLock);
+    const std::lock_guard state(m_state);
+    m_copyIsDue = false;
+}
+
+void Domain::copyNow()
+{
+    auto copying = Copying::BeforeLock;
+    bool isQuiet = true;
+    {
+        const std::lock_guard state(m_state);
+        m_copyIsDue = false;
+        isQuiet = !m_uncopied || Clock::now() - m_uncopied->since >= copyDelay;
+        // Who writes without a break is kept waiting in the end.
+        if (m_lateCopies >= mostLateCopies)
+            copying = Copying::UnderLock;
+    }
+    const Copied copied = isQuiet || copying == Copying::UnderLock ? copy(Clock::now(), copying) : Copied::Late;
+    {
+        const std::lock_guard state(m_state);
+        m_lateCopies = copied == Copied::Late ? m_lateCopies + 1 : 0;
+    }
+    if (copied != Copied::Done)
+        copySoon(copied == Copied::Late ? copyDelay : copyRetryDelay);
 }
 
 /// False once the store is gone: then nothing is done later.
@@ -147,7 +189,22 @@ bool Domain::synchronize()
 {
     const bool saved = saveOrRetry();
     if (saved)
-        tidySoon();
+        copySoon(copyDelay);
+    return saved;
+}
+
+bool Domain::finish()
+{
+    {
+        const std::scoped_lock both(m_writing, m_state);
+        m_lockIsKept = false;
+        m_writeIsDue = false;
+        m_copyIsDue = false;
+    }
+    const auto deadline = [] { return Clock::now() + DomainLock::longestWait; };
+    const bool saved = save(deadline()) == Outcome::Saved;
+    if (copy(deadline(), Copying::BeforeLock) == Copied::Late)
+        copy(deadline(), Copying::UnderLock);
     return saved;
 }
 
@@ -185,21 +242,32 @@ void Domain::refresh(std::unique_lock<std::mutex>& state)
 
 std::optional<DomainLock::Hold> Domain::lockFiles(Clock::time_point deadline, Trouble& trouble)
 {
-    DomainLock::Attempt attempt = m_lock.acquire(deadline);
-    if (auto* hold = std::get_if<DomainLock::Hold>(&attempt))
+    const auto now = Clock::now();
+    DomainLock::Attempt attempt = m_lock.acquire(m_lockIsKept ? now : deadline);
+    if (auto* hold = std::get_if<DomainLock::Hold>(&attempt)) {
+        m_lockIsKept = false;
         return std::move(*hold);
-    if (const auto* failure = std::get_if<Failure>(&attempt))
+    }
+    if (const auto* failure = std::get_if<Failure>(&attempt)) {
         trouble = {Outcome::Failed, failure->what};
-    else
-        trouble = {Outcome::LockBusy, "the settings lock " + m_lock.path() + " is held by another program"};
+        return std::nullopt;
+    }
+    m_lockIsKept = m_lockIsKept || now < deadline;
+    trouble = {Outcome::LockBusy, "the settings lock " + m_lock.path() + " is held by another program"};
     return std::nullopt;
 }
 
 Snapshot Domain::withStandIn(Snapshot damaged, const std::string& trouble)
 {
-    const auto newest = uncopied();
-    damaged.standIn(newest ? newest : m_file.readBackup().content());
-    m_complaints.complain(m_file.path() + " is not a readable property list (" + damaged.why() +
+    const std::string why = damaged.why();
+    if (const auto newest = uncopied(); isNewest(newest)) {
+        damaged.standIn(newest->content);
+    } else if (const Snapshot backup = m_file.readBackup(); backup.state() != Snapshot::State::Inaccessible) {
+        damaged.standIn(backup.content());
+    } else {
+        damaged.becomeInaccessible(why + ", and its last good copy cannot be read: " + backup.why());
+    }
+    m_complaints.complain(m_file.path() + " is not a readable property list (" + why +
                           ") and could not be set aside: " + trouble +
                           "; it is left as it is, and the last good copy is used where there is one");
     return damaged;
@@ -221,12 +289,17 @@ Snapshot Domain::repairLocked(Snapshot found)
 {
     if (found.state() != Snapshot::State::Damaged)
         return found;
-    if (const auto newest = uncopied())
-        copy(*newest);
+    if (const auto newest = uncopied(); isNewest(newest)) {
+        auto copy = m_file.makeBackup(*newest->content);
+        const auto placed = copy ? std::move(*copy).takePlace() : Failure{copy.error()};
+        if (!placed)
+            return withStandIn(std::move(found), placed.error());
+    }
+    setUncopied(nullptr);
     const auto outcome = m_file.setAside(found);
     if (!outcome)
         return withStandIn(std::move(found), outcome.error());
-    report(*outcome);
+    complain(*outcome);
     return m_file.read();
 }
 
@@ -235,14 +308,14 @@ Domain::Outcome Domain::save(Clock::time_point deadline)
     const std::lock_guard writing(m_writing);
     Changes changes;
     Snapshot::SharedContent known;
-    std::uint64_t serial = 0;
     {
         const std::lock_guard state(m_state);
-        if (m_changes.empty())
-            return Outcome::Saved;
         changes = m_changes;
         known = m_snapshot.content();
-        serial = m_serial;
+        if (changes.changeNothing()) {
+            m_changes.forget(changes);
+            return Outcome::Saved;
+        }
     }
 
     Trouble trouble{};
@@ -255,9 +328,7 @@ Domain::Outcome Domain::save(Clock::time_point deadline)
     m_complaints.allIsWell();
     const std::lock_guard state(m_state);
     m_snapshot = std::move(*written);
-    std::erase_if(m_changes.keys, [&](const auto& entry) { return entry.second.serial <= serial; });
-    if (m_changes.cleared <= serial)
-        m_changes.cleared = 0;
+    m_changes.forget(changes);
     return Outcome::Saved;
 }
 
@@ -280,12 +351,15 @@ std::optional<Snapshot> Domain::write(const Changes& changes, const Snapshot::Sh
     }
     NS::Value::Dictionary values = changes.over(found.values());
     // Replaced contents are worth a file even when they are empty.
-    const bool fileIsMissing = found.state() == Snapshot::State::Absent && changes.cleared != 0;
+    const bool fileIsMissing = found.state() == Snapshot::State::Absent && changes.hidesFile();
     if (!fileIsMissing && PropertyList::identical(values, found.values())) {
         if (const auto failure = m_file.flush(found)) {
             trouble.what = failure->what;
             return std::nullopt;
         }
+        // Whoever wrote it may have ended before the copy was made.
+        if (found.content() && !uncopied() && m_file.readBackup(found.content()).content() != found.content())
+            setUncopied(found.content());
         return found;
     }
     found.release();
@@ -293,48 +367,72 @@ std::optional<Snapshot> Domain::write(const Changes& changes, const Snapshot::Sh
         const std::lock_guard state(m_state);
         m_snapshot.release();
     }
-    auto written = m_file.replace(found, std::move(values));
+    auto written = m_file.replace(found, std::move(values), changes.texts());
     if (!written) {
         trouble.what = written.error();
         return std::nullopt;
     }
-    const std::lock_guard state(m_state);
-    m_uncopied = written->content();
+    setUncopied(written->content());
     return std::move(*written);
 }
 
-void Domain::tidy()
+Domain::Copied Domain::copy(Clock::time_point deadline, Copying copying)
 {
+    const auto copied = uncopied();
+    if (!copied)
+        return Copied::Done;
+    std::optional<Result<NewFile>> made;
+    if (copying == Copying::BeforeLock)
+        made.emplace(m_file.makeBackup(*copied->content));
+
     const std::lock_guard writing(m_writing);
-    {
-        const std::lock_guard state(m_state);
-        m_tidyingIsDue = false;
-    }
-    const auto written = uncopied();
-    if (!written)
-        return;
-    // Whoever has the lock now writes, and tidies up after that; else the next write here does.
-    Trouble busy{};
-    const auto hold = lockFiles(Clock::now(), busy);
+    const auto newest = uncopied();
+    if (!newest)
+        return Copied::Done;
+    if (made && newest->content != copied->content)
+        return Copied::Late;
+    Trouble trouble{};
+    const auto hold = lockFiles(deadline, trouble);
     if (!hold)
-        return;
-    // Another program's newer settings are as good; damage is for the next reader.
-    const Snapshot found = m_file.read(written);
-    copy(found.content() ? *found.content() : *written);
+        return trouble.outcome == Outcome::LockBusy ? Copied::LockBusy : Copied::Done;
+    m_file.removeStaleTemporaries();
+    const Snapshot found = m_file.read(newest->content);
+    if (found.content() && found.content() != newest->content) {
+        // Another program's newer settings are as good.
+        setUncopied(found.content());
+        if (made)
+            return Copied::Late;
+    } else if (!isNewest(newest)) {
+        setUncopied(nullptr);
+        return Copied::Done;
+    }
+    if (!made)
+        made.emplace(m_file.makeBackup(found.content() ? *found.content() : *newest->content));
+    // The settings themselves are safe; without a new copy there is still the one before.
+    if (*made && std::move(**made).takePlace())
+        setUncopied(nullptr);
+    return Copied::Done;
 }
 
-Snapshot::SharedContent Domain::uncopied()
+std::optional<Domain::Uncopied> Domain::uncopied()
 {
     const std::lock_guard state(m_state);
     return m_uncopied;
 }
 
-/// For the holder of the lock.
-void Domain::copy(const Snapshot::Content& newest)
+bool Domain::isNewest(const std::optional<Uncopied>& uncopied) const
 {
-    m_file.tidy(newest);
+    return uncopied && uncopied->backup == m_file.backupStamp();
+}
+
+/// For the holder of the lock. With null, a copy is there.
+void Domain::setUncopied(Snapshot::SharedContent content)
+{
+    std::optional<Uncopied> uncopied;
+    if (content)
+        uncopied = Uncopied{std::move(content), m_file.backupStamp(), Clock::now()};
     const std::lock_guard state(m_state);
-    m_uncopied = nullptr;
+    m_uncopied = std::move(uncopied);
 }
 
 } // namespace LinuxDesktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/UserDefaults.h"
+#include "platform/linux/store/Changes.h"
 #include "platform/linux/store/Complaints.h"
 #include "platform/linux/store/DelayedQueue.h"
 #include "platform/linux/store/DomainLock.h"
@@ -8,7 +9,6 @@
 #include "platform/linux/store/SettingsFile.h"
 #include "platform/linux/store/Snapshot.h"
 
-#include <cstdint>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -20,16 +20,20 @@ namespace LinuxDesktop {
 
 /// A domain of settings: what its file held when it was last looked at, and over that what was written here and
 /// is not in the file yet. Every read looks whether the file has changed. Writes reach the file within a few
-/// hundredths of a second, or with synchronize(). Any thread; no read waits for another thread's write to
-/// the disk.
+/// hundredths of a second, or with synchronize(). While another program keeps the lock, it is waited for once; from
+/// then on whatever is called tries once, and the rest is done later. Any thread; no read waits for another thread's
+/// write to the disk.
 class Domain final : public NS::UserDefaults, public std::enable_shared_from_this<Domain> {
 public:
     Domain(std::shared_ptr<FileOperations> files, std::shared_ptr<DelayedQueue> queue, std::string folder,
            std::string_view name);
 
     [[nodiscard]] std::optional<NS::Value> objectForKey(std::string_view key) override;
-    /// Fatal for what PropertyList::unstorableReason() names. Dates are stored in whole seconds.
+    /// Fatal for what PropertyList::unstorableReason() names. A date is stored in whole seconds; those within an
+    /// array or a dictionary stay as they are.
     void setObject_forKey(NS::Value value, std::string_view key) override;
+    /// Removes the value that was last read or set here, or where that never happened the one that is there now. What
+    /// another program writes in its place stays, and then all removals that wait are dropped.
     void removeObjectForKey(std::string_view key) override;
     bool synchronize() override;
 
@@ -38,9 +42,9 @@ public:
     /// Replaces everything in the domain, storable values all.
     void replaceContents(const NS::Value::Dictionary& values);
 
-    /// For the store's end, and for whoever is not waited for: writes what is unwritten, and has nothing left to do
-    /// later.
-    void writeNow();
+    /// For who leaves nothing to be done later: synchronize() that waits for the lock anew, and for the last good
+    /// copy.
+    bool finish();
 
     /// Whether the file, if there is one, can be read at all.
     [[nodiscard]] bool isAccessible();
@@ -49,28 +53,28 @@ public:
 private:
     using Clock = DomainLock::Clock;
 
-    struct Change {
-        /// Nothing: the key was removed.
-        std::optional<NS::Value> value;
-        std::uint64_t serial;
-    };
-    /// What was written here, to be laid over what the file holds.
-    struct Changes {
-        std::map<std::string, Change, std::less<>> keys;
-        /// The serial of the last replaceContents(), which hides all that the file holds; 0 when there was none.
-        std::uint64_t cleared = 0;
-        [[nodiscard]] bool empty() const { return keys.empty() && cleared == 0; }
-        [[nodiscard]] NS::Value::Dictionary over(const NS::Value::Dictionary& values) const;
-    };
     enum class Outcome { Saved, LockBusy, Failed };
     struct Trouble {
         Outcome outcome;
         std::string what;
     };
+    /// What was written here last.
+    struct Uncopied {
+        Snapshot::SharedContent content;
+        /// The last good copy at that time. Another one is newer than what was written here.
+        std::optional<FileStamp> backup;
+        Clock::time_point since;
+    };
+    /// When a copy is brought to the disk: before the lock is taken, so that nobody is kept from writing, or under
+    /// it, so that nobody writes meanwhile.
+    enum class Copying { BeforeLock, UnderLock };
+    enum class Copied { Done, LockBusy, Late };
 
-    void change(std::string_view key, std::optional<NS::Value> value);
+    [[nodiscard]] std::optional<NS::Value> see(std::string_view key);
     void writeSoon(std::unique_lock<std::mutex> state);
-    void tidySoon();
+    void writeNow();
+    void copySoon(std::chrono::milliseconds delay);
+    void copyNow();
     [[nodiscard]] bool post(void (Domain::*job)(), std::chrono::milliseconds delay);
     void refresh(std::unique_lock<std::mutex>& state);
 
@@ -78,7 +82,7 @@ private:
     // deadline the lock is tried once and not waited for.
     [[nodiscard]] bool saveOrRetry();
     Outcome save(Clock::time_point deadline);
-    void tidy();
+    Copied copy(Clock::time_point deadline, Copying copying);
     [[nodiscard]] Snapshot repair(Clock::time_point deadline);
 
     // For the holder of m_writing; on failure they fill `trouble`.
@@ -87,8 +91,9 @@ private:
     [[nodiscard]] std::optional<DomainLock::Hold> lockFiles(Clock::time_point deadline, Trouble& trouble);
     [[nodiscard]] Snapshot repairLocked(Snapshot found);
     [[nodiscard]] Snapshot withStandIn(Snapshot damaged, const std::string& trouble);
-    [[nodiscard]] Snapshot::SharedContent uncopied();
-    void copy(const Snapshot::Content& newest);
+    [[nodiscard]] std::optional<Uncopied> uncopied();
+    [[nodiscard]] bool isNewest(const std::optional<Uncopied>& uncopied) const;
+    void setUncopied(Snapshot::SharedContent content);
 
     const std::shared_ptr<FileOperations> m_files;
     const std::shared_ptr<DelayedQueue> m_queue;
@@ -98,15 +103,20 @@ private:
     /// Taken before m_state, by whoever changes the files.
     std::mutex m_writing;
     DomainLock m_lock;
+    /// It was waited for in vain, and not had since.
+    bool m_lockIsKept = false;
 
     std::mutex m_state;
     Snapshot m_snapshot;
     Changes m_changes;
-    /// What was written here last, until the last good copy is made of it. Changed by the holder of m_writing.
-    Snapshot::SharedContent m_uncopied;
-    std::uint64_t m_serial = 0;
+    /// What each key held when it was last read or set; not of those that were removed since.
+    std::map<std::string, std::optional<NS::Value>, std::less<>> m_seen;
+    /// Until the last good copy is made of it. Changed by the holder of m_writing.
+    std::optional<Uncopied> m_uncopied;
     bool m_writeIsDue = false;
-    bool m_tidyingIsDue = false;
+    bool m_copyIsDue = false;
+    /// How many in a row the settings had outrun.
+    int m_lateCopies = 0;
 };
 
 } // namespace LinuxDesktop

@@ -1,13 +1,18 @@
 #include "platform/linux/store/DomainLock.h"
 
 #include "platform/linux/store/ReplaceFile.h"
+#include "platform/linux/system/FileStamp.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <optional>
+#include <poll.h>
 #include <sys/file.h>
-#include <sys/stat.h>
+#include <sys/inotify.h>
 #include <thread>
+#include <unistd.h>
 
 namespace LinuxDesktop {
 
@@ -15,15 +20,37 @@ namespace {
 
 constexpr std::chrono::microseconds firstPause{50};
 constexpr std::chrono::microseconds longestPause{1000};
+constexpr std::chrono::milliseconds longestSleep{100};
 constexpr std::chrono::milliseconds longestStreak{50};
 
 bool isStillAt(int descriptor, const std::string& path)
 {
-    struct stat held {};
-    struct stat found {};
-    return ::fstat(descriptor, &held) == 0 && ::stat(path.c_str(), &found) == 0 && held.st_dev == found.st_dev &&
-           held.st_ino == found.st_ino;
+    return FileStamp::of(path) == FileStamp::of(descriptor);
 }
+
+/// Tells when somebody closes a lock file, which lets go of the lock.
+class ReleaseWatch {
+public:
+    explicit ReleaseWatch(const std::string& path) : m_inotify(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
+    {
+        ::inotify_add_watch(m_inotify.get(), path.c_str(), IN_CLOSE);
+    }
+
+    /// Not for long where nothing is told: of a lock that is given up in another way, or on another machine.
+    void sleep(DomainLock::Clock::duration longest) const
+    {
+        const auto most = std::chrono::ceil<std::chrono::milliseconds>(
+            std::min<DomainLock::Clock::duration>(longest, longestSleep));
+        pollfd closed{m_inotify.get(), POLLIN, 0};
+        ::poll(&closed, 1, static_cast<int>(most.count()));
+        std::array<char, 4096> told{};
+        while (::read(m_inotify.get(), told.data(), told.size()) > 0) {
+        }
+    }
+
+private:
+    FileDescriptor m_inotify;
+};
 
 } // namespace
 
@@ -31,7 +58,8 @@ DomainLock::Attempt DomainLock::acquire(Clock::time_point deadline)
 {
     giveOthersATurn();
     FileDescriptor file;
-    for (auto pause = firstPause;; pause = std::min(pause * 2, longestPause)) {
+    std::optional<ReleaseWatch> watch;
+    for (auto pause = firstPause;;) {
         if (!file)
             file = m_files.open(m_path, O_RDWR | O_CREAT, 0600);
         if (!file)
@@ -44,9 +72,18 @@ DomainLock::Attempt DomainLock::acquire(Clock::time_point deadline)
         } else if (errno != EWOULDBLOCK && errno != EINTR) {
             return systemFailure("could not take the lock", m_path);
         }
-        if (Clock::now() >= deadline)
+        const auto now = Clock::now();
+        if (now >= deadline)
             return Busy{};
-        std::this_thread::sleep_for(pause);
+        // Most hold it for less than it takes to be told.
+        if (pause <= longestPause) {
+            std::this_thread::sleep_for(pause);
+            pause *= 2;
+        } else if (watch) {
+            watch->sleep(deadline - now);
+        } else {
+            watch.emplace(m_path);
+        }
     }
 }
 

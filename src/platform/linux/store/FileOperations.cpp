@@ -52,11 +52,6 @@ int FileOperations::rename(const std::string& from, const std::string& to)
     return std::rename(from.c_str(), to.c_str());
 }
 
-int FileOperations::exchange(const std::string& one, const std::string& other)
-{
-    return ::renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE);
-}
-
 int FileOperations::link(const std::string& existing, const std::string& name)
 {
     return ::link(existing.c_str(), name.c_str());

@@ -22,8 +22,6 @@ public:
     /// A file system that has no such operation for folders counts as having done it.
     [[nodiscard]] virtual int syncFolder(int descriptor);
     [[nodiscard]] virtual int rename(const std::string& from, const std::string& to);
-    /// Swaps two existing names in one step. Not every file system can.
-    [[nodiscard]] virtual int exchange(const std::string& one, const std::string& other);
     [[nodiscard]] virtual int link(const std::string& existing, const std::string& name);
     virtual int unlink(const std::string& path);
     [[nodiscard]] virtual int makeFolder(const std::string& path, mode_t mode);

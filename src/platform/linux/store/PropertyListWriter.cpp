@@ -102,7 +102,10 @@ const char* escape(std::string_view text, Take take)
 /// Writes values, and knows by that what cannot be written.
 class Writer {
 public:
-    explicit Writer(std::size_t expectedBytes = 0) { m_out.reserve(expectedBytes); }
+    /// Of a root dictionary's values, `known` are written as they are.
+    explicit Writer(const Texts& known, std::size_t expectedBytes) : m_known(known) { m_out.reserve(expectedBytes); }
+    /// For a value in a root dictionary.
+    Writer() : m_indent(1) {}
 
     [[nodiscard]] const std::optional<std::string>& error() const { return m_error; }
     [[nodiscard]] std::string take() { return std::move(m_out); }
@@ -247,12 +250,16 @@ private:
         ++m_indent;
         for (const auto& [key, item] : dictionary) {
             textElement("key", key);
-            write(item, level + 1);
+            if (const auto known = m_known.find(key); level == 1 && known != m_known.end())
+                raw(known->second);
+            else
+                write(item, level + 1);
         }
         --m_indent;
         line("</dict>");
     }
 
+    const Texts m_known;
     std::string m_out;
     std::optional<std::string> m_error;
     std::size_t m_indent = 0;
@@ -260,9 +267,9 @@ private:
 
 } // namespace
 
-Result<std::string> serialise(const NS::Value& value, std::size_t expectedBytes)
+Result<std::string> serialise(const NS::Value& value, const Texts& known, std::size_t expectedBytes)
 {
-    Writer writer(expectedBytes);
+    Writer writer(known, expectedBytes);
     writer.raw(header);
     writer.write(value, 1);
     writer.raw(footer);
@@ -271,12 +278,19 @@ Result<std::string> serialise(const NS::Value& value, std::size_t expectedBytes)
     return writer.take();
 }
 
-std::optional<std::string> unstorableReason(const NS::Value& value)
+Result<std::string> textInRoot(const NS::Value& value)
 {
-    // A stored value stands in the file's root dictionary.
     Writer writer;
     writer.write(value, 2);
-    return writer.error();
+    if (writer.error())
+        return Failure{*writer.error()};
+    return writer.take();
+}
+
+std::optional<std::string> unstorableReason(const NS::Value& value)
+{
+    const auto text = textInRoot(value);
+    return text ? std::nullopt : std::optional(text.error());
 }
 
 std::optional<std::string> unstorableKeyReason(std::string_view key)

@@ -8,29 +8,45 @@
 
 namespace LinuxDesktop {
 
-enum class Durability {
-    /// On disk, data and name both, when the call returns.
-    Synchronous,
-    /// On disk some time later.
-    Eventual,
-};
-
 struct Replacement {
     std::string_view bytes;
-    /// Not a symbolic link, or that link itself is replaced.
+    /// Absolute. Not a symbolic link, or that link itself is replaced.
     std::string path;
     /// The temporary file's name is this and 16 hexadecimal digits; it lies beside `path`.
     std::string temporaryPrefix;
-    Durability durability = Durability::Synchronous;
 };
 
-/// Puts a new file of mode 0600 in the place of `path` in one step: every reader sees the old file or the new one.
-/// Gives the new file, open for reading. After a failure the old file is whole and no temporary is left, except
-/// that a failure to make the name durable leaves the new file, whole.
+/// A file of mode 0600 that holds all it is to hold, on disk, and waits to take another's place. Where it never does,
+/// it goes with this object.
+class NewFile {
+public:
+    [[nodiscard]] static Result<NewFile> make(FileOperations& files, const Replacement& replacement);
+    NewFile(NewFile&& other) noexcept;
+    NewFile& operator=(NewFile&&) = delete;
+    ~NewFile();
+
+    /// Takes the place in one step: every reader sees the old file or this one. Gives it, open for reading.
+    [[nodiscard]] Result<FileDescriptor> takePlace() &&;
+
+private:
+    NewFile(FileOperations& files, std::string path, std::string temporary, FileDescriptor file);
+
+    FileOperations& m_files;
+    std::string m_path;
+    std::string m_temporary;
+    FileDescriptor m_file;
+};
+
+/// Puts a new file in the place of `path`, data and name both on disk when the call returns. Gives it, open for
+/// reading. After a failure the old file is whole and no temporary is left, except that a failure to make the name
+/// durable leaves the new file, whole.
 [[nodiscard]] Result<FileDescriptor> replaceFile(FileOperations& files, const Replacement& replacement);
 
-/// Removes what killed writers left beside `path`. Only for the holder of the lock that all those writers take.
+/// Removes what killed writers left beside `path`; what others are writing stays.
 void removeStaleTemporaries(FileOperations& files, const std::string& path, std::string_view temporaryPrefix);
+
+/// Where the symbolic links at an absolute path lead, whether there is a file or not.
+[[nodiscard]] Result<std::string> linkTarget(const std::string& path);
 
 /// Makes the names in a folder durable.
 [[nodiscard]] bool syncFolder(FileOperations& files, const std::string& folder);

@@ -22,7 +22,7 @@ namespace {
 constexpr std::string_view mark = ".corrupt-";
 
 /// "20240229T235959.123456Z": sorts by time.
-std::string timeStamp()
+std::string timeStampOfNow()
 {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now);
@@ -46,7 +46,21 @@ bool isTimeStamp(std::string_view text)
     });
 }
 
-/// The oldest first.
+/// The next that sorts behind it.
+std::string following(std::string stamp)
+{
+    for (auto digit = stamp.rbegin(); digit != stamp.rend(); ++digit) {
+        if (*digit >= '0' && *digit < '9') {
+            ++*digit;
+            break;
+        }
+        if (*digit == '9')
+            *digit = '0';
+    }
+    return stamp;
+}
+
+/// The stamps of those that are there, the oldest first.
 std::vector<std::string> damagedFiles(const std::string& settings)
 {
     std::vector<std::string> found;
@@ -56,7 +70,7 @@ std::vector<std::string> damagedFiles(const std::string& settings)
          entry.increment(error)) {
         const std::string name = entry->path().filename().native();
         if (name.starts_with(prefix) && isTimeStamp(std::string_view(name).substr(prefix.size())))
-            found.push_back(entry->path().native());
+            found.push_back(name.substr(prefix.size()));
     }
     std::ranges::sort(found);
     return found;
@@ -90,19 +104,25 @@ Result<std::string> keepDamagedFile(FileOperations& files, const std::string& se
                                     const Snapshot& damaged)
 {
     constexpr std::size_t mostKept = 5;
+    const std::string prefix = settings + std::string(mark);
     const std::vector<std::string> earlier = damagedFiles(settings);
     // Whoever was killed half way through this has left a name behind.
-    for (const std::string& path : earlier)
-        if (damaged.isNamed(path))
-            return path;
+    for (const std::string& stamp : earlier)
+        if (damaged.isNamed(prefix + stamp))
+            return prefix + stamp;
     // First, so that no kill leaves more than there may be.
     for (std::size_t i = 0; i + mostKept <= earlier.size(); ++i)
-        files.unlink(earlier[i]);
+        files.unlink(prefix + earlier[i]);
 
-    std::string kept = settings + std::string(mark) + timeStamp();
+    // Behind the earlier ones even when the clock was set back since.
+    std::string stamp = timeStampOfNow();
+    if (!earlier.empty())
+        stamp = std::max(stamp, following(earlier.back()));
+    std::string kept = prefix + stamp;
     while (files.link(target, kept) != 0) {
         if (errno == EEXIST) {
-            kept = settings + std::string(mark) + timeStamp();
+            stamp = following(stamp);
+            kept = prefix + stamp;
             continue;
         }
         // On another file system than its link, or another user's.

@@ -1,7 +1,5 @@
 #include "platform/linux/store/SettingsFile.h"
 
-#include "platform/linux/store/PropertyList.h"
-#include "platform/linux/store/ReplaceFile.h"
 #include "platform/linux/store/Salvage.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/system/ParentFolder.h"
@@ -18,10 +16,10 @@ namespace LinuxDesktop {
 namespace {
 
 /// Whether the file was changed within the last second.
-bool isFresh(const FileVersion& version)
+bool isFresh(const FileStamp& version)
 {
-    const auto modified = std::chrono::system_clock::time_point(std::chrono::seconds(version.modified.tv_sec)) +
-                          std::chrono::nanoseconds(version.modified.tv_nsec);
+    const auto modified = std::chrono::system_clock::time_point(std::chrono::seconds(version.modified.seconds)) +
+                          std::chrono::nanoseconds(version.modified.nanoseconds);
     const auto age = std::chrono::system_clock::now() - modified;
     return age < std::chrono::seconds(1) && age > -std::chrono::seconds(1);
 }
@@ -49,36 +47,18 @@ Snapshot SettingsFile::readPatiently(const Snapshot::SharedContent& known) const
     return snapshot;
 }
 
-/// Where the symbolic links in the file's place lead, whether there is a file or not.
-Result<std::string> SettingsFile::target() const
-{
-    constexpr int mostLinks = 40;
-    std::filesystem::path path = m_path;
-    for (int i = 0; i < mostLinks; ++i) {
-        std::error_code error;
-        const auto link = std::filesystem::read_symlink(path, error);
-        // No link, or nothing at all.
-        if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
-            return path.native();
-        if (error)
-            return Failure{"could not follow " + path.native() + ": " + error.message()};
-        path = path.parent_path() / link;
-    }
-    errno = ELOOP;
-    return systemFailure("could not follow", m_path);
-}
-
-Result<Snapshot> SettingsFile::replace(const Snapshot& found, NS::Value root) const
+Result<Snapshot> SettingsFile::replace(const Snapshot& found, NS::Value root, const PropertyList::Texts& known) const
 {
     // Settings grow little at a time, so that the longer text has room as a rule.
     constexpr std::size_t growth = 1024;
-    auto bytes = PropertyList::serialise(root, found.content() ? found.content()->bytes.size() + growth : growth);
+    auto bytes =
+        PropertyList::serialise(root, known, found.content() ? found.content()->bytes.size() + growth : growth);
     if (!bytes)
         return Failure{"could not store the settings in " + m_path + ": " + bytes.error()};
-    const auto path = target();
+    const auto path = linkTarget(m_path);
     if (!path)
         return Failure{path.error()};
-    auto file = replaceFile(m_files, {*bytes, *path, temporaryPrefix(), Durability::Synchronous});
+    auto file = replaceFile(m_files, {*bytes, *path, temporaryPrefix()});
     if (!file) {
         // They may be what fills the disk.
         removeStaleTemporaries();
@@ -89,17 +69,10 @@ Result<Snapshot> SettingsFile::replace(const Snapshot& found, NS::Value root) co
         std::move(*file));
 }
 
-void SettingsFile::tidy(const Snapshot::Content& content) const
-{
-    removeStaleTemporaries();
-    // The settings themselves are safe; without a new copy there is still the one before.
-    static_cast<void>(replaceFile(m_files, {content.bytes, backupPath(), temporaryPrefix(), Durability::Eventual}));
-}
-
 void SettingsFile::removeStaleTemporaries() const
 {
     LinuxDesktop::removeStaleTemporaries(m_files, m_path, temporaryPrefix());
-    if (const auto path = target(); path && *path != m_path)
+    if (const auto path = linkTarget(m_path); path && *path != m_path)
         LinuxDesktop::removeStaleTemporaries(m_files, *path, temporaryPrefix());
 }
 
@@ -109,7 +82,7 @@ std::optional<Failure> SettingsFile::flush(const Snapshot& current) const
         return std::nullopt;
     if (m_files.syncFile(current.descriptor()) != 0)
         return systemFailure("could not flush", m_path);
-    const auto path = target();
+    const auto path = linkTarget(m_path);
     if (!path)
         return Failure{path.error()};
     if (!syncFolder(m_files, parentFolder(*path)))
@@ -119,9 +92,12 @@ std::optional<Failure> SettingsFile::flush(const Snapshot& current) const
 
 Result<std::string> SettingsFile::setAside(const Snapshot& damaged) const
 {
-    const auto path = target();
+    const auto path = linkTarget(m_path);
     if (!path)
         return Failure{path.error()};
+    const Snapshot backup = readBackup();
+    if (backup.state() == Snapshot::State::Inaccessible)
+        return Failure{"could not read " + backupPath() + ": " + backup.why()};
     const auto kept = keepDamagedFile(m_files, m_path, *path, damaged);
     if (!kept)
         return Failure{kept.error()};
@@ -130,10 +106,8 @@ Result<std::string> SettingsFile::setAside(const Snapshot& damaged) const
 
     std::string outcome =
         m_path + " is not a readable property list (" + damaged.why() + "); it was kept as " + *kept;
-    const Snapshot backup = readBackup();
     if (backup.state() == Snapshot::State::Readable) {
-        const auto file =
-            replaceFile(m_files, {backup.content()->bytes, *path, temporaryPrefix(), Durability::Synchronous});
+        const auto file = replaceFile(m_files, {backup.content()->bytes, *path, temporaryPrefix()});
         if (!file)
             return Failure{file.error()};
         outcome += " and the last good copy took its place";

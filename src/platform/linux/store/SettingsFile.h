@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/linux/store/FileOperations.h"
+#include "platform/linux/store/PropertyList.h"
+#include "platform/linux/store/ReplaceFile.h"
 #include "platform/linux/store/Result.h"
 #include "platform/linux/store/Snapshot.h"
 
@@ -27,24 +29,33 @@ public:
     }
     /// The same, but gives whoever is writing a damaged file in place at this moment a tenth of a second to finish.
     [[nodiscard]] Snapshot readPatiently(const Snapshot::SharedContent& known = nullptr) const;
-    [[nodiscard]] Snapshot readBackup() const { return Snapshot::read(m_files, backupPath()); }
+    [[nodiscard]] Snapshot readBackup(const Snapshot::SharedContent& known = nullptr) const
+    {
+        return Snapshot::read(m_files, backupPath(), known);
+    }
+    /// Tells one last good copy from another; nothing where there is none.
+    [[nodiscard]] std::optional<FileStamp> backupStamp() const { return FileStamp::of(backupPath()); }
 
-    /// Puts `root` in the place of `found`, and leaves the rest to tidy(). A failure leaves what was there, unless
-    /// all that failed is making the new file's name durable.
-    [[nodiscard]] Result<Snapshot> replace(const Snapshot& found, NS::Value root) const;
-    /// Makes `content` the last good copy, where that can be done, and removes what killed writers left.
-    void tidy(const Snapshot::Content& content) const;
+    /// Puts `root`, of which some texts may be known, in the place of `found`, and leaves the copy to others. A
+    /// failure leaves what was there, unless all that failed is making the new file's name durable.
+    [[nodiscard]] Result<Snapshot> replace(const Snapshot& found, NS::Value root,
+                                           const PropertyList::Texts& known) const;
+    /// The file that is to be the last good copy. Needs no lock until it takes its place.
+    [[nodiscard]] Result<NewFile> makeBackup(const Snapshot::Content& content) const
+    {
+        return NewFile::make(m_files, {content.bytes, backupPath(), temporaryPrefix()});
+    }
+    void removeStaleTemporaries() const;
     /// Brings to disk what another program may have left in memory.
     [[nodiscard]] std::optional<Failure> flush(const Snapshot& current) const;
     /// Keeps the damaged file under another name and brings the last good copy back, or leaves no file where there
-    /// is none. At every moment the damaged file and the copy exist. Gives a sentence for the user.
+    /// is none. Does nothing where there is one that cannot be read. At every moment the damaged file and the copy
+    /// exist. Gives a sentence for the user.
     [[nodiscard]] Result<std::string> setAside(const Snapshot& damaged) const;
 
 private:
     [[nodiscard]] std::string backupPath() const { return m_path + ".bak"; }
     [[nodiscard]] std::string temporaryPrefix() const;
-    void removeStaleTemporaries() const;
-    [[nodiscard]] Result<std::string> target() const;
 
     FileOperations& m_files;
     std::string m_folder;

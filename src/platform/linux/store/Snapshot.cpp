@@ -15,35 +15,23 @@ namespace {
 
 using std::chrono::nanoseconds;
 
-nanoseconds sinceEpoch(const timespec& time)
-{
-    return std::chrono::seconds(time.tv_sec) + nanoseconds(time.tv_nsec);
-}
-
 /// The clock that file systems take their time stamps from.
 nanoseconds fileClock()
 {
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    return sinceEpoch(now);
+    return std::chrono::seconds(now.tv_sec) + nanoseconds(now.tv_nsec);
 }
 
 /// Whether a change after `now` would have got another time stamp than `version` has. Within one tick of the
 /// clock it would not, and the file must be read again to know.
-bool settledBy(nanoseconds now, const FileVersion& version)
+bool settledBy(nanoseconds now, const FileStamp& version)
 {
     constexpr nanoseconds fewTicks = std::chrono::milliseconds(40);
     constexpr nanoseconds coarsest = std::chrono::seconds(2);
     // A whole second is most likely that of a file system which stores no fractions.
-    return sinceEpoch(version.changed) + (version.changed.tv_nsec == 0 ? coarsest : fewTicks) < now;
-}
-
-std::optional<FileVersion> versionOf(int descriptor)
-{
-    struct stat status {};
-    if (::fstat(descriptor, &status) != 0)
-        return std::nullopt;
-    return FileVersion::of(status);
+    const auto changed = std::chrono::seconds(version.changed.seconds) + nanoseconds(version.changed.nanoseconds);
+    return changed + (version.changed.nanoseconds == 0 ? coarsest : fewTicks) < now;
 }
 
 /// The file's first `size` bytes, or as many as there are; gives errno, or 0.
@@ -65,18 +53,6 @@ int readAll(int descriptor, std::size_t size, std::string& bytes)
 }
 
 } // namespace
-
-FileVersion FileVersion::of(const struct stat& status)
-{
-    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
-}
-
-bool operator==(const FileVersion& one, const FileVersion& other)
-{
-    return one.device == other.device && one.inode == other.inode && one.size == other.size &&
-           sinceEpoch(one.modified) == sinceEpoch(other.modified) &&
-           sinceEpoch(one.changed) == sinceEpoch(other.changed);
-}
 
 Snapshot Snapshot::read(FileOperations& files, const std::string& path, const SharedContent& known)
 {
@@ -101,7 +77,7 @@ Snapshot Snapshot::read(FileOperations& files, const std::string& path, const Sh
     constexpr int tries = 4;
     for (int i = 0; i < tries; ++i) {
         snapshot.readContent(known);
-        if (snapshot.m_state == State::Inaccessible || versionOf(snapshot.m_file.get()) == snapshot.m_version)
+        if (snapshot.m_state == State::Inaccessible || FileStamp::of(snapshot.m_file.get()) == snapshot.m_version)
             break;
     }
     return snapshot;
@@ -111,7 +87,7 @@ void Snapshot::readContent(const SharedContent& known)
 {
     m_content = nullptr;
     const auto now = fileClock();
-    if (const auto version = versionOf(m_file.get()))
+    if (const auto version = FileStamp::of(m_file.get()))
         m_version = *version;
     m_settled = settledBy(now, m_version);
 
@@ -148,7 +124,7 @@ Snapshot Snapshot::written(SharedContent content, FileDescriptor file)
     snapshot.m_state = State::Readable;
     snapshot.m_content = std::move(content);
     snapshot.m_file = std::move(file);
-    if (const auto version = versionOf(snapshot.m_file.get()))
+    if (const auto version = FileStamp::of(snapshot.m_file.get()))
         snapshot.m_version = *version;
     return snapshot;
 }
@@ -161,20 +137,18 @@ const NS::Value::Dictionary& Snapshot::values() const
 
 bool Snapshot::isCurrent(const std::string& path) const
 {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0)
+    const auto found = FileStamp::of(path);
+    if (!found)
         return errno == ENOENT && m_state == State::Absent;
-    return m_settled && m_file && FileVersion::of(status) == m_version;
+    return m_settled && m_file && found == m_version;
 }
 
 bool Snapshot::isNamed(const std::string& path) const
 {
-    struct stat status {};
-    if (!m_file || ::stat(path.c_str(), &status) != 0)
+    auto found = FileStamp::of(path);
+    if (!m_file || !found)
         return false;
-    FileVersion found = FileVersion::of(status);
-    // That one tells of new names too.
-    found.changed = m_version.changed;
+    found->changed = m_version.changed;
     return found == m_version;
 }
 

@@ -3,25 +3,13 @@
 #include "platform/Value.h"
 #include "platform/linux/store/FileOperations.h"
 #include "platform/linux/system/FileDescriptor.h"
+#include "platform/linux/system/FileStamp.h"
 
 #include <memory>
 #include <string>
-#include <sys/stat.h>
 #include <utility>
 
 namespace LinuxDesktop {
-
-/// Tells two contents of a file apart, as far as its status can.
-struct FileVersion {
-    dev_t device = 0;
-    ino_t inode = 0;
-    off_t size = 0;
-    timespec modified{};
-    timespec changed{};
-
-    [[nodiscard]] static FileVersion of(const struct stat& status);
-    friend bool operator==(const FileVersion& one, const FileVersion& other);
-};
 
 /// What a settings file held when it was read. One thread at a time.
 class Snapshot {
@@ -65,12 +53,19 @@ public:
     /// Why the file is Damaged or Inaccessible.
     [[nodiscard]] const std::string& why() const { return m_why; }
     /// Of a file that is Readable or Damaged.
-    [[nodiscard]] const FileVersion& version() const { return m_version; }
+    [[nodiscard]] const FileStamp& version() const { return m_version; }
     /// Open for reading; the same.
     [[nodiscard]] int descriptor() const { return m_file.get(); }
 
     /// Gives values to show for a file that has none to give.
     void standIn(SharedContent content) { m_content = std::move(content); }
+    /// For a damaged file whose last good copy is there and cannot be read.
+    void becomeInaccessible(std::string why)
+    {
+        m_state = State::Inaccessible;
+        m_why = std::move(why);
+        release();
+    }
     /// Lets go of the file before it is replaced: removing one that is open costs the disk more. From now on
     /// isCurrent() is false.
     void release()
@@ -87,7 +82,7 @@ private:
     State m_state = State::Absent;
     SharedContent m_content;
     std::string m_why;
-    FileVersion m_version;
+    FileStamp m_version;
     // While it is open, no other file can get its inode number, so an equal number means the same file.
     FileDescriptor m_file;
     bool m_settled = false;

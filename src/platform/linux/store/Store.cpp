@@ -1,6 +1,7 @@
 #include "platform/linux/store/Store.h"
 
 #include <utility>
+#include <vector>
 
 namespace LinuxDesktop {
 
@@ -12,7 +13,19 @@ Store::~Store()
 {
     m_queue->stop();
     for (const auto& [name, domain] : m_domains)
-        domain->writeNow();
+        domain->finish();
+}
+
+void Store::writeNow()
+{
+    std::vector<std::shared_ptr<Domain>> domains;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const auto& [name, domain] : m_domains)
+            domains.push_back(domain);
+    }
+    for (const auto& domain : domains)
+        domain->synchronize();
 }
 
 std::shared_ptr<Domain> Store::open(std::string_view domain)

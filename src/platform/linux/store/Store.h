@@ -29,6 +29,9 @@ public:
     /// there is something that cannot be read at all, and for what is no domain's name.
     [[nodiscard]] std::shared_ptr<Domain> open(std::string_view domain);
 
+    /// Brings to the files what is not written yet, for whoever is about to keep the user busy.
+    void writeNow();
+
     [[nodiscard]] const std::optional<std::string>& folder() const { return m_folder; }
 
 private:
