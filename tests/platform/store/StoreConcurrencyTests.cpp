@@ -114,8 +114,8 @@ TEST_F(StoreConcurrency, ALockThatIsLetGoIsTakenAtOnce)
     store({{"k", 0}});
     Store store(folder());
     const auto domain = store.open(domainName);
-    std::chrono::steady_clock::duration waited{};
-    for (int i = 1; i <= 10; ++i) {
+    std::vector<std::chrono::steady_clock::duration> waited;
+    for (int i = 1; i <= 15; ++i) {
         FileDescriptor lock(::open(file(".lock").c_str(), O_RDWR | O_CLOEXEC));
         ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
         std::chrono::steady_clock::time_point freed;
@@ -128,10 +128,11 @@ TEST_F(StoreConcurrency, ALockThatIsLetGoIsTakenAtOnce)
         EXPECT_TRUE(domain->synchronize());
         const auto done = std::chrono::steady_clock::now();
         holding.join();
-        waited += done - freed;
+        waited.push_back(done - freed);
     }
-    // Not at the next look of a slow pace, each time.
-    EXPECT_LT(waited, 400ms);
+    // Not at the next look of a slow pace.
+    std::ranges::sort(waited);
+    EXPECT_LT(waited[waited.size() / 2], 50ms);
 }
 
 TEST_F(StoreConcurrency, AProgramThatReplacesTheFileIsPickedUpByARunningWriter)

@@ -60,6 +60,17 @@ TEST_F(StoreRemovals, ConcernWhatWasSeenAndNotWhatIsThereByThen)
     EXPECT_EQ(stored("k"), NS::Value("new"));
 }
 
+TEST_F(StoreRemovals, AreNotWidenedByAskingAgainWithoutLooking)
+{
+    store({{"k", "old"}});
+    EXPECT_EQ(m_domain->objectForKey("k"), NS::Value("old"));
+    m_domain->removeObjectForKey("k");
+    store({{"k", "new"}});
+    m_domain->removeObjectForKey("k");
+    EXPECT_TRUE(m_domain->synchronize());
+    EXPECT_EQ(stored("k"), NS::Value("new"));
+}
+
 TEST_F(StoreRemovals, ThatWaitTogetherAreDroppedTogether)
 {
     store({{"path", "/p"}, {"date", NS::Date{1.0}}});
