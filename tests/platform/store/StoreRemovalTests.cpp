@@ -64,9 +64,13 @@ TEST_F(StoreRemovals, AreNotWidenedByAskingAgainWithoutLooking)
 {
     store({{"k", "old"}});
     EXPECT_EQ(m_domain->objectForKey("k"), NS::Value("old"));
+    // So that the first removal waits still.
+    FileDescriptor lock(::open(file(".lock").c_str(), O_RDWR | O_CLOEXEC));
+    ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
     m_domain->removeObjectForKey("k");
-    store({{"k", "new"}});
+    writeFile(file(), propertyList("<dict><key>k</key><string>new</string></dict>"));
     m_domain->removeObjectForKey("k");
+    lock.close();
     EXPECT_TRUE(m_domain->synchronize());
     EXPECT_EQ(stored("k"), NS::Value("new"));
 }
