@@ -1,13 +1,11 @@
-#include "platform/linux/LinuxPlatform.h"
-
-#include <gtest/gtest.h>
+#include "WholePlatform.h"
 
 namespace {
 
-TEST(UnwrittenSettings, AreInTheFileBeforeTheUserIsAskedForAFile)
+class UnwrittenSettings : public WholePlatform {};
+
+TEST_F(UnwrittenSettings, AreInTheFileBeforeTheUserIsAskedForAFile)
 {
-    const NS::ClassTable classes;
-    LinuxDesktop::LinuxPlatform platform(classes, QStringLiteral("/nonexistent"));
     const auto suite = platform.userDefaultsWithSuiteName("org.example.suite");
     const auto stored = [] { return LinuxDesktop::Store().open("org.example.suite")->objectForKey("request"); };
     for (int i = 0; i < 20; ++i) {
