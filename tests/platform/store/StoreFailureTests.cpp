@@ -95,7 +95,8 @@ TEST_P(FailingStep, KeepsTheFileWholeAndTheValueInMemoryUntilItSucceeds)
 
     EXPECT_EQ(domain->objectForKey("new"), NS::Value(2));
     EXPECT_EQ(stored("old"), NS::Value(1));
-    EXPECT_TRUE(files(".tmp-").empty());
+    // The write that is made later without being asked for may be at it.
+    EXPECT_TRUE(holdsWithin(2s, [&] { return files(".tmp-").empty(); }));
     if (GetParam() != FailingOperations::Call::SyncFolder) {
         EXPECT_EQ(readFile(file()), before);
     }

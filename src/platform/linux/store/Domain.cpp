@@ -133,7 +133,8 @@ void Domain::writeNow()
 {
     {
         const std::lock_guard state(m_state);
-        m_writeIsDue = false;
+        if (!std::exchange(m_writeIsDue, false))
+            return;
     }
     static_cast<void>(synchronize());
 }
@@ -159,7 +160,8 @@ void Domain::copyNow()
     bool isQuiet = true;
     {
         const std::lock_guard state(m_state);
-        m_copyIsDue = false;
+        if (!std::exchange(m_copyIsDue, false))
+            return;
         isQuiet = !m_uncopied || Clock::now() - m_uncopied->since >= copyDelay;
         // Who writes without a break is kept waiting in the end.
         if (m_lateCopies >= mostLateCopies)
@@ -198,6 +200,7 @@ bool Domain::finish()
     {
         const std::scoped_lock both(m_writing, m_state);
         m_lockIsKept = false;
+        // What waits to be done later is done now.
         m_writeIsDue = false;
         m_copyIsDue = false;
     }
@@ -378,6 +381,7 @@ std::optional<Snapshot> Domain::write(const Changes& changes, const Snapshot::Sh
 
 Domain::Copied Domain::copy(Clock::time_point deadline, Copying copying)
 {
+    const std::lock_guard inTurn(m_copying);
     const auto copied = uncopied();
     if (!copied)
         return Copied::Done;

@@ -100,6 +100,8 @@ private:
     const SettingsFile m_file;
     Complaints m_complaints;
 
+    /// Taken first, by whoever makes a copy, so that none is half made when finish() returns.
+    std::mutex m_copying;
     /// Taken before m_state, by whoever changes the files.
     std::mutex m_writing;
     DomainLock m_lock;
