@@ -17,7 +17,7 @@ std::optional<NS::Value::Dictionary> SuiteReader::readWhole()
     const Snapshot found = m_file.read();
     if (found.state() != Snapshot::State::Readable)
         return std::nullopt;
-    m_complaint.clear();
+    m_complaints.allIsWell();
     return found.values();
 }
 
