@@ -4,11 +4,12 @@
 
 #include "../store/Settings.h"
 #include "../store/TemporaryFolder.h"
-#include "extension/BusNames.h"
 #include "extension/Handles.h"
+#include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/store/Store.h"
-#include "settings/SettingsKeys.h"
+#include "settings/Deployment.h"
+#include "settings/Settings.h"
 
 #include <algorithm>
 #include <chrono>
@@ -26,7 +27,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
-namespace BusNames = MenuExtension::BusNames;
+const std::string companion{Deployment::extensionIdentifier};
+const std::string companionPath = BusInterface::objectPath(companion);
 
 constexpr int rounds = 400;
 /// Until the copy of the settings is made too, and nobody has anything left to do.
@@ -55,7 +57,7 @@ public:
             require(Clock::now() < end, "the companion does not answer");
             std::this_thread::sleep_for(settling);
         }
-        require(sd_bus_match_signal(&m_bus, nullptr, BusNames::companion.c_str(), BusNames::companionPath.c_str(),
+        require(sd_bus_match_signal(&m_bus, nullptr, companion.c_str(), companionPath.c_str(),
                                     "org.freedesktop.DBus.Properties", "PropertiesChanged", &Companion::note,
                                     this) >= 0,
                 "the companion cannot be listened to");
@@ -70,8 +72,8 @@ public:
 
     [[nodiscard]] bool answers() const
     {
-        return sd_bus_call_method(&m_bus, BusNames::companion.c_str(), BusNames::companionPath.c_str(),
-                                  "org.freedesktop.DBus.Peer", "Ping", nullptr, nullptr, "") >= 0;
+        return sd_bus_call_method(&m_bus, companion.c_str(), companionPath.c_str(), "org.freedesktop.DBus.Peer",
+                                  "Ping", nullptr, nullptr, "") >= 0;
     }
 
     /// Waits for its next word.
@@ -139,7 +141,7 @@ int main()
     // As large as what it is measured against.
     suite->setObject_forKey(std::string(StoreBench::fileSize, 'x'), "other");
     const auto change = [&](int round) {
-        suite->setObject_forKey(round % 2 == 0, SettingsKey::showinSubMenu);
+        suite->setObject_forKey(round % 2 == 0, Settings::showinSubMenu.key);
         require(suite->synchronize(), "the settings cannot be stored");
     };
     change(1);
