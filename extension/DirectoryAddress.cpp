@@ -30,6 +30,7 @@ bool isFileAddress(std::string_view text)
 std::vector<std::string> addressesOf(const std::vector<Folder>& folders)
 {
     std::vector<std::string> addresses;
+    addresses.reserve(folders.size());
     for (const Folder& folder : folders)
         addresses.push_back(NS::URL::fileURLWithPath(folder.path).absoluteString());
     return addresses;

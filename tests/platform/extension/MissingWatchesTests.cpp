@@ -69,7 +69,7 @@ TEST_F(MissingWatches, AreAskedForAgainAndTheSettingsReadMeanwhile)
     testing::internal::CaptureStderr();
     EXPECT_TRUE(showsInSubmenu(true)) << "what could not be read at the start";
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "orvik-menu-extension: changes of the settings are followed again\n");
+              std::string(program_invocation_short_name) + ": changes of the settings are followed again\n");
     store({{"showinSubMenu", false}});
     EXPECT_TRUE(showsInSubmenu(false));
 }

@@ -2,6 +2,7 @@
 
 #include "NoMoreDescriptors.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -217,10 +218,10 @@ TEST_F(WatchedFile, IsWatchedOnceTheSystemHasAWatchToGive)
         tryAgain();
         EXPECT_FALSE(isWhole());
     }
-    EXPECT_EQ(
-        testing::internal::GetCapturedStderr(),
-        "orvik-menu-extension: changes of the settings cannot be followed: Too many open files; they are looked "
-        "for now and then\n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              std::string(program_invocation_short_name) +
+                  ": changes of the settings cannot be followed: Too many open files; they are looked "
+                  "for now and then\n");
     replace(file);
     EXPECT_FALSE(tellsChange());
 
@@ -229,7 +230,7 @@ TEST_F(WatchedFile, IsWatchedOnceTheSystemHasAWatchToGive)
     EXPECT_TRUE(isWhole());
     tryAgain();
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "orvik-menu-extension: changes of the settings are followed again\n");
+              std::string(program_invocation_short_name) + ": changes of the settings are followed again\n");
     replace(file);
     EXPECT_TRUE(tellsChange());
 }

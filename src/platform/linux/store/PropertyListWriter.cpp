@@ -103,7 +103,10 @@ const char* escape(std::string_view text, Take take)
 class Writer {
 public:
     /// Of a root dictionary's values, `known` are written as they are.
-    explicit Writer(const Texts& known, std::size_t expectedBytes) : m_known(known) { m_out.reserve(expectedBytes); }
+    explicit Writer(Texts known, std::size_t expectedBytes) : m_known(std::move(known))
+    {
+        m_out.reserve(expectedBytes);
+    }
     /// For a value in a root dictionary.
     Writer() : m_indent(1) {}
 

@@ -49,13 +49,14 @@ bool isTimeStamp(std::string_view text)
 /// The next that sorts behind it.
 std::string following(std::string stamp)
 {
-    for (auto digit = stamp.rbegin(); digit != stamp.rend(); ++digit) {
-        if (*digit >= '0' && *digit < '9') {
-            ++*digit;
+    for (std::size_t at = stamp.size(); at-- > 0;) {
+        char& character = stamp[at];
+        if (character >= '0' && character < '9') {
+            ++character;
             break;
         }
-        if (*digit == '9')
-            *digit = '0';
+        if (character == '9')
+            character = '0';
     }
     return stamp;
 }
