@@ -37,7 +37,13 @@ packages_virtual_display=(
 )
 
 packages_tests=(
+  dbus
   libgtest-dev
+)
+
+packages_style=(
+  clang-format
+  clang-tidy
 )
 
 packages_tests_desktop=(
