@@ -56,7 +56,7 @@ class Migration(DesktopTestCase):
                 before = self.suite.bytes()
                 panel = self.start_panel()
 
-                self.assertAborted(panel, "menu record")
+                self.assertAborted(panel, "stored save14")
                 self.assertEqual(self.suite.bytes(), before)
 
 
@@ -120,7 +120,7 @@ class Version(DesktopTestCase):
         before = self.suite.bytes()
         panel = self.start_panel(self.program)
 
-        self.assertAborted(panel, "menu record")
+        self.assertAborted(panel, "stored save14")
         self.assertEqual(self.suite.bytes(), before)
 
     def test_without_a_version_the_panel_stops(self):
