@@ -57,15 +57,28 @@ std::optional<NS::Value> Domain::objectForKey(std::string_view key)
 
 void Domain::setObject_forKey(NS::Value value, std::string_view key)
 {
-    requireStorable(key);
-    if (const auto date = value.date())
-        value = NS::Date{std::floor(date->timeIntervalSince1970)};
-    auto text = PropertyList::textInRoot(value);
-    if (!text)
-        NS::fatalError("a value that cannot be stored: " + text.error());
+    setObjects({{std::string(key), std::move(value)}});
+}
+
+void Domain::setObjects(NS::Value::Dictionary values)
+{
+    std::vector<std::string> texts;
+    texts.reserve(values.size());
+    for (auto& [key, value] : values) {
+        requireStorable(key);
+        if (const auto date = value.date())
+            value = NS::Date{std::floor(date->timeIntervalSince1970)};
+        auto text = PropertyList::textInRoot(value);
+        if (!text)
+            NS::fatalError("a value that cannot be stored: " + text.error());
+        texts.push_back(std::move(*text));
+    }
     std::unique_lock state(m_state);
-    m_seen.insert_or_assign(std::string(key), value);
-    m_changes.set(key, std::move(value), std::move(*text));
+    auto text = texts.begin();
+    for (auto& [key, value] : values) {
+        m_seen.insert_or_assign(key, value);
+        m_changes.set(key, std::move(value), std::move(*text++));
+    }
     writeSoon(std::move(state));
 }
 

@@ -41,12 +41,13 @@ std::vector<char*> pointersTo(std::vector<std::string>& strings)
 /// What the child starts with, apart from its arguments and environment.
 class SpawnSettings {
 public:
-    SpawnSettings()
+    explicit SpawnSettings(Surroundings surroundings)
     {
         posix_spawn_file_actions_init(&m_actions);
+        if (surroundings.folder >= 0)
+            posix_spawn_file_actions_addfchdir_np(&m_actions, surroundings.folder);
         posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-        // Standard output is for this program's own texts.
-        posix_spawn_file_actions_adddup2(&m_actions, STDERR_FILENO, STDOUT_FILENO);
+        posix_spawn_file_actions_adddup2(&m_actions, surroundings.output, STDOUT_FILENO);
         posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1);
 
         posix_spawnattr_init(&m_attributes);
@@ -55,6 +56,7 @@ public:
         posix_spawnattr_setsigmask(&m_attributes, &signals);
         sigaddset(&signals, SIGPIPE);
         sigaddset(&signals, SIGCHLD);
+        sigaddset(&signals, SIGXFSZ);
         posix_spawnattr_setsigdefault(&m_attributes, &signals);
         posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     }
@@ -124,9 +126,9 @@ std::vector<std::string> environment()
 }
 
 std::optional<Process> start(const std::string& program, std::vector<std::string> arguments,
-                             std::vector<std::string> environment)
+                             std::vector<std::string> environment, Surroundings surroundings)
 {
-    const SpawnSettings settings;
+    const SpawnSettings settings(surroundings);
     pid_t id = 0;
     const int error = ::posix_spawn(&id, program.c_str(), settings.actions(), settings.attributes(),
                                     pointersTo(arguments).data(), pointersTo(environment).data());

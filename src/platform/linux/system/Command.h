@@ -36,10 +36,17 @@ private:
 /// This process's environment for another program: a session bus that runs, or none mentioned.
 [[nodiscard]] std::vector<std::string> environment();
 
-/// Starts the program at a path in a session of its own, with no open files but the standard ones, of which standard
-/// output is this process's standard error. `arguments` begin with the program's name. Nothing, and a complaint, when
-/// it cannot be started.
+/// Where a program starts, as open files of this process.
+struct Surroundings {
+    /// The folder that it works in; this process's own where none is given.
+    int folder = -1;
+    /// Its standard output. This process's own is for its own texts.
+    int output = STDERR_FILENO;
+};
+
+/// Starts the program at a path in a session of its own, with no open files but the standard ones. `arguments` begin
+/// with the program's name. Nothing, and a complaint, when it cannot be started.
 [[nodiscard]] std::optional<Process> start(const std::string& program, std::vector<std::string> arguments,
-                                           std::vector<std::string> environment);
+                                           std::vector<std::string> environment, Surroundings surroundings = {});
 
 } // namespace LinuxDesktop::Command
