@@ -1,0 +1,151 @@
+#include "HiddenFolder.h"
+#include "HiddenList.h"
+#include "extension/actions/support/Action.h"
+#include "extension/actions/support/FolderLock.h"
+#include "extension/actions/support/Words.h"
+#include "platform/linux/system/ParentFolder.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <map>
+#include <utility>
+
+namespace MenuExtension {
+
+using LinuxDesktop::FileDescriptor;
+
+namespace {
+
+/// Names of items by the path of the folder that they lie in.
+using ItemsByFolder = std::map<std::string, std::vector<std::string>>;
+
+enum class Task { Hide, Unhide };
+
+ItemsByFolder byFolder(const std::vector<std::string>& paths)
+{
+    ItemsByFolder items;
+    for (const std::string& path : paths)
+        items[LinuxDesktop::parentFolder(path)].push_back(path.substr(path.rfind('/') + 1));
+    return items;
+}
+
+bool isHiddenByItsName(const std::string& name)
+{
+    return name.starts_with('.');
+}
+
+FileDescriptor open(const Request& request, const ItemsByFolder::value_type& items)
+{
+    return openFolderOfItem(request, items.first + '/' + items.second.front(), O_RDONLY);
+}
+
+std::string cannotBeChanged(const std::string& folder)
+{
+    return "What is hidden in " + Words::name(folder) + " cannot be changed: " + Words::reason(errno) + '.';
+}
+
+bool areAllHidden(const std::vector<std::string>& items, const std::string& text)
+{
+    const auto listed = HiddenList::namesIn(text);
+    return std::ranges::all_of(
+        items, [&](const std::string& name) { return isHiddenByItsName(name) || listed.contains(name); });
+}
+
+/// Hides where there is an item that is not hidden.
+Task taskFor(const Request& request, const ItemsByFolder& folders)
+{
+    for (const auto& items : folders) {
+        const FileDescriptor folder = open(request, items);
+        const auto text = folder ? HiddenFolder(folder).read() : std::nullopt;
+        if (text && !areAllHidden(items.second, *text))
+            return Task::Hide;
+    }
+    return Task::Unhide;
+}
+
+std::vector<std::string> thoseToHide(const std::vector<std::string>& items, Words::Troubles& troubles)
+{
+    std::vector<std::string> names;
+    for (const std::string& name : items) {
+        if (isHiddenByItsName(name))
+            continue;
+        if (HiddenList::canHold(name))
+            names.push_back(name);
+        else
+            troubles.add(Words::name(name) +
+                         " cannot be hidden, since its name has a line end. Rename it and try again.");
+    }
+    return names;
+}
+
+/// Takes the dots from the beginning of a name, where nothing has the name without them. Gives that name, or the one
+/// before.
+std::string withoutDots(const FileDescriptor& folder, const std::string& name, Words::Troubles& troubles)
+{
+    const std::string bare = name.substr(std::min(name.find_first_not_of('.'), name.size()));
+    const std::string cannot = Words::name(name) + " cannot be unhidden: ";
+    if (bare.empty() || name == HiddenFolder::listName)
+        troubles.add(cannot + (bare.empty() ? "its name has dots alone." : "it is the list of what is hidden."));
+    else if (::renameat2(folder.get(), name.c_str(), folder.get(), bare.c_str(), RENAME_NOREPLACE) == 0)
+        return bare;
+    else if (errno == EEXIST)
+        troubles.add(cannot + "there is a " + Words::name(bare) + " already. Rename one of the two.");
+    else
+        troubles.add(cannot + Words::reason(errno) + '.');
+    return name;
+}
+
+/// The names that nothing may be hidden by.
+std::vector<std::string> thoseToUnhide(const FileDescriptor& folder, const std::vector<std::string>& items,
+                                       Words::Troubles& troubles)
+{
+    std::vector<std::string> names = items;
+    for (const std::string& name : items) {
+        if (isHiddenByItsName(name))
+            names.push_back(withoutDots(folder, name, troubles));
+    }
+    return names;
+}
+
+void change(Task task, const Request& request, const ItemsByFolder::value_type& items, Words::Troubles& troubles)
+{
+    const auto& [path, names] = items;
+    const FileDescriptor folder = open(request, items);
+    if (!folder) {
+        troubles.add(cannotBeChanged(path));
+        return;
+    }
+    if (!lockFolder(folder)) {
+        troubles.add("What is hidden in " + Words::name(path) +
+                     " cannot be changed, since another program is changing it. Try again.");
+        return;
+    }
+    const HiddenFolder hidden(folder);
+    const auto text = hidden.read();
+    if (!text) {
+        troubles.add("The list of what is hidden in " + Words::name(path) +
+                     ", a file named .hidden, cannot be read: " + Words::reason(errno) + '.');
+        return;
+    }
+    const std::string changed = task == Task::Hide
+                                    ? HiddenList::with(*text, thoseToHide(names, troubles))
+                                    : HiddenList::without(*text, thoseToUnhide(folder, names, troubles));
+    if (changed != *text && !hidden.replace(changed))
+        troubles.add(cannotBeChanged(path));
+}
+
+} // namespace
+
+Outcome perform(const Request& request)
+{
+    const ItemsByFolder folders = byFolder(request.paths);
+    const Task task = taskFor(request, folders);
+    Words::Troubles troubles;
+    for (const auto& items : folders)
+        change(task, request, items, troubles);
+    return troubles.outcome();
+}
+
+} // namespace MenuExtension

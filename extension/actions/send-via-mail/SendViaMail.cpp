@@ -1,0 +1,53 @@
+#include "extension/BusNames.h"
+#include "extension/actions/support/Action.h"
+#include "extension/actions/support/Panel.h"
+#include "extension/actions/support/SessionBus.h"
+#include "extension/actions/support/Words.h"
+#include "platform/linux/store/PropertyList.h"
+#include "platform/linux/store/Store.h"
+#include "settings/Deployment.h"
+#include "settings/NotificationNames.h"
+#include "settings/Settings.h"
+
+#include <chrono>
+
+namespace MenuExtension {
+
+namespace {
+
+NS::Date now()
+{
+    return {std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count()};
+}
+
+bool leaveRequest(const std::string& path)
+{
+    LinuxDesktop::Store store;
+    const auto suite = store.open(Deployment::suiteName);
+    if (!suite)
+        return false;
+    suite->setObjects(
+        {{std::string(Settings::mailAttachPath.key), path}, {std::string(Settings::AttachClickedDate.key), now()}});
+    return suite->synchronize();
+}
+
+} // namespace
+
+Outcome perform(const Request& request)
+{
+    const std::string& path = request.paths.front();
+    const std::string shown = Words::name(path);
+    if (LinuxDesktop::PropertyList::unstorableReason(NS::Value(path)))
+        return Outcome::failed(shown +
+                               " cannot be sent: its name or that of a folder above it has characters that are "
+                               "no text. Rename it and try again.");
+    if (!leaveRequest(path))
+        return Outcome::failed(shown +
+                               " cannot be sent: the settings of Orvik Menu cannot be written. Is the disk full?");
+    const Bus bus = openSessionBus();
+    if (bus)
+        post(*bus, NotificationName::AttachFileToMail);
+    return bus && isOnBus(*bus, BusNames::panel.c_str()) ? Outcome::done() : startPanel();
+}
+
+} // namespace MenuExtension

@@ -1,0 +1,101 @@
+#include "extension/ExtensionSettings.h"
+#include "extension/SuiteReader.h"
+#include "extension/actions/support/Action.h"
+#include "extension/actions/support/Answer.h"
+#include "extension/actions/support/Picture.h"
+#include "extension/actions/support/Words.h"
+#include "extension/menu/Menu.h"
+#include "platform/linux/store/SettingsFolder.h"
+#include "settings/AppliesTo.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace MenuExtension {
+
+namespace {
+
+constexpr std::size_t longestInput = std::size_t{64} << 20U;
+
+/// Everything; nothing where there is more than a request can have, or where it cannot be read.
+std::optional<std::string> readInput()
+{
+    std::string input;
+    std::array<char, std::size_t{64} << 10U> buffer{};
+    for (;;) {
+        const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0 || input.size() + static_cast<std::size_t>(count) > longestInput)
+            return std::nullopt;
+        if (count == 0)
+            return input;
+        input.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+}
+
+std::optional<Scope> readScope()
+{
+    const auto folder = LinuxDesktop::settingsFolder();
+    const auto values = folder ? SuiteReader(*folder).read() : std::nullopt;
+    return values ? std::optional(Scope(settingsFromSuite(*values).folders)) : std::nullopt;
+}
+
+/// Fills the selection, whose kinds the action asks for. Gives why not where an item is gone.
+std::optional<Outcome> look(const Request& request, bool atPictures, Selection& selection)
+{
+    selection.isBackground = request.background;
+    for (const std::string& path : request.paths) {
+        struct stat status = {};
+        // A link that leads nowhere is an item too.
+        if (::stat(path.c_str(), &status) != 0 && ::lstat(path.c_str(), &status) != 0)
+            return Outcome::failed(Words::name(path) + " cannot be found: " + Words::reason(errno) + '.');
+        selection.items.push_back({path, S_ISDIR(status.st_mode), atPictures && isPicture(request, path)});
+    }
+    return std::nullopt;
+}
+
+Outcome checkAndPerform(std::uint32_t appliesTo, Perform perform, const std::vector<std::string>& arguments)
+{
+    const auto input = readInput();
+    auto request = input ? parseRequest(arguments, *input) : std::nullopt;
+    if (!request)
+        return Outcome::failed("Orvik Menu was asked for something in a way that it does not understand.");
+    auto scope = readScope();
+    if (!scope)
+        return Outcome::failed("The settings of Orvik Menu cannot be read.");
+    request->scope = *std::move(scope);
+
+    Selection selection;
+    selection.isBackground = request->background;
+    for (const std::string& path : request->paths)
+        selection.items.push_back({.path = path});
+    if (!isInScope(selection, request->scope))
+        return Outcome::failed(Words::name(request->paths.front()) +
+                               (request->paths.size() == 1 ? " is" : " or another item is") +
+                               " not in a folder that Orvik Menu works in. Add the folder in its settings.");
+    selection.items.clear();
+    if (auto gone = look(*request, (appliesTo & AppliesTo::Pictures) != 0, selection))
+        return *std::move(gone);
+    if (!applies(appliesTo, selection))
+        return Outcome::doesNotApply("This cannot be done with what is selected.");
+    return perform(*request);
+}
+
+} // namespace
+
+int run(std::uint32_t appliesTo, Perform perform, int argc, char** argv)
+{
+    // That nobody reads the answer, or that a file grew too large, is said by the call that meets it.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const Outcome outcome = checkAndPerform(appliesTo, perform, {argv + (argc > 0 ? 1 : 0), argv + argc});
+    answer(outcome);
+    return outcome.kind == Outcome::Kind::Done ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace MenuExtension

@@ -1,0 +1,95 @@
+#include "extension/actions/support/SessionBus.h"
+
+#include "settings/Deployment.h"
+
+#include <cerrno>
+#include <cstdlib>
+
+namespace MenuExtension {
+
+namespace {
+
+namespace NotificationSignal {
+constexpr const char* path = "/com/orvikstudio/DistributedNotificationCenter";
+constexpr const char* interface = "com.orvikstudio.DistributedNotificationCenter";
+constexpr const char* member = "Posted";
+} // namespace NotificationSignal
+
+/// An error of the bus, by its last part.
+bool endsAs(const std::string& error, std::initializer_list<std::string_view> names)
+{
+    constexpr std::string_view prefix = "org.freedesktop.DBus.Error.";
+    if (!error.starts_with(prefix))
+        return false;
+    for (const std::string_view name : names) {
+        if (std::string_view(error).substr(prefix.size()) == name)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+Bus openSessionBus()
+{
+    // To the library an empty address is a wrong one; to everyone else it is none.
+    if (const char* address = std::getenv("DBUS_SESSION_BUS_ADDRESS"); address && *address == '\0')
+        ::unsetenv("DBUS_SESSION_BUS_ADDRESS");
+    sd_bus* opened = nullptr;
+    sd_bus_open_user(&opened);
+    Bus bus(opened);
+    // That there is somebody at the address is known when the bus has answered.
+    const char* name = nullptr;
+    if (bus && sd_bus_get_unique_name(bus.get(), &name) < 0)
+        bus.reset();
+    return bus;
+}
+
+Message newCall(sd_bus& bus, const BusMethod& method)
+{
+    sd_bus_message* made = nullptr;
+    sd_bus_message_new_method_call(&bus, &made, method.destination, method.path, method.interface, method.member);
+    return Message(made);
+}
+
+bool BusAnswer::isLate() const
+{
+    return endsAs(error, {"NoReply", "Timeout", "TimedOut"});
+}
+
+bool BusAnswer::isNobody() const
+{
+    return endsAs(error, {"ServiceUnknown", "NameHasNoOwner", "UnknownObject", "UnknownInterface", "UnknownMethod",
+                          "Disconnected", "Spawn.ServiceNotFound"});
+}
+
+BusAnswer call(sd_bus& bus, const Message& call, std::chrono::seconds patience)
+{
+    sd_bus_message* reply = nullptr;
+    sd_bus_error error = SD_BUS_ERROR_NULL;
+    const auto time = static_cast<std::uint64_t>(std::chrono::microseconds(patience).count());
+    const int result = call ? sd_bus_call(&bus, call.get(), time, &error, &reply) : -EINVAL;
+    BusAnswer answer{Message(reply), {}, {}};
+    if (result < 0) {
+        answer.error = error.name ? error.name : "org.freedesktop.DBus.Error.Failed";
+        answer.words = error.message ? error.message : "";
+    }
+    sd_bus_error_free(&error);
+    return answer;
+}
+
+bool isOnBus(sd_bus& bus, const char* name)
+{
+    return sd_bus_get_name_creds(&bus, name, 0, nullptr) >= 0;
+}
+
+void post(sd_bus& bus, std::string_view notification)
+{
+    const std::string name(notification);
+    const std::string object(Deployment::extensionIdentifier);
+    sd_bus_emit_signal(&bus, NotificationSignal::path, NotificationSignal::interface, NotificationSignal::member,
+                       "ss", name.c_str(), object.c_str());
+    sd_bus_flush(&bus);
+}
+
+} // namespace MenuExtension

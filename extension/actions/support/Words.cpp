@@ -1,0 +1,100 @@
+#include "extension/actions/support/Words.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+namespace MenuExtension::Words {
+
+namespace {
+
+constexpr std::string_view replacement = "\xEF\xBF\xBD";
+constexpr std::size_t sentencesTold = 3;
+
+struct Character {
+    char32_t code;
+    std::size_t length;
+};
+
+/// The character that the bytes begin with; nothing where that is none.
+std::optional<Character> firstOf(std::string_view bytes)
+{
+    const auto first = static_cast<std::uint8_t>(bytes.front());
+    if (first < 0x80)
+        return Character{first, 1};
+    const std::size_t length = first >= 0xf0 ? 4 : first >= 0xe0 ? 3 : 2;
+    if (first < 0xc2 || first > 0xf4 || bytes.size() < length)
+        return std::nullopt;
+    char32_t code = first & (0x7fU >> length);
+    for (std::size_t index = 1; index < length; ++index) {
+        const auto next = static_cast<std::uint8_t>(bytes[index]);
+        if ((next & 0xc0U) != 0x80)
+            return std::nullopt;
+        code = code << 6U | (next & 0x3fU);
+    }
+    const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
+    const bool surrogate = code >= 0xd800 && code < 0xe000;
+    return overlong || surrogate || code > 0x10ffff ? std::nullopt : std::optional(Character{code, length});
+}
+
+bool isInvisible(char32_t code)
+{
+    const bool control = code < 0x20 || (code >= 0x7f && code < 0xa0);
+    const bool lineEnd = code == 0x2028 || code == 0x2029;
+    const bool reorders = code == 0x200e || code == 0x200f || code == 0x61c || (code >= 0x202a && code <= 0x202e) ||
+                          (code >= 0x2066 && code <= 0x2069);
+    return control || lineEnd || reorders;
+}
+
+} // namespace
+
+std::string name(std::string_view path)
+{
+    path = path.substr(0, path.find_last_not_of('/') + 1);
+    std::string_view rest = path.substr(path.rfind('/') + 1);
+    std::string shown = "\"";
+    if (rest.empty())
+        shown += '/';
+    while (!rest.empty()) {
+        const auto character = firstOf(rest);
+        const std::size_t length = character ? character->length : 1;
+        if (rest.front() == '\n')
+            shown += "\xE2\x86\xB5";
+        else if (rest.front() == '\t')
+            shown += "\xE2\x87\xA5";
+        else
+            shown += !character || isInvisible(character->code) ? replacement : rest.substr(0, length);
+        rest.remove_prefix(length);
+    }
+    return shown + '"';
+}
+
+std::string reason(int error)
+{
+    if (error == EXDEV || error == ELOOP)
+        return "a link leads out of the folders that Orvik Menu works in";
+    return std::generic_category().message(error);
+}
+
+void Troubles::add(std::string sentence)
+{
+    if (++m_count > sentencesTold)
+        return;
+    if (!m_sentences.empty())
+        m_sentences += ' ';
+    m_sentences += std::move(sentence);
+}
+
+Outcome Troubles::outcome() const
+{
+    if (m_count == 0)
+        return Outcome::done();
+    if (m_count <= sentencesTold)
+        return Outcome::failed(m_sentences);
+    return Outcome::failed(m_sentences + " There were " + std::to_string(m_count - sentencesTold) +
+                           " more like these.");
+}
+
+} // namespace MenuExtension::Words

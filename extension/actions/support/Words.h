@@ -1,0 +1,32 @@
+#pragma once
+
+#include "extension/actions/support/Outcome.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Texts for people.
+namespace MenuExtension::Words {
+
+/// The name at the end of a path, in quotes, on one line: with a visible sign in the place of every byte that is no
+/// UTF-8, of control characters, and of those that reorder text.
+[[nodiscard]] std::string name(std::string_view path);
+
+/// Why an item could not be opened or changed, from errno.
+[[nodiscard]] std::string reason(int error);
+
+/// What could not be done with some of the items while the rest went on.
+class Troubles {
+public:
+    /// A sentence.
+    void add(std::string sentence);
+    /// Done where there were none. Names the first few.
+    [[nodiscard]] Outcome outcome() const;
+
+private:
+    std::string m_sentences;
+    std::size_t m_count = 0;
+};
+
+} // namespace MenuExtension::Words
