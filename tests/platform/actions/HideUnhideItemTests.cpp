@@ -240,13 +240,15 @@ TEST_F(HideUnhideItem, OneThatHasTheLockIsWaitedFor)
 {
     const int holder = ::open(listed().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     ASSERT_EQ(::flock(holder, LOCK_EX), 0);
+    bool changedBefore = false;
     std::thread ending([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        changedBefore = fs::exists(list());
         ::close(holder);
     });
-    // It waits, and does it then.
     EXPECT_EQ(toggle({file("a")}), done);
     ending.join();
+    EXPECT_FALSE(changedBefore);
     EXPECT_EQ(listText(), "a\n");
 }
 

@@ -51,6 +51,26 @@ TEST_F(StoreOfOneDomain, SynchronizeReturnsWhenOthersSeeTheWrite)
     EXPECT_FALSE(stored("k"));
 }
 
+TEST_F(StoreOfOneDomain, SeveralSettingsAreNeverInTheFileByHalves)
+{
+    const auto domain = m_store.open(domainName);
+    std::atomic<bool> ended = false;
+    std::thread writing([&] {
+        for (int number = 1; number <= 50; ++number) {
+            domain->setObjects({{"a", number}, {"b", number}});
+            domain->synchronize();
+        }
+        ended = true;
+    });
+    while (!ended) {
+        Store other{folder()};
+        const auto values = other.open(domainName)->contents();
+        EXPECT_TRUE(!values || (values->contains("b") && values->at("a") == values->at("b")));
+    }
+    writing.join();
+    EXPECT_EQ(stored("b"), NS::Value(50));
+}
+
 TEST_F(StoreOfOneDomain, AWriteWithoutSynchronizeReachesTheFileWithinASecond)
 {
     m_defaults->setObject_forKey(1, "k");
