@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <optional>
 #include <system_error>
-#include <utility>
 
 namespace MenuExtension::Words {
 
@@ -78,13 +77,13 @@ std::string reason(int error)
     return std::generic_category().message(error);
 }
 
-void Troubles::add(std::string sentence)
+void Troubles::add(const std::string& sentence)
 {
     if (++m_count > sentencesTold)
         return;
     if (!m_sentences.empty())
         m_sentences += ' ';
-    m_sentences += std::move(sentence);
+    m_sentences += sentence;
 }
 
 Outcome Troubles::outcome() const

@@ -20,7 +20,7 @@ namespace MenuExtension::Words {
 class Troubles {
 public:
     /// A sentence.
-    void add(std::string sentence);
+    void add(const std::string& sentence);
     /// Done where there were none. Names the first few.
     [[nodiscard]] Outcome outcome() const;
 
