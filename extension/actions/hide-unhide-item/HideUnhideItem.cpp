@@ -84,7 +84,7 @@ std::vector<std::string> thoseToHide(const std::vector<std::string>& items, Word
 /// before.
 std::string withoutDots(const FileDescriptor& folder, const std::string& name, Words::Troubles& troubles)
 {
-    const std::string bare = name.substr(std::min(name.find_first_not_of('.'), name.size()));
+    std::string bare = name.substr(std::min(name.find_first_not_of('.'), name.size()));
     const std::string cannot = Words::name(name) + " cannot be unhidden: ";
     if (bare.empty() || name == HiddenFolder::listName)
         troubles.add(cannot + (bare.empty() ? "its name has dots alone." : "it is the list of what is hidden."));

@@ -26,7 +26,8 @@ constexpr std::array known{
 Outcome perform(const Request&)
 {
     auto preferences = known;
-    std::ranges::stable_partition(preferences, [](const Preferences& one) { return isDesktop(one.desktop); });
+    std::stable_partition(preferences.begin(), preferences.end(),
+                          [](const Preferences& one) { return isDesktop(one.desktop); });
     for (const Preferences& one : preferences) {
         if (Programs::start({one.program}))
             return Outcome::done();
