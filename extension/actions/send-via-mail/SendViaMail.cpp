@@ -1,4 +1,3 @@
-#include "extension/BusNames.h"
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Panel.h"
 #include "extension/actions/support/SessionBus.h"
@@ -47,7 +46,8 @@ Outcome perform(const Request& request)
     const Bus bus = openSessionBus();
     if (bus)
         post(*bus, NotificationName::AttachFileToMail);
-    return bus && isOnBus(*bus, BusNames::panel.c_str()) ? Outcome::done() : startPanel();
+    return bus && isOnBus(*bus, std::string(Deployment::applicationIdentifier).c_str()) ? Outcome::done()
+                                                                                        : startPanel();
 }
 
 } // namespace MenuExtension

@@ -1,5 +1,6 @@
 #include "extension/actions/support/SessionBus.h"
 
+#include "platform/linux/bus/interfaces/DistributedNotificationCenter.h"
 #include "settings/Deployment.h"
 
 #include <cerrno>
@@ -8,12 +9,6 @@
 namespace MenuExtension {
 
 namespace {
-
-namespace NotificationSignal {
-constexpr const char* path = "/com/orvikstudio/DistributedNotificationCenter";
-constexpr const char* interface = "com.orvikstudio.DistributedNotificationCenter";
-constexpr const char* member = "Posted";
-} // namespace NotificationSignal
 
 /// An error of the bus, by its last part.
 bool endsAs(const std::string& error, std::initializer_list<std::string_view> names)
@@ -85,10 +80,10 @@ bool isOnBus(sd_bus& bus, const char* name)
 
 void post(sd_bus& bus, std::string_view notification)
 {
+    using namespace BusInterface::DistributedNotificationCenter;
     const std::string name(notification);
     const std::string object(Deployment::extensionIdentifier);
-    sd_bus_emit_signal(&bus, NotificationSignal::path, NotificationSignal::interface, NotificationSignal::member,
-                       "ss", name.c_str(), object.c_str());
+    sd_bus_emit_signal(&bus, path, interface, Posted::name, Posted::type, name.c_str(), object.c_str());
     sd_bus_flush(&bus);
 }
 
