@@ -1,13 +1,28 @@
 #include "platform/FatalError.h"
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 
 namespace NS {
 
+namespace {
+
+std::atomic<void (*)(std::string_view)> lastWordsToSay = nullptr;
+
+} // namespace
+
+void setLastWords(void (*lastWords)(std::string_view what))
+{
+    lastWordsToSay = lastWords;
+}
+
 void fatalError(std::string_view what)
 {
     std::fprintf(stderr, "orvik-menu: fatal error: %.*s\n", static_cast<int>(what.size()), what.data());
+    // Another fatal error on the way, or on another thread, finds none left to say.
+    if (auto* const lastWords = lastWordsToSay.exchange(nullptr))
+        lastWords(what);
     std::abort();
 }
 

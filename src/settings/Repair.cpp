@@ -54,18 +54,19 @@ void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
     }
 
     if (!storedPaths && valueIn(suite, pathsKey)) {
-        mends.push_back({pathsKey, std::nullopt, "The list of folders was no list and was removed."});
+        mends.push_back({pathsKey, std::nullopt, "The list of folders is no list.", "It is removed."});
     } else if (storedPaths && paths.size() != storedPaths->size()) {
         const std::size_t dropped = storedPaths->size() - paths.size();
         mends.push_back({pathsKey, paths,
                          counted(dropped, "entry", "entries") + " of the list of folders " +
-                             (dropped == 1 ? "was no path and was removed." : "were no paths and were removed.")});
+                             (dropped == 1 ? "is no path." : "are no paths."),
+                         dropped == 1 ? "It is removed." : "They are removed."});
     }
     const bool noFlags = flags.empty() && !valueIn(suite, flagsKey);
     if (!noFlags && !(storedFlags && *storedFlags == flags))
         mends.push_back({flagsKey, flags,
-                         "The list that says which folders are active did not match the list of folders. A folder "
-                         "without an entry of its own is active now."});
+                         "The list that says which folders are active does not match the list of folders.",
+                         "A folder without an entry of its own becomes active."});
 }
 
 void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
@@ -74,15 +75,13 @@ void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mend
     const NS::Value::Array* stored = arrayIn(suite, key);
     if (!stored) {
         if (valueIn(suite, key))
-            mends.push_back({key, std::nullopt, "The older list of menu items was no list and was removed."});
+            mends.push_back({key, std::nullopt, "The older list of menu items is no list.", "It is removed."});
         return;
     }
     NS::Value::Array flags = flagsOf(*stored, Settings::save14);
     if (flags != *stored)
-        mends.push_back(
-            {key, std::move(flags),
-             "The older list of menu items had entries that were no numbers. Those menu items are switched "
-             "on now."});
+        mends.push_back({key, std::move(flags), "The older list of menu items has entries that are no numbers.",
+                         "Those menu items are switched on."});
 }
 
 } // namespace

@@ -12,8 +12,9 @@ struct Mend {
     std::string_view key;
     /// What takes its place; nothing where the key goes.
     std::optional<NS::Value> value;
-    /// What is wrong and what becomes of it: a sentence for people.
-    std::string what;
+    /// What is wrong, and what becomes of it: sentences for people.
+    std::string wrong;
+    std::string remedy;
 };
 
 /// What has to change in the shared suite so that the panel can work with it; none where nothing has to. An element

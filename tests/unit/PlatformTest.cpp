@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdio>
+#include <string_view>
 
 namespace {
 
@@ -25,6 +27,28 @@ TEST(PlatformDeathTest, AskingBeforeOneIsInstalledIsFatal)
 TEST(FatalErrorDeathTest, PrintsOneLineAndAborts)
 {
     EXPECT_EXIT(NS::fatalError("it cannot be"), testing::KilledBySignal(SIGABRT), fatalLine("it cannot be"));
+}
+
+TEST(FatalErrorDeathTest, HasTheLastWordsSaidAfterItsLine)
+{
+    const auto speak = [] {
+        NS::setLastWords([](std::string_view what) {
+            std::fprintf(stderr, "about: %.*s\n", static_cast<int>(what.size()), what.data());
+        });
+        NS::fatalError("it cannot be");
+    };
+    EXPECT_EXIT(speak(), testing::KilledBySignal(SIGABRT),
+                "^orvik-menu: fatal error: it cannot be\nabout: it cannot be\n$");
+}
+
+TEST(FatalErrorDeathTest, EndsTheProcessWhereTheLastWordsAreFatalThemselves)
+{
+    const auto speak = [] {
+        NS::setLastWords([](std::string_view) { NS::fatalError("nor can this"); });
+        NS::fatalError("it cannot be");
+    };
+    EXPECT_EXIT(speak(), testing::KilledBySignal(SIGABRT),
+                "^orvik-menu: fatal error: it cannot be\norvik-menu: fatal error: nor can this\n$");
 }
 
 } // namespace

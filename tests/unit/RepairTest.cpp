@@ -15,7 +15,8 @@ using Dictionary = NS::Value::Dictionary;
 Dictionary mended(Dictionary suite)
 {
     for (const Mend& mend : mendsOf(suite)) {
-        EXPECT_FALSE(mend.what.empty());
+        EXPECT_FALSE(mend.wrong.empty());
+        EXPECT_FALSE(mend.remedy.empty());
         if (mend.value)
             suite.insert_or_assign(std::string(mend.key), *mend.value);
         else

@@ -4,6 +4,8 @@
 #include "defaults/TypedValue.h"
 #include "platform/linux/store/PropertyList.h"
 #include "platform/linux/store/ReplaceFile.h"
+#include "platform/linux/store/Snapshot.h"
+#include "repair/RepairDomain.h"
 #include "settings/Deployment.h"
 
 #include <algorithm>
@@ -25,6 +27,7 @@ namespace PropertyList = LinuxDesktop::PropertyList;
 using LinuxDesktop::Domain;
 using LinuxDesktop::FileDescriptor;
 using LinuxDesktop::Result;
+using LinuxDesktop::Snapshot;
 using LinuxDesktop::Store;
 
 namespace {
@@ -50,6 +53,8 @@ Reads and writes the settings files of Orvik Menu.
   export DOMAIN FILE|-             write a domain as an XML property list
   import DOMAIN FILE|-             replace a domain by a property list
   path DOMAIN                      print where a domain's file lies
+  repair [DOMAIN]                  mend what keeps the panel from working with
+                                   a domain, else with the suite
   --help                           print this text
   --version                        print the version
 
@@ -271,6 +276,58 @@ Outcome path(Store& store, Arguments arguments)
     return success(LinuxDesktop::settingsPath(*store.folder(), domainNamed(arguments[0])) + "\n");
 }
 
+/// What opening a domain has done about a file that was no property list; the store itself says more of it.
+Outcome salvaged(const Domain& domain, const std::optional<NS::Value::Dictionary>& contents)
+{
+    LinuxDesktop::FileOperations files;
+    if (Snapshot::read(files, domain.path()).state() == Snapshot::State::Damaged)
+        return failed("could not set aside " + domain.path());
+    return success(std::string("The file could not be read and was set aside. ") +
+                   (contents ? "The last good copy took its place.\n"
+                             : "There is no last good copy, so the settings start empty.\n"));
+}
+
+/// Only the panel's own suite has settings that need to match each other.
+Outcome mend(Domain& domain)
+{
+    const auto repair = RepairTool::repairSuite(domain);
+    if (!repair)
+        return failed(repair.error());
+    if (repair->mends.empty())
+        return success();
+    std::string output;
+    for (const Mend& mend : repair->mends)
+        output += mend.wrong + ' ' + mend.remedy + '\n';
+    return success(output + "The settings before that are kept as " + repair->keptFile + ".\n");
+}
+
+Outcome repair(Store& store, Arguments arguments)
+{
+    const std::string name = domainNamed(arguments.empty() ? "suite" : arguments[0]);
+    LinuxDesktop::FileOperations files;
+    const bool wasDamaged =
+        Snapshot::read(files, LinuxDesktop::settingsPath(*store.folder(), name)).state() == Snapshot::State::Damaged;
+    return withDomain(store, name, [&](Domain& domain) {
+        const auto contents = domain.contents();
+        if (!contents && !wasDamaged)
+            return noSuchDomain(name);
+        Outcome outcome = wasDamaged ? salvaged(domain, contents) : success();
+        if (outcome.status != ExitStatus::Success || name != Deployment::suiteName)
+            return outcome;
+        Outcome mended = mend(domain);
+        mended.output.insert(0, outcome.output);
+        return mended;
+    });
+}
+
+Outcome repairAndTell(Store& store, Arguments arguments)
+{
+    Outcome outcome = repair(store, arguments);
+    if (outcome.status == ExitStatus::Success && outcome.output.empty())
+        outcome.output = "Nothing to repair.\n";
+    return outcome;
+}
+
 struct Command {
     std::string_view name;
     std::size_t fewest;
@@ -278,7 +335,7 @@ struct Command {
     Outcome (*run)(Store&, Arguments);
 };
 
-constexpr std::array<Command, 7> commands{{
+constexpr std::array<Command, 8> commands{{
     {"domains", 0, 0, domains},
     {"read", 0, 2, read},
     {"write", 3, std::numeric_limits<std::size_t>::max(), write},
@@ -286,6 +343,7 @@ constexpr std::array<Command, 7> commands{{
     {"export", 2, 2, exportDomain},
     {"import", 2, 2, importDomain},
     {"path", 1, 1, path},
+    {"repair", 0, 1, repairAndTell},
 }};
 
 } // namespace

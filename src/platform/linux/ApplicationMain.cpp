@@ -1,13 +1,18 @@
 #include "platform/ApplicationMain.h"
 
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/program/LastWords.h"
 #include "platform/linux/program/Program.h"
 #include "platform/linux/scenes/Accessibility.h"
+#include "platform/linux/scenes/TabPages.h"
 #include "settings/Deployment.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPointer>
 #include <QWidget>
+
+#include <utility>
 
 namespace {
 
@@ -19,11 +24,40 @@ const ProgramDescription panel = {
     .usage = R"(Usage: orvik-menu [OPTION]
 The control panel of Orvik Menu: which actions the file manager's menu shows, and where.
 
-  --help     show this text and end
-  --version  show the version and end
+  --tab TITLE  open on the tab of that title
+  --help       show this text and end
+  --version    show the version and end
 )",
     .noDisplay = "there is no display to show the panel on",
     .noSessionBus = "no session bus: the panel works, but hears nothing of the extension",
+    .option = "--tab",
+};
+
+/// Has the tabs open on the one of a title, where there is one.
+class FirstTab : public QObject {
+public:
+    explicit FirstTab(QString title) : m_title(std::move(title))
+    {
+        if (!m_title.isEmpty())
+            QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        // Before they show it, so that no other tab's screen is made.
+        auto* tabs = event->type() == QEvent::Show ? qobject_cast<TabPages*>(watched) : nullptr;
+        if (!tabs)
+            return false;
+        QCoreApplication::instance()->removeEventFilter(this);
+        for (int index = 0; index < tabs->count(); ++index) {
+            if (tabs->tabText(index) == m_title)
+                tabs->setCurrentIndex(index);
+        }
+        return false;
+    }
+
+private:
+    const QString m_title;
 };
 
 /// Controllers may outlive the QApplication; widgets must not.
@@ -45,6 +79,8 @@ int runPanel(Program& program, const NS::ClassTable& classes)
     installAccessibility();
     LinuxPlatform platform(classes, Program::resources(), program.bus(), program.name());
     NS::installPlatform(&platform);
+    startProblemWindowWhenFatal();
+    const FirstTab firstTab(program.option());
     program.whenAskedToEnd([&] { platform.application().terminate(); });
     const int status = platform.application().run(platform.loadDelegate());
     destroyWindows();

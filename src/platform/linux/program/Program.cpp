@@ -64,7 +64,10 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     TerminationSignals terminationSignals;
     SessionBus::keepToolkitFromStartingOne();
     const auto application = connectToDisplay(argc, argv, description.name + ": " + description.noDisplay);
-    if (argc > 1) {
+    QString option;
+    if (argc == 3 && description.option && argv[1] == std::string_view(description.option)) {
+        option = QString::fromUtf8(argv[2]);
+    } else if (argc > 1) {
         std::fprintf(stderr, "%s: unknown argument: %s\n%s", description.name.c_str(), argv[1], description.usage);
         return exitUsage;
     }
@@ -73,6 +76,7 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     QGuiApplication::setDesktopFileName(QString::fromStdString(description.identifier));
 
     Program program(description, platformData, terminationSignals);
+    program.m_option = option;
     // The running one comes to the front, and takes on what this start may have been made for.
     if (program.m_name.ownedByAnother())
         return program.activateOther();

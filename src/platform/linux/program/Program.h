@@ -27,6 +27,8 @@ struct ProgramDescription {
     /// What standard error gets, after the name, where there is no display and where there is no session bus.
     const char* noDisplay;
     const char* noSessionBus;
+    /// An option that takes a value, and whose value Program::option() gives; null for none.
+    const char* option = nullptr;
 };
 
 /// A program with windows, of which one process runs: what it has of the desktop before it makes its first window.
@@ -37,8 +39,9 @@ public:
     using Main = std::function<int(Program&)>;
 
     /// Runs a program from its arguments to its exit status: 0; 1 where there is no display or the running process
-    /// does not answer; 2 for an argument that is neither --help, --version nor the toolkit's. `main` is called where
-    /// none runs yet. Its windows look as the desktop wishes, and follow its wish for dark or light.
+    /// does not answer; 2 for an argument that is neither --help, --version, the program's own nor the toolkit's.
+    /// `main` is called where none runs yet. Its windows look as the desktop wishes, and follow its wish for dark or
+    /// light.
     static int run(const ProgramDescription& description, int argc, char** argv, const Main& main);
 
     /// The folder of the installed files.
@@ -46,6 +49,8 @@ public:
     /// The product's icon. The windows have it already.
     [[nodiscard]] static QIcon icon();
 
+    /// What the description's option was given; empty where it was not.
+    [[nodiscard]] const QString& option() const { return m_option; }
     [[nodiscard]] SessionBus& bus() { return m_bus; }
     /// Of which the process gives up being the owner when the event loop ends.
     [[nodiscard]] ApplicationName& name() { return m_name; }
@@ -61,6 +66,7 @@ private:
     int activateOther();
 
     const ProgramDescription& m_description;
+    QString m_option;
     const QVariantMap& m_platformData;
     TerminationSignals& m_terminationSignals;
     SessionBus m_bus;

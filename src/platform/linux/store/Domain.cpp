@@ -126,6 +126,19 @@ std::optional<NS::Value::Dictionary> Domain::contents()
     return contents;
 }
 
+Result<std::string> Domain::keepFile()
+{
+    const std::lock_guard writing(m_writing);
+    Trouble trouble{};
+    const auto hold = lockFiles(Clock::now() + DomainLock::longestWait, trouble);
+    if (!hold)
+        return Failure{trouble.what};
+    const Snapshot found = m_file.read();
+    if (found.state() != Snapshot::State::Readable)
+        return Failure{"could not read " + m_file.path()};
+    return m_file.keep(found);
+}
+
 bool Domain::isAccessible()
 {
     std::unique_lock state(m_state);

@@ -6,6 +6,7 @@
 #include "platform/linux/store/DelayedQueue.h"
 #include "platform/linux/store/DomainLock.h"
 #include "platform/linux/store/FileOperations.h"
+#include "platform/linux/store/Result.h"
 #include "platform/linux/store/SettingsFile.h"
 #include "platform/linux/store/Snapshot.h"
 
@@ -47,6 +48,10 @@ public:
     /// For who leaves nothing to be done later: synchronize() that waits for the lock anew, and for the last good
     /// copy.
     bool finish();
+
+    /// Keeps the file as it is now, for who is about to replace what is in it on the user's behalf: durably, under a
+    /// name like a damaged one's, which it gives.
+    [[nodiscard]] Result<std::string> keepFile();
 
     /// Whether the file, if there is one, can be read at all.
     [[nodiscard]] bool isAccessible();

@@ -62,7 +62,7 @@ std::string following(std::string stamp)
 }
 
 /// The stamps of those that are there, the oldest first.
-std::vector<std::string> damagedFiles(const std::string& settings)
+std::vector<std::string> keptFiles(const std::string& settings)
 {
     std::vector<std::string> found;
     const std::string prefix = std::filesystem::path(settings).filename().native() + std::string(mark);
@@ -101,15 +101,15 @@ std::optional<Failure> copyFile(FileOperations& files, int from, const std::stri
 
 } // namespace
 
-Result<std::string> keepDamagedFile(FileOperations& files, const std::string& settings, const std::string& target,
-                                    const Snapshot& damaged)
+Result<std::string> keepFile(FileOperations& files, const std::string& settings, const std::string& target,
+                             const Snapshot& found)
 {
     constexpr std::size_t mostKept = 5;
     const std::string prefix = settings + std::string(mark);
-    const std::vector<std::string> earlier = damagedFiles(settings);
+    const std::vector<std::string> earlier = keptFiles(settings);
     // Whoever was killed half way through this has left a name behind.
     for (const std::string& stamp : earlier)
-        if (damaged.isNamed(prefix + stamp))
+        if (found.isNamed(prefix + stamp))
             return prefix + stamp;
     // First, so that no kill leaves more than there may be.
     for (std::size_t i = 0; i + mostKept <= earlier.size(); ++i)
@@ -127,7 +127,7 @@ Result<std::string> keepDamagedFile(FileOperations& files, const std::string& se
             continue;
         }
         // On another file system than its link, or another user's.
-        if (auto failure = copyFile(files, damaged.descriptor(), kept))
+        if (auto failure = copyFile(files, found.descriptor(), kept))
             return *failure;
         break;
     }

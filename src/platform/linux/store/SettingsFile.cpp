@@ -90,6 +90,16 @@ std::optional<Failure> SettingsFile::flush(const Snapshot& current) const
     return std::nullopt;
 }
 
+Result<std::string> SettingsFile::keep(const Snapshot& current) const
+{
+    if (const auto failure = flush(current))
+        return *failure;
+    const auto path = linkTarget(m_path);
+    if (!path)
+        return Failure{path.error()};
+    return keepFile(m_files, m_path, *path, current);
+}
+
 Result<std::string> SettingsFile::setAside(const Snapshot& damaged) const
 {
     const auto path = linkTarget(m_path);
@@ -98,7 +108,7 @@ Result<std::string> SettingsFile::setAside(const Snapshot& damaged) const
     const Snapshot backup = readBackup();
     if (backup.state() == Snapshot::State::Inaccessible)
         return Failure{"could not read " + backupPath() + ": " + backup.why()};
-    const auto kept = keepDamagedFile(m_files, m_path, *path, damaged);
+    const auto kept = keepFile(m_files, m_path, *path, damaged);
     if (!kept)
         return Failure{kept.error()};
     if (!damaged.isNamed(m_path))

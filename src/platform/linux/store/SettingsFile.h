@@ -48,6 +48,8 @@ public:
     void removeStaleTemporaries() const;
     /// Brings to disk what another program may have left in memory.
     [[nodiscard]] std::optional<Failure> flush(const Snapshot& current) const;
+    /// Keeps a readable file, as it is on disk, under another name too, which it gives.
+    [[nodiscard]] Result<std::string> keep(const Snapshot& current) const;
     /// Keeps the damaged file under another name and brings the last good copy back, or leaves no file where there
     /// is none. Does nothing where there is one that cannot be read. At every moment the damaged file and the copy
     /// exist. Gives a sentence for the user.

@@ -1,0 +1,166 @@
+#include "problem/ProblemWindow.h"
+
+#include "platform/linux/store/Store.h"
+#include "repair/RepairDomain.h"
+#include "settings/Deployment.h"
+#include "settings/Settings.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <string>
+
+namespace ProblemTool {
+
+namespace {
+
+constexpr int iconExtent = 64;
+constexpr int textWidth = 420;
+
+std::vector<Mend> findMends()
+{
+    LinuxDesktop::Store store;
+    const auto suite = store.open(Deployment::suiteName);
+    return mendsOf(suite ? suite->contents().value_or(NS::Value::Dictionary{}) : NS::Value::Dictionary{});
+}
+
+/// The tab whose screen shows what a key holds.
+QString tabOf(const Mend& mend)
+{
+    return mend.key == Settings::save14.key ? QStringLiteral("Menu Items") : QStringLiteral("Folders");
+}
+
+QString reasonFor(const std::vector<Mend>& mends, const QString& words)
+{
+    // What the panel says in a fatal error is short, but for names.
+    constexpr qsizetype longest = 400;
+    if (!mends.empty()) {
+        QStringList reasons;
+        for (const Mend& mend : mends)
+            reasons.append(QString::fromStdString(mend.wrong));
+        return reasons.join(QLatin1Char('\n'));
+    }
+    if (words.isEmpty())
+        return QStringLiteral("There is nothing to repair in the settings.");
+    return QStringLiteral("What it said: ") + (words.size() > longest ? words.left(longest) + u'…' : words);
+}
+
+QString adviceFor(const std::vector<Mend>& mends, const QString& words)
+{
+    if (!mends.empty()) {
+        QStringList remedies;
+        for (const Mend& mend : mends) {
+            if (const auto remedy = QString::fromStdString(mend.remedy); !remedies.contains(remedy))
+                remedies.append(remedy);
+        }
+        return QStringLiteral("If you repair the settings: %1 The settings as they are now are kept in a file.")
+            .arg(remedies.join(QLatin1Char(' ')));
+    }
+    return words.isEmpty() ? QString()
+                           : QStringLiteral("Nothing in the settings explains it. Your settings are kept.");
+}
+
+QString headingFor(const QString& words)
+{
+    return words.isEmpty() ? QStringLiteral("The settings of Orvik Menu") : QStringLiteral("Orvik Menu had to stop");
+}
+
+} // namespace
+
+ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon)
+    : m_panel(panel), m_mends(findMends()), m_trouble(new QLabel(this))
+{
+    setWindowTitle(QStringLiteral("Orvik Menu"));
+    auto* picture = new QLabel(this);
+    picture->setPixmap(icon.pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
+    auto* heading = new QLabel(headingFor(panel.words()), this);
+    QFont font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.25);
+    font.setWeight(QFont::DemiBold);
+    heading->setFont(font);
+    auto* reason = new QLabel(reasonFor(m_mends, panel.words()), this);
+    auto* advice = new QLabel(adviceFor(m_mends, panel.words()), this);
+    advice->setForegroundRole(QPalette::PlaceholderText);
+    advice->setHidden(advice->text().isEmpty());
+    m_trouble->hide();
+
+    auto* close = new QPushButton(QStringLiteral("Close"), this);
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    auto* open = new QPushButton(QStringLiteral("Open Again"), this);
+    connect(open, &QPushButton::clicked, this, [this] { openAgain({}); });
+    std::vector<QPushButton*> buttons{close, open};
+    if (!m_mends.empty()) {
+        buttons.push_back(new QPushButton(QStringLiteral("Repair Settings"), this));
+        connect(buttons.back(), &QPushButton::clicked, this, [this] { repair(); });
+    }
+    layOut(picture, {heading, reason, advice, m_trouble}, buttons);
+    buttons.back()->setDefault(true);
+    buttons.back()->setFocus();
+    // What is read out when the window comes.
+    setAccessibleDescription(heading->text() + QStringLiteral(". ") + reason->text() + u' ' + advice->text());
+}
+
+void ProblemWindow::layOut(QLabel* picture, const std::vector<QLabel*>& texts,
+                           const std::vector<QPushButton*>& buttons)
+{
+    auto* words = new QVBoxLayout;
+    words->setSpacing(8);
+    for (QLabel* text : texts) {
+        text->setTextFormat(Qt::PlainText);
+        text->setWordWrap(true);
+        text->setFixedWidth(textWidth);
+        // It may be wanted in a report.
+        text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        words->addWidget(text);
+    }
+    words->addStretch(1);
+
+    auto* above = new QHBoxLayout;
+    above->setSpacing(18);
+    above->addWidget(picture, 0, Qt::AlignTop);
+    above->addLayout(words);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addStretch(1);
+    for (QPushButton* button : buttons)
+        row->addWidget(button);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 18);
+    layout->setSpacing(18);
+    layout->addLayout(above);
+    layout->addLayout(row);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void ProblemWindow::repair()
+{
+    LinuxDesktop::Store store;
+    const auto suite = store.open(Deployment::suiteName);
+    if (!suite) {
+        tell(QStringLiteral("The settings could not be repaired: they cannot be read."));
+        return;
+    }
+    if (const auto repaired = RepairTool::repairSuite(*suite))
+        openAgain(tabOf(m_mends.front()));
+    else
+        tell(QStringLiteral("The settings could not be repaired: %1.").arg(QString::fromStdString(repaired.error())));
+}
+
+void ProblemWindow::openAgain(const QString& tab)
+{
+    if (m_panel.openAgain(tab))
+        accept();
+    else
+        tell(QStringLiteral("Orvik Menu could not be started."));
+}
+
+void ProblemWindow::tell(const QString& trouble)
+{
+    m_trouble->setText(trouble);
+    m_trouble->show();
+    setAccessibleDescription(trouble);
+}
+
+} // namespace ProblemTool
