@@ -10,6 +10,7 @@ import unittest
 PROGRAMS = {
     "orvik-menu": "orvik-menu: there is no display to show the panel on",
     "orvik-menu-extensions": "orvik-menu-extensions: there is no display to show the window on",
+    "orvik-menu-problem": "orvik-menu-problem: there is no display to show the window on",
 }
 
 TIMEOUT = 60

@@ -2,6 +2,7 @@
 
 import glob
 import os
+import plistlib
 import resource
 import signal
 import subprocess
@@ -81,12 +82,13 @@ class Problem(DesktopTestCase):
 
     def assertOpensOnFolders(self):
         window = self.active_window(APPLICATION, MAIN_WINDOW)
-        eventually(lambda: window.find("page tab", "Folders").has("selected"), "the folders' tab")
+        eventually(lambda: window.find("push button", "Add Folder…"), "the folders' tab")
         rows = eventually(lambda: window.all("list item") if len(window.all("list item")) == 2 else None, "two rows")
         self.assertEqual([row.name for row in rows], FOLDERS)
 
     def assertMended(self, before):
-        self.assertEqual(self.suite.text(), as_text({"foldersArray": FOLDERS, "foldersArraystate": [0, 1]}))
+        mended = {**plistlib.loads(before), "foldersArraystate": [0, 1]}
+        self.assertEqual(self.suite.text(), as_text(mended))
         kept, = glob.glob(self.suite.path + ".corrupt-*")
         with open(kept, "rb") as file:
             self.assertEqual(file.read(), before)
@@ -125,14 +127,14 @@ class Problem(DesktopTestCase):
 
     def test_opening_again_changes_nothing(self):
         self.stop_panel()
-        before = self.suite.bytes()
+        before = {"foldersArray": FOLDERS, "foldersArraystate": [0]}
 
         self.problem_window().find("push button", "Open Again").act("Press")
 
         window = self.active_window(APPLICATION, MAIN_WINDOW)
-        self.assertTrue(window.find("page tab", "Menu Items").has("selected"))
+        eventually(lambda: window.find("check box", "Open Terminal"), "the menu items")
         eventually(lambda: not self.problem_process(), "the window to have gone")
-        self.assertEqual(plain(self.suite.read()), plain_lists_of(before))
+        self.assertEqual({key: self.suite.read()[key] for key in before}, before)
 
     def test_closing_changes_nothing_and_starts_nothing(self):
         for close in (lambda window: self.hands.press("Escape"),
@@ -210,7 +212,7 @@ class Problem(DesktopTestCase):
 
     def test_the_panel_opens_on_the_tab_that_it_is_asked_for(self):
         self.suite.write(foldersArray=FOLDERS, foldersArraystate=[0, 1])
-        panel = self.start_panel(wrapper=[os.path.join(self.programs, "orvik-menu")], program="--tab=Folders")
+        panel = self.start_panel(wrapper=[os.path.join(self.programs, "orvik-menu"), "--tab"], program="Folders")
         self.assertOpensOnFolders()
         panel.close()
 

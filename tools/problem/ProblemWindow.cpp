@@ -53,11 +53,11 @@ QString adviceFor(const std::vector<Mend>& mends, const QString& words)
             if (const auto remedy = QString::fromStdString(mend.remedy); !remedies.contains(remedy))
                 remedies.append(remedy);
         }
-        return QStringLiteral("If you repair the settings: %1 The settings as they are now are kept in a file.")
+        return QStringLiteral("Repair Settings mends this. %1 A copy of the settings as they are now is kept.")
             .arg(remedies.join(QLatin1Char(' ')));
     }
     return words.isEmpty() ? QString()
-                           : QStringLiteral("Nothing in the settings explains it. Your settings are kept.");
+                           : QStringLiteral("Nothing in the settings explains it. They are as they were.");
 }
 
 QString headingFor(const QString& words)
