@@ -54,13 +54,13 @@ void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
     }
 
     if (!storedPaths && valueIn(suite, pathsKey)) {
-        mends.push_back({pathsKey, std::nullopt, "The list of folders is no list.", "It is removed."});
+        mends.push_back({pathsKey, std::nullopt, "The list of folders is no list.", "What is no list is removed."});
     } else if (storedPaths && paths.size() != storedPaths->size()) {
         const std::size_t dropped = storedPaths->size() - paths.size();
         mends.push_back({pathsKey, paths,
                          counted(dropped, "entry", "entries") + " of the list of folders " +
                              (dropped == 1 ? "is no path." : "are no paths."),
-                         dropped == 1 ? "It is removed." : "They are removed."});
+                         "What is no path is removed."});
     }
     const bool noFlags = flags.empty() && !valueIn(suite, flagsKey);
     if (!noFlags && !(storedFlags && *storedFlags == flags))
@@ -75,13 +75,14 @@ void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mend
     const NS::Value::Array* stored = arrayIn(suite, key);
     if (!stored) {
         if (valueIn(suite, key))
-            mends.push_back({key, std::nullopt, "The older list of menu items is no list.", "It is removed."});
+            mends.push_back(
+                {key, std::nullopt, "The older list of menu items is no list.", "What is no list is removed."});
         return;
     }
     NS::Value::Array flags = flagsOf(*stored, Settings::save14);
     if (flags != *stored)
         mends.push_back({key, std::move(flags), "The older list of menu items has entries that are no numbers.",
-                         "Those menu items are switched on."});
+                         "A menu item without a number is switched on."});
 }
 
 } // namespace

@@ -89,7 +89,7 @@ TEST_F(RepairProgram, MendsTheSuiteAndSaysWhatItDid)
 TEST_F(RepairProgram, RemovesAListThatIsNone)
 {
     store({{"save14", "1"}});
-    EXPECT_TRUE(run({}).output.starts_with("The older list of menu items is no list. It is removed.\n"));
+    EXPECT_TRUE(run({}).output.starts_with("The older list of menu items is no list. What is no list is removed.\n"));
     EXPECT_EQ(stored(), Dictionary{});
 }
 
