@@ -216,6 +216,16 @@ class Problem(DesktopTestCase):
         self.assertOpensOnFolders()
         panel.close()
 
+    def test_a_tab_that_is_not_there_is_ignored(self):
+        panel = self.start_panel(wrapper=[os.path.join(self.programs, "orvik-menu"), "--tab"], program="Nowhere")
+        window = panel.main_window()
+        eventually(lambda: window.find("check box", "Open Terminal"), "the menu items")
+
+    def test_a_tab_without_a_title_is_wrong_usage(self):
+        answer = self.run_tool("orvik-menu", "--tab")
+        self.assertEqual((answer.returncode, answer.stdout), (2, b""))
+        self.assertTrue(answer.stderr.startswith(b"orvik-menu: unknown argument: --tab\n"), answer.stderr)
+
 
 if __name__ == "__main__":
     unittest.main()
