@@ -60,24 +60,29 @@ void Domain::setObject_forKey(NS::Value value, std::string_view key)
     setObjects({{std::string(key), std::move(value)}});
 }
 
-void Domain::setObjects(NS::Value::Dictionary values)
+void Domain::setObjects(const NS::Value::Dictionary& values)
 {
-    std::vector<std::string> texts;
-    texts.reserve(values.size());
-    for (auto& [key, value] : values) {
+    struct Checked {
+        NS::Value value;
+        std::string text;
+    };
+    std::vector<Checked> checked;
+    checked.reserve(values.size());
+    for (const auto& [key, given] : values) {
         requireStorable(key);
-        if (const auto date = value.date())
-            value = NS::Date{std::floor(date->timeIntervalSince1970)};
+        const auto date = given.date();
+        NS::Value value = date ? NS::Value(NS::Date{std::floor(date->timeIntervalSince1970)}) : given;
         auto text = PropertyList::textInRoot(value);
         if (!text)
             NS::fatalError("a value that cannot be stored: " + text.error());
-        texts.push_back(std::move(*text));
+        checked.push_back({std::move(value), std::move(*text)});
     }
     std::unique_lock state(m_state);
-    auto text = texts.begin();
-    for (auto& [key, value] : values) {
-        m_seen.insert_or_assign(key, value);
-        m_changes.set(key, std::move(value), std::move(*text++));
+    auto next = checked.begin();
+    for (const auto& [key, given] : values) {
+        m_seen.insert_or_assign(key, next->value);
+        m_changes.set(key, std::move(next->value), std::move(next->text));
+        ++next;
     }
     writeSoon(std::move(state));
 }

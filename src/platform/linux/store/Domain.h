@@ -34,7 +34,7 @@ public:
     /// array or a dictionary stay as they are.
     void setObject_forKey(NS::Value value, std::string_view key) override;
     /// The same for several keys, which reach the file in one write.
-    void setObjects(NS::Value::Dictionary values);
+    void setObjects(const NS::Value::Dictionary& values);
     /// Removes the value that was last read or set here, or where that never happened the one that is there now. What
     /// another program writes in its place stays, and then all removals that wait are dropped.
     void removeObjectForKey(std::string_view key) override;
