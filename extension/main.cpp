@@ -1,5 +1,6 @@
 #include "extension/Companion.h"
 #include "extension/Handles.h"
+#include "extension/OpenBus.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/system/Complaint.h"
 
@@ -47,16 +48,6 @@ int addEndings(sd_event& event)
     return 0;
 }
 
-Bus openSessionBus()
-{
-    // To the library an empty address is a wrong one; to everyone else it is none.
-    if (const char* address = std::getenv("DBUS_SESSION_BUS_ADDRESS"); address && *address == '\0')
-        ::unsetenv("DBUS_SESSION_BUS_ADDRESS");
-    sd_bus* bus = nullptr;
-    sd_bus_open_user(&bus);
-    return Bus(bus);
-}
-
 int run()
 {
     const auto folder = LinuxDesktop::settingsFolder();
@@ -73,9 +64,7 @@ int run()
         return cannot("the event loop cannot be made", result);
 
     const Bus bus = openSessionBus();
-    // That there was somebody at the address is known when the bus has answered.
-    const char* name = nullptr;
-    if (!bus || sd_bus_get_unique_name(bus.get(), &name) < 0) {
+    if (!bus) {
         complain("there is no session bus");
         return EXIT_FAILURE;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "extension/Handles.h"
+#include "extension/OpenBus.h"
 
 #include <chrono>
 #include <string>
@@ -9,9 +10,6 @@
 namespace MenuExtension {
 
 using Message = std::unique_ptr<sd_bus_message, Release<sd_bus_message_unref>>;
-
-/// A connection that answers; nothing where there is no session bus.
-[[nodiscard]] Bus openSessionBus();
 
 /// A method of another program's object. The texts must outlive it.
 struct BusMethod {

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "extension/Handles.h"
+
+namespace MenuExtension {
+
+/// A connection to the session bus that answers; nothing where there is none.
+[[nodiscard]] Bus openSessionBus();
+
+} // namespace MenuExtension
