@@ -4,7 +4,7 @@
 
 #include "../store/Settings.h"
 #include "../store/TemporaryFolder.h"
-#include "extension/Handles.h"
+#include "extension/bus/Handles.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/store/Store.h"

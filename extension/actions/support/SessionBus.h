@@ -1,7 +1,7 @@
 #pragma once
 
-#include "extension/Handles.h"
-#include "extension/OpenBus.h"
+#include "extension/bus/Handles.h"
+#include "extension/bus/OpenBus.h"
 
 #include <chrono>
 #include <string>

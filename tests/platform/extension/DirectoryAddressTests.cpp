@@ -1,4 +1,4 @@
-#include "extension/DirectoryAddress.h"
+#include "extension/companion/DirectoryAddress.h"
 
 #include <gtest/gtest.h>
 

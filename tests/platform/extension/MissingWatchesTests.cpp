@@ -1,7 +1,7 @@
 #include "../bus/Waiting.h"
 #include "CompanionProcess.h"
 #include "NoMoreDescriptors.h"
-#include "extension/Companion.h"
+#include "extension/companion/Companion.h"
 
 #include <QDBusPendingCall>
 #include <QDBusPendingReply>

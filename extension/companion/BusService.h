@@ -1,7 +1,8 @@
 #pragma once
 
-#include "extension/ExtensionSettings.h"
-#include "extension/Handles.h"
+#include "extension/bus/Handles.h"
+#include "extension/companion/ExtensionSettings.h"
+#include "extension/menu/Menu.h"
 
 #include <functional>
 #include <string>
@@ -14,6 +15,8 @@ struct CompanionState {
     ExtensionSettings settings;
     /// The watched directories, as `file:` addresses.
     std::vector<std::string> directoryURLs;
+    /// Those that are on and can be done here.
+    std::vector<MenuAction> actions;
 };
 
 /// The companion on the session bus: its name, and the object that shows what it holds.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "extension/Handles.h"
+#include "extension/bus/Handles.h"
 
 #include <functional>
 #include <string>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "extension/BusService.h"
-#include "extension/Handles.h"
-#include "extension/PanelLink.h"
-#include "extension/SettingsWatch.h"
-#include "extension/SuiteReader.h"
+#include "extension/bus/Handles.h"
+#include "extension/companion/BusService.h"
+#include "extension/companion/PanelLink.h"
+#include "extension/companion/SettingsWatch.h"
+#include "extension/companion/SuiteReader.h"
 
 #include <optional>
 #include <string>

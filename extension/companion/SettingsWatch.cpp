@@ -1,4 +1,4 @@
-#include "extension/SettingsWatch.h"
+#include "extension/companion/SettingsWatch.h"
 
 #include "platform/linux/system/Complaint.h"
 

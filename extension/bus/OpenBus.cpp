@@ -1,4 +1,4 @@
-#include "extension/OpenBus.h"
+#include "extension/bus/OpenBus.h"
 
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-#include "extension/PanelLink.h"
+#include "extension/companion/PanelLink.h"
 
 #include "platform/linux/bus/interfaces/FinderSync.h"
 #include "settings/Deployment.h"

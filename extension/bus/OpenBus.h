@@ -1,6 +1,6 @@
 #pragma once
 
-#include "extension/Handles.h"
+#include "extension/bus/Handles.h"
 
 namespace MenuExtension {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "extension/ExtensionSettings.h"
+#include "extension/companion/ExtensionSettings.h"
 
 #include <string>
 #include <string_view>

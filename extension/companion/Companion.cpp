@@ -1,6 +1,7 @@
-#include "extension/Companion.h"
+#include "extension/companion/Companion.h"
 
-#include "extension/DirectoryAddress.h"
+#include "extension/companion/DirectoryAddress.h"
+#include "extension/companion/OfferedActions.h"
 
 #include <chrono>
 #include <cstdint>
@@ -90,6 +91,7 @@ void Companion::takeSettings(const std::optional<NS::Value::Dictionary>& values)
     ExtensionSettings settings = settingsFromSuite(*values);
     if (settings.folders != m_state.settings.folders)
         m_state.directoryURLs = addressesOf(settings.folders);
+    m_state.actions = offeredActions(settings.menuItems, folderOfActions());
     m_state.settings = std::move(settings);
 }
 

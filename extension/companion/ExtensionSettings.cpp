@@ -1,4 +1,4 @@
-#include "extension/ExtensionSettings.h"
+#include "extension/companion/ExtensionSettings.h"
 
 #include "settings/Reading.h"
 #include "settings/Settings.h"

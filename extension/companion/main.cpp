@@ -1,6 +1,6 @@
-#include "extension/Companion.h"
-#include "extension/Handles.h"
-#include "extension/OpenBus.h"
+#include "extension/bus/Handles.h"
+#include "extension/bus/OpenBus.h"
+#include "extension/companion/Companion.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/system/Complaint.h"
 

@@ -1,10 +1,11 @@
-#include "extension/BusService.h"
+#include "extension/companion/BusService.h"
 
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
 
 #include <array>
+#include <cerrno>
 #include <cstddef>
 #include <string_view>
 #include <tuple>
@@ -22,6 +23,7 @@ const std::string path = BusInterface::objectPath(name);
 /// What each property shows.
 struct Shown {
     static const auto& as(DirectoryURLs, const CompanionState& state) { return state.directoryURLs; }
+    static const auto& as(Actions, const CompanionState& state) { return state.actions; }
     static const auto& as(MenuItems, const CompanionState& state) { return state.settings.menuItems; }
     static const auto& as(Folders, const CompanionState& state) { return state.settings.folders; }
     static const auto& as(CustomFolders, const CompanionState& state) { return state.settings.customFolders; }
@@ -65,6 +67,12 @@ int append(sd_bus_message& reply, const Folder& folder)
     return appendPair(reply, folder.path, folder.active);
 }
 
+int append(sd_bus_message& reply, const MenuAction& action)
+{
+    return sd_bus_message_append(&reply, "(sssu)", action.identifier.c_str(), action.title.c_str(),
+                                 action.icon.c_str(), action.appliesTo);
+}
+
 int appendValue(sd_bus_message& reply, const char* type, bool flag)
 {
     return sd_bus_message_append(&reply, type, static_cast<int>(flag));
@@ -101,6 +109,8 @@ struct BusService::Object {
         service.m_quit();
         return sd_bus_reply_method_return(call, Quit::gives);
     }
+
+    static int answer(Run, sd_bus_message*, BusService&) { return -ENOSYS; }
 
     template<class Method>
     static int handle(sd_bus_message* call, void* service, sd_bus_error*)

@@ -1,4 +1,4 @@
-#include "extension/SuiteReader.h"
+#include "extension/companion/SuiteReader.h"
 
 #include "settings/Deployment.h"
 
