@@ -5,7 +5,7 @@ import unittest
 
 from support.case import DesktopTestCase
 from support.deployment import FACEBOOK_ADDRESS, STORE_ADDRESS, TWITTER_ADDRESS, WEB_ADDRESS
-from support.handler import install_handler
+from support.handler import install_failing_command, install_handler
 from support.pointer import Pointer
 from support.waiting import eventually, give_time, throughout
 
@@ -21,7 +21,7 @@ PAGES = {
 
 class About(DesktopTestCase):
     def start(self):
-        self.panel = self.start_panel(PATH="/usr/bin:/bin")
+        self.panel = self.start_panel(PATH=f"{self.home.programs}:/usr/bin:/bin")
         self.panel.output_expected = True
         self.panel.complaints()
         self.window = self.panel.main_window()
@@ -78,16 +78,18 @@ class About(DesktopTestCase):
         self.assertEventuallyEqual(self.panel.standard_output, OPENED)
 
     def test_an_address_that_neither_portal_nor_browser_opens_is_not_told_as_opened(self):
-        install_handler(self.home)
+        tried = install_failing_command(self.home)
         self.press_where_the_portal_answers(2)
 
+        eventually(tried, "the address to be tried without the portal")
         throughout(lambda: self.panel.standard_output() == b"" and self.panel.is_running(), "nothing is said", 2.0)
 
     def test_without_a_browser_nothing_is_said(self):
-        install_handler(self.home)
+        tried = install_failing_command(self.home)
         self.start()
         self.press_button("Web Site")
 
+        eventually(tried, "the address to be tried")
         throughout(lambda: self.panel.standard_output() == b"" and self.panel.is_running(), "nothing happens", 2.0)
 
     def test_the_rate_button_opens_the_store_and_says_nothing(self):
