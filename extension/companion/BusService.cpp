@@ -1,15 +1,14 @@
 #include "extension/companion/BusService.h"
 
+#include "extension/bus/BusText.h"
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
 
 #include <array>
-#include <cerrno>
-#include <cstddef>
-#include <string_view>
+#include <memory>
 #include <tuple>
-#include <utility>
+#include <unistd.h>
 
 namespace MenuExtension {
 
@@ -30,19 +29,6 @@ struct Shown {
     static bool as(ShowMenuIcon, const CompanionState& state) { return state.settings.showMenuIcon; }
     static bool as(ShowInSubmenu, const CompanionState& state) { return state.settings.showInSubmenu; }
 };
-
-/// Whether the bus's library takes the text: it has not the characters that Unicode keeps for no text (U+FDD0 to
-/// U+FDEF, and the last two of each plane), which settings files have. `text` is UTF-8.
-bool isForBus(std::string_view text)
-{
-    for (std::size_t at = 2; at < text.size(); ++at) {
-        const auto byte = [&](std::size_t back) { return static_cast<unsigned char>(text[at - back]); };
-        const bool endsPlane = byte(1) == 0xbf && byte(0) >= 0xbe && (byte(2) & 0x0fU) == 0x0f;
-        if (endsPlane || (byte(2) == 0xef && byte(1) == 0xb7 && byte(0) >= 0x90 && byte(0) <= 0xaf))
-            return false;
-    }
-    return true;
-}
 
 // Negative error numbers go to the library, which answers whoever asked with them. An element whose text is not for
 // the bus is left out, so that it takes no others with it.
@@ -87,6 +73,15 @@ int appendValue(sd_bus_message& reply, const char* type, const std::vector<Eleme
     return result < 0 ? result : sd_bus_message_close_container(&reply);
 }
 
+bool isOfSameUser(sd_bus_message& call)
+{
+    sd_bus_creds* found = nullptr;
+    const int result = sd_bus_query_sender_creds(&call, SD_BUS_CREDS_EUID, &found);
+    const std::unique_ptr<sd_bus_creds, Release<sd_bus_creds_unref>> credentials(found);
+    uid_t user = 0;
+    return result >= 0 && sd_bus_creds_get_euid(credentials.get(), &user) >= 0 && user == ::geteuid();
+}
+
 template<class... Property>
 std::vector<const char*> changedProperties(std::tuple<Property...>, const CompanionState& before,
                                            const CompanionState& now)
@@ -106,11 +101,32 @@ std::vector<const char*> changedProperties(std::tuple<Property...>, const Compan
 struct BusService::Object {
     static int answer(Quit, sd_bus_message* call, BusService& service)
     {
-        service.m_quit();
+        service.m_requests.quit();
         return sd_bus_reply_method_return(call, Quit::gives);
     }
 
-    static int answer(Run, sd_bus_message*, BusService&) { return -ENOSYS; }
+    static int answer(Run, sd_bus_message* call, BusService& service)
+    {
+        if (!isOfSameUser(*call))
+            return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_ACCESS_DENIED,
+                                              "Only its own user may ask for this.");
+        RunCall asked;
+        const auto wrong = parse(*call, asked);
+        service.m_requests.run(
+            asked, wrong,
+            [kept = std::shared_ptr<sd_bus_message>(sd_bus_message_ref(call), sd_bus_message_unref)](
+                const std::optional<Refusal>& refusal) { reply(kept.get(), refusal); });
+        return 1;
+    }
+
+    static void reply(sd_bus_message* call, const std::optional<Refusal>& refusal)
+    {
+        if (!refusal)
+            sd_bus_reply_method_return(call, Run::gives);
+        else if (sd_bus_reply_method_errorf(call, errorName(refusal->kind).c_str(), "%s", refusal->words.c_str()) < 0)
+            // Words that are not for the bus.
+            sd_bus_reply_method_errorf(call, errorName(refusal->kind).c_str(), "It could not be done.");
+    }
 
     template<class Method>
     static int handle(sd_bus_message* call, void* service, sd_bus_error*)
@@ -139,8 +155,8 @@ struct BusService::Object {
     }
 };
 
-BusService::BusService(sd_bus& bus, const CompanionState& state, std::function<void()> quit)
-    : m_bus(bus), m_state(state), m_quit(std::move(quit))
+BusService::BusService(sd_bus& bus, const CompanionState& state, BusRequests& requests)
+    : m_bus(bus), m_state(state), m_requests(requests)
 {}
 
 int BusService::publish()

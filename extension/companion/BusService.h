@@ -2,9 +2,11 @@
 
 #include "extension/bus/Handles.h"
 #include "extension/companion/ExtensionSettings.h"
+#include "extension/companion/RunCall.h"
 #include "extension/menu/Menu.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,12 +21,26 @@ struct CompanionState {
     std::vector<MenuAction> actions;
 };
 
+/// What others may ask of the companion. Called from the event loop.
+class BusRequests {
+public:
+    using Finished = std::function<void(const std::optional<Refusal>&)>;
+
+    /// To end.
+    virtual void quit() = 0;
+    /// To do an action. `wrong` is what is wrong with the paths and options of the call. `finished` is called once,
+    /// now or later.
+    virtual void run(const RunCall& call, const std::optional<Refusal>& wrong, Finished finished) = 0;
+
+protected:
+    ~BusRequests() = default;
+};
+
 /// The companion on the session bus: its name, and the object that shows what it holds.
 class BusService {
 public:
-    /// `quit` is called from the event loop when somebody asks the companion to end. `bus` and `state` must outlive
-    /// the service.
-    BusService(sd_bus& bus, const CompanionState& state, std::function<void()> quit);
+    /// `bus`, `state` and `requests` must outlive the service.
+    BusService(sd_bus& bus, const CompanionState& state, BusRequests& requests);
     BusService(const BusService&) = delete;
     BusService& operator=(const BusService&) = delete;
 
@@ -41,7 +57,7 @@ private:
 
     sd_bus& m_bus;
     const CompanionState& m_state;
-    std::function<void()> m_quit;
+    BusRequests& m_requests;
     BusSlot m_object;
 };
 

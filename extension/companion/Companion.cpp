@@ -28,8 +28,9 @@ constexpr std::uint64_t microseconds(std::chrono::microseconds time)
 
 Companion::Companion(sd_event& event, sd_bus& bus, std::string settingsFolder)
     : m_event(event), m_bus(bus), m_suite(std::move(settingsFolder)), m_watch(m_suite.path()),
-      m_service(bus, m_state, [this] { end(); }),
-      m_panel(bus, [this](const std::vector<std::string>& addresses) { watchDirectories(addresses); })
+      m_service(bus, m_state, *this),
+      m_panel(bus, [this](const std::vector<std::string>& addresses) { watchDirectories(addresses); }),
+      m_notices(bus), m_runner(event, folderOfActions())
 {
     takeSettings(m_suite.read());
 }
@@ -52,7 +53,7 @@ int Companion::start()
 
     sd_bus_slot* slot = nullptr;
     const auto disconnected = [](sd_bus_message*, void* companion, sd_bus_error*) {
-        static_cast<Companion*>(companion)->end();
+        static_cast<Companion*>(companion)->quit();
         return 0;
     };
     result = sd_bus_match_signal(&m_bus, &slot, nullptr, "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local",
@@ -89,8 +90,10 @@ void Companion::takeSettings(const std::optional<NS::Value::Dictionary>& values)
     if (!values)
         return;
     ExtensionSettings settings = settingsFromSuite(*values);
-    if (settings.folders != m_state.settings.folders)
+    if (settings.folders != m_state.settings.folders) {
         m_state.directoryURLs = addressesOf(settings.folders);
+        m_scope = Scope(settings.folders);
+    }
     m_state.actions = offeredActions(settings.menuItems, folderOfActions());
     m_state.settings = std::move(settings);
 }
@@ -142,9 +145,35 @@ void Companion::watchDirectories(const std::vector<std::string>& addresses)
     m_service.announceChangesSince(before);
 }
 
-void Companion::end()
+void Companion::quit()
 {
     sd_event_exit(&m_event, EXIT_SUCCESS);
+}
+
+void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Finished finished)
+{
+    // By the settings that were stored before the call.
+    followEvents();
+    auto refusal = refusalOf(call.action, m_state.settings.menuItems);
+    if (!refusal)
+        refusal = wrong;
+    if (!refusal)
+        refusal = refusalOf(call.request, m_scope);
+    if (!refusal && !m_runner.hasRoom())
+        refusal = Refusal{Refusal::Kind::Failed, "Too much is asked for at once."};
+    if (refusal) {
+        finished(refusal);
+        return;
+    }
+    m_runner.run(call, [this, action = call.action, finished = std::move(finished)](const Outcome& outcome) {
+        if (outcome.kind == Outcome::Kind::Done) {
+            finished(std::nullopt);
+            return;
+        }
+        m_notices.tell(titleOf(action), outcome.words);
+        finished(Refusal{outcome.kind == Outcome::Kind::Failed ? Refusal::Kind::Failed : Refusal::Kind::DoesNotApply,
+                         outcome.words});
+    });
 }
 
 } // namespace MenuExtension

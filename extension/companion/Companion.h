@@ -1,7 +1,9 @@
 #pragma once
 
 #include "extension/bus/Handles.h"
+#include "extension/companion/ActionRunner.h"
 #include "extension/companion/BusService.h"
+#include "extension/companion/FailureNotices.h"
 #include "extension/companion/PanelLink.h"
 #include "extension/companion/SettingsWatch.h"
 #include "extension/companion/SuiteReader.h"
@@ -12,9 +14,9 @@
 
 namespace MenuExtension {
 
-/// The program: it holds the settings of the shared suite and the directories to watch, keeps both fresh, and shows
-/// them on the bus.
-class Companion {
+/// The program: it holds the settings of the shared suite and the directories to watch, keeps both fresh, shows
+/// them on the bus, and has actions done that are asked for there.
+class Companion final : private BusRequests {
 public:
     /// Reads the settings. `event` and `bus` must outlive the companion.
     Companion(sd_event& event, sd_bus& bus, std::string settingsFolder);
@@ -34,7 +36,8 @@ private:
     void look();
     void waitToLookAgain();
     void watchDirectories(const std::vector<std::string>& addresses);
-    void end();
+    void quit() override;
+    void run(const RunCall& call, const std::optional<Refusal>& wrong, Finished finished) override;
 
     sd_event& m_event;
     sd_bus& m_bus;
@@ -43,6 +46,9 @@ private:
     CompanionState m_state;
     BusService m_service;
     PanelLink m_panel;
+    Scope m_scope;
+    FailureNotices m_notices;
+    ActionRunner m_runner;
     EventSource m_settingsChanges;
     EventSource m_nextLook;
     /// Whether what was found last counts only if it is still so at the next look.

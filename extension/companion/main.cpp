@@ -1,6 +1,7 @@
 #include "extension/bus/Handles.h"
 #include "extension/bus/OpenBus.h"
 #include "extension/companion/Companion.h"
+#include "extension/companion/RunCommand.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/system/Complaint.h"
 
@@ -23,6 +24,9 @@ constexpr const char* usage = R"(Usage: orvik-menu-extension [OPTION]
 The companion that Orvik Menu's control panel configures. It runs in the
 background of the session until it is asked to end.
 
+  --run ACTION PATH...
+             have the companion that runs do an action, as a file manager's
+             menu does
   --help     print this text
   --version  print the version
 )";
@@ -91,6 +95,8 @@ int main(int argc, char** argv)
 
     if (argc > 1) {
         const std::string_view argument = argv[1];
+        if (argc > 3 && argument == "--run")
+            return runAction(argv[2], {argv + 3, argv + argc});
         if (argc == 2 && argument == "--help") {
             std::fputs(usage, stdout);
             return EXIT_SUCCESS;
@@ -98,6 +104,10 @@ int main(int argc, char** argv)
         if (argc == 2 && argument == "--version") {
             std::puts("orvik-menu-extension " ORVIK_VERSION);
             return EXIT_SUCCESS;
+        }
+        if (argument == "--run") {
+            std::fprintf(stderr, "orvik-menu-extension: --run takes an action and a path\n%s", usage);
+            return exitUsage;
         }
         const char* wrong = argc > 2 ? argv[2] : argv[1];
         std::fprintf(stderr, "orvik-menu-extension: unknown argument: %s\n%s", wrong, usage);

@@ -1,6 +1,6 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/FileManager.h"
-#include "extension/actions/support/Words.h"
+#include "extension/protocol/Words.h"
 
 #include <cerrno>
 #include <fcntl.h>

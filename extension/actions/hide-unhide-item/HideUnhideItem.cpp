@@ -2,7 +2,7 @@
 #include "HiddenList.h"
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/FolderLock.h"
-#include "extension/actions/support/Words.h"
+#include "extension/protocol/Words.h"
 #include "platform/linux/system/ParentFolder.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/FileManager.h"
 #include "extension/actions/support/Programs.h"
-#include "extension/actions/support/Words.h"
+#include "extension/protocol/Words.h"
 #include "platform/URL.h"
 
 #include <cerrno>

@@ -1,7 +1,7 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Desktop.h"
 #include "extension/actions/support/Programs.h"
-#include "extension/actions/support/Words.h"
+#include "extension/protocol/Words.h"
 
 #include <array>
 #include <cerrno>

@@ -2,7 +2,7 @@
 #include "WallpaperPortal.h"
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Picture.h"
-#include "extension/actions/support/Words.h"
+#include "extension/protocol/Words.h"
 
 #include <cerrno>
 

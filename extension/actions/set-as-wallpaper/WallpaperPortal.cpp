@@ -1,6 +1,6 @@
 #include "WallpaperPortal.h"
 
-#include "extension/actions/support/SessionBus.h"
+#include "extension/bus/SessionBus.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "extension/actions/support/Outcome.h"
 #include "extension/actions/support/Request.h"
+#include "extension/protocol/Outcome.h"
 
 #include <cstdint>
 

@@ -10,29 +10,12 @@
 
 namespace MenuExtension {
 
-namespace {
-
-char digitOf(Outcome::Kind kind)
-{
-    switch (kind) {
-    case Outcome::Kind::Done:
-        return '0';
-    case Outcome::Kind::Failed:
-        break;
-    case Outcome::Kind::DoesNotApply:
-        return '2';
-    }
-    return '1';
-}
-
-} // namespace
-
 void answer(const Outcome& outcome)
 {
     static bool answered = false;
     if (std::exchange(answered, true))
         return;
-    const std::string text = digitOf(outcome.kind) + outcome.words;
+    const std::string text = textOf(outcome);
     for (std::string_view rest = text; !rest.empty();) {
         const ssize_t written = ::write(STDOUT_FILENO, rest.data(), rest.size());
         if (written < 0 && errno == EINTR)

@@ -1,6 +1,6 @@
 #include "extension/actions/support/FileManager.h"
 
-#include "extension/actions/support/SessionBus.h"
+#include "extension/bus/SessionBus.h"
 #include "platform/URL.h"
 #include "platform/linux/store/PropertyList.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "extension/actions/support/Outcome.h"
+#include "extension/protocol/Outcome.h"
 
 namespace MenuExtension {
 

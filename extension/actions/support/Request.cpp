@@ -3,7 +3,6 @@
 #include "extension/actions/support/Beneath.h"
 #include "platform/linux/system/ParentFolder.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 
@@ -13,22 +12,6 @@ using LinuxDesktop::FileDescriptor;
 using LinuxDesktop::parentFolder;
 
 namespace {
-
-/// The path as a request holds it; nothing for one that could lead elsewhere than its text says.
-std::optional<std::string> plainPath(std::string_view path)
-{
-    if (!path.starts_with('/') || path.find('\0') != std::string_view::npos)
-        return std::nullopt;
-    for (std::size_t begin = 0; begin < path.size();) {
-        const std::size_t end = std::min(path.find('/', begin), path.size());
-        const std::string_view name = path.substr(begin, end - begin);
-        if (name == "." || name == "..")
-            return std::nullopt;
-        begin = end + 1;
-    }
-    const std::size_t length = path.find_last_not_of('/') + 1;
-    return length == 0 ? "/" : std::string(path.substr(0, length));
-}
 
 const std::string* listedFolderOf(const Request& request, std::string_view path)
 {
@@ -45,39 +28,6 @@ FileDescriptor openIn(const std::string* listed, std::string_view path, int flag
 }
 
 } // namespace
-
-std::optional<Request> parseRequest(const std::vector<std::string>& arguments, std::string_view input)
-{
-    Request request;
-    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
-        if (*argument == "--background") {
-            request.background = true;
-            continue;
-        }
-        const bool isTarget = *argument == "--target";
-        if ((!isTarget && *argument != "--caller") || ++argument == arguments.end())
-            return std::nullopt;
-        if (!isTarget) {
-            request.caller = *argument;
-        } else if (auto target = plainPath(*argument)) {
-            request.target = *std::move(target);
-        } else {
-            return std::nullopt;
-        }
-    }
-    while (!input.empty()) {
-        const std::size_t end = input.find('\0');
-        // What has no end may be the beginning of another path.
-        auto path = end == std::string_view::npos ? std::nullopt : plainPath(input.substr(0, end));
-        if (!path)
-            return std::nullopt;
-        request.paths.push_back(*std::move(path));
-        input.remove_prefix(end + 1);
-    }
-    if (request.paths.empty() || (request.background && request.paths.size() != 1))
-        return std::nullopt;
-    return request;
-}
 
 FileDescriptor openItem(const Request& request, std::string_view path, int flags)
 {

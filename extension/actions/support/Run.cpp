@@ -1,10 +1,10 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Answer.h"
 #include "extension/actions/support/Picture.h"
-#include "extension/actions/support/Words.h"
 #include "extension/companion/ExtensionSettings.h"
 #include "extension/companion/SuiteReader.h"
 #include "extension/menu/Menu.h"
+#include "extension/protocol/Words.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "settings/AppliesTo.h"
 
@@ -18,8 +18,6 @@
 namespace MenuExtension {
 
 namespace {
-
-constexpr std::size_t longestInput = std::size_t{64} << 20U;
 
 /// Everything; nothing where there is more than a request can have, or where it cannot be read.
 std::optional<std::string> readInput()
@@ -62,28 +60,26 @@ std::optional<Outcome> look(const Request& request, bool atPictures, Selection& 
 Outcome checkAndPerform(std::uint32_t appliesTo, Perform perform, const std::vector<std::string>& arguments)
 {
     const auto input = readInput();
-    auto request = input ? parseRequest(arguments, *input) : std::nullopt;
-    if (!request)
+    auto asked = input ? requestFrom(arguments, *input) : std::nullopt;
+    if (!asked)
         return Outcome::failed("Orvik Menu was asked for something in a way that it does not understand.");
     auto scope = readScope();
     if (!scope)
         return Outcome::failed("The settings of Orvik Menu cannot be read.");
-    request->scope = *std::move(scope);
+    const Request request{*std::move(asked), *std::move(scope)};
 
     Selection selection;
-    selection.isBackground = request->background;
-    for (const std::string& path : request->paths)
+    selection.isBackground = request.background;
+    for (const std::string& path : request.paths)
         selection.items.push_back({.path = path});
-    if (!isInScope(selection, request->scope))
-        return Outcome::failed(Words::name(request->paths.front()) +
-                               (request->paths.size() == 1 ? " is" : " or another item is") +
-                               " not in a folder that Orvik Menu works in. Add the folder in its settings.");
+    if (!isInScope(selection, request.scope))
+        return Outcome::failed(Words::outOfScope(request.paths));
     selection.items.clear();
-    if (auto gone = look(*request, (appliesTo & AppliesTo::Pictures) != 0, selection))
+    if (auto gone = look(request, (appliesTo & AppliesTo::Pictures) != 0, selection))
         return *std::move(gone);
     if (!applies(appliesTo, selection))
         return Outcome::doesNotApply("This cannot be done with what is selected.");
-    return perform(*request);
+    return perform(request);
 }
 
 } // namespace

@@ -5,12 +5,12 @@
 
 namespace {
 
-using MenuExtension::parseRequest;
+using MenuExtension::requestFrom;
 using namespace std::string_literals;
 
 TEST(Request, PathsAreBytesEachEndedByAZero)
 {
-    const auto request = parseRequest({}, "/a/b\0/c\n\xff\0"s);
+    const auto request = requestFrom({}, "/a/b\0/c\n\xff\0"s);
     ASSERT_TRUE(request);
     EXPECT_EQ(request->paths, (std::vector<std::string>{"/a/b", "/c\n\xff"}));
     EXPECT_FALSE(request->background);
@@ -18,15 +18,15 @@ TEST(Request, PathsAreBytesEachEndedByAZero)
 
 TEST(Request, SlashesAtTheEndCountForNothing)
 {
-    const auto request = parseRequest({"--background"}, "/a/b//\0"s);
+    const auto request = requestFrom({"--background"}, "/a/b//\0"s);
     ASSERT_TRUE(request);
     EXPECT_EQ(request->paths.front(), "/a/b");
-    EXPECT_EQ(parseRequest({}, "//\0"s)->paths.front(), "/");
+    EXPECT_EQ(requestFrom({}, "//\0"s)->paths.front(), "/");
 }
 
 TEST(Request, TheOptionsSayWhoAsksAndWhereTo)
 {
-    const auto request = parseRequest({"--target", "/t/", "--caller", ":1.7", "--background"}, "/a\0"s);
+    const auto request = requestFrom({"--target", "/t/", "--caller", ":1.7", "--background"}, "/a\0"s);
     ASSERT_TRUE(request);
     EXPECT_EQ(request->target, "/t");
     EXPECT_EQ(request->caller, ":1.7");
@@ -37,13 +37,13 @@ TEST(Request, WhatCouldMeanSomethingElseIsNone)
 {
     for (const std::string& input :
          {""s, "/a"s, "/a\0/b"s, "\0"s, "a\0"s, "./a\0"s, "/a/../b\0"s, "/a/.\0"s, "/..\0"s, "/a\0\0"s, "-\0"s})
-        EXPECT_FALSE(parseRequest({}, input)) << input;
-    EXPECT_TRUE(parseRequest({}, "/..a/b../...\0"s));
-    EXPECT_FALSE(parseRequest({"--background"}, "/a\0/b\0"s));
-    EXPECT_FALSE(parseRequest({"--other"}, "/a\0"s));
-    EXPECT_FALSE(parseRequest({"--target"}, "/a\0"s));
-    EXPECT_FALSE(parseRequest({"--target", "t"}, "/a\0"s));
-    EXPECT_FALSE(parseRequest({"--target", "/t/../u"}, "/a\0"s));
+        EXPECT_FALSE(requestFrom({}, input)) << input;
+    EXPECT_TRUE(requestFrom({}, "/..a/b../...\0"s));
+    EXPECT_FALSE(requestFrom({"--background"}, "/a\0/b\0"s));
+    EXPECT_FALSE(requestFrom({"--other"}, "/a\0"s));
+    EXPECT_FALSE(requestFrom({"--target"}, "/a\0"s));
+    EXPECT_FALSE(requestFrom({"--target", "t"}, "/a\0"s));
+    EXPECT_FALSE(requestFrom({"--target", "/t/../u"}, "/a\0"s));
 }
 
 class AskedAction : public ActionTest {};

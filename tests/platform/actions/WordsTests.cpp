@@ -1,4 +1,4 @@
-#include "extension/actions/support/Words.h"
+#include "extension/protocol/Words.h"
 
 #include <gtest/gtest.h>
 

@@ -13,10 +13,12 @@ PrivateBus::PrivateBus()
   <listen>unix:path=)" + socketPath() +
                             R"(</listen>
   <policy context="default">
+    <allow user="*"/>
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
     <allow own="*"/>
   </policy>
+  <limit name="max_replies_per_connection">50000</limit>
 </busconfig>
 )";
     if (!configuration.open(QIODevice::WriteOnly) || configuration.write(text) != text.size())

@@ -46,7 +46,10 @@ public:
         posix_spawn_file_actions_init(&m_actions);
         if (surroundings.folder >= 0)
             posix_spawn_file_actions_addfchdir_np(&m_actions, surroundings.folder);
-        posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        if (surroundings.input >= 0)
+            posix_spawn_file_actions_adddup2(&m_actions, surroundings.input, STDIN_FILENO);
+        else
+            posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_adddup2(&m_actions, surroundings.output, STDOUT_FILENO);
         posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1);
 

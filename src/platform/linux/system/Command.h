@@ -40,6 +40,8 @@ private:
 struct Surroundings {
     /// The folder that it works in; this process's own where none is given.
     int folder = -1;
+    /// Its standard input; nothing to read where none is given.
+    int input = -1;
     /// Its standard output. This process's own is for its own texts.
     int output = STDERR_FILENO;
 };

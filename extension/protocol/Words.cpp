@@ -1,4 +1,4 @@
-#include "extension/actions/support/Words.h"
+#include "extension/protocol/Words.h"
 
 #include <cerrno>
 #include <cstdint>
@@ -44,7 +44,9 @@ bool isInvisible(char32_t code)
     const bool lineEnd = code == 0x2028 || code == 0x2029;
     const bool reorders = code == 0x200e || code == 0x200f || code == 0x61c || (code >= 0x202a && code <= 0x202e) ||
                           (code >= 0x2066 && code <= 0x2069);
-    return control || lineEnd || reorders;
+    // Kept by Unicode for no text, and so not taken by the bus.
+    const bool noCharacter = (code & 0xfffeU) == 0xfffe || (code >= 0xfdd0 && code <= 0xfdef);
+    return control || lineEnd || reorders || noCharacter;
 }
 
 } // namespace
@@ -75,6 +77,12 @@ std::string reason(int error)
     if (error == EXDEV || error == ELOOP)
         return "a link leads out of the folders that Orvik Menu works in";
     return std::generic_category().message(error);
+}
+
+std::string outOfScope(const std::vector<std::string>& paths)
+{
+    return name(paths.front()) + (paths.size() == 1 ? " is" : " or another item is") +
+           " not in a folder that Orvik Menu works in. Add the folder in its settings.";
 }
 
 void Troubles::add(const std::string& sentence)

@@ -1,4 +1,4 @@
-#include "extension/actions/support/SessionBus.h"
+#include "extension/bus/SessionBus.h"
 
 #include "platform/linux/bus/interfaces/DistributedNotificationCenter.h"
 #include "settings/Deployment.h"
@@ -45,7 +45,7 @@ bool BusAnswer::isNobody() const
 BusAnswer call(sd_bus& bus, const Message& call, std::chrono::seconds patience)
 {
     sd_bus_message* reply = nullptr;
-    sd_bus_error error = SD_BUS_ERROR_NULL;
+    sd_bus_error error{};
     const auto time = static_cast<std::uint64_t>(std::chrono::microseconds(patience).count());
     const int result = call ? sd_bus_call(&bus, call.get(), time, &error, &reply) : -EINVAL;
     BusAnswer answer{Message(reply), {}, {}};

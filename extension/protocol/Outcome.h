@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace MenuExtension {
@@ -18,5 +20,10 @@ struct Outcome {
     [[nodiscard]] static Outcome failed(std::string words) { return {Kind::Failed, std::move(words)}; }
     [[nodiscard]] static Outcome doesNotApply(std::string words) { return {Kind::DoesNotApply, std::move(words)}; }
 };
+
+/// The outcome as the program of an action tells it on its standard output, to its end: a digit, then the words.
+[[nodiscard]] std::string textOf(const Outcome& outcome);
+/// The outcome that the text tells; nothing where it is none.
+[[nodiscard]] std::optional<Outcome> outcomeFrom(std::string_view text);
 
 } // namespace MenuExtension

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "extension/actions/support/Outcome.h"
+#include "extension/protocol/Outcome.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Texts for people.
 namespace MenuExtension::Words {
@@ -15,6 +16,9 @@ namespace MenuExtension::Words {
 
 /// Why an item could not be opened or changed, from errno.
 [[nodiscard]] std::string reason(int error);
+
+/// That not all of the items lie where Orvik Menu works.
+[[nodiscard]] std::string outOfScope(const std::vector<std::string>& paths);
 
 /// What could not be done with some of the items while the rest went on.
 class Troubles {

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "extension/bus/Handles.h"
+
+#include <cstdint>
+#include <string>
+
+namespace MenuExtension {
+
+/// Tells a person, in the desktop's notifications, what an action could not do.
+class FailureNotices {
+public:
+    /// `bus` must outlive the notices.
+    explicit FailureNotices(sd_bus& bus);
+
+    /// Returns at once. What was told last is told in the same place again. Where the desktop shows no notifications,
+    /// the words go to standard error.
+    void tell(const std::string& title, const std::string& words);
+
+private:
+    int takeReply(sd_bus_message& reply);
+
+    sd_bus& m_bus;
+    std::string m_last;
+    /// The desktop's number of the last one; 0 where it has none.
+    std::uint32_t m_number = 0;
+    BusSlot m_call;
+};
+
+} // namespace MenuExtension
