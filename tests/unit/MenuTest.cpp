@@ -6,6 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace MenuExtension;
 
@@ -140,3 +145,26 @@ TEST_F(OfferedMenu, OfTwoThousandItemsLooksAtEachOfThem)
 }
 
 } // namespace
+
+TEST_F(OfferedMenu, IsMadeWithoutAskingTheSystemForAnything)
+{
+    std::vector<Folder> folders;
+    for (int number = 0; number < 1000; ++number)
+        folders.push_back({"/in/" + std::to_string(number), true});
+    settings.scope = Scope(folders);
+    const Selection selection = selected({{.path = "/in/7/deep/below/a.txt"}, {.path = "/in/8/b.txt"}});
+    const std::size_t expected = offered(selection).size();
+    ASSERT_GT(expected, 0U);
+
+    const pid_t child = ::fork();
+    if (child == 0) {
+        // From here on any call but the one that ends the process kills it.
+        ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_STRICT);
+        const bool same = makeMenu(settings, selection).actions.size() == expected;
+        ::syscall(SYS_exit, same ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status)) << "killed by signal " << WTERMSIG(status);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
