@@ -73,10 +73,11 @@ int appendValue(sd_bus_message& reply, const char* type, const std::vector<Eleme
     return result < 0 ? result : sd_bus_message_close_container(&reply);
 }
 
-bool isOfSameUser(sd_bus_message& call)
+/// Asks the bus, and waits for what it says.
+bool isOfSameUser(sd_bus& bus, const std::string& caller)
 {
     sd_bus_creds* found = nullptr;
-    const int result = sd_bus_query_sender_creds(&call, SD_BUS_CREDS_EUID, &found);
+    const int result = sd_bus_get_name_creds(&bus, caller.c_str(), SD_BUS_CREDS_EUID, &found);
     const std::unique_ptr<sd_bus_creds, Release<sd_bus_creds_unref>> credentials(found);
     uid_t user = 0;
     return result >= 0 && sd_bus_creds_get_euid(credentials.get(), &user) >= 0 && user == ::geteuid();
@@ -107,7 +108,8 @@ struct BusService::Object {
 
     static int answer(Run, sd_bus_message* call, BusService& service)
     {
-        if (!isOfSameUser(*call))
+        const char* caller = sd_bus_message_get_sender(call);
+        if (!caller || !service.trusts(caller))
             return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_ACCESS_DENIED,
                                               "Only its own user may ask for this.");
         RunCall asked;
@@ -171,6 +173,14 @@ int BusService::publish()
 int BusService::claimName()
 {
     return sd_bus_request_name(&m_bus, name.c_str(), 0);
+}
+
+/// A unique name stays with its owner for as long as there is the bus.
+bool BusService::trusts(const std::string& caller)
+{
+    if (caller != m_trusted && isOfSameUser(m_bus, caller))
+        m_trusted = caller;
+    return caller == m_trusted;
 }
 
 void BusService::announceChangesSince(const CompanionState& before)

@@ -55,10 +55,14 @@ public:
 private:
     struct Object;
 
+    [[nodiscard]] bool trusts(const std::string& caller);
+
     sd_bus& m_bus;
     const CompanionState& m_state;
     BusRequests& m_requests;
     BusSlot m_object;
+    /// The last caller that was seen to be the same user.
+    std::string m_trusted;
 };
 
 } // namespace MenuExtension
