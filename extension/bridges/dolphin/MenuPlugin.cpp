@@ -1,0 +1,134 @@
+#include "extension/bridges/dolphin/MenuPlugin.h"
+
+#include "extension/bridges/dolphin/Clicked.h"
+#include "extension/bridges/dolphin/CompanionCopy.h"
+#include "extension/bridges/dolphin/Request.h"
+#include "extension/menu/Menu.h"
+
+#include <KFileItemListProperties>
+#include <KPluginFactory>
+#include <QIcon>
+#include <QScreen>
+
+#include <string>
+#include <utility>
+
+namespace DolphinBridge {
+
+namespace {
+
+using MenuExtension::Menu;
+using MenuExtension::MenuAction;
+using MenuExtension::MenuSettings;
+
+/// A title as it is: not with a letter underlined, nor in two columns.
+QString shown(const std::string& title)
+{
+    return QString::fromStdString(title)
+        .replace(QLatin1Char('&'), QLatin1String("&&"))
+        .replace(QLatin1Char('\t'), QLatin1Char(' '));
+}
+
+/// A menu that has grown on the screen may reach below it.
+void keepOnScreen(QMenu& menu)
+{
+    const QScreen* const screen = menu.screen();
+    if (!menu.isVisible() || screen == nullptr)
+        return;
+    const QRect all = screen->availableGeometry();
+    const int below = menu.geometry().bottom() - all.bottom();
+    if (below > 0)
+        menu.move(menu.x(), std::max(all.top(), menu.y() - below));
+}
+
+} // namespace
+
+MenuPlugin::MenuPlugin(QObject* parent, const QVariantList& arguments) : KAbstractFileItemActionPlugin(parent)
+{
+    Q_UNUSED(arguments);
+}
+
+MenuPlugin::~MenuPlugin() = default;
+
+QList<QAction*> MenuPlugin::actions(const KFileItemListProperties& items, QWidget* window)
+{
+    try {
+        m_submenu.reset();
+        m_offered.reset(new QObject(this));
+        const CompanionCopy& copy = CompanionCopy::shared();
+        const auto settings = copy.settings();
+        if (!settings && !copy.isWaiting())
+            return {};
+        std::optional<Clicked> clicked = whatWasClicked(items, window);
+        if (!clicked)
+            return {};
+        const auto kept = std::make_shared<const Clicked>(std::move(*clicked));
+        return settings ? actionsFor(*settings, kept, window) : QList{placeForActions(kept, window)};
+    } catch (...) {
+        // The host is not built for exceptions.
+        return {};
+    }
+}
+
+QList<QAction*> MenuPlugin::actionsFor(const MenuSettings& settings, const std::shared_ptr<const Clicked>& clicked,
+                                       QWidget* window)
+{
+    const Menu menu = MenuExtension::makeMenu(settings, clicked->selection());
+    QList<QAction*> actions;
+    for (const MenuAction* const offered : menu.actions) {
+        auto* const action = new QAction(shown(offered->title), m_offered.get());
+        action->setObjectName(QString::fromStdString("orvik-menu-" + offered->identifier));
+        if (menu.showIcons)
+            action->setIcon(QIcon::fromTheme(QString::fromStdString(offered->icon)));
+        connect(action, &QAction::triggered, window, [identifier = offered->identifier, clicked, window] {
+            try {
+                request(identifier, clicked, CompanionCopy::shared().bus(), window);
+            } catch (...) {
+                // As above.
+            }
+        });
+        actions += action;
+    }
+    if (actions.isEmpty() || !menu.inSubmenu)
+        return actions;
+    m_submenu.reset(new QMenu(QString::fromLatin1(MenuExtension::submenuTitle)));
+    m_submenu->addActions(actions);
+    return {m_submenu->menuAction()};
+}
+
+QAction* MenuPlugin::placeForActions(const std::shared_ptr<const Clicked>& clicked, QWidget* window)
+{
+    auto* const place = new QAction(m_offered.get());
+    place->setVisible(false);
+    connect(&CompanionCopy::shared(), &CompanionCopy::settled, place, [this, place, clicked, window] {
+        try {
+            fill(*place, clicked, window);
+        } catch (...) {
+            // As above.
+        }
+    });
+    return place;
+}
+
+void MenuPlugin::fill(QAction& place, const std::shared_ptr<const Clicked>& clicked, QWidget* window)
+{
+    // Only the first answer: a menu does not change under the pointer.
+    CompanionCopy::shared().disconnect(&place);
+    const auto settings = CompanionCopy::shared().settings();
+    if (!settings)
+        return;
+    const QList<QAction*> actions = actionsFor(*settings, clicked, window);
+    const QList<QWidget*> widgets = place.associatedWidgets();
+    for (QWidget* const widget : widgets) {
+        if (auto* const menu = qobject_cast<QMenu*>(widget)) {
+            menu->insertActions(&place, actions);
+            keepOnScreen(*menu);
+        }
+    }
+}
+
+K_PLUGIN_CLASS_WITH_JSON(MenuPlugin, "orvik-menu-dolphin.json")
+
+} // namespace DolphinBridge
+
+#include "MenuPlugin.moc"
