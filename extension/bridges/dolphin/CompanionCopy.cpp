@@ -1,5 +1,6 @@
 #include "extension/bridges/dolphin/CompanionCopy.h"
 
+#include "extension/bridges/dolphin/Guarded.h"
 #include "extension/bridges/dolphin/Properties.h"
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
@@ -40,9 +41,10 @@ QString companionPath()
 /// thousand changes a second, or very large ones, gets a small part of the host's time.
 int pauseAfter(qint64 milliseconds)
 {
-    constexpr int least = 5;
-    constexpr int part = 20;
-    return least + part * static_cast<int>(std::min<qint64>(milliseconds, 1'000));
+    constexpr qint64 least = 5;
+    constexpr qint64 part = 20;
+    constexpr qint64 most = 2'000;
+    return static_cast<int>(std::min(least + part * milliseconds, most));
 }
 
 } // namespace
@@ -52,8 +54,10 @@ CompanionCopy::CompanionCopy(QDBusConnection bus, QObject* parent) : QObject(par
     m_pause.setSingleShot(true);
     m_pause.setTimerType(Qt::PreciseTimer);
     connect(&m_pause, &QTimer::timeout, this, [this] {
-        if (std::exchange(m_isOutdated, false))
-            ask();
+        guarded([this] {
+            if (std::exchange(m_isOutdated, false))
+                ask();
+        });
     });
     // Signals of a sender that is named by a well-known name would make the toolkit wait for the bus to say who that
     // is.
@@ -89,19 +93,23 @@ void CompanionCopy::askForOwner()
     question << companionName();
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* answer) {
-        answer->deleteLater();
-        const QDBusPendingReply<QString> owner = *answer;
-        // Whoever came meanwhile is newer than this answer.
-        if (!m_ownerIsKnown)
-            take(owner.isError() ? QString() : owner.value());
+        guarded([&] {
+            answer->deleteLater();
+            const QDBusPendingReply<QString> owner = *answer;
+            // Whoever came meanwhile is newer than this answer.
+            if (!m_ownerIsKnown)
+                take(owner.isError() ? QString() : owner.value());
+        });
     });
 }
 
 void CompanionCopy::ownerChanged(const QString& service, const QString& before, const QString& now)
 {
     Q_UNUSED(before);
-    if (service == companionName())
-        take(now);
+    guarded([&] {
+        if (service == companionName())
+            take(now);
+    });
 }
 
 void CompanionCopy::take(const QString& owner)
@@ -122,8 +130,10 @@ void CompanionCopy::take(const QString& owner)
 void CompanionCopy::propertiesChanged(const QDBusMessage& signal)
 {
     // One that comes before the owner is known is older than the answer that will be asked for.
-    if (!m_owner.isEmpty() && signal.service() == m_owner)
-        ask();
+    guarded([&] {
+        if (!m_owner.isEmpty() && signal.service() == m_owner)
+            ask();
+    });
 }
 
 void CompanionCopy::ask()
@@ -145,18 +155,15 @@ void CompanionCopy::answered(QDBusPendingCallWatcher* watcher)
     m_awaited = nullptr;
     QElapsedTimer reading;
     reading.start();
-    const QDBusMessage answer = watcher->reply();
     if (watcher->isError() && watcher->error().type() == QDBusError::NoReply) {
         // One that is stopped may go on; until then, what it said last is the best that is known.
         m_isOutdated = true;
     } else {
         m_settings.reset();
-        try {
-            if (auto settings = readProperties(answer))
+        guarded([&] {
+            if (auto settings = readProperties(watcher->reply()))
                 m_settings = std::make_shared<const MenuExtension::MenuSettings>(std::move(*settings));
-        } catch (...) {
-            // No exception leaves for the host's event loop. Without memory there is no menu.
-        }
+        });
     }
     m_pause.start(pauseAfter(reading.elapsed()));
     Q_EMIT settled();

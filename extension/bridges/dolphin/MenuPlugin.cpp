@@ -2,6 +2,7 @@
 
 #include "extension/bridges/dolphin/Clicked.h"
 #include "extension/bridges/dolphin/CompanionCopy.h"
+#include "extension/bridges/dolphin/Guarded.h"
 #include "extension/bridges/dolphin/Request.h"
 #include "extension/menu/Menu.h"
 
@@ -10,6 +11,8 @@
 #include <QIcon>
 #include <QScreen>
 
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -48,44 +51,45 @@ MenuPlugin::MenuPlugin(QObject* parent, const QVariantList& arguments) : KAbstra
     Q_UNUSED(arguments);
 }
 
-MenuPlugin::~MenuPlugin() = default;
+MenuPlugin::~MenuPlugin()
+{
+    // There may be no event loop any more.
+    delete m_submenu.release();
+}
 
 QList<QAction*> MenuPlugin::actions(const KFileItemListProperties& items, QWidget* window)
 {
-    try {
+    QList<QAction*> actions;
+    guarded([&] {
         m_submenu.reset();
         m_offered.reset(new QObject(this));
         const CompanionCopy& copy = CompanionCopy::shared();
         const auto settings = copy.settings();
         if (!settings && !copy.isWaiting())
-            return {};
+            return;
         std::optional<Clicked> clicked = whatWasClicked(items, window);
         if (!clicked)
-            return {};
+            return;
         const auto kept = std::make_shared<const Clicked>(std::move(*clicked));
-        return settings ? actionsFor(*settings, kept, window) : QList{placeForActions(kept, window)};
-    } catch (...) {
-        // The host is not built for exceptions.
-        return {};
-    }
+        if (settings)
+            actions = actionsFor(*settings, kept, window);
+        else
+            actions = {placeForActions(kept, window)};
+    });
+    return actions;
 }
 
 QList<QAction*> MenuPlugin::actionsFor(const MenuSettings& settings, const std::shared_ptr<const Clicked>& clicked,
-                                       QWidget* window)
+                                       const QPointer<QWidget>& window)
 {
     const Menu menu = MenuExtension::makeMenu(settings, clicked->selection());
     QList<QAction*> actions;
     for (const MenuAction* const offered : menu.actions) {
         auto* const action = new QAction(shown(offered->title), m_offered.get());
-        action->setObjectName(QString::fromStdString("orvik-menu-" + offered->identifier));
         if (menu.showIcons)
             action->setIcon(QIcon::fromTheme(QString::fromStdString(offered->icon)));
-        connect(action, &QAction::triggered, window, [identifier = offered->identifier, clicked, window] {
-            try {
-                request(identifier, clicked, CompanionCopy::shared().bus(), window);
-            } catch (...) {
-                // As above.
-            }
+        connect(action, &QAction::triggered, action, [identifier = offered->identifier, clicked, window] {
+            guarded([&] { request(identifier, clicked, CompanionCopy::shared().bus(), window); });
         });
         actions += action;
     }
@@ -96,26 +100,21 @@ QList<QAction*> MenuPlugin::actionsFor(const MenuSettings& settings, const std::
     return {m_submenu->menuAction()};
 }
 
-QAction* MenuPlugin::placeForActions(const std::shared_ptr<const Clicked>& clicked, QWidget* window)
+QAction* MenuPlugin::placeForActions(const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window)
 {
     auto* const place = new QAction(m_offered.get());
     place->setVisible(false);
-    connect(&CompanionCopy::shared(), &CompanionCopy::settled, place, [this, place, clicked, window] {
-        try {
-            fill(*place, clicked, window);
-        } catch (...) {
-            // As above.
-        }
-    });
+    connect(&CompanionCopy::shared(), &CompanionCopy::settled, place,
+            [this, place, clicked, window] { guarded([&] { fill(*place, clicked, window); }); });
     return place;
 }
 
-void MenuPlugin::fill(QAction& place, const std::shared_ptr<const Clicked>& clicked, QWidget* window)
+void MenuPlugin::fill(QAction& place, const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window)
 {
-    // Only the first answer: a menu does not change under the pointer.
+    // Only the first answer, and only the last menu: none changes under the pointer.
     CompanionCopy::shared().disconnect(&place);
     const auto settings = CompanionCopy::shared().settings();
-    if (!settings)
+    if (!settings || place.parent() != m_offered.get())
         return;
     const QList<QAction*> actions = actionsFor(*settings, clicked, window);
     const QList<QWidget*> widgets = place.associatedWidgets();

@@ -36,9 +36,9 @@ private:
     };
 
     QList<QAction*> actionsFor(const MenuExtension::MenuSettings& settings,
-                               const std::shared_ptr<const Clicked>& clicked, QWidget* window);
-    QAction* placeForActions(const std::shared_ptr<const Clicked>& clicked, QWidget* window);
-    void fill(QAction& place, const std::shared_ptr<const Clicked>& clicked, QWidget* window);
+                               const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window);
+    QAction* placeForActions(const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window);
+    void fill(QAction& place, const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window);
 
     /// The actions of the last menu: the host gives none back.
     std::unique_ptr<QObject, Later> m_offered;

@@ -1,5 +1,6 @@
 #include "extension/bridges/dolphin/Request.h"
 
+#include "extension/bridges/dolphin/Guarded.h"
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
@@ -67,7 +68,8 @@ void callCompanion(const std::string& action, const Clicked& clicked, const QDBu
     static_cast<void>(bus.asyncCall(call));
 }
 
-/// Calls `use` with what lets another program's window come to the front; with nothing where there is no such thing.
+/// Calls `use` once with what lets another program's window come to the front; with nothing where there is no such
+/// thing.
 void withActivationToken(QWidget* window, const std::function<void(const QString&)>& use)
 {
     if (!KWindowSystem::isPlatformWayland()) {
@@ -82,12 +84,14 @@ void withActivationToken(QWidget* window, const std::function<void(const QString
         return;
     }
     auto* const waiting = new QObject(QCoreApplication::instance());
-    const auto finish = [waiting, use](const QString& token) {
-        // Neither the token nor the timer comes again.
-        KWindowSystem::self()->disconnect(waiting);
-        waiting->setObjectName(QStringLiteral("done"));
-        waiting->deleteLater();
-        use(token);
+    const auto once = std::make_shared<std::function<void(const QString&)>>(use);
+    const auto finish = [waiting, once](const QString& token) {
+        guarded([&] {
+            if (const auto useOnce = std::exchange(*once, nullptr)) {
+                waiting->deleteLater();
+                useOnce(token);
+            }
+        });
     };
     const quint32 serial = KWindowSystem::lastInputSerial(surface);
     QObject::connect(KWindowSystem::self(), &KWindowSystem::xdgActivationTokenArrived, waiting,
@@ -102,7 +106,7 @@ void withActivationToken(QWidget* window, const std::function<void(const QString
 } // namespace
 
 void request(const std::string& action, const std::shared_ptr<const Clicked>& clicked, const QDBusConnection& bus,
-             QWidget* window)
+             const QPointer<QWidget>& window)
 {
     if (action == "copy-path-to-clipboard") {
         copyPaths(*clicked);

@@ -1,0 +1,168 @@
+#include "extension/bridges/dolphin/Properties.h"
+
+#include "Bus.h"
+#include "CompanionStandIn.h"
+#include "Waiting.h"
+#include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/ObjectPath.h"
+#include "settings/Deployment.h"
+
+#include <QDBusPendingCallWatcher>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+using namespace BusInterface::FinderSyncExtension;
+using DolphinBridge::readProperties;
+using MenuExtension::MenuSettings;
+
+namespace Limits = DolphinBridge::Limits;
+
+namespace {
+
+/// Answers travel over a bus: only those that come from there are read like those of a companion.
+class ReadProperties : public testing::Test {
+protected:
+    ReadProperties() { m_companion.appear(); }
+    ~ReadProperties() override { QDBusConnection::disconnectFromBus(m_reader.name()); }
+
+    std::optional<MenuSettings> readAnswer(const QVariantList& answer)
+    {
+        m_companion.answers = answer;
+        const QString name = QString::fromStdString(std::string(Deployment::extensionIdentifier));
+        QDBusMessage question = QDBusMessage::createMethodCall(
+            name, QString::fromStdString(BusInterface::objectPath(Deployment::extensionIdentifier)),
+            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("GetAll"));
+        const QDBusPendingCallWatcher watcher(m_reader.asyncCall(question << QString::fromLatin1(interface)));
+        if (!waitUntil([&] { return watcher.isFinished(); }))
+            ADD_FAILURE() << "no answer";
+        return readProperties(watcher.reply());
+    }
+
+    std::optional<MenuSettings> read(const QVariantMap& properties) { return readAnswer({properties}); }
+
+    std::optional<MenuSettings> readWith(const char* property, const QVariant& value)
+    {
+        QVariantMap properties = someProperties();
+        properties[QString::fromLatin1(property)] = value;
+        return read(properties);
+    }
+
+private:
+    Bus m_bus;
+    QDBusConnection m_reader = QDBusConnection::connectToBus(m_bus.address(), QStringLiteral("reader"));
+    CompanionStandIn m_companion{m_bus.address()};
+};
+
+QList<ActionRow> actions(std::size_t count)
+{
+    QList<ActionRow> rows;
+    for (std::size_t row = 0; row < count; ++row)
+        rows += ActionRow{QStringLiteral("an-action"), QStringLiteral("Title"), QStringLiteral("icon"), 1};
+    return rows;
+}
+
+QList<FolderRow> folders(std::size_t count, const QString& path)
+{
+    QList<FolderRow> rows;
+    for (std::size_t row = 0; row < count; ++row)
+        rows += FolderRow{path, true};
+    return rows;
+}
+
+} // namespace
+
+TEST_F(ReadProperties, AreReadAsTheCompanionSaysThem)
+{
+    const auto read =
+        this->read(properties({{QStringLiteral("one"), QStringLiteral("F\u00fcnf & 6"), {}, 3},
+                               {QStringLiteral("two"), QStringLiteral("Two"), QStringLiteral("x"), 9}},
+                              {{QStringLiteral("/w\u00f6rk"), true}, {QStringLiteral("/off"), false}}, false, true));
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->actions.size(), 2U);
+    EXPECT_EQ(read->actions[0], (MenuExtension::MenuAction{"one", "F\u00fcnf & 6", "", 3}));
+    EXPECT_EQ(read->actions[1], (MenuExtension::MenuAction{"two", "Two", "x", 9}));
+    EXPECT_TRUE(read->scope.containsItem("/w\u00f6rk/a"));
+    EXPECT_FALSE(read->scope.containsItem("/off/a"));
+    EXPECT_FALSE(read->showIcons);
+    EXPECT_TRUE(read->inSubmenu);
+}
+
+TEST_F(ReadProperties, ThatTheMenuDoesNotNeedCountForNothing)
+{
+    EXPECT_TRUE(readWith("CustomFolders", QStringList{QStringLiteral("/x")}));
+    EXPECT_TRUE(readWith("Whatever", QVariant::fromValue(QDBusVariant(QVariantMap{{QStringLiteral("a"), 1}}))));
+}
+
+TEST_F(ReadProperties, OfWhichOneIsMissingAreNone)
+{
+    for (const QString& property : someProperties().keys()) {
+        QVariantMap properties = someProperties();
+        properties.remove(property);
+        EXPECT_FALSE(read(properties)) << property.toStdString();
+    }
+}
+
+TEST_F(ReadProperties, OfAnotherTypeAreNone)
+{
+    const QVariantList values{QStringLiteral("text"),
+                              7U,
+                              QVariantMap{{QStringLiteral("a"), 1}},
+                              QStringList{QStringLiteral("a")},
+                              QByteArray("bytes"),
+                              QVariant::fromValue(QDBusVariant(true)),
+                              QVariant::fromValue(QVariantList{1, QStringLiteral("a")}),
+                              QVariant::fromValue(ActionRow()),
+                              QVariant::fromValue(FolderRow())};
+    for (const char* const property : {Actions::name, Folders::name, ShowMenuIcon::name, ShowInSubmenu::name}) {
+        for (const QVariant& value : values)
+            EXPECT_FALSE(readWith(property, value)) << property << ' ' << value.typeName();
+    }
+    EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(folders(1, QStringLiteral("/")))));
+    EXPECT_FALSE(readWith(Folders::name, QVariant::fromValue(actions(1))));
+    EXPECT_FALSE(readWith(ShowMenuIcon::name, QVariant::fromValue(actions(1))));
+}
+
+TEST_F(ReadProperties, AreNoneInAnotherAnswer)
+{
+    EXPECT_FALSE(readAnswer({}));
+    EXPECT_FALSE(readAnswer({QStringLiteral("text")}));
+    EXPECT_FALSE(readAnswer({someProperties(), someProperties()}));
+    EXPECT_FALSE(readAnswer({QVariant::fromValue(actions(1))}));
+    EXPECT_FALSE(readProperties(QDBusMessage()));
+    EXPECT_FALSE(readProperties(QDBusMessage::createError(QDBusError::Failed, QStringLiteral("no"))));
+}
+
+TEST_F(ReadProperties, DeepInOthersAreRead)
+{
+    QVariant deep = 1;
+    for (int depth = 0; depth < 60; ++depth)
+        deep = QVariant::fromValue(QDBusVariant(deep));
+    EXPECT_TRUE(readWith("Deep", deep));
+    EXPECT_FALSE(readWith(Actions::name, deep));
+}
+
+TEST_F(ReadProperties, AreNoneBeyondTheLimits)
+{
+    EXPECT_TRUE(readWith(Actions::name, QVariant::fromValue(actions(Limits::actions))));
+    EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(actions(Limits::actions + 1))));
+
+    const QString path = QStringLiteral("/a");
+    EXPECT_TRUE(readWith(Folders::name, QVariant::fromValue(folders(Limits::folders, path))));
+    EXPECT_FALSE(readWith(Folders::name, QVariant::fromValue(folders(Limits::folders + 1, path))));
+
+    const auto withText = [&](std::size_t bytes) {
+        return readWith(Folders::name,
+                        QVariant::fromValue(folders(1, QString(static_cast<int>(bytes), QLatin1Char('/')))));
+    };
+    EXPECT_TRUE(withText(Limits::text / 2));
+    EXPECT_FALSE(withText(Limits::text + 1));
+
+    QList<ActionRow> row = actions(1);
+    row[0].title = QString(static_cast<int>(Limits::word), QLatin1Char('x'));
+    EXPECT_TRUE(readWith(Actions::name, QVariant::fromValue(row)));
+    row[0].title += QLatin1Char('x');
+    EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(row)));
+}

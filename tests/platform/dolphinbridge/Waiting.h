@@ -1,0 +1,6 @@
+#pragma once
+
+#include <functional>
+
+/// Runs the event loop until `holds`, 10 seconds at most. Whether it holds.
+[[nodiscard]] bool waitUntil(const std::function<bool()>& holds);
