@@ -32,16 +32,16 @@ QString shown(const std::string& title)
         .replace(QLatin1Char('\t'), QLatin1Char(' '));
 }
 
-/// A menu that has grown on the screen may reach below it.
+/// A menu that has grown while it is open may reach beyond the screen.
 void keepOnScreen(QMenu& menu)
 {
     const QScreen* const screen = menu.screen();
     if (!menu.isVisible() || screen == nullptr)
         return;
     const QRect all = screen->availableGeometry();
-    const int below = menu.geometry().bottom() - all.bottom();
-    if (below > 0)
-        menu.move(menu.x(), std::max(all.top(), menu.y() - below));
+    const QRect shown = menu.geometry();
+    menu.move(std::max(all.left(), std::min(shown.left(), all.right() - shown.width())),
+              std::max(all.top(), std::min(shown.top(), all.bottom() - shown.height())));
 }
 
 } // namespace

@@ -182,8 +182,12 @@ TEST_F(MenuPluginTest, ShowsIconsWhereTheyAreOn)
 {
     QPixmap picture(16, 16);
     picture.fill(Qt::red);
-    ASSERT_TRUE(picture.save(path("an-icon.png")));
-    QIcon::setFallbackSearchPaths({path("")});
+    QDir().mkpath(path("icons/hicolor/16x16"));
+    ASSERT_TRUE(picture.save(path("icons/hicolor/16x16/an-icon.png")));
+    write(path("icons/hicolor/index.theme"),
+          "[Icon Theme]\nName=hicolor\nDirectories=16x16\n[16x16]\nSize=16\nType=Fixed\n");
+    QIcon::setThemeSearchPaths({path("icons")});
+    QIcon::setThemeName(QStringLiteral("hicolor"));
     for (const bool icons : {true, false}) {
         companionSays(twoActions(), icons);
         settle();
