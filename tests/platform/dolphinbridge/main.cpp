@@ -13,7 +13,7 @@ int main(int argc, char** argv)
     for (const char* const variable :
          {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         qputenv(variable, home.path().toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "minimal");
     qputenv("QT_PLUGIN_PATH", ORVIK_MODULES);
     // The toolkit connects to it once.
     const Bus sessionBus;
