@@ -35,12 +35,11 @@ Q_SIGNALS:
     /// The wait for the first answer is over.
     void settled();
 
-private Q_SLOTS:
-    // By these names the toolkit finds them.
-    void ownerChanged(const QString& service, const QString& before, const QString& now);
-    void propertiesChanged(const QDBusMessage& signal);
-
 private:
+    // The toolkit finds these by their names.
+    Q_SLOT void ownerChanged(const QString& service, const QString& before, const QString& now);
+    Q_SLOT void propertiesChanged(const QDBusMessage& signal);
+
     void askForOwner();
     void take(const QString& owner);
     void ask();

@@ -7,7 +7,6 @@
 #include "extension/menu/Menu.h"
 
 #include <KFileItemListProperties>
-#include <KPluginFactory>
 #include <QIcon>
 #include <QScreen>
 
@@ -126,8 +125,4 @@ void MenuPlugin::fill(QAction& place, const std::shared_ptr<const Clicked>& clic
     }
 }
 
-K_PLUGIN_CLASS_WITH_JSON(MenuPlugin, "orvik-menu-dolphin.json")
-
 } // namespace DolphinBridge
-
-#include "MenuPlugin.moc"
