@@ -16,6 +16,17 @@ packages_build=(
   qt6-svg-dev
 )
 
+# The headers of what the bridges to file managers are loaded by; each is built where its own are there.
+packages_bridges=(
+  extra-cmake-modules
+  libcaja-extension-dev
+  libgtk-4-dev
+  libkf5kio-dev
+  libnautilus-extension-dev
+  libnemo-extension-dev
+  libthunarx-3-dev
+)
+
 # What the panel uses at run time beside the libraries that it is built with.
 packages_panel=(
   breeze-icon-theme

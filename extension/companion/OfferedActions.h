@@ -8,9 +8,6 @@
 
 namespace MenuExtension {
 
-/// The file manager does it in its own process: on Wayland nobody else may.
-inline constexpr std::string_view actionOfFileManager = "copy-path-to-clipboard";
-
 /// The actions that are on and that can be done here, in the order of the menu: those that the file manager does
 /// itself, and those whose program is in `programs`. An action that is stored twice is offered once.
 [[nodiscard]] std::vector<MenuAction> offeredActions(const std::vector<MenuItem>& items, const std::string& programs);

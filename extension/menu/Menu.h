@@ -52,6 +52,9 @@ struct Menu {
     bool inSubmenu = false;
 };
 
+/// The action that the file manager does in its own process: on Wayland nobody else may.
+inline constexpr std::string_view actionOfFileManager = "copy-path-to-clipboard";
+
 /// The title of the submenu.
 inline constexpr const char* submenuTitle = "Orvik Menu";
 
