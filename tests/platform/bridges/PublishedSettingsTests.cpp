@@ -1,0 +1,173 @@
+#include "Properties.h"
+
+#include "extension/bridges/gtk/PublishedSettings.h"
+
+#include <gtest/gtest.h>
+
+using namespace MenuExtension;
+
+namespace {
+
+MenuSettings settingsFrom(const Properties& properties)
+{
+    return settingsFromProperties(*properties.all());
+}
+
+/// One action in one folder, so that what is not there can be told from what is.
+Properties sound()
+{
+    return Properties()
+        .with("Actions", "[('hide', 'Hide', 'orvik-menu-hide', uint32 70)]")
+        .with("Folders", "[('/listed', true)]");
+}
+
+/// Whether a property in the place of the sound one counts as though there were none.
+testing::AssertionResult countsAsAbsent(const std::string& name, GVariant* value)
+{
+    const MenuSettings settings = settingsFrom(Properties().with(name, value).with("Other", "1"));
+    const MenuSettings nothing;
+    if (settings.actions == nothing.actions && !settings.scope.containsItem("/listed/item") &&
+        settings.showIcons == nothing.showIcons && settings.inSubmenu == nothing.inSubmenu)
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << name << " counts";
+}
+
+testing::AssertionResult countsAsAbsent(const std::string& name, const std::string& value)
+{
+    return countsAsAbsent(name, g_variant_new_parsed(value.c_str())) << ": " << value;
+}
+
+} // namespace
+
+TEST(PublishedSettings, AreWhatTheCompanionSays)
+{
+    const MenuSettings settings =
+        settingsFrom(Properties()
+                         .with("Actions", "[('b', 'To_B', 'icon-b', uint32 3), ('a', 'A', 'i', 127)]")
+                         .with("Folders", "[('/listed', true), ('/listed/not', false)]")
+                         .with("ShowMenuIcon", "false")
+                         .with("ShowInSubmenu", "true"));
+    EXPECT_EQ(settings.actions, (std::vector<MenuAction>{{"b", "To_B", "icon-b", 3}, {"a", "A", "i", 127}}));
+    EXPECT_TRUE(settings.scope.containsItem("/listed/item"));
+    EXPECT_FALSE(settings.scope.containsItem("/listed/not/item"));
+    EXPECT_FALSE(settings.showIcons);
+    EXPECT_TRUE(settings.inSubmenu);
+}
+
+TEST(PublishedSettings, WithoutPropertiesOfferNothing)
+{
+    const MenuSettings settings = settingsFrom({});
+    EXPECT_TRUE(settings.actions.empty());
+    EXPECT_FALSE(settings.scope.containsItem("/item"));
+    EXPECT_TRUE(settings.showIcons);
+    EXPECT_FALSE(settings.inSubmenu);
+}
+
+TEST(PublishedSettings, LeaveOutAPropertyOfTheWrongType)
+{
+    for (const char* value :
+         {"1", "'text'", "@as []", "['hide']", "[('hide', 'Hide')]", "[('hide', 'Hide', 'icon', int32 70)]",
+          "('hide', 'Hide', 'icon', uint32 70)", "<[('hide', 'Hide', 'icon', uint32 70)]>", "@a{sv} {}"})
+        EXPECT_TRUE(countsAsAbsent("Actions", value));
+    for (const char* value : {"true", "['/listed']", "[('/listed', 1)]", "[(b'/listed', true)]",
+                              "[('/listed', true, true)]", "{'/listed': true}", "[[('/listed', true)]]"})
+        EXPECT_TRUE(countsAsAbsent("Folders", value));
+    EXPECT_TRUE(countsAsAbsent("ShowMenuIcon", "0"));
+    EXPECT_TRUE(countsAsAbsent("ShowMenuIcon", "'false'"));
+    EXPECT_TRUE(countsAsAbsent("ShowInSubmenu", "<true>"));
+    EXPECT_TRUE(countsAsAbsent("ShowInSubmenu", "[true]"));
+}
+
+TEST(PublishedSettings, OneWrongPropertyLeavesTheOthers)
+{
+    const MenuSettings settings = settingsFrom(sound().with("ShowInSubmenu", "'x'").with("ShowMenuIcon", "false"));
+    EXPECT_EQ(settings.actions.size(), 1U);
+    EXPECT_TRUE(settings.scope.containsItem("/listed/item"));
+    EXPECT_FALSE(settings.inSubmenu);
+    EXPECT_FALSE(settings.showIcons);
+}
+
+TEST(PublishedSettings, HaveNoActionWhoseNamesAreNone)
+{
+    const std::string longest(100, 'a');
+    for (const std::string& name :
+         {std::string(), std::string("a b"), std::string("../a"), std::string("a/b"), std::string("/etc/icon.png"),
+          std::string("caf\xC3\xA9"), std::string("a\tb"), std::string("&a"), longest + 'a'}) {
+        EXPECT_TRUE(
+            countsAsAbsent("Actions", g_variant_new_parsed("[(%s, 'Title', 'icon', uint32 1)]", name.c_str())))
+            << name;
+        EXPECT_TRUE(countsAsAbsent("Actions", g_variant_new_parsed("[('a', 'Title', %s, uint32 1)]", name.c_str())))
+            << name;
+    }
+    EXPECT_FALSE(
+        countsAsAbsent("Actions", g_variant_new_parsed("[(%s, 'Title', 'icon', uint32 1)]", longest.c_str())));
+}
+
+TEST(PublishedSettings, HaveNoActionWithoutATitleOrWithAnEndlessOne)
+{
+    const std::string longest(1000, 't');
+    EXPECT_TRUE(countsAsAbsent("Actions", "[('a', '', 'icon', uint32 1)]"));
+    EXPECT_TRUE(
+        countsAsAbsent("Actions", g_variant_new_parsed("[('a', %s, 'icon', uint32 1)]", (longest + 't').c_str())));
+    EXPECT_FALSE(countsAsAbsent("Actions", g_variant_new_parsed("[('a', %s, 'icon', uint32 1)]", longest.c_str())));
+}
+
+TEST(PublishedSettings, HaveAnActionOnce)
+{
+    const MenuSettings settings = settingsFrom(Properties().with(
+        "Actions", "[('a', 'First', 'icon', uint32 1), ('b', 'B', 'icon', 2), ('a', 'Second', 'icon', uint32 3)]"));
+    EXPECT_EQ(settings.actions, (std::vector<MenuAction>{{"a", "First", "icon", 1}, {"b", "B", "icon", 2}}));
+}
+
+TEST(PublishedSettings, HaveNoMoreActionsThanAMenuCanShow)
+{
+    std::vector<std::string> identifiers;
+    for (int number = 0; number < 100; ++number)
+        identifiers.push_back("action-" + std::to_string(number));
+    EXPECT_EQ(settingsFrom(Properties().with("Actions", Properties::actions(identifiers))).actions.size(), 100U);
+    identifiers.emplace_back("one-more");
+    EXPECT_TRUE(countsAsAbsent("Actions", Properties::actions(identifiers)));
+}
+
+TEST(PublishedSettings, HaveAHundredThousandFoldersAndNoMore)
+{
+    std::vector<std::string> paths(100'000, "/folder/of/the/list");
+    paths.back() = "/listed";
+    EXPECT_FALSE(countsAsAbsent("Folders", Properties::folders(paths)));
+    paths.emplace_back("/one/more");
+    EXPECT_TRUE(countsAsAbsent("Folders", Properties::folders(paths)));
+}
+
+TEST(PublishedSettings, HaveNoMoreTextThanSixteenMebibytes)
+{
+    const std::size_t enough = (std::size_t(16) << 20U) - std::string("/listed").size();
+    EXPECT_FALSE(countsAsAbsent("Folders", Properties::folders({"/listed", std::string(enough, '/')})));
+    EXPECT_TRUE(countsAsAbsent("Folders", Properties::folders({"/listed", std::string(enough + 1, '/')})));
+}
+
+TEST(PublishedSettings, AreNotLookedForAmongThousands)
+{
+    Properties properties = sound();
+    for (int number = 0; number < 99; ++number)
+        properties.with("Property" + std::to_string(number), "0");
+    EXPECT_TRUE(settingsFrom(properties).actions.empty());
+}
+
+TEST(PublishedSettings, OfDamagedBytesAreReadWithoutHarm)
+{
+    const Variant all = sound().with("ShowMenuIcon", "true").all();
+    const auto* bytes = static_cast<const char*>(g_variant_get_data(all.get()));
+    const std::string whole(bytes, g_variant_get_size(all.get()));
+    for (std::size_t position = 0; position < whole.size(); ++position) {
+        for (const char damage : {'\0', '\x01', '\x7f', '\x80', '\xff'}) {
+            std::string damaged = whole;
+            damaged[position] = damage;
+            const Variant read(g_variant_ref_sink(g_variant_new_from_data(G_VARIANT_TYPE_VARDICT, damaged.data(),
+                                                                          damaged.size(), FALSE, nullptr, nullptr)));
+            const MenuSettings settings = settingsFromProperties(*read);
+            EXPECT_LE(settings.actions.size(), 1U);
+            for (const MenuAction& action : settings.actions)
+                EXPECT_TRUE(g_utf8_validate(action.title.c_str(), -1, nullptr) && !action.identifier.empty());
+        }
+    }
+}
