@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace MenuExtension {
@@ -148,6 +149,9 @@ private:
             const Reference<typename Host::Submenu> submenu(Host::newSubmenu());
             for (const auto& item : items)
                 Host::append(submenu.get(), item.get());
+            if (submenusKeepItems())
+                g_object_weak_ref(G_OBJECT(submenu.get()), &release,
+                                  new std::vector<Reference<Item>>(std::move(items)));
             items.clear();
             items.emplace_back(newItem(name, submenuTitle, nullptr));
             Host::setSubmenu(items.front().get(), submenu.get());
@@ -158,6 +162,28 @@ private:
             items.pop_back();
         }
         return list;
+    }
+
+    /// Whether the items of a submenu that is gone are still there: some libraries forget to let go of them.
+    static bool submenusKeepItems()
+    {
+        static const bool keep = [] {
+            const Reference<Item> item(newItem("OrvikMenu", submenuTitle, nullptr));
+            Host::append(Reference<typename Host::Submenu>(Host::newSubmenu()).get(), item.get());
+            const bool kept = G_OBJECT(item.get())->ref_count > 1;
+            if (kept)
+                g_object_unref(item.get());
+            return kept;
+        }();
+        return keep;
+    }
+
+    /// Lets go of the items of a submenu that is about to be gone, in its place.
+    static void release(gpointer data, GObject*) noexcept
+    {
+        const std::unique_ptr<std::vector<Reference<Item>>> items(static_cast<std::vector<Reference<Item>>*>(data));
+        for (const auto& item : *items)
+            g_object_unref(item.get());
     }
 
     static Item* newItem(const std::string& name, const std::string& title, const char* icon)

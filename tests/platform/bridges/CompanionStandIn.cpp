@@ -27,36 +27,37 @@ void answer(GDBusMethodInvocation* call, GVariant* properties)
 
 struct CompanionStandIn::Callbacks {
     static void called(GDBusConnection*, const char*, const char*, const char*, const char* method,
-                       GVariant* parameters, GDBusMethodInvocation* call, gpointer data)
+                       GVariant* parameters, GDBusMethodInvocation* invocation, gpointer data)
     {
         auto& companion = *static_cast<CompanionStandIn*>(data);
         if (std::string_view(method) == "Run") {
-            companion.m_runs.push_back(runOf(parameters));
-            g_dbus_method_invocation_return_value(call, nullptr);
+            companion.m_calls.push_back(callOf(parameters));
+            g_dbus_method_invocation_return_value(invocation, nullptr);
             return;
         }
         ++companion.m_questions;
         if (companion.m_isSilent)
-            companion.m_unanswered.emplace_back(call, g_variant_ref(companion.m_properties.get()));
+            companion.m_unanswered.emplace_back(invocation, g_variant_ref(companion.m_properties.get()));
         else
-            answer(call, companion.m_properties.get());
+            answer(invocation, companion.m_properties.get());
     }
 
-    static Run runOf(GVariant* parameters)
+    static Call callOf(GVariant* parameters)
     {
         const char* action = nullptr;
         GVariant* paths = nullptr;
         GVariant* options = nullptr;
         g_variant_get(parameters, "(&s@aay@a{sv})", &action, &paths, &options);
         const Variant owned[]{Variant(paths), Variant(options)};
-        Run run{action, {}, false};
+        Call asked{action, {}, false};
         for (gsize index = 0; index < g_variant_n_children(paths); ++index) {
             const Variant path(g_variant_get_child_value(paths, index));
-            run.paths.emplace_back(g_variant_get_bytestring(path.get()));
+            asked.paths.emplace_back(g_variant_get_bytestring(path.get()));
         }
         gboolean background = FALSE;
-        run.isBackground = g_variant_lookup(options, "background", "b", &background) != FALSE && background != FALSE;
-        return run;
+        asked.isBackground =
+            g_variant_lookup(options, "background", "b", &background) != FALSE && background != FALSE;
+        return asked;
     }
 };
 
@@ -86,10 +87,10 @@ CompanionStandIn::~CompanionStandIn()
         g_dbus_connection_close_sync(m_connection.get(), nullptr, nullptr);
 }
 
-void CompanionStandIn::call(const char* method, const char* flags)
+void CompanionStandIn::askBus(const char* method, const char* arguments)
 {
     GVariant* parameters =
-        flags ? g_variant_new_parsed(flags, m_address.name.c_str()) : g_variant_new("(s)", m_address.name.c_str());
+        arguments ? g_variant_new_parsed(arguments, m_address.name.c_str()) : g_variant_new("(s)", m_address.name.c_str());
     const Variant answer(g_dbus_connection_call_sync(
         m_connection.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", method,
         parameters, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr));
@@ -98,12 +99,12 @@ void CompanionStandIn::call(const char* method, const char* flags)
 
 void CompanionStandIn::takeName()
 {
-    call("RequestName", "(%s, uint32 4)");
+    askBus("RequestName", "(%s, uint32 4)");
 }
 
 void CompanionStandIn::leaveName()
 {
-    call("ReleaseName", nullptr);
+    askBus("ReleaseName", nullptr);
 }
 
 void CompanionStandIn::announce()

@@ -32,17 +32,17 @@ public:
     [[nodiscard]] int questions() const { return m_questions; }
 
     /// What it was asked to do.
-    struct Run {
+    struct Call {
         std::string action;
         std::vector<std::string> paths;
         bool isBackground = false;
-        friend bool operator==(const Run&, const Run&) = default;
+        friend bool operator==(const Call&, const Call&) = default;
     };
-    [[nodiscard]] const std::vector<Run>& runs() const { return m_runs; }
+    [[nodiscard]] const std::vector<Call>& calls() const { return m_calls; }
 
 private:
     struct Callbacks;
-    void call(const char* method, const char* signature);
+    void askBus(const char* method, const char* arguments);
 
     const MenuExtension::CompanionAddress m_address;
     MenuExtension::Reference<GDBusConnection> m_connection;
@@ -50,5 +50,5 @@ private:
     bool m_isSilent = false;
     int m_questions = 0;
     std::vector<std::pair<GDBusMethodInvocation*, MenuExtension::Variant>> m_unanswered;
-    std::vector<Run> m_runs;
+    std::vector<Call> m_calls;
 };
