@@ -4,7 +4,7 @@
 #include "extension/bridges/gtk/CompanionCopy.h"
 #include "extension/bridges/gtk/Quietly.h"
 #include "extension/bridges/gtk/RunCall.h"
-#include "extension/bridges/gtk/toolkit/Toolkit.h"
+#include "extension/bridges/gtk/Toolkit.h"
 
 #include <algorithm>
 #include <memory>

@@ -89,8 +89,8 @@ CompanionStandIn::~CompanionStandIn()
 
 void CompanionStandIn::askBus(const char* method, const char* arguments)
 {
-    GVariant* parameters =
-        arguments ? g_variant_new_parsed(arguments, m_address.name.c_str()) : g_variant_new("(s)", m_address.name.c_str());
+    GVariant* parameters = arguments ? g_variant_new_parsed(arguments, m_address.name.c_str())
+                                     : g_variant_new("(s)", m_address.name.c_str());
     const Variant answer(g_dbus_connection_call_sync(
         m_connection.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", method,
         parameters, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr));

@@ -1,4 +1,4 @@
-#include "extension/bridges/gtk/toolkit/Toolkit.h"
+#include "extension/bridges/gtk/Toolkit.h"
 
 #include "extension/bridges/gtk/Handles.h"
 

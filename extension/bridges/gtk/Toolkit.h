@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// What a bridge needs of its host's toolkit.
+/// What a bridge needs of the toolkit that its host has.
 namespace MenuExtension::Toolkit {
 
 /// Puts a text on the clipboard.
