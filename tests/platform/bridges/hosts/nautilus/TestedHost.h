@@ -6,6 +6,7 @@
 
 struct TestedHost {
     using Item = NautilusMenuItem;
+    static constexpr const char* toolkit = "libgtk-4.so.1";
     static constexpr const char* entryPrefix = "nautilus_module_";
     static constexpr bool isToldOfChanges = true;
 

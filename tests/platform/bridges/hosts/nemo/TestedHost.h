@@ -6,6 +6,7 @@
 
 struct TestedHost {
     using Item = NemoMenuItem;
+    static constexpr const char* toolkit = "libgtk-3.so.0";
     static constexpr const char* entryPrefix = "nemo_module_";
     static constexpr bool isToldOfChanges = true;
 

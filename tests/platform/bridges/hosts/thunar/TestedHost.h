@@ -9,6 +9,7 @@ extern "C" {
 
 struct TestedHost {
     using Item = ThunarxMenuItem;
+    static constexpr const char* toolkit = "libgtk-3.so.0";
     static constexpr const char* entryPrefix = "thunar_extension_";
     static constexpr bool isToldOfChanges = false;
 
