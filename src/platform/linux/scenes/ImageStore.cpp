@@ -15,15 +15,13 @@ namespace {
 
 struct TemplateImage {
     std::string_view name;
-    /// File of the drawing that serves where the theme has no such icon.
-    const char* drawing;
-    /// Names in icon themes, best first.
+    /// Names in icon themes, best first. Our own drawing serves where the theme has none of them.
     std::array<const char*, 2> themeNames;
 };
 
 constexpr std::array templateImages{
-    TemplateImage{NS::ImageNameActionTemplate, "action-template", {"configure", "emblem-system-symbolic"}},
-    TemplateImage{NS::ImageNameAddTemplate, "add-template", {"list-add", "list-add-symbolic"}},
+    TemplateImage{NS::ImageNameActionTemplate, {"configure", "emblem-system-symbolic"}},
+    TemplateImage{NS::ImageNameAddTemplate, {"list-add", "list-add-symbolic"}},
 };
 
 const TemplateImage* templateNamed(std::string_view name)
@@ -101,9 +99,7 @@ QPixmap ImageStore::pixmap(const QString& name, int extent, qreal scale, const Q
 
 QString ImageStore::pathOf(const QString& name) const
 {
-    const TemplateImage* image = templateNamed(name.toStdString());
-    return m_folder + QLatin1Char('/') + (image ? QString::fromLatin1(image->drawing) : name) +
-           QStringLiteral(".svg");
+    return m_folder + QLatin1Char('/') + name + QStringLiteral(".svg");
 }
 
 QPixmap ImageStore::draw(const QString& name, int extent, qreal scale, const QColor& tint) const
