@@ -1,5 +1,9 @@
 # The Debian 12 packages that Orvik Menu needs, in one place, and the installing of those that are missing.
-# Sourced by ./run and ./test.
+# Sourced by ./run, ./test and packaging/build-packages.
+
+packaging=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# The file managers that there is a module for, by their packages' names.
+mapfile -t file_managers < <(sed -n 's/^Package: orvik-menu-//p' "$packaging/debian/control")
 
 packages_build=(
   cmake
@@ -27,6 +31,16 @@ packages_bridges=(
   libthunarx-3-dev
 )
 
+# What makes packages of it all.
+packages_packaging=(
+  build-essential
+  debhelper
+)
+
+packages_packaging_check=(
+  lintian
+)
+
 # What the panel uses at run time beside the libraries that it is built with.
 packages_panel=(
   breeze-icon-theme
@@ -48,8 +62,13 @@ packages_virtual_display=(
 )
 
 packages_tests=(
+  appstream
   dbus
+  desktop-file-utils
+  fish
   libgtest-dev
+  man-db
+  zsh
 )
 
 packages_style=(
@@ -81,28 +100,44 @@ packages_bench=(
   libxcb1-dev
 )
 
+is_installed() {
+  [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$1" 2>/dev/null)" = "ii " ]
+}
+
+# apt_get ARGUMENT...: as root. Asks nothing, and says little.
+apt_get() {
+  local as_root=()
+  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y "$@"
+}
+
+# apt_install ARGUMENT...: A machine that has never fetched the package lists, or whose lists are old, fetches them and
+# tries again.
+apt_install() {
+  apt_get install "$@" >/dev/null 2>&1 && return
+  apt_get update >&2 && apt_get install "$@" >&2
+}
+
+# need_root WHAT COMMAND: says which command root is needed for where nobody here can become root.
+need_root() {
+  [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null || {
+    echo "$1, and without sudo only root can do that:" >&2
+    echo "  $2" >&2
+    return 1
+  }
+}
+
 # install_packages WHY PACKAGE...: installs those that are missing and says which. Nothing is done, and nothing is
 # said, when all are there.
 install_packages() {
   local why=$1 missing=() package
   shift
   for package in "$@"; do
-    [ "$(dpkg-query -W -f '${db:Status-Abbrev}' "$package" 2>/dev/null)" = "ii " ] || missing+=("$package")
+    is_installed "$package" || missing+=("$package")
   done
   [ ${#missing[@]} -eq 0 ] && return
 
-  local as_root=()
-  if [ "$(id -u)" -ne 0 ]; then
-    if ! command -v sudo >/dev/null; then
-      echo "These packages are missing, and without sudo only root can install them:" >&2
-      echo "  apt-get install ${missing[*]}" >&2
-      return 1
-    fi
-    as_root=(sudo)
-  fi
+  need_root "These packages have to be installed" "apt-get install ${missing[*]}"
   echo "Installing ${why}: ${missing[*]}" >&2
-  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y)
-  # A machine that has never fetched the package lists, or whose lists are old, fetches them and tries again.
-  "${apt[@]}" install --no-install-recommends "${missing[@]}" >/dev/null 2>&1 && return
-  "${apt[@]}" update >&2 && "${apt[@]}" install --no-install-recommends "${missing[@]}" >&2
+  apt_install --no-install-recommends "${missing[@]}"
 }

@@ -53,8 +53,10 @@ class SessionBus:
     """Runs from its making to close(). `folder` is for its own files; `environment` is what it starts programs with."""
 
     def __init__(self, folder, environment):
-        os.makedirs(folder + "/services")
-        shutil.copy(_ACCESSIBILITY_SERVICE, folder + "/services")
+        # Where the bus finds what it can start.
+        self.services = folder + "/services"
+        os.makedirs(self.services)
+        shutil.copy(_ACCESSIBILITY_SERVICE, self.services)
         configuration = folder + "/session.conf"
         with open(configuration, "w", encoding="utf-8") as file:
             file.write(_CONFIGURATION.format(folder=folder))
