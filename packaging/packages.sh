@@ -137,7 +137,7 @@ install_packages() {
   done
   [ ${#missing[@]} -eq 0 ] && return
 
-  need_root "These packages have to be installed" "apt-get install ${missing[*]}"
+  need_root "These packages have to be installed" "apt-get install ${missing[*]}" || return
   echo "Installing ${why}: ${missing[*]}" >&2
   apt_install --no-install-recommends "${missing[@]}"
 }
