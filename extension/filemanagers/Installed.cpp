@@ -1,0 +1,105 @@
+#include "extension/filemanagers/Installed.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <glob.h>
+#include <memory>
+#include <system_error>
+
+namespace MenuExtension {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Nothing where it is no file that can be used in that way.
+std::optional<std::string> resolved(const fs::path& path, int use)
+{
+    std::error_code error;
+    const fs::path file = fs::canonical(path, error);
+    if (error || !fs::is_regular_file(file, error) || ::access(file.c_str(), use) != 0)
+        return std::nullopt;
+    return file.string();
+}
+
+/// Text that stands for itself in a pattern.
+std::string literally(const std::string& text)
+{
+    std::string pattern;
+    for (const char character : text) {
+        if (std::string_view("\\*?[").find(character) != std::string_view::npos)
+            pattern += '\\';
+        pattern += character;
+    }
+    return pattern;
+}
+
+std::vector<std::string> matches(const std::string& pattern)
+{
+    glob_t found{};
+    std::vector<std::string> paths;
+    if (::glob(pattern.c_str(), 0, nullptr, &found) == 0)
+        paths.assign(found.gl_pathv, found.gl_pathv + found.gl_pathc);
+    ::globfree(&found);
+    return paths;
+}
+
+void addNew(std::vector<std::string>& texts, std::string text)
+{
+    if (std::ranges::find(texts, text) == texts.end())
+        texts.push_back(std::move(text));
+}
+
+} // namespace
+
+Places usualPlaces()
+{
+    Places places;
+    const char* variable = std::getenv("PATH");
+    std::string_view rest = variable ? variable : "";
+    while (!rest.empty()) {
+        const std::size_t length = std::min(rest.find(':'), rest.size());
+        // What a relative one means differs from program to program.
+        if (rest.starts_with('/'))
+            places.programFolders.emplace_back(rest.substr(0, length));
+        rest.remove_prefix(std::min(length + 1, rest.size()));
+    }
+    return places;
+}
+
+std::vector<std::string> programsOf(const FileManager& manager, const Places& places)
+{
+    std::vector<std::string> folders = places.programFolders;
+    folders.push_back(places.system + "/bin");
+    std::vector<std::string> programs;
+    for (const std::string& folder : folders) {
+        if (auto program = resolved(fs::path(folder) / manager.program, X_OK))
+            addNew(programs, std::move(*program));
+    }
+    return programs;
+}
+
+std::optional<std::string> bridgeOf(const FileManager& manager, const std::vector<std::string>& programs,
+                                    const Places& places)
+{
+    // A program looks below what it was installed below itself.
+    std::vector<std::string> prefixes;
+    for (const std::string& program : programs)
+        addNew(prefixes, fs::path(program).parent_path().parent_path().string());
+    addNew(prefixes, places.system);
+
+    const std::string end = '/' + std::string(manager.moduleFolder) + '/' + std::string(manager.module);
+    for (const std::string& prefix : prefixes) {
+        // Debian has a folder for each kind of processor.
+        for (const char* libraries : {"/lib/*", "/lib", "/lib64"}) {
+            for (const std::string& path : matches(literally(prefix) + libraries + end)) {
+                if (auto bridge = resolved(path, R_OK))
+                    return bridge;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace MenuExtension
