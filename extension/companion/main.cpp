@@ -2,6 +2,7 @@
 #include "extension/bus/OpenBus.h"
 #include "extension/companion/Companion.h"
 #include "extension/companion/RunCommand.h"
+#include "extension/companion/StatusReport.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/system/Complaint.h"
 
@@ -27,6 +28,8 @@ background of the session until it is asked to end.
   --run ACTION PATH...
              have the companion that runs do an action, as a file manager's
              menu does
+  --status   print whether the companion runs and how far the menu has come in
+             each file manager
   --help     print this text
   --version  print the version
 )";
@@ -97,6 +100,8 @@ int main(int argc, char** argv)
         const std::string_view argument = argv[1];
         if (argc > 3 && argument == "--run")
             return runAction(argv[2], {argv + 3, argv + argc});
+        if (argc == 2 && argument == "--status")
+            return tellStatus();
         if (argc == 2 && argument == "--help") {
             std::fputs(usage, stdout);
             return EXIT_SUCCESS;
