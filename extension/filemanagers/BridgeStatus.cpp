@@ -10,10 +10,9 @@ namespace MenuExtension {
 
 namespace {
 
-bool isOf(const Process& process, const FileManager& manager, const std::vector<std::string>& programs)
+bool isOf(const Process& process, const FileManager& manager, const std::string& program)
 {
-    return process.program.empty() ? process.name == manager.program
-                                   : std::ranges::find(programs, process.program) != programs.end();
+    return process.program.empty() ? process.name == manager.program : process.program == program;
 }
 
 BridgeStatus statusOf(const Process& process, const FileManager& manager, const std::string& bridge)
@@ -45,15 +44,15 @@ BridgeStatus statusOf(const Process& process, const FileManager& manager, const 
 
 BridgeStatus statusOf(const FileManager& manager, const std::vector<Process>& processes, const Places& places)
 {
-    const std::vector<std::string> programs = programsOf(manager, places);
-    if (programs.empty())
+    const auto program = programOf(manager, places);
+    if (!program)
         return BridgeStatus::NoFileManager;
-    const auto bridge = bridgeOf(manager, programs, places);
+    const auto bridge = bridgeOf(manager, *program);
     if (!bridge)
         return BridgeStatus::NotInstalled;
     BridgeStatus status = BridgeStatus::NotRunning;
     for (const Process& process : processes) {
-        if (isOf(process, manager, programs))
+        if (isOf(process, manager, *program))
             status = std::max(status, statusOf(process, manager, *bridge));
     }
     return status;

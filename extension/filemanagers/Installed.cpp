@@ -1,10 +1,11 @@
 #include "extension/filemanagers/Installed.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <glob.h>
-#include <memory>
 #include <system_error>
 
 namespace MenuExtension {
@@ -45,10 +46,11 @@ std::vector<std::string> matches(const std::string& pattern)
     return paths;
 }
 
-void addNew(std::vector<std::string>& texts, std::string text)
+bool isScript(const std::string& program)
 {
-    if (std::ranges::find(texts, text) == texts.end())
-        texts.push_back(std::move(text));
+    std::array<char, 2> beginning{};
+    std::ifstream(program, std::ios::binary).read(beginning.data(), beginning.size());
+    return beginning == std::array{'#', '!'};
 }
 
 } // namespace
@@ -68,35 +70,28 @@ Places usualPlaces()
     return places;
 }
 
-std::vector<std::string> programsOf(const FileManager& manager, const Places& places)
+std::optional<std::string> programOf(const FileManager& manager, const Places& places)
 {
     std::vector<std::string> folders = places.programFolders;
     folders.push_back(places.system + "/bin");
-    std::vector<std::string> programs;
     for (const std::string& folder : folders) {
-        if (auto program = resolved(fs::path(folder) / manager.program, X_OK))
-            addNew(programs, std::move(*program));
+        const auto program = resolved(fs::path(folder) / manager.program, X_OK);
+        if (program && !isScript(*program))
+            return program;
     }
-    return programs;
+    return std::nullopt;
 }
 
-std::optional<std::string> bridgeOf(const FileManager& manager, const std::vector<std::string>& programs,
-                                    const Places& places)
+std::optional<std::string> bridgeOf(const FileManager& manager, const std::string& program)
 {
-    // A program looks below what it was installed below itself.
-    std::vector<std::string> prefixes;
-    for (const std::string& program : programs)
-        addNew(prefixes, fs::path(program).parent_path().parent_path().string());
-    addNew(prefixes, places.system);
-
-    const std::string end = '/' + std::string(manager.moduleFolder) + '/' + std::string(manager.module);
-    for (const std::string& prefix : prefixes) {
-        // Debian has a folder for each kind of processor.
-        for (const char* libraries : {"/lib/*", "/lib", "/lib64"}) {
-            for (const std::string& path : matches(literally(prefix) + libraries + end)) {
-                if (auto bridge = resolved(path, R_OK))
-                    return bridge;
-            }
+    // It looks below what it was installed below itself.
+    const std::string prefix = literally(fs::path(program).parent_path().parent_path().string());
+    const std::string module = '/' + std::string(manager.moduleFolder) + '/' + std::string(manager.module);
+    // Debian has a folder for each kind of processor.
+    for (const char* libraries : {"/lib/*", "/lib", "/lib64"}) {
+        for (const std::string& path : matches(prefix + libraries + module)) {
+            if (auto bridge = resolved(path, R_OK))
+                return bridge;
         }
     }
     return std::nullopt;

@@ -7,12 +7,11 @@
 
 namespace MenuExtension {
 
-/// The files of a file manager's program, links resolved: several where a wrapper comes first in PATH. Empty where it
-/// is not installed.
-[[nodiscard]] std::vector<std::string> programsOf(const FileManager& manager, const Places& places);
+/// The file of a file manager's program, links resolved: of those of its name the first that is no script, since a
+/// process is never one of a script.
+[[nodiscard]] std::optional<std::string> programOf(const FileManager& manager, const Places& places);
 
-/// The bridge's file, links resolved, in a folder that one of those programs reads.
-[[nodiscard]] std::optional<std::string> bridgeOf(const FileManager& manager,
-                                                  const std::vector<std::string>& programs, const Places& places);
+/// The bridge's file, links resolved, in a folder that the program reads.
+[[nodiscard]] std::optional<std::string> bridgeOf(const FileManager& manager, const std::string& program);
 
 } // namespace MenuExtension

@@ -11,7 +11,7 @@ namespace MenuExtension {
 struct Places {
     /// Those that PATH names.
     std::vector<std::string> programFolders;
-    /// What the system's own programs and libraries lie below, whatever PATH says.
+    /// What the system's own programs lie below, whatever PATH says.
     std::string system = "/usr";
     std::string processes = "/proc";
     /// Whose processes count.

@@ -1,30 +1,14 @@
 #include "extensions/ExtensionControl.h"
 
+#include "extensions/StartDetached.h"
+
 #include <QFileInfo>
-#include <QProcess>
 
 #include <utility>
 
 namespace ExtensionsTool {
 
 using Activity = ExtensionStatus::Activity;
-
-namespace {
-
-/// In a session of its own, so that it outlives this program and the terminal that may have started this, and in no
-/// folder that may go.
-bool startDetached(const QString& program)
-{
-    QProcess process;
-    process.setProgram(program);
-    process.setWorkingDirectory(QStringLiteral("/"));
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    return process.startDetached();
-}
-
-} // namespace
 
 ExtensionControl::ExtensionControl(LinuxDesktop::SessionBus& bus, const AutostartFolders& folders,
                                    Extension extension, std::chrono::milliseconds patience)

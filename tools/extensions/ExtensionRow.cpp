@@ -9,14 +9,6 @@ namespace {
 
 constexpr int iconExtent = 48;
 
-QLabel* makeText(const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 StatusDot::Tone toneOf(const ExtensionStatus& status)
 {
     if (needsAttention(status))
@@ -27,8 +19,7 @@ StatusDot::Tone toneOf(const ExtensionStatus& status)
 } // namespace
 
 ExtensionRow::ExtensionRow(ExtensionControl& control, const QIcon& icon, QWidget* parent)
-    : QWidget(parent), m_control(control), m_dot(new StatusDot(this)), m_words(makeText({}, this)),
-      m_switch(new Switch(this))
+    : QWidget(parent), m_control(control), m_state(new StatusLine(this)), m_switch(new Switch(this))
 {
     const Extension& extension = control.extension();
     auto* picture = new QLabel(this);
@@ -40,8 +31,6 @@ ExtensionRow::ExtensionRow(ExtensionControl& control, const QIcon& icon, QWidget
     title->setFont(font);
     auto* explanation = makeText(extension.explanation, this);
     explanation->setForegroundRole(QPalette::PlaceholderText);
-    // Words that name a file may be copied.
-    m_words->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_switch->setAccessibleName(extension.title);
     layOut(picture, title, explanation);
 
@@ -60,22 +49,12 @@ ExtensionRow::ExtensionRow(ExtensionControl& control, const QIcon& icon, QWidget
 
 void ExtensionRow::layOut(QLabel* picture, QLabel* title, QLabel* explanation)
 {
-    // The dot stays with the first line of the words.
-    auto* dot = new QVBoxLayout;
-    dot->addSpacing((fontMetrics().height() - m_dot->height()) / 2);
-    dot->addWidget(m_dot);
-    dot->addStretch(1);
-    auto* state = new QHBoxLayout;
-    state->setSpacing(8);
-    state->addLayout(dot);
-    state->addWidget(m_words, 1);
-
     auto* texts = new QVBoxLayout;
     texts->setSpacing(3);
     texts->addWidget(title);
     texts->addWidget(explanation);
     texts->addSpacing(6);
-    texts->addLayout(state);
+    texts->addWidget(m_state);
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(16, 16, 16, 16);
@@ -89,8 +68,7 @@ void ExtensionRow::showStatus()
 {
     const ExtensionStatus& status = m_control.status();
     const QString words = inWords(status);
-    m_words->setText(words);
-    m_dot->setTone(toneOf(status));
+    m_state->tell(toneOf(status), words);
     m_switch->setOn(isOn(status));
     m_switch->setEnabled(status.hasBus);
     // Who hears the switch rather than sees the row is told the whole of it.

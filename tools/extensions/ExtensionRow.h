@@ -1,7 +1,7 @@
 #pragma once
 
 #include "extensions/ExtensionControl.h"
-#include "extensions/StatusDot.h"
+#include "extensions/StatusLine.h"
 #include "extensions/Switch.h"
 
 #include <QIcon>
@@ -23,8 +23,7 @@ private:
     void showStatus();
 
     ExtensionControl& m_control;
-    StatusDot* m_dot;
-    QLabel* m_words;
+    StatusLine* m_state;
     Switch* m_switch;
 };
 

@@ -2,6 +2,8 @@
 
 #include "extensions/Card.h"
 #include "extensions/ExtensionRow.h"
+#include "extensions/FileManagerSection.h"
+#include "extensions/StatusLine.h"
 
 #include <QEvent>
 #include <QKeySequence>
@@ -18,12 +20,12 @@ constexpr int initialWidth = 620;
 
 } // namespace
 
-ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& controls, const QIcon& icon)
+ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& controls, FileManagersControl& fileManagers,
+                                   const QIcon& icon)
 {
     setWindowTitle(QStringLiteral("Extensions"));
 
-    auto* introduction = new QLabel(QStringLiteral("Extensions bring Orvik Menu into other programs."), this);
-    introduction->setWordWrap(true);
+    auto* introduction = makeText(QStringLiteral("Extensions bring Orvik Menu into other programs."), this);
     introduction->setForegroundRole(QPalette::PlaceholderText);
 
     auto* card = new Card(this);
@@ -37,6 +39,8 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
     layout->setSpacing(14);
     layout->addWidget(introduction);
     layout->addWidget(card);
+    layout->addSpacing(6);
+    layout->addWidget(new FileManagerSection(fileManagers, this));
     layout->addStretch(1);
 
     for (const auto& keys :

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "extensions/ExtensionControl.h"
+#include "extensions/FileManagersControl.h"
 
 #include <QIcon>
 #include <QWidget>
@@ -9,13 +10,14 @@
 
 namespace ExtensionsTool {
 
-/// The window "Extensions": the list of them, each with its switch.
+/// The window "Extensions": the list of them, each with its switch, and of the file managers that they come into.
 class ExtensionsWindow : public QWidget {
     Q_OBJECT
 
 public:
     /// The controls must outlive the window. `icon` is shown beside each.
-    ExtensionsWindow(const std::vector<ExtensionControl*>& controls, const QIcon& icon);
+    ExtensionsWindow(const std::vector<ExtensionControl*>& controls, FileManagersControl& fileManagers,
+                     const QIcon& icon);
 
 protected:
     bool event(QEvent* event) override;

@@ -1,5 +1,6 @@
 #include "extensions/ExtensionControl.h"
 #include "extensions/ExtensionsWindow.h"
+#include "extensions/FileManagersControl.h"
 #include "platform/linux/program/Program.h"
 #include "settings/Deployment.h"
 
@@ -17,7 +18,8 @@ const ProgramDescription extensions = {
     // Of this window, not of any extension.
     .identifier = std::string(Deployment::applicationIdentifier) + ".extensions",
     .usage = R"(Usage: orvik-menu-extensions [OPTION]
-Shows the extensions of Orvik Menu and switches them on and off.
+Shows the extensions of Orvik Menu, switches them on and off, and tells how far
+they have come into each file manager.
 
   --help     print this text
   --version  print the version
@@ -48,7 +50,8 @@ int main(int argc, char** argv)
 {
     return Program::run(extensions, argc, argv, [](Program& program) {
         ExtensionControl control(program.bus(), autostartFolders(), menuExtension());
-        ExtensionsWindow window({&control}, Program::icon());
+        FileManagersControl fileManagers(MenuExtension::usualPlaces());
+        ExtensionsWindow window({&control}, fileManagers, Program::icon());
         return program.show(window);
     });
 }

@@ -83,11 +83,13 @@ TEST_F(Status, FindsTheBridgeWhereverADistributionHasItsLibraries)
 
 TEST_F(Status, DoesNotTakeABridgeThatTheFileManagerDoesNotLookFor)
 {
-    fs::rename(m_system.path("usr/lib"), m_system.path("usr/libraries"));
-    m_system.write("usr/local/lib/nemo/extensions-3.0/liborvik-menu-nemo.so");
-    EXPECT_EQ(nemo(), BridgeStatus::NotInstalled);
     m_system.installProgram("usr/local/bin/nemo");
-    EXPECT_EQ(nemo(), BridgeStatus::NotRunning) << "but one that lies beside it does";
+    EXPECT_EQ(nemo(), BridgeStatus::NotInstalled);
+    m_system.write("usr/local/lib/nemo/extensions-3.0/liborvik-menu-nemo.so");
+    EXPECT_EQ(nemo(), BridgeStatus::NotRunning);
+    fs::remove(m_system.path("usr/local/bin/nemo"));
+    fs::remove(m_system.path(nemoModule));
+    EXPECT_EQ(nemo(), BridgeStatus::NotInstalled);
 }
 
 TEST_F(Status, TakesAFolderNameForWhatItIs)
@@ -104,6 +106,8 @@ TEST_F(Status, LooksBehindAWrapper)
 {
     m_system.installProgram("usr/local/bin/nemo");
     m_system.run(10, program("nemo"), libc() + loaded(nemoModule));
+    EXPECT_EQ(nemo(), BridgeStatus::NotInstalled) << "that is another program";
+    m_system.write("usr/local/bin/nemo", "#!/bin/sh\nexec /usr/bin/nemo \"$@\"\n");
     EXPECT_EQ(nemo(), BridgeStatus::Loaded);
 }
 

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "extensions/StatusDot.h"
+
+#include <QLabel>
+#include <QWidget>
+
+namespace ExtensionsTool {
+
+/// A text of several lines where it needs them, without markup, at the side where the parent's rows begin.
+[[nodiscard]] QLabel* makeText(const QString& text, QWidget* parent);
+
+/// How things stand with something, in words, and a dot in the colour that goes with them.
+class StatusLine : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit StatusLine(QWidget* parent = nullptr);
+
+    void tell(StatusDot::Tone tone, const QString& words);
+
+private:
+    StatusDot* m_dot;
+    QLabel* m_words;
+};
+
+} // namespace ExtensionsTool
