@@ -80,6 +80,7 @@ packages_tests_desktop=(
   at-spi2-core
   dbus-x11
   libglib2.0-bin
+  nemo
   python3-dbus
   python3-gi
   python3-pyatspi

@@ -1,16 +1,19 @@
-"""The Extensions window: switching the companion on and off."""
+"""The Extensions window: switching the companion on and off, and how far the menu has come in the file managers."""
 
 import os
 import shutil
 import signal
+import subprocess
 import unittest
 
 from gi.repository import GLib
 
+from support import processes
 from support.buses import call, call_bus
 from support.case import DesktopTestCase
 from support.deployment import APPLICATION, EXTENSION
-from support.waiting import eventually, throughout
+from support.file_managers import FileManager
+from support.waiting import eventually, give_time, throughout
 
 WINDOW = "Extensions"
 TITLE = "Orvik Menu Extension"
@@ -21,6 +24,11 @@ ON = "It is running, and it starts at log-in."
 OFF = "It is switched off."
 ONLY_AT_LOG_IN = "It is set to start at log-in, but it is not running."
 ONLY_NOW = "It is running, but it is not set to start at log-in."
+
+NOT_RUNNING = "It is not running. It loads the menu when it starts."
+LOADED = "It has loaded the menu."
+NOT_LOADED = "It is running without the menu. Restarting it closes its windows."
+OLDER_LOADED = "It has loaded an older version of the menu. Restarting it closes its windows."
 
 # Takes from root what lets it write everywhere, so that it meets what anybody else meets.
 WITHOUT_PRIVILEGES = ([shutil.which("setpriv"), "--bounding-set=-dac_override,-dac_read_search"]
@@ -193,6 +201,116 @@ class ExtensionsWindow(DesktopTestCase):
         self.hands.press("Tab", "space")
         throughout(lambda: not os.path.exists(self.folder), "nothing is written", 0.3)
         self.assertEqual(program.complaints(), ["orvik-menu-extensions: there is no session bus"])
+
+    def install(self, name):
+        return FileManager(self.programs, self.home, name, self.addCleanup)
+
+    def row(self, name):
+        """The row of a file manager; LookupError where there is none."""
+        return Row(self.window, name)
+
+    def assertTells(self, name, words):
+        eventually(lambda: words in self.row(name).texts(), f"“{words}” beside {name}")
+
+    def test_a_file_manager_that_runs_without_the_menu_is_restarted_by_its_button(self):
+        nemo = self.install("nemo")
+        nemo.install_bridge()
+        process = nemo.start()
+        self.start()
+        self.assertTells("Nemo", NOT_LOADED)
+        self.save_picture("extensions-file-manager-not-loaded")
+        self.hands.click(self.row("Nemo").restart.extents)
+
+        self.assertTells("Nemo", NOT_RUNNING)
+        self.assertIsNotNone(process.wait(10))
+        self.assertEqual(nemo.asked(), ["-q"])
+        nemo.start(nemo.module)
+        self.assertTells("Nemo", LOADED)
+        self.assertRaises(LookupError, lambda: self.row("Nemo").restart)
+
+    def test_a_real_file_manager_is_restarted_by_its_button(self):
+        nemo = self.install("nemo")
+        shutil.copy("/usr/bin/nemo", nemo.program)
+        nemo.install_bridge()
+        real = processes.start([nemo.program, self.home.files], env=self.environment, stderr=subprocess.DEVNULL)
+        self.addCleanup(processes.end, real)
+        self.start()
+        self.assertTells("Nemo", NOT_LOADED)
+        eventually(lambda: self.windows.of_process(real.pid), "the file manager's window")
+        self.row("Nemo").restart.act("Press")
+
+        self.assertTells("Nemo", NOT_RUNNING)
+        self.assertEqual(real.wait(10), 0)
+
+    def test_an_update_of_the_menu_is_told_of_while_the_older_one_is_loaded(self):
+        caja, dolphin = self.install("caja"), self.install("dolphin")
+        for manager in caja, dolphin:
+            manager.install_bridge()
+            manager.start(manager.module)
+        self.start()
+        self.assertTells("Caja", LOADED)
+        self.assertTells("Dolphin", LOADED)
+        for manager in caja, dolphin:
+            manager.install_bridge()
+
+        self.assertTells("Caja", OLDER_LOADED)
+        self.assertEqual(self.row("Caja").restart.name, "Restart Caja")
+        self.assertTells("Dolphin", "It has loaded an older version of the menu. Close it and open it again.")
+        self.assertRaises(LookupError, lambda: self.row("Dolphin").restart)
+
+    def test_a_file_manager_without_the_menu_says_which_package_brings_it(self):
+        thunar = self.install("thunar")
+        self.start()
+        self.assertTells("Thunar", "The menu is missing. Install the package orvik-menu-thunar.")
+        thunar.install_bridge()
+
+        self.assertTells("Thunar", NOT_RUNNING)
+
+    def test_a_file_manager_that_is_installed_meanwhile_comes_to_the_list(self):
+        self.start()
+        nautilus = self.install("nautilus")
+        nautilus.install_bridge()
+        nautilus.start(nautilus.module)
+
+        self.assertTells("Files", LOADED)
+
+    def test_a_minimised_window_does_not_look_until_it_is_on_view_again(self):
+        nemo = self.install("nemo")
+        nemo.install_bridge()
+        self.start()
+        self.assertTells("Nemo", NOT_RUNNING)
+        window, = self.windows.of_process(self.program.process_id)
+        self.hands.iconify(window)
+        eventually(lambda: self.windows.is_iconified(window), "the window to be iconified")
+        # A look may be under way.
+        give_time(0.5)
+        told = self.row("Nemo").label(NOT_RUNNING)
+        nemo.start(nemo.module)
+        throughout(lambda: told.name == NOT_RUNNING, "the window tells what it told before", 3)
+        self.hands.activate(window)
+
+        self.assertTells("Nemo", LOADED)
+
+
+class Row:
+    """A file manager in the list."""
+
+    def __init__(self, window, name):
+        for group in window.all("filler"):
+            if name in (child.name for child in group.children if child.role == "label"):
+                self._group = group
+                return
+        raise LookupError(f"no {name} in the list")
+
+    def texts(self):
+        return [label.name for label in self._group.all("label")]
+
+    def label(self, text):
+        return self._group.find("label", text)
+
+    @property
+    def restart(self):
+        return self._group.find("push button")
 
 
 if __name__ == "__main__":

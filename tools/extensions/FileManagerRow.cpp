@@ -57,7 +57,6 @@ void FileManagerRow::showStatus()
     const QString words = inWords(manager, status);
     m_state->tell(toneOf(status), words);
     m_restart->setVisible(offersRestart(manager, status));
-    m_restart->setEnabled(!status.isClosing);
     m_restart->setAccessibleDescription(words);
     setVisible(isInstalled(status));
 }

@@ -17,14 +17,16 @@ _MODULES = {
 
 
 class FileManager:
-    """One of the person's own, which comes before any that the machine has. `programs` has the tests' programs."""
+    """One of the person's own, which comes before any that the machine has. `programs` has the tests' programs, and
+    `cleanup` takes what ends the processes."""
 
-    def __init__(self, programs, home, name):
+    def __init__(self, programs, home, name, cleanup):
         self._programs = programs
-        self._program = os.path.join(home.programs, name)
+        self._cleanup = cleanup
+        self.program = os.path.join(home.programs, name)
         self._environment = home.environment
         self.module = os.path.join(home.folder, "lib", _MODULES[name])
-        shutil.copy(os.path.join(programs, "orvik_file_manager_stand_in"), self._program)
+        shutil.copy(os.path.join(programs, "orvik_file_manager_stand_in"), self.program)
 
     def install_bridge(self):
         """Also in the place of one that is there, as an update does."""
@@ -35,13 +37,10 @@ class FileManager:
 
     def start(self, *modules):
         """Starts it with those modules. Answers the process."""
-        process = processes.start([self._program, *modules], env=self._environment)
+        process = processes.start([self.program, *modules], env=self._environment)
+        self._cleanup(processes.end, process)
         eventually(lambda: str(process.pid) in self._notes("running"), "the file manager to have started")
         return process
-
-    def be_stubborn(self):
-        with open(self._program + ".stubborn", "w", encoding="ascii"):
-            pass
 
     def asked(self):
         """The arguments of those who have asked it to end."""
@@ -49,7 +48,7 @@ class FileManager:
 
     def _notes(self, about):
         try:
-            with open(f"{self._program}.{about}", encoding="ascii") as file:
+            with open(f"{self.program}.{about}", encoding="ascii") as file:
                 return file.read().split()
         except FileNotFoundError:
             return []
