@@ -51,24 +51,17 @@ std::string nameIn(const std::string& folder)
     return name;
 }
 
-/// Whether the last call failed for want of a right, and not because there is no such thing.
-bool wasRefused()
-{
-    return errno == EACCES || errno == EPERM;
-}
-
-/// Nothing for one that has ended, or is the kernel's own.
-std::optional<Process> processIn(const std::string& folder)
+Process processIn(const std::string& folder)
 {
     std::array<char, PATH_MAX> buffer{};
     const ssize_t length = ::readlink((folder + "/exe").c_str(), buffer.data(), buffer.size());
     if (length < 0)
         // It may call itself anything, but there is no better answer.
-        return wasRefused() ? std::optional(Process{folder, {}, nameIn(folder)}) : std::nullopt;
+        return {folder, {}, nameIn(folder)};
     std::string program(buffer.data(), static_cast<std::size_t>(length));
     if (program.ends_with(deletedMark))
         program.resize(program.size() - deletedMark.size());
-    return Process{folder, std::move(program), {}};
+    return {folder, std::move(program), {}};
 }
 
 } // namespace
@@ -82,10 +75,8 @@ std::vector<Process> processesOfUser(const Places& places)
             continue;
         const std::string path = places.processes + '/' + entry->d_name;
         struct stat status = {};
-        if (::stat(path.c_str(), &status) != 0 || status.st_uid != places.user)
-            continue;
-        if (auto process = processIn(path))
-            processes.push_back(std::move(*process));
+        if (::stat(path.c_str(), &status) == 0 && status.st_uid == places.user)
+            processes.push_back(processIn(path));
     }
     return processes;
 }

@@ -131,6 +131,14 @@ TEST_F(Status, TellsThatAnOlderBridgeIsLoaded)
     }
 }
 
+TEST_F(Status, IsNotThatOfOtherFilesThatAreThereNoLonger)
+{
+    const std::string others = FakeSystem::loaded("/memfd:a buffer (deleted)") +
+                               loaded(libraries + "/nemo/extensions-3.0/another.so (deleted)");
+    m_system.run(10, program("nemo"), others + loaded(nemoModule) + others);
+    EXPECT_EQ(nemo(), BridgeStatus::Loaded);
+}
+
 TEST_F(Status, FollowsLinksOnTheWayToWhatTheSystemNames)
 {
     fs::rename(m_system.path("usr"), m_system.path("real"));
