@@ -75,7 +75,7 @@ std::optional<std::string> programOf(const FileManager& manager, const Places& p
     std::vector<std::string> folders = places.programFolders;
     folders.push_back(places.system + "/bin");
     for (const std::string& folder : folders) {
-        const auto program = resolved(fs::path(folder) / manager.program, X_OK);
+        auto program = resolved(fs::path(folder) / manager.program, X_OK);
         if (program && !isScript(*program))
             return program;
     }
@@ -89,7 +89,7 @@ std::optional<std::string> bridgeOf(const FileManager& manager, const std::strin
     const std::string module = '/' + std::string(manager.moduleFolder) + '/' + std::string(manager.module);
     // Debian has a folder for each kind of processor.
     for (const char* libraries : {"/lib/*", "/lib", "/lib64"}) {
-        for (const std::string& path : matches(prefix + libraries + module)) {
+        for (const std::string& path : matches(std::string(prefix).append(libraries).append(module))) {
             if (auto bridge = resolved(path, R_OK))
                 return bridge;
         }

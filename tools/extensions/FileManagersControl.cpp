@@ -82,7 +82,7 @@ void FileManagersControl::takeFound()
             status.trouble.clear();
         if (!needsRestart(status.bridge))
             status.isClosing = false;
-        setStatus(index, std::move(status));
+        setStatus(index, status);
     }
     lookLater();
 }
@@ -108,7 +108,7 @@ void FileManagersControl::restart(std::size_t index)
     status.trouble = status.isClosing ? QString() : QStringLiteral("It could not be asked to close.");
     if (status.isClosing)
         m_waits.at(index).start(m_patience);
-    setStatus(index, std::move(status));
+    setStatus(index, status);
     lookLater();
 }
 
@@ -117,10 +117,10 @@ void FileManagersControl::giveUp(std::size_t index)
     FileManagerStatus status = m_statuses.at(index);
     status.isClosing = false;
     status.trouble = QStringLiteral("It was asked to close, but it is still running.");
-    setStatus(index, std::move(status));
+    setStatus(index, status);
 }
 
-void FileManagersControl::setStatus(std::size_t index, FileManagerStatus status)
+void FileManagersControl::setStatus(std::size_t index, const FileManagerStatus& status)
 {
     if (!status.isClosing)
         m_waits.at(index).stop();

@@ -44,7 +44,7 @@ private:
     void takeFound();
     void lookLater();
     void giveUp(std::size_t index);
-    void setStatus(std::size_t index, FileManagerStatus status);
+    void setStatus(std::size_t index, const FileManagerStatus& status);
 
     const MenuExtension::Places m_places;
     const std::chrono::milliseconds m_patience;

@@ -16,10 +16,9 @@ const FileManager& managerOf(std::string_view program)
 
 TEST(FileManagers, AreNamedAsPeopleKnowThem)
 {
-    std::vector<std::string_view> names;
-    for (const FileManager& manager : fileManagers)
-        names.push_back(manager.name);
-    EXPECT_EQ(names, (std::vector<std::string_view>{"Files", "Nemo", "Caja", "Thunar", "Dolphin"}));
+    std::array<std::string_view, fileManagers.size()> names;
+    std::ranges::transform(fileManagers, names.begin(), &FileManager::name);
+    EXPECT_EQ(names, (std::array<std::string_view, 5>{"Files", "Nemo", "Caja", "Thunar", "Dolphin"}));
 }
 
 TEST(FileManagers, HaveAPackageEach)

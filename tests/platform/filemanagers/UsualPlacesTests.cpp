@@ -9,7 +9,8 @@ namespace {
 
 std::vector<std::string> programFoldersWith(const char* path)
 {
-    const std::string before = std::getenv("PATH");
+    const char* variable = std::getenv("PATH");
+    const std::string before = variable ? variable : "";
     ::setenv("PATH", path, 1);
     const Places places = usualPlaces();
     ::setenv("PATH", before.c_str(), 1);
