@@ -228,6 +228,22 @@ class ExtensionsWindow(DesktopTestCase):
         self.assertTells("Nemo", LOADED)
         self.assertRaises(LookupError, lambda: self.row("Nemo").restart)
 
+    def test_a_key_that_was_meant_for_a_button_that_has_gone_switches_nothing(self):
+        nemo = self.install("nemo")
+        nemo.install_bridge()
+        nemo.start()
+        self.start()
+        self.assertTells("Nemo", NOT_LOADED)
+        restart = self.row("Nemo").restart
+        for _ in range(10):
+            self.hands.press("Tab")
+            if eventually(self.window.focused, "something to have the keyboard") == restart:
+                break
+        self.hands.press("space")
+        self.assertTells("Nemo", NOT_RUNNING)
+        self.hands.press("space")
+        throughout(lambda: not os.path.exists(self.entry), "the companion is off", 0.5)
+
     def test_a_real_file_manager_is_restarted_by_its_button(self):
         nemo = self.install("nemo")
         shutil.copy("/usr/bin/nemo", nemo.program)

@@ -56,7 +56,11 @@ void FileManagerRow::showStatus()
     const FileManagerStatus& status = m_control.status(m_index);
     const QString words = inWords(manager, status);
     m_state->tell(toneOf(status), words);
-    m_restart->setVisible(offersRestart(manager, status));
+    const bool offers = offersRestart(manager, status);
+    // Else the next control would have the keyboard, and a key that is still meant for this one.
+    if (!offers)
+        m_restart->clearFocus();
+    m_restart->setVisible(offers);
     m_restart->setAccessibleDescription(words);
     setVisible(isInstalled(status));
 }
