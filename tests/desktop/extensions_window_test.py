@@ -27,8 +27,8 @@ ONLY_NOW = "It is running, but it is not set to start at log-in."
 
 NOT_RUNNING = "It is not running. It loads the menu when it starts."
 LOADED = "It has loaded the menu."
-NOT_LOADED = "It is running without the menu. Restarting it closes its windows."
-OLDER_LOADED = "It has loaded an older version of the menu. Restarting it closes its windows."
+NOT_LOADED = "It is running without the menu. Restarting it closes its windows and stops any copying."
+OLDER_LOADED = "It has loaded an older version of the menu. Restarting it closes its windows and stops any copying."
 
 # Takes from root what lets it write everywhere, so that it meets what anybody else meets.
 WITHOUT_PRIVILEGES = ([shutil.which("setpriv"), "--bounding-set=-dac_override,-dac_read_search"]

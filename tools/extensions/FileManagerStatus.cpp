@@ -10,7 +10,7 @@ namespace {
 QString afterwards(const FileManager& manager)
 {
     return quitCommand(manager).empty() ? QStringLiteral(" Close it and open it again.")
-                                        : QStringLiteral(" Restarting it closes its windows.");
+                                        : QStringLiteral(" Restarting it closes its windows and stops any copying.");
 }
 
 } // namespace

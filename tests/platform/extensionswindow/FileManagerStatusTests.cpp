@@ -27,9 +27,9 @@ TEST(FileManagerStatus, IsToldInWords)
     EXPECT_EQ(words(dolphin, {BridgeStatus::LoadedLater}), "It loads the menu when it needs it.");
     EXPECT_EQ(words(nemo, {BridgeStatus::Loaded}), "It has loaded the menu.");
     EXPECT_EQ(words(nemo, {BridgeStatus::NotLoaded}),
-              "It is running without the menu. Restarting it closes its windows.");
+              "It is running without the menu. Restarting it closes its windows and stops any copying.");
     EXPECT_EQ(words(nemo, {BridgeStatus::OlderLoaded}),
-              "It has loaded an older version of the menu. Restarting it closes its windows.");
+              "It has loaded an older version of the menu. Restarting it closes its windows and stops any copying.");
     EXPECT_EQ(words(dolphin, {BridgeStatus::OlderLoaded}),
               "It has loaded an older version of the menu. Close it and open it again.");
     EXPECT_EQ(words(nemo, {BridgeStatus::NotKnown}), "It is running. Whether it has loaded the menu is not known.");
