@@ -105,6 +105,14 @@ class Problem(DesktopTestCase):
                          {"Close", "Open Again", "Repair Settings"})
         self.save_picture("problem")
 
+    def test_it_is_told_which_process_has_stopped(self):
+        panel = self.stop_panel()
+
+        self.problem_window()
+        with open(f"/proc/{self.problem_process()}/environ", "rb") as file:
+            variables = file.read().split(b"\0")
+        self.assertIn(b"ORVIK_MENU_FATAL_PROCESS=%d" % panel.process_id, variables)
+
     def test_repairing_mends_the_settings_and_opens_the_panel_on_them(self):
         self.stop_panel()
         before = self.suite.bytes()

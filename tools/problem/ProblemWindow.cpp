@@ -88,11 +88,13 @@ ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon)
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     auto* open = new QPushButton(QStringLiteral("Open Again"), this);
     connect(open, &QPushButton::clicked, this, [this] { openAgain({}); });
-    std::vector<QPushButton*> buttons{close, open};
+    m_remedies = {open};
     if (!m_mends.empty()) {
-        buttons.push_back(new QPushButton(QStringLiteral("Repair Settings"), this));
-        connect(buttons.back(), &QPushButton::clicked, this, [this] { repair(); });
+        m_remedies.push_back(new QPushButton(QStringLiteral("Repair Settings"), this));
+        connect(m_remedies.back(), &QPushButton::clicked, this, [this] { repair(); });
     }
+    std::vector<QPushButton*> buttons = m_remedies;
+    buttons.insert(buttons.begin(), close);
     layOut(picture, {heading, reason, advice, m_trouble}, buttons);
     buttons.back()->setDefault(true);
     buttons.back()->setFocus();
@@ -150,10 +152,23 @@ void ProblemWindow::repair()
 
 void ProblemWindow::openAgain(const QString& tab)
 {
-    if (m_panel.openAgain(tab))
-        accept();
-    else
+    allow(false);
+    const bool hasEnded = m_panel.whenEnded(*this, [this, tab] {
+        if (StoppedPanel::openAgain(tab)) {
+            accept();
+            return;
+        }
         tell(QStringLiteral("Orvik Menu could not be started."));
+        allow(true);
+    });
+    if (!hasEnded)
+        tell(QStringLiteral("Orvik Menu is still ending. It opens again right after."));
+}
+
+void ProblemWindow::allow(bool remedies)
+{
+    for (QPushButton* remedy : m_remedies)
+        remedy->setEnabled(remedies);
 }
 
 void ProblemWindow::tell(const QString& trouble)

@@ -24,11 +24,13 @@ private:
     void layOut(QLabel* picture, const std::vector<QLabel*>& texts, const std::vector<QPushButton*>& buttons);
     void repair();
     void openAgain(const QString& tab);
+    void allow(bool remedies);
     void tell(const QString& trouble);
 
     const StoppedPanel& m_panel;
     const std::vector<Mend> m_mends;
     QLabel* m_trouble;
+    std::vector<QPushButton*> m_remedies;
 };
 
 } // namespace ProblemTool

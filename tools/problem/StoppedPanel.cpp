@@ -1,15 +1,13 @@
 #include "problem/StoppedPanel.h"
 
 #include "platform/linux/program/LastWords.h"
-#include "platform/linux/system/Command.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QSocketNotifier>
 
-#include <chrono>
+#include <poll.h>
 #include <string>
-#include <thread>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -17,14 +15,33 @@ namespace ProblemTool {
 
 namespace Command = LinuxDesktop::Command;
 
-StoppedPanel::StoppedPanel() : m_words(qEnvironmentVariable(LinuxDesktop::fatalErrorVariable)), m_process(::getppid())
+StoppedPanel::StoppedPanel()
+    : m_words(qEnvironmentVariable(LinuxDesktop::fatalErrorVariable)),
+      m_process(qEnvironmentVariableIntValue(LinuxDesktop::fatalProcessVariable))
 {
     qunsetenv(LinuxDesktop::fatalErrorVariable);
+    qunsetenv(LinuxDesktop::fatalProcessVariable);
 }
 
-bool StoppedPanel::openAgain(const QString& tab) const
+bool StoppedPanel::whenEnded(QObject& context, const std::function<void()>& ended) const
 {
-    waitForEnd();
+    // Of no file nothing is told.
+    pollfd process{m_process.ended().get(), POLLIN, 0};
+    if (process.fd < 0 || ::poll(&process, 1, 0) > 0) {
+        ended();
+        return true;
+    }
+    auto* end = new QSocketNotifier(process.fd, QSocketNotifier::Read, &context);
+    QObject::connect(end, &QSocketNotifier::activated, &context, [end, ended] {
+        end->setEnabled(false);
+        end->deleteLater();
+        ended();
+    });
+    return false;
+}
+
+bool StoppedPanel::openAgain(const QString& tab)
+{
     const std::string program =
         QFile::encodeName(QCoreApplication::applicationDirPath() + QStringLiteral("/orvik-menu")).toStdString();
     std::vector<std::string> arguments{program};
@@ -33,16 +50,6 @@ bool StoppedPanel::openAgain(const QString& tab) const
         arguments.push_back(tab.toStdString());
     }
     return Command::start(program, std::move(arguments), Command::environment()).has_value();
-}
-
-/// While its memory is written down it has its name on the session bus still, and another panel would leave the field
-/// to it.
-void StoppedPanel::waitForEnd() const
-{
-    constexpr std::chrono::milliseconds pause{50};
-    constexpr int mostPauses = 100;
-    for (int i = 0; i < mostPauses && !m_words.isEmpty() && ::getppid() == m_process; ++i)
-        std::this_thread::sleep_for(pause);
 }
 
 } // namespace ProblemTool

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "platform/linux/system/Command.h"
+
 #include <QString>
 
-#include <sys/types.h>
+#include <functional>
+
+class QObject;
 
 namespace ProblemTool {
 
@@ -14,14 +18,16 @@ public:
 
     /// What it said; empty where there is none.
     [[nodiscard]] const QString& words() const { return m_words; }
+    /// Calls `ended` once its process has ended, unless `context` goes before; at once where it has. Whether it has.
+    /// While its memory is written down it has its name on the session bus still, and another panel would leave the
+    /// field to it.
+    bool whenEnded(QObject& context, const std::function<void()>& ended) const;
     /// Starts the panel again, on the tab of a title unless that is empty. False where it cannot be started.
-    [[nodiscard]] bool openAgain(const QString& tab) const;
+    [[nodiscard]] static bool openAgain(const QString& tab);
 
 private:
-    void waitForEnd() const;
-
     QString m_words;
-    pid_t m_process;
+    LinuxDesktop::Command::Process m_process;
 };
 
 } // namespace ProblemTool

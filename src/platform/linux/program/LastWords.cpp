@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 
 namespace LinuxDesktop {
@@ -32,6 +33,7 @@ void startProblemWindow(std::string_view what)
     const std::string program = folder / "orvik-menu-problem";
     auto environment = Command::environment();
     environment.push_back(std::string(fatalErrorVariable) + '=' + std::string(what.substr(0, longestWords)));
+    environment.push_back(std::string(fatalProcessVariable) + '=' + std::to_string(::getpid()));
     static_cast<void>(Command::start(program, {program}, std::move(environment)));
 }
 

@@ -17,10 +17,10 @@ namespace LinuxDesktop::Command {
 /// A started program. It runs on when this is destroyed, also after the end of this process.
 class Process {
 public:
-    /// `id` is a child of this process that nobody else waits for.
+    /// `id` is a child of this process that nobody else waits for; of another process only ended() can be asked.
     explicit Process(pid_t id);
 
-    /// Readable once the program has ended.
+    /// Readable once the program has ended; no file where there was none of that identifier any more.
     [[nodiscard]] const FileDescriptor& ended() const { return m_ended; }
     /// The exit status of a program that has ended, which is cleared away; nothing for one that was killed, or that
     /// runs still.
