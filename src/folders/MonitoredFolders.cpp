@@ -68,8 +68,8 @@ void MonitoredFolders::keepBookmark(const NS::URL& url, NS::UserDefaults* suite)
 
 void MonitoredFolders::removeAt(std::ptrdiff_t row)
 {
-    requireRow(row, arrurl.size());
-    requireRow(row, arrstate.size());
+    requireRow(row, arrurl.size(), userdefaultskey);
+    requireRow(row, arrstate.size(), userdefaultsstate);
     arrurl.erase(arrurl.begin() + row);
     arrstate.erase(arrstate.begin() + row);
     storeFolders(openSharedSuite().get());
@@ -78,7 +78,7 @@ void MonitoredFolders::removeAt(std::ptrdiff_t row)
 
 void MonitoredFolders::toggleAt(std::ptrdiff_t row)
 {
-    requireRow(row, arrstate.size());
+    requireRow(row, arrstate.size(), userdefaultsstate);
     std::int64_t& flag = arrstate[static_cast<std::size_t>(row)];
     flag = flag == active ? inactive : active;
 }
@@ -99,13 +99,13 @@ void MonitoredFolders::publish() const
 
 const std::string& MonitoredFolders::pathAt(std::ptrdiff_t row) const
 {
-    requireRow(row, arrurl.size());
+    requireRow(row, arrurl.size(), userdefaultskey);
     return arrurl[static_cast<std::size_t>(row)];
 }
 
 bool MonitoredFolders::isActiveAt(std::ptrdiff_t row) const
 {
-    requireRow(row, arrstate.size());
+    requireRow(row, arrstate.size(), userdefaultsstate);
     return arrstate[static_cast<std::size_t>(row)] == active;
 }
 
@@ -117,8 +117,8 @@ void MonitoredFolders::storeFolders(NS::UserDefaults* suite) const
     store(arrstate, *suite, userdefaultsstate);
 }
 
-void MonitoredFolders::requireRow(std::ptrdiff_t row, std::size_t rows) const
+void MonitoredFolders::requireRow(std::ptrdiff_t row, std::size_t rows, std::string_view key)
 {
     if (row < 0 || static_cast<std::size_t>(row) >= rows)
-        NS::fatalError("the folders have no row " + std::to_string(row));
+        NS::fatalError(std::string(key) + " has no row " + std::to_string(row));
 }

@@ -48,7 +48,7 @@ public:
 private:
     void storeFolders(NS::UserDefaults* suite) const;
     void keepBookmark(const NS::URL& url, NS::UserDefaults* suite);
-    void requireRow(std::ptrdiff_t row, std::size_t rows) const;
+    static void requireRow(std::ptrdiff_t row, std::size_t rows, std::string_view key);
 
     std::shared_ptr<RunBookmarks> m_runBookmarks;
 };

@@ -71,6 +71,9 @@ void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
 
 void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
 {
+    // Beside the newer list it is never read.
+    if (valueIn(suite, Settings::menuArrayDic.key))
+        return;
     const std::string_view key = Settings::save14.key;
     const NS::Value::Array* stored = arrayIn(suite, key);
     if (!stored) {

@@ -19,5 +19,6 @@ struct Mend {
 
 /// What has to change in the shared suite so that the panel can work with it; none where nothing has to. An element
 /// of a wrong kind is dropped from a list of paths, with the flag of its place; a flag that is missing or of a wrong
-/// kind becomes 1, one too many goes; what is no list at all goes. Any thread.
+/// kind becomes 1, one too many goes; what is no list at all goes; what the panel never reads is left alone. Any
+/// thread.
 [[nodiscard]] std::vector<Mend> mendsOf(const NS::Value::Dictionary& suite);

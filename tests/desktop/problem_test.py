@@ -22,6 +22,8 @@ SWITCH = "ORVIK_MENU_NO_PROBLEM_WINDOW"
 TITLE = "Orvik Menu"
 STOPPED = "Orvik Menu had to stop"
 WRONG = "The list that says which folders are active does not match the list of folders."
+REMEDY = "A folder without an entry of its own becomes active. A copy of the settings as they are now is kept."
+CURE = "Repair Settings mends this. " + REMEDY
 FOLDERS = ["/srv", "/usr"]
 # How long is looked at what must not happen.
 A_MOMENT = 0.7
@@ -100,7 +102,9 @@ class Problem(DesktopTestCase):
         self.assertEqual(window.role, "dialog")
         texts = self.texts(window)
         self.assertIn(STOPPED, texts)
+        self.assertIn("What it said: foldersArraystate has no row 1", texts)
         self.assertIn(WRONG, texts)
+        self.assertIn(CURE, texts)
         self.assertEqual({button.name for button in window.all("push button")},
                          {"Close", "Open Again", "Repair Settings"})
         self.save_picture("problem")
@@ -183,6 +187,19 @@ class Problem(DesktopTestCase):
         self.assertIn("What it said: there is no tab 99", texts)
         self.assertEqual({button.name for button in window.all("push button")}, {"Close", "Open Again"})
         self.save_picture("problem-unexplained")
+
+    def test_no_cure_is_promised_of_what_the_settings_do_not_explain(self):
+        self.store_what_does_not_match()
+        self.start_panel(program=os.path.join(self.programs, "orvik-menu-problem"), without=[SWITCH],
+                         ORVIK_MENU_FATAL_ERROR="there is no tab 99")
+
+        window = self.problem_window()
+        texts = self.texts(window)
+        self.assertIn("What it said: there is no tab 99", texts)
+        self.assertIn(WRONG, texts)
+        self.assertIn("That may not be why it stopped. Repair Settings mends the settings. " + REMEDY, texts)
+        self.assertTrue(window.find("push button", "Repair Settings"))
+        self.save_picture("problem-besides")
 
     def test_an_older_record_that_ends_the_panel_at_its_start_is_repaired_too(self):
         self.suite.write(save14="no list")

@@ -662,7 +662,7 @@ TEST_F(FoldersScreenDeathTest, ConfirmingARemovalWithoutASelectionIsFatalBeforeA
             platform.calls.echoOnStandardError();
             answer(ok);
         },
-        fatalLineAfter("foldersArrvc.tblview.selectedRow", "the folders have no row -1"));
+        fatalLineAfter("foldersArrvc.tblview.selectedRow", "foldersArray has no row -1"));
 }
 
 TEST_F(FoldersScreenDeathTest, ARowPastTheFlagsIsFatalAtItsCheckbox)
@@ -674,7 +674,7 @@ TEST_F(FoldersScreenDeathTest, ARowPastTheFlagsIsFatalAtItsCheckbox)
             platform.calls.echoOnStandardError();
             open();
         },
-        fatalLineAfter(R"(tblcell#2.imgview.setImage("icon of /b"))", "the folders have no row 1"));
+        fatalLineAfter(R"(tblcell#2.imgview.setImage("icon of /b"))", "foldersArraystate has no row 1"));
 }
 
 TEST_F(FoldersScreenDeathTest, ARowOutsideThePathsIsFatal)
@@ -682,7 +682,7 @@ TEST_F(FoldersScreenDeathTest, ARowOutsideThePathsIsFatal)
     openWith({"/a"}, {1, 1});
     for (const std::ptrdiff_t outside : {-1, 1}) {
         EXPECT_DEATH(screen->tableView_viewForTableColumn_row(table(), nullptr, outside),
-                     fatalLine("the folders have no row " + std::to_string(outside)));
+                     fatalLine("foldersArray has no row " + std::to_string(outside)));
     }
 }
 
@@ -707,7 +707,7 @@ TEST_F(FoldersScreenDeathTest, ATagOutsideTheFlagsIsFatal)
     openWith({"/a"}, {1});
     for (const std::ptrdiff_t tag : {-1, 1}) {
         checkbox(0).setTag(tag);
-        EXPECT_DEATH(checkbox(0).click(), fatalLine("the folders have no row " + std::to_string(tag)));
+        EXPECT_DEATH(checkbox(0).click(), fatalLine("foldersArraystate has no row " + std::to_string(tag)));
     }
 }
 

@@ -587,15 +587,15 @@ TEST_F(FoldersDeathTest, RemovingARowOutsideTheListsIsFatalBeforeAnythingIsWritt
     loadWith({"/a", "/b"}, {1, 1});
     for (const std::ptrdiff_t row : {-1, 2, 1000})
         EXPECT_DEATH(withoutACall([&] { folders.removeAt(row); }),
-                     fatalLine("the folders have no row " + std::to_string(row)));
+                     fatalLine("foldersArray has no row " + std::to_string(row)));
 }
 
 TEST_F(FoldersDeathTest, RemovingARowThatOneListDoesNotHaveIsFatalBeforeAnythingIsWritten)
 {
     loadWith({"/a", "/b"}, {1});
-    EXPECT_DEATH(withoutACall([&] { folders.removeAt(1); }), fatalLine("the folders have no row 1"));
+    EXPECT_DEATH(withoutACall([&] { folders.removeAt(1); }), fatalLine("foldersArraystate has no row 1"));
     loadWith({"/a"}, {1, 1});
-    EXPECT_DEATH(withoutACall([&] { folders.removeAt(1); }), fatalLine("the folders have no row 1"));
+    EXPECT_DEATH(withoutACall([&] { folders.removeAt(1); }), fatalLine("foldersArray has no row 1"));
 }
 
 TEST_F(FoldersDeathTest, TogglingARowOutsideTheFlagsIsFatal)
@@ -603,17 +603,17 @@ TEST_F(FoldersDeathTest, TogglingARowOutsideTheFlagsIsFatal)
     loadWith({"/a", "/b", "/c"}, {1, 1});
     for (const std::ptrdiff_t row : {-1, 2, 1000})
         EXPECT_DEATH(withoutACall([&] { folders.toggleAt(row); }),
-                     fatalLine("the folders have no row " + std::to_string(row)));
+                     fatalLine("foldersArraystate has no row " + std::to_string(row)));
 }
 
 TEST_F(FoldersDeathTest, LookingOutsideTheListsIsFatal)
 {
     loadWith({"/a", "/b"}, {1});
 
-    EXPECT_DEATH(std::ignore = folders.pathAt(-1), fatalLine("the folders have no row -1"));
-    EXPECT_DEATH(std::ignore = folders.pathAt(2), fatalLine("the folders have no row 2"));
-    EXPECT_DEATH(std::ignore = folders.isActiveAt(-1), fatalLine("the folders have no row -1"));
-    EXPECT_DEATH(std::ignore = folders.isActiveAt(1), fatalLine("the folders have no row 1"));
+    EXPECT_DEATH(std::ignore = folders.pathAt(-1), fatalLine("foldersArray has no row -1"));
+    EXPECT_DEATH(std::ignore = folders.pathAt(2), fatalLine("foldersArray has no row 2"));
+    EXPECT_DEATH(std::ignore = folders.isActiveAt(-1), fatalLine("foldersArraystate has no row -1"));
+    EXPECT_DEATH(std::ignore = folders.isActiveAt(1), fatalLine("foldersArraystate has no row 1"));
 }
 
 } // namespace

@@ -76,6 +76,14 @@ TEST(Repair, SwitchesAnOlderMenuItemOnWhoseFlagIsNoNumber)
     EXPECT_EQ(mended({{"save14", Array{0, "0", 0, false}}}), (Dictionary{{"save14", Array{0, 1, 0, 1}}}));
 }
 
+TEST(Repair, LeavesAnOlderListAloneThatIsNeverReadBesideTheNewerOne)
+{
+    for (const NS::Value& newer : {NS::Value(Array{Dictionary{{"title", "x"}}}), NS::Value("of the wrong kind")}) {
+        for (const NS::Value& older : {NS::Value("no list"), NS::Value(Array{"0"})})
+            EXPECT_TRUE(mendsOf({{"menuArrayDic", newer}, {"save14", older}}).empty());
+    }
+}
+
 TEST(Repair, LeavesEverythingElseAlone)
 {
     Dictionary suite = folders(Array{"/a"}, Array{});

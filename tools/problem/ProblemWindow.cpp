@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <string>
 
 namespace ProblemTool {
@@ -30,34 +31,46 @@ QString tabOf(const Mend& mend)
     return mend.key == Settings::save14.key ? QStringLiteral("Menu Items") : QStringLiteral("Folders");
 }
 
+QString quotationOf(const QString& words)
+{
+    // They are short, but for names.
+    constexpr qsizetype longest = 400;
+    if (words.isEmpty())
+        return {};
+    return QStringLiteral("What it said: ") + (words.size() > longest ? words.left(longest) + u'…' : words);
+}
+
 QString reasonFor(const std::vector<Mend>& mends, const QString& words)
 {
-    // What the panel says in a fatal error is short, but for names.
-    constexpr qsizetype longest = 400;
-    if (!mends.empty()) {
-        QStringList reasons;
-        for (const Mend& mend : mends)
-            reasons.append(QString::fromStdString(mend.wrong));
-        return reasons.join(QLatin1Char('\n'));
-    }
-    if (words.isEmpty())
-        return QStringLiteral("There is nothing to repair in the settings.");
-    return QStringLiteral("What it said: ") + (words.size() > longest ? words.left(longest) + u'…' : words);
+    QStringList reasons;
+    for (const Mend& mend : mends)
+        reasons.append(QString::fromStdString(mend.wrong));
+    if (words.isEmpty() && mends.empty())
+        reasons.append(QStringLiteral("There is nothing to repair in the settings."));
+    return reasons.join(QLatin1Char('\n'));
+}
+
+/// It names the key of settings that it cannot work with.
+bool explains(const std::vector<Mend>& mends, const QString& words)
+{
+    const QStringList said = words.split(QLatin1Char(' '));
+    return std::ranges::any_of(mends, [&](const Mend& mend) { return said.contains(QString::fromUtf8(mend.key)); });
 }
 
 QString adviceFor(const std::vector<Mend>& mends, const QString& words)
 {
-    if (!mends.empty()) {
-        QStringList remedies;
-        for (const Mend& mend : mends) {
-            if (const auto remedy = QString::fromStdString(mend.remedy); !remedies.contains(remedy))
-                remedies.append(remedy);
-        }
-        return QStringLiteral("Repair Settings mends this. %1 A copy of the settings as they are now is kept.")
-            .arg(remedies.join(QLatin1Char(' ')));
+    if (mends.empty())
+        return words.isEmpty() ? QString()
+                               : QStringLiteral("Nothing in the settings explains it. They are as they were.");
+    QStringList remedies;
+    for (const Mend& mend : mends) {
+        if (const auto remedy = QString::fromStdString(mend.remedy); !remedies.contains(remedy))
+            remedies.append(remedy);
     }
-    return words.isEmpty() ? QString()
-                           : QStringLiteral("Nothing in the settings explains it. They are as they were.");
+    return (words.isEmpty() || explains(mends, words)
+                ? QStringLiteral("Repair Settings mends this. ")
+                : QStringLiteral("That may not be why it stopped. Repair Settings mends the settings. ")) +
+           remedies.join(QLatin1Char(' ')) + QStringLiteral(" A copy of the settings as they are now is kept.");
 }
 
 QString headingFor(const QString& words)
@@ -78,11 +91,12 @@ ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon)
     font.setPointSizeF(font.pointSizeF() * 1.25);
     font.setWeight(QFont::DemiBold);
     heading->setFont(font);
+    auto* quotation = new QLabel(quotationOf(panel.words()), this);
     auto* reason = new QLabel(reasonFor(m_mends, panel.words()), this);
     auto* advice = new QLabel(adviceFor(m_mends, panel.words()), this);
     advice->setForegroundRole(QPalette::PlaceholderText);
-    advice->setHidden(advice->text().isEmpty());
-    m_trouble->hide();
+    for (QLabel* text : {quotation, reason, advice, m_trouble})
+        text->setHidden(text->text().isEmpty());
 
     auto* close = new QPushButton(QStringLiteral("Close"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -95,11 +109,12 @@ ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon)
     }
     std::vector<QPushButton*> buttons = m_remedies;
     buttons.insert(buttons.begin(), close);
-    layOut(picture, {heading, reason, advice, m_trouble}, buttons);
+    layOut(picture, {heading, quotation, reason, advice, m_trouble}, buttons);
     buttons.back()->setDefault(true);
     buttons.back()->setFocus();
     // What is read out when the window comes.
-    setAccessibleDescription(heading->text() + QStringLiteral(". ") + reason->text() + u' ' + advice->text());
+    setAccessibleDescription(heading->text() + QStringLiteral(". ") +
+                             QStringList{quotation->text(), reason->text(), advice->text()}.join(u' ').simplified());
 }
 
 void ProblemWindow::layOut(QLabel* picture, const std::vector<QLabel*>& texts,
