@@ -6,21 +6,24 @@ namespace RepairTool {
 
 LinuxDesktop::Result<Repair> repairSuite(LinuxDesktop::Domain& suite)
 {
-    std::vector<Mend> mends = mendsOf(suite.contents().value_or(NS::Value::Dictionary{}));
-    if (mends.empty())
+    // Sound settings are nobody's to lock.
+    if (mendsOf(suite.contents().value_or(NS::Value::Dictionary{})).empty())
         return Repair{};
-    auto kept = suite.keepFile();
+    Repair repair;
+    auto kept = suite.editKeepingFile([&repair](NS::Value::Dictionary& values) {
+        repair.mends = mendsOf(values);
+        for (const Mend& mend : repair.mends) {
+            if (mend.value)
+                values.insert_or_assign(std::string(mend.key), *mend.value);
+            else
+                values.erase(std::string(mend.key));
+        }
+    });
     if (!kept)
         return LinuxDesktop::Failure{kept.error()};
-    for (const Mend& mend : mends) {
-        if (mend.value)
-            suite.setObject_forKey(*mend.value, mend.key);
-        else
-            suite.removeObjectForKey(mend.key);
-    }
-    if (!suite.finish())
-        return LinuxDesktop::Failure{"could not store in " + suite.path()};
-    return Repair{std::move(mends), std::move(*kept)};
+    suite.finish();
+    repair.keptFile = std::move(*kept);
+    return repair;
 }
 
 } // namespace RepairTool

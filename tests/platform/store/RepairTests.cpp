@@ -4,14 +4,18 @@
 #include "settings/Deployment.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <random>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -171,6 +175,59 @@ TEST_F(RepairProgram, SaysThatItCouldNotKeepTheFileAndChangesNothing)
     });
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(readFile(file()), before);
+}
+
+/// Another program that writes when somebody is about to take the lock for the first time.
+class WritesBeforeTheLock : public LinuxDesktop::FileOperations {
+public:
+    explicit WritesBeforeTheLock(std::function<void()> write) : m_write(std::move(write)) {}
+
+    LinuxDesktop::FileDescriptor open(const std::string& path, int flags, mode_t mode) override
+    {
+        if (const auto write = path.ends_with(".lock") ? std::exchange(m_write, nullptr) : nullptr)
+            write();
+        return FileOperations::open(path, flags, mode);
+    }
+
+private:
+    std::function<void()> m_write;
+};
+
+TEST_F(RepairProgram, MendsWhatAnotherProgramHasWrittenMeanwhile)
+{
+    const Dictionary sound{{"foldersArray", Array{"/a", "/b", "/c"}}, {"foldersArraystate", Array{0, 0, 1}}};
+    const Dictionary wrongToo{{"foldersArray", Array{"/a", "/b", "/c"}}, {"foldersArraystate", Array{0, 0}}};
+    for (const Dictionary& written : {sound, wrongToo}) {
+        store(broken);
+        LinuxDesktop::Store store(folder(), std::make_shared<WritesBeforeTheLock>([&] { this->store(written); }));
+
+        const auto repaired = RepairTool::repairSuite(*store.open(Deployment::suiteName));
+
+        ASSERT_TRUE(repaired) << repaired.error();
+        EXPECT_EQ(stored(), sound);
+        EXPECT_EQ(repaired->mends.empty(), written == sound);
+        EXPECT_EQ(repaired->keptFile.empty(), written == sound);
+    }
+    ASSERT_EQ(kept().size(), 1);
+    EXPECT_NE(readFile(kept().front()).find("/c"), std::string::npos);
+}
+
+TEST_F(RepairProgram, LeavesNothingInMemoryThatCouldNotBeStored)
+{
+    class NothingReplaced : public LinuxDesktop::FileOperations {
+        int rename(const std::string&, const std::string&) override
+        {
+            errno = EIO;
+            return -1;
+        }
+    };
+    store(broken);
+    LinuxDesktop::Store store(folder(), std::make_shared<NothingReplaced>());
+    const auto suite = store.open(Deployment::suiteName);
+
+    EXPECT_FALSE(RepairTool::repairSuite(*suite));
+
+    EXPECT_EQ(suite->contents(), broken);
 }
 
 TEST_F(RepairProgram, LeavesTheOldSettingsOrTheMendedOnesWhenItIsKilled)

@@ -131,17 +131,39 @@ std::optional<NS::Value::Dictionary> Domain::contents()
     return contents;
 }
 
-Result<std::string> Domain::keepFile()
+Result<std::string> Domain::editKeepingFile(const Edit& edit)
 {
     const std::lock_guard writing(m_writing);
     Trouble trouble{};
     const auto hold = lockFiles(Clock::now() + DomainLock::longestWait, trouble);
     if (!hold)
         return Failure{trouble.what};
-    const Snapshot found = m_file.read();
+    Snapshot found = repairLocked(m_file.readPatiently());
     if (found.state() != Snapshot::State::Readable)
         return Failure{"could not read " + m_file.path()};
-    return m_file.keep(found);
+    Changes waiting;
+    {
+        const std::lock_guard state(m_state);
+        waiting = m_changes;
+    }
+    const NS::Value::Dictionary before = waiting.over(found.values());
+    NS::Value::Dictionary values = before;
+    edit(values);
+    if (PropertyList::identical(values, before))
+        return std::string();
+
+    auto kept = m_file.keep(found);
+    if (!kept)
+        return kept;
+    Changes changes;
+    changes.replaceAll(values);
+    auto written = writeLocked(std::move(found), changes, trouble);
+    if (!written)
+        return Failure{trouble.what};
+    const std::lock_guard state(m_state);
+    m_snapshot = std::move(*written);
+    m_changes.forget(waiting);
+    return kept;
 }
 
 bool Domain::isAccessible()
@@ -375,10 +397,12 @@ std::optional<Snapshot> Domain::write(const Changes& changes, const Snapshot::Sh
         return std::nullopt;
     }
     const auto hold = lockFiles(deadline, trouble);
-    if (!hold)
-        return std::nullopt;
+    return hold ? writeLocked(repairLocked(m_file.readPatiently(known)), changes, trouble) : std::nullopt;
+}
 
-    Snapshot found = repairLocked(m_file.readPatiently(known));
+/// For the holder of the lock, who has found that in the file.
+std::optional<Snapshot> Domain::writeLocked(Snapshot found, const Changes& changes, Trouble& trouble)
+{
     if (found.state() == Snapshot::State::Damaged || found.state() == Snapshot::State::Inaccessible) {
         trouble.what = "could not read " + m_file.path() + ": " + found.why();
         return std::nullopt;

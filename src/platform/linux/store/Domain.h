@@ -10,6 +10,7 @@
 #include "platform/linux/store/SettingsFile.h"
 #include "platform/linux/store/Snapshot.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -49,9 +50,12 @@ public:
     /// copy.
     bool finish();
 
-    /// Keeps the file as it is now, for who is about to replace what is in it on the user's behalf: durably, under a
-    /// name like a damaged one's, which it gives.
-    [[nodiscard]] Result<std::string> keepFile();
+    /// Changes what is in the domain.
+    using Edit = std::function<void(NS::Value::Dictionary& values)>;
+    /// Has `edit` change what is in the domain on the user's behalf, at once and in one step: nobody writes between
+    /// what it sees and what it leaves. Where that is something else the file is kept first, durably, under a name
+    /// like a damaged one's, which is given; nothing else is kept. After a failure nothing of the edit stays.
+    [[nodiscard]] Result<std::string> editKeepingFile(const Edit& edit);
 
     /// Whether the file, if there is one, can be read at all.
     [[nodiscard]] bool isAccessible();
@@ -95,6 +99,7 @@ private:
     // For the holder of m_writing; on failure they fill `trouble`.
     [[nodiscard]] std::optional<Snapshot> write(const Changes& changes, const Snapshot::SharedContent& known,
                                                 Clock::time_point deadline, Trouble& trouble);
+    [[nodiscard]] std::optional<Snapshot> writeLocked(Snapshot found, const Changes& changes, Trouble& trouble);
     [[nodiscard]] std::optional<DomainLock::Hold> lockFiles(Clock::time_point deadline, Trouble& trouble);
     [[nodiscard]] Snapshot repairLocked(Snapshot found);
     [[nodiscard]] Snapshot withStandIn(Snapshot damaged, const std::string& trouble);
