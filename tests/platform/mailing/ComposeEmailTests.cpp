@@ -16,6 +16,8 @@
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <map>
+#include <optional>
 #include <sys/stat.h>
 #include <vector>
 
@@ -225,6 +227,65 @@ TEST_F(Mail, SurvivesTheRealCommandWhateverTheName)
             EXPECT_EQ(attached.find(','), std::string::npos) << attached;
             forget();
         }
+    }
+}
+
+/// Lets variables count for a test alone.
+class WithVariables {
+public:
+    explicit WithVariables(std::map<QByteArray, std::optional<QByteArray>> variables)
+    {
+        for (const auto& [name, value] : variables) {
+            m_before.emplace(name, qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt);
+            set(name, value);
+        }
+    }
+    ~WithVariables()
+    {
+        for (const auto& [name, value] : m_before)
+            set(name, value);
+    }
+    WithVariables(const WithVariables&) = delete;
+    WithVariables& operator=(const WithVariables&) = delete;
+
+private:
+    static void set(const QByteArray& name, const std::optional<QByteArray>& value)
+    {
+        if (value)
+            qputenv(name, *value);
+        else
+            qunsetenv(name);
+    }
+
+    std::map<QByteArray, std::optional<QByteArray>> m_before;
+};
+
+TEST_F(Mail, GoesToNoBrowserWhereTheRealCommandFindsNoMailProgram)
+{
+    const QByteArray none = (base() / "none").c_str();
+    const WithVariables nobodyIsRegistered({{"HOME", none},
+                                            {"XDG_DATA_HOME", none},
+                                            {"XDG_CONFIG_HOME", none},
+                                            {"XDG_DATA_DIRS", none},
+                                            {"XDG_CONFIG_DIRS", none},
+                                            {"XDG_CURRENT_DESKTOP", std::nullopt},
+                                            {"DESKTOP_SESSION", std::nullopt},
+                                            {"MAILER", std::nullopt},
+                                            {"DISPLAY", ":none"}});
+    for (const char* browser : {"x-www-browser", "www-browser", "chosen"})
+        install(browser, mailHook);
+    qputenv("PATH", QByteArray((base() / "bin").c_str()) + ":/usr/bin:/bin");
+    for (const auto& chosen : {std::optional<QByteArray>(), std::optional<QByteArray>("chosen")}) {
+        const WithVariables choice({{"BROWSER", chosen}});
+        makeService();
+        testing::internal::CaptureStderr();
+        send(makeItem("file", "content"));
+        EXPECT_TRUE(waitUntil([] { return !ShownWindows::texts().empty(); }));
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("the attachment was refused by"), std::string::npos);
+        EXPECT_NE(ShownWindows::texts().find("“file” was not sent.\nNo mail program"), std::string::npos);
+        EXPECT_FALSE(fs::exists(record() / "address")) << recorded("address");
+        ShownWindows::closeAll();
+        forget();
     }
 }
 

@@ -30,7 +30,7 @@ std::vector<std::string> commandLine(const std::vector<std::string>& attachments
 
 std::optional<Command::Process> start(const std::string& command, const std::vector<std::string>& attachments)
 {
-    auto environment = Command::environment();
+    auto environment = Command::environmentWithoutBrowser();
     // Empty means the same as unset, but the script's own LC_ALL=C reaches its awk only when the variable is there:
     // without it awk may count characters where the script counts on bytes.
     if (!std::getenv("LC_ALL"))

@@ -14,7 +14,6 @@
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace LinuxDesktop {
 
@@ -27,16 +26,9 @@ constexpr std::chrono::milliseconds patience = 1s;
 /// Enough for a portal that has to be started first.
 constexpr std::chrono::milliseconds portalPatience = 3s;
 
-/// Where nobody is registered for an address, xdg-open hands it to a browser, whatever its scheme.
-std::vector<std::string> environmentFor(const std::string& address)
+bool isForBrowsers(const std::string& address)
 {
-    std::vector<std::string> environment = Command::environment();
-    const bool isForBrowsers = address.starts_with("http:") || address.starts_with("https:");
-    if (!isForBrowsers) {
-        std::erase_if(environment, [](const std::string& variable) { return variable.starts_with("BROWSER="); });
-        environment.emplace_back("BROWSER=false");
-    }
-    return environment;
+    return address.starts_with("http:") || address.starts_with("https:");
 }
 
 /// Clears the program away when it ends, if this process still runs by then.
@@ -56,7 +48,9 @@ bool openByCommand(const std::string& address)
     const auto command = Command::find("xdg-open");
     if (!command)
         return false;
-    auto process = Command::start(*command, {"xdg-open", address}, environmentFor(address));
+    auto process =
+        Command::start(*command, {"xdg-open", address},
+                       isForBrowsers(address) ? Command::environment() : Command::environmentWithoutBrowser());
     if (!process)
         return false;
     QEventLoop loop;

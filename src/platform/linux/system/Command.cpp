@@ -128,6 +128,14 @@ std::vector<std::string> environment()
     return variables;
 }
 
+std::vector<std::string> environmentWithoutBrowser()
+{
+    std::vector<std::string> variables = environment();
+    std::erase_if(variables, [](const std::string& variable) { return variable.starts_with("BROWSER="); });
+    variables.emplace_back("BROWSER=false");
+    return variables;
+}
+
 std::optional<Process> start(const std::string& program, std::vector<std::string> arguments,
                              std::vector<std::string> environment, Surroundings surroundings)
 {

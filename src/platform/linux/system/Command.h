@@ -35,6 +35,9 @@ private:
 
 /// This process's environment for another program: a session bus that runs, or none mentioned.
 [[nodiscard]] std::vector<std::string> environment();
+/// The same for the desktop's scripts, where what they open is not for a browser: they hand it to one, whatever its
+/// scheme, where nobody else is registered for it.
+[[nodiscard]] std::vector<std::string> environmentWithoutBrowser();
 
 /// Where a program starts, as open files of this process.
 struct Surroundings {
