@@ -74,16 +74,16 @@ class CustomFolders(DesktopTestCase):
     def test_deleting_takes_that_entry_alone_without_a_question(self):
         self.suite.write(arrCustomFoldersUrls=["/one", "/two", "/three"], theirs=True)
         self.start()
-        self.hands.click(self.window.find("push button", "one").extents)
+        self.hands.click(self.window.find("push button", "Delete one").extents)
         self.assertEventuallyEqual(self.rows, ["two", "three"])
         self.assertStored(arrCustomFoldersUrls=["/two", "/three"], theirs=True, menuArrayDic=record())
-        self.hands.click(self.window.find("push button", "three").extents)
+        self.hands.click(self.window.find("push button", "Delete three").extents)
         self.assertStored(arrCustomFoldersUrls=["/two"], theirs=True, menuArrayDic=record())
 
     def test_a_double_click_deletes_one_entry(self):
         self.suite.write(arrCustomFoldersUrls=["/one", "/two", "/three"])
         self.start()
-        self.hands.double_click(self.window.find("push button", "one").extents)
+        self.hands.double_click(self.window.find("push button", "Delete one").extents)
 
         self.assertEventuallyEqual(self.rows, ["two", "three"])
         throughout(lambda: self.rows() == ["two", "three"], "the others stay", A_MOMENT)

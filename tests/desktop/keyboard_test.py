@@ -71,7 +71,7 @@ class Keyboard(DesktopTestCase):
                         ("check box", "Group the menu items in a submenu")],
             "About": [("push button", "Web Site"), ("push button", "Twitter"), ("push button", "Facebook"),
                       ("push button", "Rate Orvik Menu")],
-            "Custom Folders": [("push button", "Projects")],
+            "Custom Folders": [("push button", "Delete Projects")],
         }
         panel = self.start_panel()
         window = panel.main_window()
@@ -175,7 +175,8 @@ class Keyboard(DesktopTestCase):
         self.suite.write(foldersArray=["/home", "/opt", "/srv"], foldersArraystate=[1, 1, 1],
                          arrCustomFoldersUrls=["/home", "/opt", "/srv"])
         window = self.start_panel().main_window()
-        for tab, names in (("Folders", ["/home", "/opt", "/srv"]), ("Custom Folders", ["home", "opt", "srv"])):
+        for tab, names in (("Folders", ["/home", "/opt", "/srv"]),
+                           ("Custom Folders", ["Delete home", "Delete opt", "Delete srv"])):
             with self.subTest(tab=tab):
                 self.hands.click(window.find("page tab", tab).extents)
                 role = "check box" if tab == "Folders" else "push button"

@@ -127,6 +127,18 @@ TEST_F(RowListFixture, ShowsItsRowsInOrderFromTheTop)
     }
 }
 
+TEST_F(RowListFixture, ARowsControlsAreNamedByItsTitleAndAButtonByWhatItDoesToo)
+{
+    list.setProperty("hiddenInRows", QString());
+    show(2);
+    for (int number = 0; number < 2; ++number) {
+        const QString title = QStringLiteral("Row %1").arg(number);
+        const RowWidget* row = list.rowsInSight().at(number);
+        EXPECT_EQ(row->findChild<CheckBox*>()->accessibleName(), title);
+        EXPECT_EQ(row->findChild<QPushButton*>()->accessibleName(), QStringLiteral("Delete ") + title);
+    }
+}
+
 TEST_F(RowListFixture, ATenThousandRowListMakesRowViewsForTheRowsInSightOnly)
 {
     show(10'000);

@@ -273,7 +273,7 @@ void RowList::moveTo(int row, qsizetype control, Qt::FocusReason reason)
     const auto shown = m_rows.find(m_currentRow);
     if (shown == m_rows.end() || shown->second->controls().isEmpty())
         return;
-    const QList<QWidget*>& controls = shown->second->controls();
+    const QList<QAbstractButton*>& controls = shown->second->controls();
     controls.at(std::clamp<qsizetype>(control, 0, controls.size() - 1))->setFocus(reason);
 }
 

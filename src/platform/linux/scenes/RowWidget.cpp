@@ -3,7 +3,6 @@
 #include "platform/linux/look/ThemeColors.h"
 #include "platform/linux/scenes/Label.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QEvent>
 #include <QPainter>
@@ -30,8 +29,8 @@ void RowWidget::prepare()
     if (auto* title = findChild<Label*>()) {
         connect(title, &Label::textChanged, this, [this](const QString& text) {
             setAccessibleName(text);
-            for (QWidget* control : m_controls)
-                control->setAccessibleName(text);
+            for (QAbstractButton* control : m_controls)
+                control->setAccessibleName(control->text().isEmpty() ? text : tr("%1 %2").arg(control->text(), text));
         });
     }
     setCurrent(false);
@@ -40,7 +39,7 @@ void RowWidget::prepare()
 void RowWidget::setCurrent(bool current)
 {
     m_current = current;
-    for (QWidget* control : m_controls)
+    for (QAbstractButton* control : m_controls)
         control->setFocusPolicy(current ? Qt::StrongFocus : Qt::ClickFocus);
     update();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/TableCellView.h"
 
+#include <QAbstractButton>
 #include <QList>
 #include <QWidget>
 
@@ -22,10 +23,10 @@ public:
     [[nodiscard]] NS::TableCellView* cell() const { return m_cell.get(); }
 
     /// Call once the row's widgets exist and those that its list does not use are hidden: finds the controls, and
-    /// gives each the row's title as its accessible name from now on.
+    /// gives each the row's title as its accessible name from now on, after the text that it shows.
     void prepare();
     /// The row's controls from left to right.
-    [[nodiscard]] const QList<QWidget*>& controls() const { return m_controls; }
+    [[nodiscard]] const QList<QAbstractButton*>& controls() const { return m_controls; }
 
     /// The row that the keyboard is on: its controls alone are reached with Tab.
     void setCurrent(bool current);
@@ -40,7 +41,7 @@ protected:
 
 private:
     std::unique_ptr<NS::TableCellView> m_cell;
-    QList<QWidget*> m_controls;
+    QList<QAbstractButton*> m_controls;
     bool m_current = false;
     std::optional<bool> m_selected;
 };
