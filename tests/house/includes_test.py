@@ -12,7 +12,7 @@ import sys
 ROOTS = ("src", "extension", "tools")
 # A header of a target that has no folder of its own.
 GENERATED = {"settings/Deployment.h": "orvik_deployment"}
-INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
+INCLUDE = re.compile(r'^\s*#\s*include\s*["<]([^">]+)[">]', re.MULTILINE)
 NAME = re.compile(r"orvik_\w+")
 
 
@@ -49,13 +49,14 @@ class Graph:
                 waiting.extend(self.passed_on.get(target, ()))
         return seen
 
-    def owners(self, source, header):
-        """The targets that a header belongs to; nothing for one that the build makes in no folder of the tree."""
+    def owners(self, source, folder, header):
+        """The targets that a header belongs to, included by a file in a folder; nothing for the system's and for one
+        that the build makes in no folder of the tree."""
         if header in GENERATED:
             return {GENERATED[header]}
-        for root in ("src", ".", "tools"):
+        for root in (folder, "src", ".", "tools"):
             place = pathlib.Path(root) / header
-            if (source / place).is_file() or str(place.parent) in self.folders:
+            if (source / place).is_file() or "/" in header and str(place.parent) in self.folders:
                 return self.folders.get(self.folder_of(place), set())
         return None
 
@@ -73,7 +74,10 @@ def findings(source, build):
             continue
         visible = graph.visible(graph.targets_of(path, folder))
         for header in INCLUDE.findall((source / path).read_text()):
-            owners = graph.owners(source, header)
+            if ".." in pathlib.Path(header).parts:
+                yield f"{path}: includes {header}, which is no name from a root"
+                continue
+            owners = graph.owners(source, path.parent, header)
             if owners is not None and not owners & visible:
                 yield f"{path}: includes {header}, which its target does not link"
 
