@@ -1,6 +1,7 @@
 #include "platform/FatalError.h"
 
 #include <atomic>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -19,7 +20,8 @@ void setLastWords(void (*lastWords)(std::string_view what))
 
 void fatalError(std::string_view what)
 {
-    std::fprintf(stderr, "orvik-menu: fatal error: %.*s\n", static_cast<int>(what.size()), what.data());
+    std::fprintf(stderr, "%s: fatal error: %.*s\n", program_invocation_short_name, static_cast<int>(what.size()),
+                 what.data());
     // Another fatal error on the way, or on another thread, finds none left to say.
     if (auto* const lastWords = lastWordsToSay.exchange(nullptr))
         lastWords(what);

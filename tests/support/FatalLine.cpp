@@ -1,5 +1,7 @@
 #include "support/FatalLine.h"
 
+#include <cerrno>
+
 namespace {
 
 std::string literally(std::string_view text)
@@ -15,7 +17,7 @@ std::string literally(std::string_view text)
 
 std::string line(std::string_view what)
 {
-    return "orvik-menu: fatal error: " + literally(what) + '\n';
+    return literally(program_invocation_short_name) + ": fatal error: " + literally(what) + '\n';
 }
 
 } // namespace

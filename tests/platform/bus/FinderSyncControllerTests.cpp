@@ -10,6 +10,7 @@
 #include <QProcess>
 
 #include <algorithm>
+#include <cerrno>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
@@ -241,7 +242,8 @@ TEST_F(FinderSync, KeepsTheConnectionWhenTheAddressesAreTooLongForTheBus)
     testing::internal::CaptureStderr();
     m_controller.setDirectoryURLs(urls);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "orvik-menu: the watched folders are too many to be told to the file manager\n");
+              program_invocation_short_name +
+                  std::string(": the watched folders are too many to be told to the file manager\n"));
     EXPECT_EQ(property(), QStringList{QStringLiteral("file:///a")});
     m_controller.setDirectoryURLs({});
     EXPECT_EQ(property(), QStringList());

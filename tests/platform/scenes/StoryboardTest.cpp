@@ -117,7 +117,7 @@ TEST_F(StoryboardFixture, FillsTheOutletsThatTheSceneHasAndLeavesOthersEmpty)
     const auto made = make<Screen>("ViewController");
     EXPECT_TRUE(made->tblview);
     EXPECT_FALSE(made->missing);
-    EXPECT_DEATH(made->missing->reloadData(), "orvik-menu: fatal error: the outlet \"no such view\" is empty");
+    EXPECT_DEATH(made->missing->reloadData(), ": fatal error: the outlet \"no such view\" is empty");
 }
 
 TEST_F(StoryboardFixture, OutletsAreEmptyOnceTheSceneIsGone)

@@ -9,12 +9,14 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <numeric>
 #include <sched.h>
 #include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -349,12 +351,17 @@ TEST_F(StoreFailures, ALockThatIsKeptIsWaitedForOnceAndWithoutBusyness)
         EXPECT_LT(after.ru_nvcsw - before.ru_nvcsw, 200);
         EXPECT_LT(processorTime(after) - processorTime(before), 500ms);
 
-        const auto start = std::chrono::steady_clock::now();
+        std::vector<std::chrono::steady_clock::duration> waits;
         for (int i = 2; i <= 20; ++i) {
+            const auto start = std::chrono::steady_clock::now();
             domain->setObject_forKey(i, "k");
             EXPECT_FALSE(domain->synchronize());
+            waits.push_back(std::chrono::steady_clock::now() - start);
         }
-        EXPECT_LT(std::chrono::steady_clock::now() - start, 1900ms);
+        // A busy machine may hold up some of them, but no two seconds in all.
+        std::ranges::sort(waits);
+        EXPECT_LT(waits[waits.size() / 2], 50ms);
+        EXPECT_LT(std::reduce(waits.begin(), waits.end()), 1900ms);
         const std::string complaint = testing::internal::GetCapturedStderr();
         EXPECT_EQ(linesOf(complaint), 1) << complaint;
         EXPECT_EQ(stored("k"), NS::Value(0));

@@ -2,12 +2,12 @@
 
 #include "findersyncadaptor.h"
 #include "platform/linux/bus/interfaces/FinderSync.h"
+#include "platform/linux/system/Complaint.h"
 
 #include <QDBusMessage>
 #include <QVariantMap>
 
 #include <cstddef>
-#include <cstdio>
 #include <optional>
 #include <string>
 #include <utility>
@@ -57,7 +57,7 @@ void FinderSyncController::setDirectoryURLs(const std::set<NS::URL>& urls)
         return;
     auto addresses = addressesOf(urls);
     if (!addresses) {
-        std::fputs("orvik-menu: the watched folders are too many to be told to the file manager\n", stderr);
+        complain("the watched folders are too many to be told to the file manager");
         return;
     }
 
