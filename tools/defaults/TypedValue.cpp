@@ -46,8 +46,14 @@ std::optional<NS::Value> numberFrom(std::string_view text, Options... options)
     return number;
 }
 
+std::string_view withoutPlus(std::string_view text)
+{
+    return text.substr(text.starts_with('+') && !text.starts_with("+-") ? 1 : 0);
+}
+
 std::optional<NS::Value> integerFrom(std::string_view text)
 {
+    text = withoutPlus(text);
     if (text.starts_with("0x") || text.starts_with("0X")) {
         const auto magnitude = numberFrom<std::uint64_t>(text.substr(2), 16);
         return magnitude && magnitude->integer() ? magnitude : std::nullopt;
@@ -57,9 +63,7 @@ std::optional<NS::Value> integerFrom(std::string_view text)
 
 std::optional<NS::Value> realFrom(std::string_view text)
 {
-    if (text.starts_with('+') && !text.starts_with("+-"))
-        text.remove_prefix(1);
-    return numberFrom<double>(text);
+    return numberFrom<double>(withoutPlus(text));
 }
 
 std::optional<NS::Value> dateFrom(std::string text)
@@ -70,9 +74,14 @@ std::optional<NS::Value> dateFrom(std::string text)
         text.replace(text.size() - zone.size(), zone.size(), "Z");
         std::ranges::replace(text, ' ', 'T');
     }
-    if (const auto date = LinuxDesktop::DateText::parse(text))
-        return *date;
-    return std::nullopt;
+    // A program that knows no other years could not read the file any more.
+    const auto first = LinuxDesktop::DateText::parse("0001-01-01T00:00:00Z");
+    const auto end = LinuxDesktop::DateText::parse("10000-01-01T00:00:00Z");
+    const auto date = LinuxDesktop::DateText::parse(text);
+    if (!date || date->timeIntervalSince1970 < first->timeIntervalSince1970 ||
+        date->timeIntervalSince1970 >= end->timeIntervalSince1970)
+        return std::nullopt;
+    return *date;
 }
 
 std::optional<NS::Value> dataFrom(std::string text)
