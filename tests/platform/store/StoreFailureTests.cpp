@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
+#include <future>
 #include <gtest/gtest.h>
 #include <numeric>
 #include <sched.h>
@@ -370,6 +371,28 @@ TEST_F(StoreFailures, ALockThatIsKeptIsWaitedForOnceAndWithoutBusyness)
         EXPECT_TRUE(holdsWithin(4s, [&] { return stored("k") == NS::Value(20); }));
     }
     EXPECT_EQ(readFile(file(".bak")), readFile(file()));
+}
+
+TEST_F(StoreFailures, WhoLeavesNothingForLaterIsPromisedNothing)
+{
+    store({{"k", 0}});
+    const FileDescriptor lock(::open(file(".lock").c_str(), O_RDWR | O_CLOEXEC));
+    ASSERT_EQ(::flock(lock.get(), LOCK_EX), 0);
+    // Nothing is written before it is asked for.
+    std::promise<void> asked;
+    const auto queue = std::make_shared<LinuxDesktop::DelayedQueue>();
+    ASSERT_TRUE(queue->post([&] { asked.get_future().wait(); }, 0ms));
+    const auto domain = std::make_shared<LinuxDesktop::Domain>(std::make_shared<LinuxDesktop::FileOperations>(),
+                                                               queue, folder(), domainName);
+    domain->setObject_forKey(1, "k");
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(domain->finish());
+    asked.set_value();
+    queue->stop();
+    const std::string complaint = testing::internal::GetCapturedStderr();
+    EXPECT_NE(complaint.find("is held by another program; what was written is not stored\n"), std::string::npos)
+        << complaint;
+    EXPECT_EQ(linesOf(complaint), 1) << complaint;
 }
 
 TEST_F(StoreFailures, TheStoresEndWaitsForTheLockOnceMore)

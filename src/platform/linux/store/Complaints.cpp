@@ -4,11 +4,11 @@
 
 namespace LinuxDesktop {
 
-void Complaints::complain(const std::string& line)
+void Complaints::complain(const std::string& line, std::string_view consequence)
 {
     const std::lock_guard lock(m_mutex);
     if (m_said.insert(line).second)
-        LinuxDesktop::complain(line);
+        LinuxDesktop::complain(line + std::string(consequence));
 }
 
 void Complaints::allIsWell()

@@ -258,7 +258,7 @@ bool Domain::finish()
         m_copyIsDue = false;
     }
     const auto deadline = [] { return Clock::now() + DomainLock::longestWait; };
-    const bool saved = save(deadline()) == Outcome::Saved;
+    const bool saved = save(deadline(), "; what was written is not stored") == Outcome::Saved;
     if (copy(deadline(), Copying::BeforeLock) == Copied::Late)
         copy(deadline(), Copying::UnderLock);
     return saved;
@@ -266,7 +266,8 @@ bool Domain::finish()
 
 bool Domain::saveOrRetry()
 {
-    const Outcome outcome = save(Clock::now() + DomainLock::longestWait);
+    const Outcome outcome = save(Clock::now() + DomainLock::longestWait,
+                                 "; what was written stays in memory while the program runs, and is tried again");
     if (outcome == Outcome::LockBusy) {
         const std::lock_guard state(m_state);
         if (!m_writeIsDue)
@@ -359,7 +360,8 @@ Snapshot Domain::repairLocked(Snapshot found)
     return m_file.read();
 }
 
-Domain::Outcome Domain::save(Clock::time_point deadline)
+/// A complaint ends with what a failure means for what was written.
+Domain::Outcome Domain::save(Clock::time_point deadline, std::string_view onFailure)
 {
     const std::lock_guard writing(m_writing);
     Changes changes;
@@ -377,8 +379,7 @@ Domain::Outcome Domain::save(Clock::time_point deadline)
     Trouble trouble{};
     auto written = write(changes, known, deadline, trouble);
     if (!written) {
-        m_complaints.complain(trouble.what +
-                              "; what was written stays in memory while the program runs, and is tried again");
+        m_complaints.complain(trouble.what, onFailure);
         return trouble.outcome;
     }
     m_complaints.allIsWell();

@@ -92,7 +92,7 @@ private:
     // These wait for other threads' writes, for the lock and for the disk; m_state must not be locked. Past the
     // deadline the lock is tried once and not waited for.
     [[nodiscard]] bool saveOrRetry();
-    Outcome save(Clock::time_point deadline);
+    Outcome save(Clock::time_point deadline, std::string_view onFailure);
     Copied copy(Clock::time_point deadline, Copying copying);
     [[nodiscard]] Snapshot repair(Clock::time_point deadline);
 
