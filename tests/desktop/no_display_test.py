@@ -100,6 +100,20 @@ class NoDisplay(unittest.TestCase):
                 self.assertEqual((answer.returncode, answer.stdout), (2, ""))
                 self.assertEqual(answer.stderr, f"{name}: unknown argument: --loud\n{usage}")
 
+    def test_wrong_usage_is_told_before_the_display_is_missed(self):
+        for name in PROGRAMS:
+            usage = self.run_program(name, "--help").stdout
+            for arguments in (["--loud"], ["loud"], ["-platform", "xcb", "--loud"]):
+                with self.subTest(program=name, arguments=arguments):
+                    answer = self.run_program(name, *arguments)
+                    self.assertEqual((answer.returncode, answer.stdout), (2, ""))
+                    self.assertEqual(answer.stderr, f"{name}: unknown argument: {arguments[-1]}\n{usage}")
+        answer = self.run_program("orvik-menu", "--tab")
+        self.assertEqual((answer.returncode, answer.stdout), (2, ""))
+        self.assertTrue(answer.stderr.startswith("orvik-menu: --tab needs a title\n"), answer.stderr)
+        answer = self.run_program("orvik-menu", "--tab", "Folders")
+        self.assertEqual((answer.returncode, answer.stderr), (1, PROGRAMS["orvik-menu"] + "\n"))
+
     def test_what_the_toolkit_complains_of_on_the_way_to_a_display_is_said(self):
         for name in PROGRAMS:
             with self.subTest(program=name):

@@ -249,7 +249,7 @@ class Problem(DesktopTestCase):
     def test_a_tab_without_a_title_is_wrong_usage(self):
         answer = self.run_tool("orvik-menu", "--tab")
         self.assertEqual((answer.returncode, answer.stdout), (2, b""))
-        self.assertTrue(answer.stderr.startswith(b"orvik-menu: unknown argument: --tab\n"), answer.stderr)
+        self.assertTrue(answer.stderr.startswith(b"orvik-menu: --tab needs a title\n"), answer.stderr)
 
 
 if __name__ == "__main__":

@@ -31,6 +31,7 @@ The control panel of Orvik Menu: which actions the file manager's menu shows, an
     .noDisplay = "there is no display to show the panel on",
     .noSessionBus = "no session bus: the panel works, but hears nothing of the extension",
     .option = "--tab",
+    .optionValue = "a title",
 };
 
 /// Has the tabs open on the one of a title, where there is one.

@@ -39,6 +39,36 @@ bool answerOption(const ProgramDescription& description, int argc, char** argv)
     return true;
 }
 
+/// Says what is wrong with the arguments that are not the toolkit's. Whether something is. `option` gets the value of
+/// the program's own.
+bool refuses(const ProgramDescription& description, int argc, char** argv, QString& option)
+{
+    if (argc <= 1)
+        return false;
+    const bool isOption = description.option && argv[1] == std::string_view(description.option);
+    if (isOption && argc == 3) {
+        option = QString::fromUtf8(argv[2]);
+        return false;
+    }
+    const char* const name = description.name.c_str();
+    if (isOption && argc == 2)
+        std::fprintf(stderr, "%s: %s needs %s\n%s", name, argv[1], description.optionValue, description.usage);
+    else
+        std::fprintf(stderr, "%s: unknown argument: %s\n%s", name, argv[isOption ? 3 : 1], description.usage);
+    return true;
+}
+
+/// The exit status of a program without a display, after a line that says why it ends. A word after one dash may be
+/// the toolkit's, which has not taken all of its own yet.
+int statusWithoutDisplay(const ProgramDescription& description, int argc, char** argv)
+{
+    const bool isToolkits = argc > 1 && argv[1][0] == '-' && argv[1][1] != '-';
+    if (QString option; !isToolkits && refuses(description, argc, argv, option))
+        return exitUsage;
+    std::fprintf(stderr, "%s: %s\n", description.name.c_str(), description.noDisplay);
+    return EXIT_FAILURE;
+}
+
 /// The first window is activated with the token that the program was started with, which is used up then.
 class StartToken : public QObject {
 public:
@@ -63,14 +93,11 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     const QVariantMap platformData = ActivationToken::platformDataFromEnvironment();
     TerminationSignals terminationSignals;
     SessionBus::keepToolkitFromStartingOne();
-    const auto application = connectToDisplay(argc, argv, description.name + ": " + description.noDisplay);
+    const auto application =
+        connectToDisplay(argc, argv, [&] { return statusWithoutDisplay(description, argc, argv); });
     QString option;
-    if (argc == 3 && description.option && argv[1] == std::string_view(description.option)) {
-        option = QString::fromUtf8(argv[2]);
-    } else if (argc > 1) {
-        std::fprintf(stderr, "%s: unknown argument: %s\n%s", description.name.c_str(), argv[1], description.usage);
+    if (refuses(description, argc, argv, option))
         return exitUsage;
-    }
     QApplication::setApplicationName(QString::fromStdString(description.name));
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
     QGuiApplication::setDesktopFileName(QString::fromStdString(description.identifier));

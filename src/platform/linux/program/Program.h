@@ -29,6 +29,8 @@ struct ProgramDescription {
     const char* noSessionBus;
     /// An option that takes a value, and whose value Program::option() gives; null for none.
     const char* option = nullptr;
+    /// What that value is, in a message: "a title".
+    const char* optionValue = nullptr;
 };
 
 /// A program with windows, of which one process runs: what it has of the desktop before it makes its first window.
