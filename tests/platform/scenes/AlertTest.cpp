@@ -137,6 +137,25 @@ TEST_F(AlertTest, RunningModallyBlocksUntilAButtonAnswers)
     EXPECT_FALSE(dialog().isVisible());
 }
 
+TEST_F(AlertTest, AModalAlertHasTheFrontWindowsTitleAlsoWhereNoWindowIsActive)
+{
+    window.close();
+    MainWindow inactive;
+    inactive.setAttribute(Qt::WA_ShowWithoutActivating);
+    inactive.setWindowTitle(QStringLiteral("A Title"));
+    inactive.show();
+    ASSERT_EQ(QApplication::activeWindow(), nullptr);
+    QString title;
+    QTimer::singleShot(0, &inactive, [&] {
+        title = dialog().windowTitle();
+        button(0).click();
+    });
+
+    alert->runModal();
+
+    EXPECT_EQ(title, QStringLiteral("A Title"));
+}
+
 TEST_F(AlertTest, ALongMessageIsWrappedAndNeverCut)
 {
     alert->setMessageText(

@@ -1,9 +1,10 @@
 #include "platform/linux/scenes/WidgetAlert.h"
 
 #include "platform/linux/scenes/AlertDialog.h"
+#include "platform/linux/scenes/MainWindow.h"
 
-#include <QApplication>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QWindow>
 
 namespace LinuxDesktop {
@@ -70,7 +71,8 @@ void WidgetAlert::runModal()
 {
     const ModalState::Session session(m_modalState);
     AlertDialog& panel = dialog();
-    if (const QWidget* window = QApplication::activeWindow())
+    // Right after another modal window has gone, none is active.
+    if (const QWidget* window = MainWindow::front())
         panel.setWindowTitle(window->windowTitle());
     panel.setWindowModality(Qt::ApplicationModal);
     panel.setAttribute(Qt::WA_QuitOnClose, false);
