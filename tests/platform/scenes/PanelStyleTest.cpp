@@ -6,12 +6,15 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <cstddef>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -62,6 +65,27 @@ protected:
     QWidget window;
     QVBoxLayout* column = nullptr;
 };
+
+TEST_F(PanelStyleFixture, ABarWithoutAnEndIsAPieceThatMoves)
+{
+    auto* bar = add<QProgressBar>();
+    bar->setRange(0, 0);
+    bar->setTextVisible(false);
+    show();
+    const auto filled = [&] {
+        const QImage image = bar->grab().toImage();
+        std::vector<int> columns;
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, image.height() / 2) == highlight)
+                columns.push_back(x);
+        }
+        return columns;
+    };
+    const std::vector<int> first = filled();
+    EXPECT_FALSE(first.empty());
+    EXPECT_LT(first.size(), static_cast<std::size_t>(bar->width() / 2));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return filled() != first; }));
+}
 
 TEST_F(PanelStyleFixture, TheButtonWithTheFocusIsToldByItsOutline)
 {

@@ -3,6 +3,7 @@
 #include "platform/linux/look/ThemeColors.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace LinuxDesktop::ControlPainting {
 
@@ -169,6 +170,21 @@ void drawMenuHighlight(const QStyleOption& option, QPainter& painter)
     const SmoothPainter smooth(painter);
     painter.setBrush(option.palette.color(QPalette::Highlight));
     painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 1, -2, -2), smallRadius, smallRadius);
+}
+
+void drawBusyBar(const QStyleOption& option, qreal way, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    const QPalette& palette = option.palette;
+    const QRectF bar(option.rect);
+    const qreal corner = bar.height() / 2.0;
+    painter.setBrush(dividingLine(palette));
+    painter.drawRoundedRect(bar, corner, corner);
+    const qreal length = bar.width() / 3.0;
+    const qreal there = 1.0 - std::abs(2.0 * way - 1.0);
+    painter.setBrush(palette.color(QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(bar.left() + there * (bar.width() - length), bar.top(), length, bar.height()),
+                            corner, corner);
 }
 
 void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter)

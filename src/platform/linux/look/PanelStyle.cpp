@@ -8,6 +8,7 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <chrono>
 
 namespace LinuxDesktop {
 
@@ -27,6 +28,14 @@ QPalette::ColorRole grooveRole(const QWidget* scrollBar)
             return area->viewport()->backgroundRole();
     }
     return QPalette::Base;
+}
+
+/// Where a piece that goes to and fro is on its way at this moment, from 0 to 1.
+qreal busyWay()
+{
+    constexpr std::chrono::milliseconds period{1800};
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<qreal>(now % period) / period;
 }
 
 /// The item as it is drawn on the panel's own highlight instead of the base style's.
@@ -98,7 +107,10 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
     const auto* menuItem = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (element == CE_TabBarTabShape) {
+    const auto* progress = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+    if (element == CE_ProgressBar && progress && progress->minimum == progress->maximum) {
+        ControlPainting::drawBusyBar(*progress, busyWay(), *painter);
+    } else if (element == CE_TabBarTabShape) {
         ControlPainting::drawTab(*option, *painter);
     } else if (element == CE_TabBarTabLabel && tab) {
         // The base style would draw a focus of its own.

@@ -61,6 +61,10 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
     connect(tick, &QTimer::timeout, this, &PreparingWindow::showProgress);
     tick->start(200ms);
     showProgress();
+    // Not every style moves it by itself.
+    auto* frame = new QTimer(this);
+    connect(frame, &QTimer::timeout, bar, qOverload<>(&QWidget::update));
+    frame->start(40ms);
 }
 
 void PreparingWindow::showProgress()
