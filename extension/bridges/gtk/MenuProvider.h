@@ -71,9 +71,11 @@ private:
     struct Shared {
         std::vector<GObject*> providers;
         CompanionCopy copy{[this] { tellHost(); }};
+        unsigned changes = 0;
 
-        void tellHost() const
+        void tellHost()
         {
+            ++changes;
             std::vector<Reference<GObject>> all;
             for (GObject* provider : providers)
                 all.emplace_back(static_cast<GObject*>(g_object_ref(provider)));
@@ -136,8 +138,10 @@ private:
 
     static GList* itemsOf(const Menu& menu, const std::shared_ptr<const Clicked>& clicked)
     {
-        // Hosts tell items by their names, those of files from those of backgrounds too.
-        const std::string name = clicked->isBackground ? "OrvikMenu::background" : "OrvikMenu::item";
+        // Hosts tell items by their names, those of files from those of backgrounds too, and leave an item that they
+        // know where it was, whatever its place has become.
+        const std::string name = (clicked->isBackground ? "OrvikMenu::background-" : "OrvikMenu::item-") +
+                                 std::to_string(shared().changes);
         std::vector<Reference<Item>> items;
         for (const MenuAction* action : menu.actions) {
             Item& item = *items.emplace_back(newItem(name + '-' + action->identifier, action->title,
