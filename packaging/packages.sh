@@ -85,8 +85,14 @@ packages_tests_desktop=(
   python3-gi
   python3-pyatspi
   util-linux
+  xclip
   xdg-desktop-portal
   xdg-desktop-portal-gtk
+)
+
+# What the pictures of file managers need: shadows.
+packages_pictures=(
+  xcompmgr
 )
 
 packages_fuzz=(

@@ -4,13 +4,12 @@ import os
 import signal
 import socket
 import stat
-import sys
 import time
 import unittest
 
-from support import small_disk
 from support.case import DesktopTestCase
 from support.mail import CommandMessages
+from support.mounts import small_disk
 from support.panel import CHOOSER, MAIN_WINDOW
 from support.waiting import eventually, throughout
 
@@ -89,7 +88,7 @@ class MailFailures(DesktopTestCase):
     def test_a_full_disk_is_called_that(self):
         messages = self.start_portal()
         self.make("large.jpg", os.urandom(3_000_000))
-        self.send(self.folder, wrapper=[sys.executable, "-B", small_disk.__file__, self.home.runtime, "2m"])
+        self.send(self.folder, wrapper=small_disk(self.home.runtime, "2m"))
 
         _, texts = self.alert()
 

@@ -17,6 +17,8 @@ _COMPONENT = "org.a11y.atspi.Component"
 _PROPERTIES = "org.freedesktop.DBus.Properties"
 
 _SCREEN_COORDINATES = 0
+# What is said in the place of an object that is not there.
+_NULL = "/org/a11y/atspi/null"
 
 # Bits of the state set, by the protocol's numbers.
 _STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "selected": 23, "showing": 25}
@@ -57,7 +59,8 @@ class Accessible:
 
     @property
     def children(self):
-        return [Accessible(self._connection, name, path) for name, path in self._call(_ACCESSIBLE, "GetChildren")[0]]
+        return [Accessible(self._connection, name, path)
+                for name, path in self._call(_ACCESSIBLE, "GetChildren")[0] if path != _NULL]
 
     @property
     def states(self):

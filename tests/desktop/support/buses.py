@@ -70,9 +70,14 @@ class SessionBus:
             "the accessibility bus")
 
     def has_owner(self, name):
-        return call_bus(self.connection, "NameHasOwner", GLib.Variant("(s)", (name,)))[0]
+        return (self._daemon.poll() is None
+                and call_bus(self.connection, "NameHasOwner", GLib.Variant("(s)", (name,)))[0])
+
+    def end(self):
+        """Ends it while others use it."""
+        processes.end(self._daemon)
 
     def close(self):
         self.connection.close_sync(None)
         self._daemon.stdout.close()
-        processes.end(self._daemon)
+        self.end()

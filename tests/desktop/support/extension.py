@@ -8,6 +8,8 @@ from .waiting import eventually
 EXTENSIONS = "Extensions"
 EXTENSIONS_NAME = APPLICATION + ".extensions"
 PROGRAM = "orvik-menu-extension"
+OBJECT = "/" + EXTENSION.replace(".", "/").replace("-", "_")
+INTERFACE = "com.orvikstudio.FinderSyncExtension"
 AUTOSTART = f"autostart/{EXTENSION}.desktop"
 
 

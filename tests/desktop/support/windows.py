@@ -3,6 +3,8 @@
 import re
 import subprocess
 
+from .accessibility import Extents
+
 _TIMEOUT = 20
 
 
@@ -19,6 +21,11 @@ class Hands:
     def click(self, extents):
         """A click of the first button in the middle of `extents`."""
         self._xdotool("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2, "click", 1)
+
+    def click_right(self, extents):
+        """A click of the button that opens menus."""
+        self.move_to(extents)
+        self._xdotool("click", 3)
 
     def double_click(self, extents):
         self._xdotool("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2, "click",
@@ -85,9 +92,15 @@ class Windows:
 
     def size(self, window):
         """Width and height in the screen's pixels, without the frame."""
+        place = self.place(window)
+        return place.width, place.height
+
+    def place(self, window):
+        """Where it lies on the screen, without the frame."""
         answer = subprocess.run(["xwininfo", "-display", self._display, "-id", str(window)], capture_output=True,
-                                text=True, check=True, timeout=_TIMEOUT)
-        return tuple(int(re.search(rf"{name}: (\d+)", answer.stdout)[1]) for name in ("Width", "Height"))
+                                text=True, check=True, timeout=_TIMEOUT).stdout
+        return Extents(*(int(re.search(rf"{name}: +(-?\d+)", answer)[1])
+                         for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")))
 
     def is_iconified(self, window):
         return "_NET_WM_STATE_HIDDEN" in self._property("_NET_WM_STATE", "-id", str(window))
