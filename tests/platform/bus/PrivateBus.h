@@ -4,8 +4,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// A session bus that this process starts and that knows no services; the environment's session bus while it lives. It
-/// carries messages as large as an ordinary one does.
+/// A session bus that this process starts and that knows no services; the environment's session bus while it lives.
+/// It carries messages as large as an ordinary one does.
 class PrivateBus {
 public:
     PrivateBus();
