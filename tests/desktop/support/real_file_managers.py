@@ -18,6 +18,8 @@ _PATH = "/org/freedesktop/FileManager1"
 
 # How long it has between two questions.
 _REACTION = 0.25
+# How long a window has to go before the keys are pressed again.
+_CLOSING = 2.0
 
 
 class FileManager:
@@ -121,10 +123,24 @@ class FileManager:
         self.wait_for_status(status)
         # Not before: a window that loads does not like another one to go.
         for other in set(self.windows()) - {window}:
-            self._to_front(other)
-            self._hands.press("alt+F4")
-            eventually(lambda other=other: other not in self.windows(), "the old window to go")
+            self._close(other)
         self._to_front(window)
+
+    def _close(self, window):
+        """As a person does, who presses the keys again where a busy window has not taken them."""
+
+        def is_gone():
+            return window not in self.windows()
+
+        def is_closed():
+            try:
+                self._to_front(window)
+                self._hands.press("alt+F4")
+                return eventually(is_gone, "the keys to be taken", _CLOSING)
+            except GaveUp:
+                return is_gone()
+
+        eventually(is_closed, "the old window to go")
 
     def _shows(self, window, folder):
         return self._case.windows.title(window).startswith(os.path.basename(folder))
