@@ -42,11 +42,11 @@ bool BusAnswer::isNobody() const
                           "Disconnected", "Spawn.ServiceNotFound"});
 }
 
-BusAnswer call(sd_bus& bus, const Message& call, std::chrono::seconds patience)
+BusAnswer call(sd_bus& bus, const Message& call, std::chrono::microseconds patience)
 {
     sd_bus_message* reply = nullptr;
     sd_bus_error error{};
-    const auto time = static_cast<std::uint64_t>(std::chrono::microseconds(patience).count());
+    const auto time = static_cast<std::uint64_t>(patience.count());
     const int result = call ? sd_bus_call(&bus, call.get(), time, &error, &reply) : -EINVAL;
     BusAnswer answer{Message(reply), {}, {}};
     if (result < 0) {

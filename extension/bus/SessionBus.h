@@ -35,7 +35,7 @@ struct BusAnswer {
     [[nodiscard]] bool isNobody() const;
 };
 /// Waits for the answer.
-[[nodiscard]] BusAnswer call(sd_bus& bus, const Message& call, std::chrono::seconds patience);
+[[nodiscard]] BusAnswer call(sd_bus& bus, const Message& call, std::chrono::microseconds patience);
 
 /// Whether a program has that name; false where the bus does not say.
 [[nodiscard]] bool isOnBus(sd_bus& bus, const char* name);

@@ -51,7 +51,7 @@ int runAction(const std::string& action, const std::vector<std::string>& paths)
         complain("the request cannot be made of that");
         return EXIT_FAILURE;
     }
-    const BusAnswer answer = call(*bus, message, std::chrono::seconds::max());
+    const BusAnswer answer = call(*bus, message, std::chrono::microseconds::max());
     if (answer.reply)
         return EXIT_SUCCESS;
     complain(answer.isNobody() ? "the companion does not run; switch it on in Orvik Menu" : answer.words);

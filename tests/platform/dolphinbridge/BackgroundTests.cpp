@@ -4,6 +4,7 @@
 
 #include <KCoreDirLister>
 #include <KFileItem>
+#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QWidget>
@@ -24,6 +25,13 @@ protected:
             view->setFocusPolicy(Qt::StrongFocus);
         window.show();
         window.activateWindow();
+    }
+
+    // A job that has ended goes with the next events.
+    ~BackgroundTest() override
+    {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     [[nodiscard]] QUrl folder() const { return QUrl::fromLocalFile(m_folder.path()); }
