@@ -117,7 +117,7 @@ std::optional<Refusal> parse(sd_bus_message& message, RunCall& call)
         return badArguments("Orvik Menu was asked for something in a way that it does not understand.");
     call.action = action;
     if (!readPaths(message, call.request.paths))
-        return badArguments("A path must be absolute and plain, without the names \".\" and \"..\".");
+        return badArguments(R"(A path must be absolute and plain, without the names "." and "..".)");
     if (!readOptions(message, call))
         return badArguments("An option has a value of the wrong kind.");
     if (!isWhole(call.request))
