@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -31,7 +32,7 @@ namespace fs = std::filesystem;
 class FailingOperations : public LinuxDesktop::FileOperations {
 public:
     enum class Call { None, Open, Write, ShortWrite, SyncFile, Rename, SyncFolder };
-    Call failing = Call::None;
+    std::atomic<Call> failing = Call::None;
 
     FileDescriptor open(const std::string& path, int flags, mode_t mode) override
     {
