@@ -5,8 +5,12 @@
 #include <QDBusArgument>
 #include <QDBusVariant>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
+#include <algorithm>
+#include <climits>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,6 +23,7 @@ using namespace BusInterface::FinderSyncExtension;
 using MenuExtension::Folder;
 using MenuExtension::MenuAction;
 using MenuExtension::MenuSettings;
+using MenuExtension::Target;
 
 /// A container that is left again on every way out: the toolkit keeps the places of those that are not.
 template<void (QDBusArgument::*Enter)() const, void (QDBusArgument::*Leave)() const>
@@ -111,14 +116,26 @@ bool read(const QVariant& value, bool& flag)
     return value.userType() == QMetaType::Bool;
 }
 
+/// Lists of plain text the toolkit reads itself.
+bool read(const QVariant& value, std::vector<Target>& targets)
+{
+    const QStringList first = value.toStringList().mid(0, int{MenuExtension::mostTargets});
+    std::vector<std::string> folders;
+    std::transform(first.begin(), first.end(), std::back_inserter(folders),
+                   [](const QString& folder) { return folder.left(PATH_MAX).toStdString(); });
+    targets = MenuExtension::targetsOf(folders);
+    return value.userType() == QMetaType::QStringList;
+}
+
 /// The properties that have been met.
 struct Met {
     bool actions = false;
     bool folders = false;
+    bool customFolders = false;
     bool showIcons = false;
     bool inSubmenu = false;
 
-    [[nodiscard]] bool all() const { return actions && folders && showIcons && inSubmenu; }
+    [[nodiscard]] bool all() const { return actions && folders && customFolders && showIcons && inSubmenu; }
 };
 
 bool readEntries(const QDBusArgument& properties, MenuSettings& settings, std::vector<Folder>& folders)
@@ -136,6 +153,8 @@ bool readEntries(const QDBusArgument& properties, MenuSettings& settings, std::v
         if (is(Actions::name) && !(met.actions = read(value, Actions::type, reader, settings.actions)))
             return false;
         if (is(Folders::name) && !(met.folders = read(value, Folders::type, reader, folders)))
+            return false;
+        if (is(CustomFolders::name) && !(met.customFolders = read(value, settings.targets)))
             return false;
         if (is(ShowMenuIcon::name) && !(met.showIcons = read(value, settings.showIcons)))
             return false;

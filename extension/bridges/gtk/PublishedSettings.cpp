@@ -4,6 +4,7 @@
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
 
 #include <algorithm>
+#include <climits>
 #include <optional>
 #include <utility>
 
@@ -72,6 +73,22 @@ public:
         return sound ? std::move(folders) : std::vector<Folder>();
     }
 
+    /// Those that a menu may show.
+    [[nodiscard]] std::vector<std::string> customFolders() const
+    {
+        const Variant value = find<Published::CustomFolders>();
+        const std::size_t count = value ? g_variant_n_children(value.get()) : 0;
+        std::vector<std::string> folders;
+        for (std::size_t index = 0; index < std::min(count, mostTargets); ++index) {
+            const Variant folder(g_variant_get_child_value(value.get(), index));
+            std::size_t length = 0;
+            const char* path = g_variant_get_string(folder.get(), &length);
+            if (length < PATH_MAX)
+                folders.emplace_back(path, length);
+        }
+        return folders;
+    }
+
 private:
     template<class Property>
     [[nodiscard]] Variant find() const
@@ -127,6 +144,7 @@ MenuSettings settingsFromProperties(GVariant& properties)
     Reader reader(properties);
     settings.actions = reader.actions();
     settings.scope = Scope(reader.folders());
+    settings.targets = targetsOf(reader.customFolders());
     settings.showIcons = reader.flag<Published::ShowMenuIcon>(settings.showIcons);
     settings.inSubmenu = reader.flag<Published::ShowInSubmenu>(settings.inSubmenu);
     return settings;

@@ -250,7 +250,7 @@ TEST_F(CompanionCopyTest, WaitsForNoCompanionThatIsStopped)
     ASSERT_TRUE(waitUntil([&] { return companion->questions() == 2; }));
     // What it said last still counts, and what is asked of it is sent.
     EXPECT_EQ(offered(), std::vector<std::string>{"a"});
-    callRun(*m_copy->connection(), "a", {{"/listed/item"}, false}, "token");
+    callRun(*m_copy->connection(), "a", {{"/listed/item"}, false}, {}, "token");
     EXPECT_TRUE(waitUntil([&] { return companion->calls().size() == 1; }));
     companion->publish(offering({"b"}));
     companion->announce();

@@ -49,7 +49,7 @@ struct CompanionStandIn::Callbacks {
         GVariant* options = nullptr;
         g_variant_get(parameters, "(&s@aay@a{sv})", &action, &paths, &options);
         const Variant owned[]{Variant(paths), Variant(options)};
-        Call asked{action, {}, false};
+        Call asked{.action = action, .paths = {}};
         for (gsize index = 0; index < g_variant_n_children(paths); ++index) {
             const Variant path(g_variant_get_child_value(paths, index));
             asked.paths.emplace_back(g_variant_get_bytestring(path.get()));
@@ -57,6 +57,9 @@ struct CompanionStandIn::Callbacks {
         gboolean background = FALSE;
         asked.isBackground =
             g_variant_lookup(options, "background", "b", &background) != FALSE && background != FALSE;
+        const char* target = nullptr;
+        if (g_variant_lookup(options, "target", "^&ay", &target) != FALSE)
+            asked.target = target;
         return asked;
     }
 };

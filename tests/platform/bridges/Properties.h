@@ -52,6 +52,15 @@ public:
         return g_variant_builder_end(&builder);
     }
 
+    static GVariant* texts(const std::vector<std::string>& texts)
+    {
+        GVariantBuilder builder;
+        g_variant_builder_init(&builder, G_VARIANT_TYPE_STRING_ARRAY);
+        for (const std::string& text : texts)
+            g_variant_builder_add(&builder, "s", text.c_str());
+        return g_variant_builder_end(&builder);
+    }
+
 private:
     std::vector<std::pair<std::string, std::shared_ptr<GVariant>>> m_values;
 };

@@ -6,6 +6,7 @@
 #include "settings/Deployment.h"
 
 #include <QDBusMetaType>
+#include <QStringList>
 
 #include <string>
 
@@ -69,6 +70,7 @@ QVariantMap properties(const QList<ActionRow>& actions, const QList<FolderRow>& 
     qDBusRegisterMetaType<QList<FolderRow>>();
     return {{QString::fromLatin1(Companion::Actions::name), QVariant::fromValue(actions)},
             {QString::fromLatin1(Companion::Folders::name), QVariant::fromValue(folders)},
+            {QString::fromLatin1(Companion::CustomFolders::name), QStringList()},
             {QString::fromLatin1(Companion::ShowMenuIcon::name), showIcons},
             {QString::fromLatin1(Companion::ShowInSubmenu::name), inSubmenu}};
 }

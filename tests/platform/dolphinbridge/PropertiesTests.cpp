@@ -88,11 +88,35 @@ TEST_F(ReadProperties, AreReadAsTheCompanionSaysThem)
     EXPECT_FALSE(read->scope.containsItem("/off/a"));
     EXPECT_FALSE(read->showIcons);
     EXPECT_TRUE(read->inSubmenu);
+    EXPECT_TRUE(read->targets.empty());
+}
+
+TEST_F(ReadProperties, HaveTheCustomFoldersThatAreFolders)
+{
+    const auto read =
+        readWith(CustomFolders::name,
+                 QStringList{QStringLiteral("/w\u00f6rk/"), {}, QStringLiteral("relative"), QStringLiteral("/a\nb")});
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->targets, (std::vector<MenuExtension::Target>{{"/w\u00f6rk", "w\u00f6rk", "/w\u00f6rk"},
+                                                                 {"/a\nb", "a\u21b5b", "/a\u21b5b"}}));
+}
+
+TEST_F(ReadProperties, HaveNoMoreCustomFoldersThanAMenuCanShow)
+{
+    QStringList folders(QVector<QString>(100'000, QStringLiteral("/many")).toList());
+    const int last = int{MenuExtension::mostTargets} - 1;
+    folders[0] = QLatin1Char('/') + QString(1 << 24, QLatin1Char('a'));
+    folders[last] = QStringLiteral("/last");
+    folders[last + 1] = QStringLiteral("/one/more");
+    const auto read = readWith(CustomFolders::name, folders);
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->targets.size(), 2U);
+    EXPECT_EQ(read->targets.back().path, "/last");
 }
 
 TEST_F(ReadProperties, ThatTheMenuDoesNotNeedCountForNothing)
 {
-    EXPECT_TRUE(readWith("CustomFolders", QStringList{QStringLiteral("/x")}));
+    EXPECT_TRUE(readWith("DirectoryURLs", QStringList{QStringLiteral("file:///x")}));
     EXPECT_TRUE(readWith("Whatever", QVariant::fromValue(QDBusVariant(QVariantMap{{QStringLiteral("a"), 1}}))));
 }
 
@@ -116,9 +140,12 @@ TEST_F(ReadProperties, OfAnotherTypeAreNone)
                               QVariant::fromValue(QVariantList{1, QStringLiteral("a")}),
                               QVariant::fromValue(ActionRow()),
                               QVariant::fromValue(FolderRow())};
-    for (const char* const property : {Actions::name, Folders::name, ShowMenuIcon::name, ShowInSubmenu::name}) {
-        for (const QVariant& value : values)
-            EXPECT_FALSE(readWith(property, value)) << property << ' ' << value.typeName();
+    for (const char* const property :
+         {Actions::name, Folders::name, CustomFolders::name, ShowMenuIcon::name, ShowInSubmenu::name}) {
+        for (const QVariant& value : values) {
+            const bool isList = property == CustomFolders::name && value.userType() == QMetaType::QStringList;
+            EXPECT_EQ(readWith(property, value).has_value(), isList) << property << ' ' << value.typeName();
+        }
     }
     EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(folders(1, QStringLiteral("/")))));
     EXPECT_FALSE(readWith(Folders::name, QVariant::fromValue(actions(1))));
