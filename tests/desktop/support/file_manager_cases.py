@@ -6,6 +6,7 @@ import subprocess
 import sys
 
 from . import garbage_companion, processes
+from .action_stand_in import ActionCall, calls_of, install_actions
 from .buses import SessionBus, call
 from .case import DesktopTestCase
 from .deployment import EXTENSION
@@ -90,6 +91,13 @@ class FileManagerTestCase(DesktopTestCase):
     def assertMenu(self, *titles):
         """The menu of the selected items has ours, or comes to have them, without another selection."""
         self.assertEventuallyEqual(self.read_menu, list(titles))
+
+    def read_submenu(self, title):
+        """Opens the menu of the selected items and closes it. Answers the titles below one of ours."""
+        menu = self.running.menu()
+        titles = [entry.title for entry in menu.entry(title).entries]
+        menu.close()
+        return titles
 
     def letter(self):
         return os.path.join(self.work, "letter.txt")
@@ -184,6 +192,41 @@ class FileManagerCases:
         self.running.menu().choose(SUBMENU, "Copy path to Clipboard")
         self.assertEventuallyEqual(lambda: sorted(self.clipboard().split(b"\n")),
                                    sorted(os.fsencode(os.path.join(several, name)) for name in names))
+
+    def test_items_go_to_a_custom_folder_or_to_one_that_is_asked_for(self):
+        move, copy, choose = "Move to a folder", "Copy to a folder", "Choose Folder…"
+        installed = self.make_folder()
+        programs = install_actions(self.programs, installed, "move-to-a-folder", "copy-to-a-folder")
+        self.companion = Companion(self, programs)
+        # Two of a name, and none in an active folder.
+        one, two = (self.make_files(folder) for folder in ("elsewhere/same_name", "same_name"))
+        letter = os.fsencode(self.letter())
+        self.start(arrCustomFoldersUrls=[one, self.elsewhere, two, "none"])
+        self.running.select(self.letter())
+        self.assertMenu("Copy path to Clipboard", move, copy)
+
+        folders = ["same_name (elsewhere)", "elsewhere", f"same_name ({os.path.basename(self.home.files)})", choose]
+        menu = self.running.menu()
+        for action in move, copy:
+            self.assertEqual([entry.title for entry in menu.entry(action).entries], folders)
+        menu.choose(move, folders[0])
+        expected = [ActionCall(os.fsencode(one), [letter])]
+        self.assertEventuallyEqual(lambda: calls_of(installed, "move-to-a-folder"), expected)
+        self.running.menu().choose(move, choose)
+        expected.append(ActionCall(None, [letter]))
+        self.assertEventuallyEqual(lambda: calls_of(installed, "move-to-a-folder"), expected)
+
+        self.run_tool("orvik-defaults", "write", "suite", "showinSubMenu", "-bool", "true")
+        self.assertMenu(SUBMENU)
+        self.running.menu().choose(SUBMENU, copy, folders[2])
+        expected = [ActionCall(os.fsencode(two), [letter])]
+        self.assertEventuallyEqual(lambda: calls_of(installed, "copy-to-a-folder"), expected)
+        self.run_tool("orvik-defaults", "write", "suite", "showinSubMenu", "-bool", "false")
+        self.run_tool("orvik-defaults", "delete", "suite", "arrCustomFoldersUrls")
+        self.assertEventuallyEqual(lambda: self.read_submenu(copy), [])
+        self.running.menu().choose(copy)
+        expected.append(ActionCall(None, [letter]))
+        self.assertEventuallyEqual(lambda: calls_of(installed, "copy-to-a-folder"), expected)
 
     def test_the_file_manager_outlives_a_companion_that_hangs(self):
         self.start()
