@@ -26,7 +26,7 @@ std::uint32_t kindsOf(const Selection& selection)
 
 bool takesTarget(const MenuAction& action)
 {
-    return action.identifier == "move-to-a-folder" || action.identifier == "copy-to-a-folder";
+    return (action.appliesTo & AppliesTo::Target) != 0;
 }
 
 } // namespace

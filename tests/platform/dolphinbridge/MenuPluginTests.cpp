@@ -140,8 +140,8 @@ QList<ActionRow> twoActions()
 
 QList<ActionRow> twoThatTakeFolders()
 {
-    return {{QStringLiteral("move-to-a-folder"), first, {}, AppliesTo::Items},
-            {QStringLiteral("copy-to-a-folder"), second, {}, AppliesTo::Items}};
+    return {{QStringLiteral("move-to-a-folder"), first, {}, AppliesTo::Items | AppliesTo::Target},
+            {QStringLiteral("copy-to-a-folder"), second, {}, AppliesTo::Items | AppliesTo::Target}};
 }
 
 } // namespace

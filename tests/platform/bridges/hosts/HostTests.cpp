@@ -106,8 +106,8 @@ protected:
     {
         return Properties()
             .with("Actions",
-                  "[('move-to-a-folder', 'Move', 'icon-1', uint32 70), ('anything', 'Anything', 'icon-2', 127),"
-                  " ('copy-to-a-folder', 'Copy', 'icon-3', 70)]")
+                  "[('move-to-a-folder', 'Move', 'icon-1', uint32 198), ('anything', 'Anything', 'icon-2', 127),"
+                  " ('copy-to-a-folder', 'Copy', 'icon-3', 198)]")
             .with("Folders", "[('/listed', true)]")
             .with("CustomFolders", folders);
     }
