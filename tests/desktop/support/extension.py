@@ -10,6 +10,8 @@ EXTENSIONS_NAME = APPLICATION + ".extensions"
 PROGRAM = "orvik-menu-extension"
 OBJECT = "/" + EXTENSION.replace(".", "/").replace("-", "_")
 INTERFACE = "com.orvikstudio.FinderSyncExtension"
+# What the modules of file managers read.
+MENU_INTERFACE = "com.orvikstudio.FinderSyncMenu"
 AUTOSTART = f"autostart/{EXTENSION}.desktop"
 
 

@@ -10,7 +10,7 @@ from .action_stand_in import ActionCall, calls_of, install_actions
 from .buses import SessionBus, call
 from .case import DesktopTestCase
 from .deployment import EXTENSION
-from .extension import INTERFACE, OBJECT, Companion, processes_of
+from .extension import MENU_INTERFACE, OBJECT, Companion, processes_of
 from .suite import TITLES, record
 from .waiting import eventually
 
@@ -244,7 +244,8 @@ class FileManagerCases:
         self.assertMenu()
 
     def test_the_file_manager_outlives_a_companion_that_talks_nonsense(self):
-        nonsense = processes.start([sys.executable, "-B", garbage_companion.__file__, EXTENSION, OBJECT, INTERFACE],
+        nonsense = processes.start([sys.executable, "-B", garbage_companion.__file__, EXTENSION, OBJECT,
+                                    MENU_INTERFACE],
                                    env=self.environment)
         self.addCleanup(processes.end, nonsense)
         eventually(lambda: self.bus.has_owner(EXTENSION), "the nonsense")

@@ -16,9 +16,7 @@ namespace {
 
 Properties offering(const std::vector<std::string>& actions)
 {
-    return Properties()
-        .with("Actions", Properties::actions(actions))
-        .with("Folders", Properties::folders({"/listed"}));
+    return Properties().with("Actions", Properties::actions(actions)).with("Scope", Properties::scope({{"/listed"}}));
 }
 
 class CompanionCopyTest : public testing::Test {
@@ -209,8 +207,7 @@ TEST_F(CompanionCopyTest, TakesGarbageForNothingAndRecovers)
     const auto companion = newCompanion({"a"});
     companion->takeName();
     ASSERT_TRUE(offers({"a"}));
-    companion->publish(
-        Properties().with("Actions", "'garbage'").with("Folders", "[1, 2]").with("Third", "<<{1: 2}>>"));
+    companion->publish(Properties().with("Actions", "'garbage'").with("Scope", "[1, 2]").with("Third", "<<{1: 2}>>"));
     companion->announce();
     EXPECT_TRUE(offers({}));
     companion->publish(offering({"b"}));

@@ -114,7 +114,7 @@ void CompanionStandIn::announce()
 {
     EXPECT_TRUE(g_dbus_connection_emit_signal(
         m_connection.get(), nullptr, m_address.path.c_str(), "org.freedesktop.DBus.Properties", "PropertiesChanged",
-        g_variant_new_parsed("(%s, @a{sv} {}, ['Actions'])", CompanionAddress::interface), nullptr));
+        g_variant_new_parsed("(%s, @a{sv} {}, ['Actions'])", CompanionAddress::menuInterface), nullptr));
 }
 
 void CompanionStandIn::goOn()

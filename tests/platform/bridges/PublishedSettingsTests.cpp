@@ -18,7 +18,7 @@ Properties sound()
 {
     return Properties()
         .with("Actions", "[('hide', 'Hide', 'orvik-menu-hide', uint32 70)]")
-        .with("Folders", "[('/listed', true)]");
+        .with("Scope", Properties::scope({{"/listed"}}));
 }
 
 /// Whether a property in the place of the sound one counts as though there were none.
@@ -45,7 +45,7 @@ TEST(PublishedSettings, AreWhatTheCompanionSays)
     const MenuSettings settings =
         settingsFrom(Properties()
                          .with("Actions", "[('b', 'To_B', 'icon-b', uint32 3), ('a', 'A', 'i', 127)]")
-                         .with("Folders", "[('/listed', true), ('/listed/not', false)]")
+                         .with("Scope", Properties::bytes(std::string("+/listed\0-/listed/not\0", 22)))
                          .with("CustomFolders", "['/b/', '/a b']")
                          .with("ShowMenuIcon", "false")
                          .with("ShowInSubmenu", "true"));
@@ -72,9 +72,9 @@ TEST(PublishedSettings, LeaveOutAPropertyOfTheWrongType)
          {"1", "'text'", "@as []", "['hide']", "[('hide', 'Hide')]", "[('hide', 'Hide', 'icon', int32 70)]",
           "('hide', 'Hide', 'icon', uint32 70)", "<[('hide', 'Hide', 'icon', uint32 70)]>", "@a{sv} {}"})
         EXPECT_TRUE(countsAsAbsent("Actions", value));
-    for (const char* value : {"true", "['/listed']", "[('/listed', 1)]", "[(b'/listed', true)]",
-                              "[('/listed', true, true)]", "{'/listed': true}", "[[('/listed', true)]]"})
-        EXPECT_TRUE(countsAsAbsent("Folders", value));
+    for (const char* value :
+         {"true", "'+/listed'", "['+/listed']", "[b'+/listed']", "[('/listed', true)]", "<b'+/listed'>"})
+        EXPECT_TRUE(countsAsAbsent("Scope", value));
     for (const char* value : {"'/a'", "[('/a', true)]", "[b'/a']", "[<'/a'>]", "[['/a']]", "@ao ['/a']"})
         EXPECT_TRUE(countsAsAbsent("CustomFolders", value));
     EXPECT_TRUE(countsAsAbsent("ShowMenuIcon", "0"));
@@ -134,20 +134,14 @@ TEST(PublishedSettings, HaveNoMoreActionsThanAMenuCanShow)
     EXPECT_TRUE(countsAsAbsent("Actions", Properties::actions(identifiers)));
 }
 
-TEST(PublishedSettings, HaveAHundredThousandFoldersAndNoMore)
+TEST(PublishedSettings, HaveNoScopeOfBytesThatAreNotFolders)
 {
-    std::vector<std::string> paths(100'000, "/folder/of/the/list");
-    paths.back() = "/listed";
-    EXPECT_FALSE(countsAsAbsent("Folders", Properties::folders(paths)));
-    paths.emplace_back("/one/more");
-    EXPECT_TRUE(countsAsAbsent("Folders", Properties::folders(paths)));
-}
-
-TEST(PublishedSettings, HaveNoMoreTextThanSixteenMebibytes)
-{
-    const std::size_t enough = (std::size_t(16) << 20U) - std::string("/listed").size();
-    EXPECT_FALSE(countsAsAbsent("Folders", Properties::folders({"/listed", std::string(enough, '/')})));
-    EXPECT_TRUE(countsAsAbsent("Folders", Properties::folders({"/listed", std::string(enough + 1, '/')})));
+    EXPECT_FALSE(countsAsAbsent("Scope", Properties::bytes(std::string("+/listed\0", 9))));
+    for (const std::string& bytes :
+         {std::string("+/listed"), std::string("/listed\0", 8), std::string("+/listed\0\0", 10),
+          std::string("+/listed\0+", 10), std::string("*/listed\0", 9)})
+        EXPECT_TRUE(countsAsAbsent("Scope", Properties::bytes(bytes)));
+    EXPECT_TRUE(countsAsAbsent("Scope", Properties::bytes("")));
 }
 
 TEST(PublishedSettings, HaveNoMoreCustomFoldersThanAMenuCanShow)

@@ -21,7 +21,6 @@ struct FolderRow {
 };
 
 Q_DECLARE_METATYPE(ActionRow)
-Q_DECLARE_METATYPE(FolderRow)
 
 /// What a companion says that has these settings, and no custom folders.
 QVariantMap properties(const QList<ActionRow>& actions, const QList<FolderRow>& folders, bool showIcons = true,

@@ -3,7 +3,7 @@
 #include "Bus.h"
 #include "CompanionStandIn.h"
 #include "Waiting.h"
-#include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
 
@@ -14,7 +14,7 @@
 #include <optional>
 #include <string>
 
-using namespace BusInterface::FinderSyncExtension;
+using namespace BusInterface::FinderSyncMenu;
 using DolphinBridge::readProperties;
 using MenuExtension::MenuSettings;
 
@@ -61,14 +61,6 @@ QList<ActionRow> actions(std::size_t count)
     QList<ActionRow> rows;
     for (std::size_t row = 0; row < count; ++row)
         rows += ActionRow{QStringLiteral("an-action"), QStringLiteral("Title"), QStringLiteral("icon"), 1};
-    return rows;
-}
-
-QList<FolderRow> folders(std::size_t count, const QString& path)
-{
-    QList<FolderRow> rows;
-    for (std::size_t row = 0; row < count; ++row)
-        rows += FolderRow{path, true};
     return rows;
 }
 
@@ -138,17 +130,16 @@ TEST_F(ReadProperties, OfAnotherTypeAreNone)
                               QByteArray("bytes"),
                               QVariant::fromValue(QDBusVariant(true)),
                               QVariant::fromValue(QVariantList{1, QStringLiteral("a")}),
-                              QVariant::fromValue(ActionRow()),
-                              QVariant::fromValue(FolderRow())};
+                              QVariant::fromValue(ActionRow())};
     for (const char* const property :
-         {Actions::name, Folders::name, CustomFolders::name, ShowMenuIcon::name, ShowInSubmenu::name}) {
+         {Actions::name, Scope::name, CustomFolders::name, ShowMenuIcon::name, ShowInSubmenu::name}) {
         for (const QVariant& value : values) {
             const bool isList = property == CustomFolders::name && value.userType() == QMetaType::QStringList;
             EXPECT_EQ(readWith(property, value).has_value(), isList) << property << ' ' << value.typeName();
         }
     }
-    EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(folders(1, QStringLiteral("/")))));
-    EXPECT_FALSE(readWith(Folders::name, QVariant::fromValue(actions(1))));
+    EXPECT_FALSE(readWith(Scope::name, QVariant::fromValue(actions(1))));
+    EXPECT_FALSE(readWith(CustomFolders::name, QVariant::fromValue(actions(1))));
     EXPECT_FALSE(readWith(ShowMenuIcon::name, QVariant::fromValue(actions(1))));
 }
 
@@ -176,16 +167,11 @@ TEST_F(ReadProperties, AreNoneBeyondTheLimits)
     EXPECT_TRUE(readWith(Actions::name, QVariant::fromValue(actions(Limits::actions))));
     EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(actions(Limits::actions + 1))));
 
-    const QString path = QStringLiteral("/a");
-    EXPECT_TRUE(readWith(Folders::name, QVariant::fromValue(folders(Limits::folders, path))));
-    EXPECT_FALSE(readWith(Folders::name, QVariant::fromValue(folders(Limits::folders + 1, path))));
-
-    const auto withText = [&](std::size_t bytes) {
-        return readWith(Folders::name,
-                        QVariant::fromValue(folders(1, QString(static_cast<int>(bytes), QLatin1Char('/')))));
+    const auto withBytes = [&](std::size_t bytes) {
+        return readWith(Scope::name, '+' + QByteArray(static_cast<int>(bytes) - 2, '/') + '\0');
     };
-    EXPECT_TRUE(withText(Limits::text / 2));
-    EXPECT_FALSE(withText(Limits::text + 1));
+    EXPECT_TRUE(withBytes(MenuExtension::Scope::mostBytes));
+    EXPECT_FALSE(withBytes(MenuExtension::Scope::mostBytes + 1));
 
     QList<ActionRow> row = actions(1);
     row[0].title = QString(static_cast<int>(Limits::word), QLatin1Char('x'));

@@ -97,7 +97,7 @@ protected:
                   "[('one_file', 'For_one file', 'icon-1', uint32 4), ('anything', 'Anything', 'icon-2', 127),"
                   " ('picture', 'Picture', 'icon-3', 40), ('copy-path-to-clipboard', 'Copy', 'icon-4', 71),"
                   " ('folders', 'Folders', 'icon-5', 19)]")
-            .with("Folders", "[('/listed', true), ('/listed/off', false), ('/listed/\xc3\xa4', true)]");
+            .with("Scope", Properties::scope({{"/listed"}, {"/listed/off", false}, {"/listed/\xc3\xa4"}}));
     }
 
     /// The actions that move or copy, and custom folders.
@@ -108,7 +108,7 @@ protected:
             .with("Actions",
                   "[('move-to-a-folder', 'Move', 'icon-1', uint32 198), ('anything', 'Anything', 'icon-2', 127),"
                   " ('copy-to-a-folder', 'Copy', 'icon-3', 198)]")
-            .with("Folders", "[('/listed', true)]")
+            .with("Scope", Properties::scope({{"/listed"}}))
             .with("CustomFolders", folders);
     }
 
@@ -393,7 +393,7 @@ TEST_F(HostTest, OffersNothingOfGarbage)
 {
     publish(Properties()
                 .with("Actions", "[('../../a', 'Title', '/etc/icon.png', uint32 127)]")
-                .with("Folders", "[('relative', true), ('', true)]"));
+                .with("Scope", Properties::scope({{"relative"}, {""}})));
     EXPECT_TRUE(offers({listed}, 0));
     EXPECT_TRUE(itemsFor({{"file:///relative/a"}}).isEmpty());
     publish(properties());
