@@ -119,15 +119,17 @@ class Gtk4Menus(_Menus):
             if role not in _ITEMS:
                 continue
             # The page of a submenu begins with the title that opens it, which leads back and has an arrow before it.
-            if any(control.role == "widget" for control in item.children[0].children):
+            parts = item.children
+            if any(control.role == "widget" for control in parts[0].children):
                 page = item.name
                 pages[page] = []
             else:
-                pages[page].append(item)
+                # What opens one has an arrow behind it. Others may have the same title.
+                pages[page].append((item.name, item, parts[-1].role == "widget"))
 
-        def entries_of(title):
-            return [Entry(item.name, item, entries_of(item.name) if item.name in pages else [])
-                    for item in pages[title]]
+        def entries_of(page):
+            return [Entry(title, item, entries_of(title) if opens_page else [])
+                    for title, item, opens_page in pages[page]]
 
         return entries_of(None)
 
