@@ -32,15 +32,24 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             require(!name.empty() && name.find_first_of("/: \n") == std::string::npos);
     }
     require(!settings.scope.containsItem("relative/item"));
+    require(settings.targets.size() <= mostTargets);
+    std::set<std::string> paths;
+    for (const Target& target : settings.targets) {
+        require(target.path.starts_with('/') && paths.insert(target.path).second);
+        for (const std::string& text : {target.title, target.description})
+            require(!text.empty() && text.find('\n') == std::string::npos &&
+                    g_utf8_validate(text.c_str(), -1, nullptr));
+    }
 
     const SelectedItem item{.path = "/listed/item", .isFolder = false, .isPicture = true};
     const Menu menu = makeMenu(settings, {.items = {item}, .isBackground = false});
-    require(menu.actions.empty() || settings.scope.containsItem(item.path));
+    require(menu.entries.empty() || settings.scope.containsItem(item.path));
 
     // The sound form of the same bytes says the same.
     const Variant sound(g_variant_get_normal_form(properties.get()));
     const MenuSettings again = settingsFromProperties(*sound);
-    require(again.actions == settings.actions && again.inSubmenu == settings.inSubmenu);
+    require(again.actions == settings.actions && again.targets == settings.targets &&
+            again.inSubmenu == settings.inSubmenu);
     require(again.scope.containsItem(item.path) == settings.scope.containsItem(item.path));
     return 0;
 }

@@ -60,11 +60,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string_view rest(reinterpret_cast<const char*>(data), size);
     std::vector<Folder> folders;
     for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
-        if (end > 0)
+        // No path has a zero in it.
+        if (end > 0 && rest.substr(0, end).find('\0') == std::string_view::npos)
             folders.push_back({std::string(rest.substr(1, end - 1)), rest.front() == '+'});
         rest.remove_prefix(end + 1);
     }
-    const Scope scope(folders);
+    // As they are, they are published by nobody; they only do no harm.
+    if (const auto scope = Scope::fromBytes({reinterpret_cast<const char*>(data), size})) {
+        static_cast<void>(scope->containsItem("/a/b"));
+        static_cast<void>(scope->containsBackground(rest));
+    }
+    const Scope scope = Scope::fromBytes(bytesOf(folders)).value();
     if (!rest.starts_with('/') || rest.find("//") != std::string_view::npos) {
         // Nobody has such paths; they only do no harm.
         static_cast<void>(scope.containsItem(rest));

@@ -90,12 +90,12 @@ void settle()
 Properties properties(int folderCount)
 {
     std::vector<std::string> actions;
-    std::vector<std::string> folders{"/listed"};
+    std::vector<Folder> folders{{"/listed"}};
     for (int number = 0; number < 16; ++number)
         actions.push_back("action-" + std::to_string(number));
     for (int number = 1; number < folderCount; ++number)
-        folders.push_back("/home/somebody/Documents/folder-" + std::to_string(number));
-    return Properties().with("Actions", Properties::actions(actions)).with("Folders", Properties::folders(folders));
+        folders.push_back({"/home/somebody/Documents/folder-" + std::to_string(number)});
+    return Properties().with("Actions", Properties::actions(actions)).with("Scope", Properties::scope(folders));
 }
 
 /// A companion in a process of its own. It says few folders, and many when it is told to show a submenu or none.
@@ -177,9 +177,11 @@ int main()
         return EXIT_FAILURE;
     }
     const CompanionProcess companion(address);
-    if (!::dlopen(TestedHost::toolkit, RTLD_NOW | RTLD_GLOBAL))
+    void* toolkit = ::dlopen(TestedHost::toolkit, RTLD_NOW | RTLD_GLOBAL);
+    if (!toolkit)
         return EXIT_FAILURE;
     // As other parts of a file manager have done before.
+    g_type_ensure(reinterpret_cast<GType (*)()>(::dlsym(toolkit, "gtk_widget_get_type"))());
     const Reference<GDBusConnection> host(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
     const Files one({{"file:///listed/a/file"}});
     const Files none({});

@@ -2,11 +2,14 @@
 
 #include "extension/bus/BusText.h"
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
+#include <string_view>
 #include <tuple>
 #include <unistd.h>
 
@@ -14,20 +17,31 @@ namespace MenuExtension {
 
 namespace {
 
-using namespace BusInterface::FinderSyncExtension;
+namespace Extension = BusInterface::FinderSyncExtension;
+namespace ForMenu = BusInterface::FinderSyncMenu;
 
 const std::string name{Deployment::extensionIdentifier};
 const std::string path = BusInterface::objectPath(name);
 
+/// The property of that name and type, in whichever interface.
+template<class Property, class Named>
+concept Is = std::string_view(Property::name)
+== Named::name&& std::string_view(Property::type) == Named::type;
+
 /// What each property shows.
 struct Shown {
-    static const auto& as(DirectoryURLs, const CompanionState& state) { return state.directoryURLs; }
-    static const auto& as(Actions, const CompanionState& state) { return state.actions; }
-    static const auto& as(MenuItems, const CompanionState& state) { return state.settings.menuItems; }
-    static const auto& as(Folders, const CompanionState& state) { return state.settings.folders; }
-    static const auto& as(CustomFolders, const CompanionState& state) { return state.settings.customFolders; }
-    static bool as(ShowMenuIcon, const CompanionState& state) { return state.settings.showMenuIcon; }
-    static bool as(ShowInSubmenu, const CompanionState& state) { return state.settings.showInSubmenu; }
+    using State = CompanionState;
+    static const auto& as(Is<Extension::DirectoryURLs> auto, const State& state) { return state.directoryURLs; }
+    static const auto& as(Is<Extension::Actions> auto, const State& state) { return state.actions; }
+    static const auto& as(Is<Extension::MenuItems> auto, const State& state) { return state.settings.menuItems; }
+    static const auto& as(Is<Extension::Folders> auto, const State& state) { return state.settings.folders; }
+    static const auto& as(Is<Extension::CustomFolders> auto, const State& state)
+    {
+        return state.settings.customFolders;
+    }
+    static bool as(Is<Extension::ShowMenuIcon> auto, const State& state) { return state.settings.showMenuIcon; }
+    static bool as(Is<Extension::ShowInSubmenu> auto, const State& state) { return state.settings.showInSubmenu; }
+    static const auto& as(Is<ForMenu::Scope> auto, const State& state) { return state.settings.folders; }
 };
 
 // Negative error numbers go to the library, which answers whoever asked with them. An element whose text is not for
@@ -59,15 +73,22 @@ int append(sd_bus_message& reply, const MenuAction& action)
                                  action.icon.c_str(), action.appliesTo);
 }
 
-int appendValue(sd_bus_message& reply, const char* type, bool flag)
+template<class Property>
+int appendValue(sd_bus_message& reply, Property, bool flag)
 {
-    return sd_bus_message_append(&reply, type, static_cast<int>(flag));
+    return sd_bus_message_append(&reply, Property::type, static_cast<int>(flag));
 }
 
-template<class Element>
-int appendValue(sd_bus_message& reply, const char* type, const std::vector<Element>& elements)
+int appendValue(sd_bus_message& reply, ForMenu::Scope, const std::vector<Folder>& folders)
 {
-    int result = sd_bus_message_open_container(&reply, SD_BUS_TYPE_ARRAY, type + 1);
+    const std::string bytes = bytesOf(folders);
+    return sd_bus_message_append_array(&reply, SD_BUS_TYPE_BYTE, bytes.data(), bytes.size());
+}
+
+template<class Property, class Element>
+int appendValue(sd_bus_message& reply, Property, const std::vector<Element>& elements)
+{
+    int result = sd_bus_message_open_container(&reply, SD_BUS_TYPE_ARRAY, Property::type + 1);
     for (auto element = elements.begin(); result >= 0 && element != elements.end(); ++element)
         result = append(reply, *element);
     return result < 0 ? result : sd_bus_message_close_container(&reply);
@@ -100,13 +121,13 @@ std::vector<const char*> changedProperties(std::tuple<Property...>, const Compan
 
 /// What the library calls.
 struct BusService::Object {
-    static int answer(Quit, sd_bus_message* call, BusService& service)
+    static int answer(Extension::Quit, sd_bus_message* call, BusService& service)
     {
         service.m_requests.quit();
-        return sd_bus_reply_method_return(call, Quit::gives);
+        return sd_bus_reply_method_return(call, Extension::Quit::gives);
     }
 
-    static int answer(Run, sd_bus_message* call, BusService& service)
+    static int answer(Extension::Run, sd_bus_message* call, BusService& service)
     {
         const char* caller = sd_bus_message_get_sender(call);
         if (!caller || !service.trusts(caller))
@@ -124,7 +145,7 @@ struct BusService::Object {
     static void reply(sd_bus_message* call, const std::optional<Refusal>& refusal)
     {
         if (!refusal)
-            sd_bus_reply_method_return(call, Run::gives);
+            sd_bus_reply_method_return(call, Extension::Run::gives);
         else if (sd_bus_reply_method_errorf(call, errorName(refusal->kind).c_str(), "%s", refusal->words.c_str()) < 0)
             // Words that are not for the bus.
             sd_bus_reply_method_errorf(call, errorName(refusal->kind).c_str(), "It could not be done.");
@@ -140,18 +161,18 @@ struct BusService::Object {
     static int get(sd_bus*, const char*, const char*, const char*, sd_bus_message* reply, void* service,
                    sd_bus_error*)
     {
-        return appendValue(*reply, Property::type, Shown::as(Property(), static_cast<BusService*>(service)->m_state));
+        return appendValue(*reply, Property(), Shown::as(Property(), static_cast<BusService*>(service)->m_state));
     }
 
-    template<class... Method, class... Property>
+    /// `emits` says how changes of the properties are told.
+    template<std::uint64_t emits, class... Method, class... Property>
     static constexpr auto table(std::tuple<Method...>, std::tuple<Property...>)
     {
         return std::array<sd_bus_vtable, sizeof...(Method) + sizeof...(Property) + 2>{{
             SD_BUS_VTABLE_START(0),
             SD_BUS_METHOD_WITH_NAMES(Method::name, Method::takes, Method::argumentNames, Method::gives, ,
                                      &handle<Method>, SD_BUS_VTABLE_UNPRIVILEGED)...,
-            SD_BUS_PROPERTY(Property::name, Property::type, &get<Property>, 0,
-                            SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE)...,
+            SD_BUS_PROPERTY(Property::name, Property::type, &get<Property>, 0, emits)...,
             SD_BUS_VTABLE_END,
         }};
     }
@@ -163,11 +184,18 @@ BusService::BusService(sd_bus& bus, const CompanionState& state, BusRequests& re
 
 int BusService::publish()
 {
-    static const auto table = Object::table(Methods(), Properties());
-    sd_bus_slot* object = nullptr;
-    const int result = sd_bus_add_object_vtable(&m_bus, &object, path.c_str(), interface, table.data(), this);
-    m_object.reset(object);
-    return result;
+    static const auto extension =
+        Object::table<SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE>(Extension::Methods(), Extension::Properties());
+    static const auto forMenu =
+        Object::table<SD_BUS_VTABLE_PROPERTY_EMITS_INVALIDATION>(ForMenu::Methods(), ForMenu::Properties());
+    const auto add = [this](const char* interface, const sd_bus_vtable* table, BusSlot& kept) {
+        sd_bus_slot* slot = nullptr;
+        const int result = sd_bus_add_object_vtable(&m_bus, &slot, path.c_str(), interface, table, this);
+        kept.reset(slot);
+        return result;
+    };
+    const int result = add(Extension::interface, extension.data(), m_object);
+    return result < 0 ? result : add(ForMenu::interface, forMenu.data(), m_objectForMenu);
 }
 
 int BusService::claimName()
@@ -185,12 +213,15 @@ bool BusService::trusts(const std::string& caller)
 
 void BusService::announceChangesSince(const CompanionState& before)
 {
-    std::vector<const char*> names = changedProperties(Properties(), before, m_state);
-    if (names.empty())
-        return;
-    names.push_back(nullptr);
-    // The library changes no name.
-    sd_bus_emit_properties_changed_strv(&m_bus, path.c_str(), interface, const_cast<char**>(names.data()));
+    const auto announce = [this](const char* interface, std::vector<const char*> names) {
+        if (names.empty())
+            return;
+        names.push_back(nullptr);
+        // The library changes no name.
+        sd_bus_emit_properties_changed_strv(&m_bus, path.c_str(), interface, const_cast<char**>(names.data()));
+    };
+    announce(ForMenu::interface, changedProperties(ForMenu::Properties(), before, m_state));
+    announce(Extension::interface, changedProperties(Extension::Properties(), before, m_state));
 }
 
 } // namespace MenuExtension

@@ -61,6 +61,7 @@ private:
     const CompanionState& m_state;
     BusRequests& m_requests;
     BusSlot m_object;
+    BusSlot m_objectForMenu;
     /// The last caller that was seen to be the same user.
     std::string m_trusted;
 };

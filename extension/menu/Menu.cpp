@@ -24,6 +24,11 @@ std::uint32_t kindsOf(const Selection& selection)
     return one ? kinds : kinds | AppliesTo::SeveralItems;
 }
 
+bool takesTarget(const MenuAction& action)
+{
+    return (action.appliesTo & AppliesTo::Target) != 0;
+}
+
 } // namespace
 
 bool isInScope(const Selection& selection, const Scope& scope)
@@ -42,13 +47,13 @@ bool applies(std::uint32_t appliesTo, const Selection& selection)
 
 Menu makeMenu(const MenuSettings& settings, const Selection& selection)
 {
-    Menu menu{.actions = {}, .showIcons = settings.showIcons, .inSubmenu = settings.inSubmenu};
+    Menu menu{.entries = {}, .showIcons = settings.showIcons, .inSubmenu = settings.inSubmenu};
     if (settings.actions.empty() || !isInScope(selection, settings.scope))
         return menu;
     const std::uint32_t kinds = kindsOf(selection);
     for (const MenuAction& action : settings.actions) {
         if ((action.appliesTo & kinds) != 0)
-            menu.actions.push_back(&action);
+            menu.entries.push_back({&action, takesTarget(action) ? settings.targets : std::span<const Target>()});
     }
     return menu;
 }

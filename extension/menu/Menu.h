@@ -1,8 +1,10 @@
 #pragma once
 
 #include "extension/menu/Scope.h"
+#include "extension/menu/Targets.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +27,8 @@ struct MenuSettings {
     /// Those that are on and can be done here, in the order of the menu.
     std::vector<MenuAction> actions;
     Scope scope;
+    /// What the actions that move or copy offer.
+    std::vector<Target> targets;
     bool showIcons = true;
     bool inSubmenu = false;
 };
@@ -44,10 +48,17 @@ struct Selection {
     bool isBackground = false;
 };
 
+/// An item of the menu. What it refers to is the settings'.
+struct MenuEntry {
+    const MenuAction* action = nullptr;
+    /// What is in its submenu, before that which asks for a folder; none where there is no submenu.
+    std::span<const Target> targets;
+};
+
 /// What a file manager adds to its menu.
 struct Menu {
-    /// Of the settings, which must outlive the menu; none where there is nothing to add.
-    std::vector<const MenuAction*> actions;
+    /// None where there is nothing to add. The settings must outlive them.
+    std::vector<MenuEntry> entries;
     bool showIcons = false;
     bool inSubmenu = false;
 };

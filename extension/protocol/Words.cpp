@@ -51,25 +51,28 @@ bool isInvisible(char32_t code)
 
 } // namespace
 
+std::string shown(std::string_view name)
+{
+    std::string text;
+    while (!name.empty()) {
+        const auto character = firstOf(name);
+        const std::size_t length = character ? character->length : 1;
+        if (name.front() == '\n')
+            text += "\xE2\x86\xB5";
+        else if (name.front() == '\t')
+            text += "\xE2\x87\xA5";
+        else
+            text += !character || isInvisible(character->code) ? replacement : name.substr(0, length);
+        name.remove_prefix(length);
+    }
+    return text;
+}
+
 std::string name(std::string_view path)
 {
     path = path.substr(0, path.find_last_not_of('/') + 1);
-    std::string_view rest = path.substr(path.rfind('/') + 1);
-    std::string shown = "\"";
-    if (rest.empty())
-        shown += '/';
-    while (!rest.empty()) {
-        const auto character = firstOf(rest);
-        const std::size_t length = character ? character->length : 1;
-        if (rest.front() == '\n')
-            shown += "\xE2\x86\xB5";
-        else if (rest.front() == '\t')
-            shown += "\xE2\x87\xA5";
-        else
-            shown += !character || isInvisible(character->code) ? replacement : rest.substr(0, length);
-        rest.remove_prefix(length);
-    }
-    return shown + '"';
+    const std::string_view last = path.substr(path.rfind('/') + 1);
+    return '"' + (last.empty() ? "/" : shown(last)) + '"';
 }
 
 std::string reason(int error)

@@ -10,8 +10,11 @@
 /// Texts for people.
 namespace MenuExtension::Words {
 
-/// The name at the end of a path, in quotes, on one line: with a visible sign in the place of every byte that is no
-/// UTF-8, of control characters, and of those that reorder text.
+/// A file's name or path on one line: with a visible sign in the place of every byte that is no UTF-8, of control
+/// characters, and of those that reorder text.
+[[nodiscard]] std::string shown(std::string_view name);
+
+/// The name at the end of a path, shown in quotes.
 [[nodiscard]] std::string name(std::string_view path);
 
 /// Why an item could not be opened or changed, from errno.

@@ -13,6 +13,8 @@ inline constexpr std::uint32_t SeveralFolders = 1U << 4U;
 inline constexpr std::uint32_t SeveralPictures = 1U << 5U;
 /// Two or more of any kind.
 inline constexpr std::uint32_t SeveralItems = 1U << 6U;
+/// And on a folder to bring them to, beside the others: menus offer it the custom folders.
+inline constexpr std::uint32_t Target = 1U << 7U;
 
 inline constexpr std::uint32_t OneItem = OneFolder | OneFile;
 inline constexpr std::uint32_t Items = OneItem | SeveralItems;

@@ -45,8 +45,8 @@ protected:
     [[nodiscard]] Names offered(const Selection& selection) const
     {
         Names names;
-        for (const MenuAction* action : makeMenu(settings, selection).actions)
-            names.push_back(action->identifier);
+        for (const MenuEntry& entry : makeMenu(settings, selection).entries)
+            names.push_back(entry.action->identifier);
         return names;
     }
     [[nodiscard]] bool offers(const char* identifier, const Selection& selection) const
@@ -54,7 +54,7 @@ protected:
         return std::ranges::count(offered(selection), identifier) == 1;
     }
 
-    MenuSettings settings{.actions = {}, .scope = Scope({{"/in", true}, {"/in/off", false}})};
+    MenuSettings settings{.actions = {}, .scope = Scope({{"/in", true}, {"/in/off", false}}), .targets = {}};
 };
 
 TEST_F(OfferedMenu, HasNothingForAnEmptySelection)
@@ -78,7 +78,7 @@ TEST_F(OfferedMenu, IsInTheOrderOfTheSettingsUnderTheirTitles)
     settings.actions = {{"add-folders", "B", "", AppliesTo::Anything},
                         {"open-terminal", "A", "", AppliesTo::Anything}};
     EXPECT_EQ(offered(selected({file})), (Names{"add-folders", "open-terminal"}));
-    EXPECT_EQ(makeMenu(settings, selected({file})).actions.front()->title, "B");
+    EXPECT_EQ(makeMenu(settings, selected({file})).entries.front().action->title, "B");
 }
 
 TEST_F(OfferedMenu, HasForAFileWhatAppliesToOne)
@@ -126,6 +126,26 @@ TEST_F(OfferedMenu, HasWhatIsForPicturesForPicturesAlone)
     EXPECT_FALSE(offers("set-as-wallpaper", background("/in")));
 }
 
+TEST_F(OfferedMenu, HasTheCustomFoldersBelowWhatMovesOrCopiesAlone)
+{
+    settings.targets = targetsOf(Names{"/one", "/two"});
+    int submenus = 0;
+    const Menu menu = makeMenu(settings, selected({file, folder}));
+    for (const auto& [action, targets] : menu.entries) {
+        const bool takesFolder = action->identifier == "move-to-a-folder" || action->identifier == "copy-to-a-folder";
+        submenus += takesFolder ? 1 : 0;
+        EXPECT_EQ(targets.size(), takesFolder ? 2U : 0U) << action->identifier;
+    }
+    EXPECT_EQ(submenus, 2);
+    EXPECT_EQ(menu.entries[2].targets.front().path, "/one");
+}
+
+TEST_F(OfferedMenu, HasNoSubmenuWithoutCustomFolders)
+{
+    const Menu menu = makeMenu(settings, selected({file}));
+    EXPECT_TRUE(std::ranges::all_of(menu.entries, [](const MenuEntry& entry) { return entry.targets.empty(); }));
+}
+
 TEST_F(OfferedMenu, SaysHowItIsToBeShown)
 {
     EXPECT_TRUE(makeMenu(settings, selected({file})).showIcons);
@@ -152,6 +172,7 @@ TEST_F(OfferedMenu, IsMadeWithoutAskingTheSystemForAnything)
     for (int number = 0; number < 1000; ++number)
         folders.push_back({"/in/" + std::to_string(number), true});
     settings.scope = Scope(folders);
+    settings.targets = targetsOf(Names(50, "/in/1"));
     const Selection selection = selected({{.path = "/in/7/deep/below/a.txt"}, {.path = "/in/8/b.txt"}});
     const std::size_t expected = offered(selection).size();
     ASSERT_GT(expected, 0U);
@@ -160,7 +181,7 @@ TEST_F(OfferedMenu, IsMadeWithoutAskingTheSystemForAnything)
     if (child == 0) {
         // From here on any call but the one that ends the process kills it.
         ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_STRICT);
-        const bool same = makeMenu(settings, selection).actions.size() == expected;
+        const bool same = makeMenu(settings, selection).entries.size() == expected;
         ::syscall(SYS_exit, same ? 0 : 1);
     }
     int status = 0;

@@ -1,5 +1,6 @@
 #include "extension/menu/Scope.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace MenuExtension;
@@ -101,6 +102,8 @@ TEST(Scope, TakesNoNoticeOfWhatIsNoAbsolutePath)
     EXPECT_FALSE(scope.containsItem("a/x"));
     EXPECT_FALSE(scope.containsBackground("a"));
     EXPECT_FALSE(Scope({{"/", true}}).containsItem("a/x"));
+    EXPECT_TRUE(Scope({{std::string(4095, '/'), true}}).containsItem("/x"));
+    EXPECT_FALSE(Scope({{std::string(4096, '/'), true}}).containsItem("/x"));
 }
 
 TEST(Scope, NamesTheFolderThatDecides)
@@ -108,7 +111,55 @@ TEST(Scope, NamesTheFolderThatDecides)
     const Scope scope({{"/a/", true}, {"/", false}});
     ASSERT_TRUE(scope.folderOfItem("/a/b"));
     EXPECT_EQ(*scope.folderOfItem("/a/b"), "/a");
-    EXPECT_EQ(scope.folderOfItem("/b/c"), nullptr);
+    EXPECT_FALSE(scope.folderOfItem("/b/c"));
+}
+
+TEST(Scope, IsTheSameOfTheBytesThatArePublished)
+{
+    const std::vector<Folder> folders{{"/a/", true}, {"/a/b", false}, {"", true}, {"/\xff\n", true}};
+    const std::string bytes = bytesOf(folders);
+    EXPECT_EQ(bytes, std::string("+/a/\0-/a/b\0+\0+/\xff\n\0", 18));
+    const auto scope = Scope::fromBytes(bytes);
+    ASSERT_TRUE(scope);
+    EXPECT_TRUE(scope->containsItem("/a/x"));
+    EXPECT_FALSE(scope->containsItem("/a/b/x"));
+    EXPECT_TRUE(scope->containsItem("/\xff\n/x"));
+    EXPECT_FALSE(scope->containsItem("/x"));
+    EXPECT_FALSE(Scope::fromBytes("").value_or(Scope({{"/", true}})).containsItem("/x"));
+    // No file has such a name.
+    EXPECT_EQ(bytesOf({{std::string("/a\0b", 4), true}}), "");
+}
+
+TEST(Scope, IsNotOfOtherBytes)
+{
+    for (const std::string_view bytes : {std::string_view("+/a"), std::string_view("/a\0", 3),
+                                         std::string_view("+/a\0\0", 5), std::string_view("+/a\0*/b\0", 8)})
+        EXPECT_FALSE(Scope::fromBytes(bytes));
+}
+
+TEST(Scope, IsOfNoMoreBytesAndFoldersThanAPersonCanHave)
+{
+    EXPECT_TRUE(Scope::fromBytes('+' + std::string(Scope::mostBytes - 2, '/') + '\0'));
+    EXPECT_FALSE(Scope::fromBytes('+' + std::string(Scope::mostBytes - 1, '/') + '\0'));
+
+    std::vector<Folder> folders(Scope::mostFolders, {"/folder/of/the/list", true});
+    folders.back().path = "/last";
+    EXPECT_TRUE(Scope::fromBytes(bytesOf(folders)).value_or(Scope()).containsItem("/last/x"));
+    folders.push_back({"/one/more", true});
+    EXPECT_FALSE(Scope::fromBytes(bytesOf(folders)));
+}
+
+TEST(Scope, IsNotOfFoldersThatAreChosenToBeSlow)
+{
+    // All of them want one place in the table.
+    std::vector<Folder> folders;
+    for (int number = 0; folders.size() < 400; ++number) {
+        std::string path = '/' + std::to_string(number);
+        if (std::hash<std::string_view>()(path) % 1024 == 0)
+            folders.push_back({std::move(path), true});
+    }
+    EXPECT_FALSE(Scope::fromBytes(bytesOf(folders)));
+    EXPECT_FALSE(Scope(folders).containsItem(folders.front().path + "/x"));
 }
 
 TEST(Scope, FindsItsWayAmongManyFoldersAndInADeepPath)

@@ -5,6 +5,8 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <optional>
+#include <string>
 
 namespace MenuExtension {
 
@@ -13,18 +15,18 @@ using LinuxDesktop::parentFolder;
 
 namespace {
 
-const std::string* listedFolderOf(const Request& request, std::string_view path)
+std::optional<std::string_view> listedFolderOf(const Request& request, std::string_view path)
 {
     return request.background ? request.scope.folderOfBackground(path) : request.scope.folderOfItem(path);
 }
 
-FileDescriptor openIn(const std::string* listed, std::string_view path, int flags)
+FileDescriptor openIn(std::optional<std::string_view> listed, std::string_view path, int flags)
 {
     if (!listed) {
         errno = EXDEV;
         return {};
     }
-    return openBeneath(*listed, path, flags);
+    return openBeneath(std::string(*listed), path, flags);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "extension/bridges/dolphin/Guarded.h"
 #include "extension/bridges/dolphin/Properties.h"
-#include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
 
@@ -21,7 +21,7 @@ namespace DolphinBridge {
 
 namespace {
 
-namespace Companion = BusInterface::FinderSyncExtension;
+namespace Companion = BusInterface::FinderSyncMenu;
 
 const auto daemonName = QStringLiteral("org.freedesktop.DBus");
 const auto daemonPath = QStringLiteral("/org/freedesktop/DBus");

@@ -9,9 +9,11 @@
 #include <KFileItemListProperties>
 #include <QIcon>
 #include <QScreen>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -20,8 +22,8 @@ namespace DolphinBridge {
 namespace {
 
 using MenuExtension::Menu;
-using MenuExtension::MenuAction;
 using MenuExtension::MenuSettings;
+using MenuExtension::Target;
 
 /// A title as it is: not with a letter underlined, nor in two columns.
 QString shown(const std::string& title)
@@ -29,6 +31,29 @@ QString shown(const std::string& title)
     return QString::fromStdString(title)
         .replace(QLatin1Char('&'), QLatin1String("&&"))
         .replace(QLatin1Char('\t'), QLatin1Char(' '));
+}
+
+/// A text as it is, in a place that takes marks too.
+QString asTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped())
+                                     : text;
+}
+
+/// For each target an action with it, and one that leaves it to be asked for.
+template<class NewAction>
+QList<QAction*> actionsOf(std::span<const Target> targets, const NewAction& newAction, bool showIcons)
+{
+    QList<QAction*> actions;
+    for (const Target& target : targets) {
+        actions += newAction(shown(target.title), target.path);
+        actions.last()->setToolTip(asTip(QString::fromStdString(target.description)));
+        if (showIcons)
+            actions.last()->setIcon(QIcon::fromTheme(QString::fromLatin1(MenuExtension::targetIcon)));
+    }
+    actions += newAction(QString::fromUtf8(MenuExtension::chooseFolderTitle), {});
+    actions.last()->setToolTip(QString::fromLatin1(MenuExtension::chooseFolderDescription));
+    return actions;
 }
 
 /// A menu that has grown while it is open may reach beyond the screen.
@@ -53,14 +78,15 @@ MenuPlugin::MenuPlugin(QObject* parent, const QVariantList& arguments) : KAbstra
 MenuPlugin::~MenuPlugin()
 {
     // There may be no event loop any more.
-    delete m_submenu.release();
+    for (auto& submenu : m_submenus)
+        delete submenu.release();
 }
 
 QList<QAction*> MenuPlugin::actions(const KFileItemListProperties& items, QWidget* window)
 {
     QList<QAction*> actions;
     guarded([&] {
-        m_submenu.reset();
+        m_submenus.clear();
         m_offered.reset(new QObject(this));
         const CompanionCopy& copy = CompanionCopy::shared();
         const auto settings = copy.settings();
@@ -83,20 +109,38 @@ QList<QAction*> MenuPlugin::actionsFor(const MenuSettings& settings, const std::
 {
     const Menu menu = MenuExtension::makeMenu(settings, clicked->selection());
     QList<QAction*> actions;
-    for (const MenuAction* const offered : menu.actions) {
-        auto* const action = new QAction(shown(offered->title), m_offered.get());
+    for (const auto& [offered, targets] : menu.entries) {
+        const auto newAction = [&, identifier = offered->identifier](const QString& title,
+                                                                     const std::string& target) {
+            auto* const action = new QAction(title, m_offered.get());
+            connect(action, &QAction::triggered, action, [identifier, target, clicked, window] {
+                guarded([&] { request({identifier, target}, clicked, CompanionCopy::shared().bus(), window); });
+            });
+            return action;
+        };
+        const QString title = shown(offered->title);
+        QAction* action = nullptr;
+        if (targets.empty()) {
+            action = newAction(title, {});
+        } else {
+            QMenu& folders = newSubmenu(title, actionsOf(targets, newAction, menu.showIcons));
+            folders.setToolTipsVisible(true);
+            action = folders.menuAction();
+        }
         if (menu.showIcons)
             action->setIcon(QIcon::fromTheme(QString::fromStdString(offered->icon)));
-        connect(action, &QAction::triggered, action, [identifier = offered->identifier, clicked, window] {
-            guarded([&] { request(identifier, clicked, CompanionCopy::shared().bus(), window); });
-        });
         actions += action;
     }
     if (actions.isEmpty() || !menu.inSubmenu)
         return actions;
-    m_submenu.reset(new QMenu(QString::fromLatin1(MenuExtension::submenuTitle)));
-    m_submenu->addActions(actions);
-    return {m_submenu->menuAction()};
+    return {newSubmenu(QString::fromLatin1(MenuExtension::submenuTitle), actions).menuAction()};
+}
+
+QMenu& MenuPlugin::newSubmenu(const QString& title, const QList<QAction*>& actions)
+{
+    QMenu& menu = *m_submenus.emplace_back(new QMenu(title));
+    menu.addActions(actions);
+    return menu;
 }
 
 QAction* MenuPlugin::placeForActions(const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window)

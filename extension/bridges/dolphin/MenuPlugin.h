@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 class KFileItemListProperties;
 
@@ -37,12 +38,13 @@ private:
 
     QList<QAction*> actionsFor(const MenuExtension::MenuSettings& settings,
                                const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window);
+    QMenu& newSubmenu(const QString& title, const QList<QAction*>& actions);
     QAction* placeForActions(const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window);
     void fill(QAction& place, const std::shared_ptr<const Clicked>& clicked, const QPointer<QWidget>& window);
 
     /// The actions of the last menu: the host gives none back.
     std::unique_ptr<QObject, Later> m_offered;
-    std::unique_ptr<QMenu, Later> m_submenu;
+    std::vector<std::unique_ptr<QMenu, Later>> m_submenus;
 };
 
 } // namespace DolphinBridge

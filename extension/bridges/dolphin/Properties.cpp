@@ -1,12 +1,17 @@
 #include "extension/bridges/dolphin/Properties.h"
 
-#include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 
+#include <QByteArray>
 #include <QDBusArgument>
 #include <QDBusVariant>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
+#include <algorithm>
+#include <climits>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,10 +20,10 @@ namespace DolphinBridge {
 
 namespace {
 
-using namespace BusInterface::FinderSyncExtension;
-using MenuExtension::Folder;
+namespace Published = BusInterface::FinderSyncMenu;
 using MenuExtension::MenuAction;
 using MenuExtension::MenuSettings;
+using MenuExtension::Target;
 
 /// A container that is left again on every way out: the toolkit keeps the places of those that are not.
 template<void (QDBusArgument::*Enter)() const, void (QDBusArgument::*Leave)() const>
@@ -38,23 +43,12 @@ using InStructure = Inside<&QDBusArgument::beginStructure, &QDBusArgument::endSt
 using InMap = Inside<&QDBusArgument::beginMap, &QDBusArgument::endMap>;
 using InMapEntry = Inside<&QDBusArgument::beginMapEntry, &QDBusArgument::endMapEntry>;
 
-/// Reads text as long as there may be more of it.
-class Reader {
-public:
-    std::string text(const QDBusArgument& argument)
-    {
-        QString text;
-        argument >> text;
-        std::string bytes = text.toStdString();
-        m_read += bytes.size();
-        return bytes;
-    }
-
-    [[nodiscard]] bool isWithinLimits() const { return m_read <= Limits::text; }
-
-private:
-    std::size_t m_read = 0;
-};
+std::string text(const QDBusArgument& argument)
+{
+    QString text;
+    argument >> text;
+    return text.toStdString();
+}
 
 bool isShort(const MenuAction& action)
 {
@@ -62,47 +56,39 @@ bool isShort(const MenuAction& action)
            action.icon.size() <= Limits::word;
 }
 
-bool read(const QDBusArgument& list, Reader& reader, std::vector<MenuAction>& actions)
+/// A value that is read later holds its type itself.
+bool read(const QVariant& value, std::vector<MenuAction>& actions)
 {
+    if (value.userType() != qMetaTypeId<QDBusArgument>())
+        return false;
+    const auto list = value.value<QDBusArgument>();
+    actions.clear();
+    if (list.currentSignature() != QLatin1String(Published::Actions::type))
+        return false;
     const InArray array(list);
     while (!list.atEnd()) {
         const InStructure structure(list);
         MenuAction action;
-        action.identifier = reader.text(list);
-        action.title = reader.text(list);
-        action.icon = reader.text(list);
+        action.identifier = text(list);
+        action.title = text(list);
+        action.icon = text(list);
         list >> action.appliesTo;
-        if (actions.size() == Limits::actions || !reader.isWithinLimits() || !isShort(action))
+        if (actions.size() == Limits::actions || !isShort(action))
             return false;
         actions.push_back(std::move(action));
     }
     return true;
 }
 
-bool read(const QDBusArgument& list, Reader& reader, std::vector<Folder>& folders)
+bool read(const QVariant& value, MenuExtension::Scope& scope)
 {
-    const InArray array(list);
-    while (!list.atEnd()) {
-        const InStructure structure(list);
-        Folder folder;
-        folder.path = reader.text(list);
-        list >> folder.active;
-        if (folders.size() == Limits::folders || !reader.isWithinLimits())
-            return false;
-        folders.push_back(std::move(folder));
-    }
-    return true;
-}
-
-/// A value that is read later holds its type itself.
-template<class Element>
-bool read(const QVariant& value, const char* type, Reader& reader, std::vector<Element>& elements)
-{
-    if (value.userType() != qMetaTypeId<QDBusArgument>())
+    if (value.userType() != QMetaType::QByteArray)
         return false;
-    const auto list = value.value<QDBusArgument>();
-    elements.clear();
-    return list.currentSignature() == QLatin1String(type) && read(list, reader, elements);
+    const QByteArray bytes = value.toByteArray();
+    auto read = MenuExtension::Scope::fromBytes({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    if (read)
+        scope = *std::move(read);
+    return read.has_value();
 }
 
 bool read(const QVariant& value, bool& flag)
@@ -111,20 +97,31 @@ bool read(const QVariant& value, bool& flag)
     return value.userType() == QMetaType::Bool;
 }
 
+/// Lists of plain text the toolkit reads itself.
+bool read(const QVariant& value, std::vector<Target>& targets)
+{
+    const QStringList first = value.toStringList().mid(0, int{MenuExtension::mostTargets});
+    std::vector<std::string> folders;
+    std::transform(first.begin(), first.end(), std::back_inserter(folders),
+                   [](const QString& folder) { return folder.left(PATH_MAX).toStdString(); });
+    targets = MenuExtension::targetsOf(folders);
+    return value.userType() == QMetaType::QStringList;
+}
+
 /// The properties that have been met.
 struct Met {
     bool actions = false;
-    bool folders = false;
+    bool scope = false;
+    bool customFolders = false;
     bool showIcons = false;
     bool inSubmenu = false;
 
-    [[nodiscard]] bool all() const { return actions && folders && showIcons && inSubmenu; }
+    [[nodiscard]] bool all() const { return actions && scope && customFolders && showIcons && inSubmenu; }
 };
 
-bool readEntries(const QDBusArgument& properties, MenuSettings& settings, std::vector<Folder>& folders)
+bool readEntries(const QDBusArgument& properties, MenuSettings& settings)
 {
     Met met;
-    Reader reader;
     const InMap map(properties);
     while (!properties.atEnd()) {
         const InMapEntry entry(properties);
@@ -133,13 +130,15 @@ bool readEntries(const QDBusArgument& properties, MenuSettings& settings, std::v
         properties >> name >> held;
         const QVariant value = held.variant();
         const auto is = [&](const char* property) { return name == QLatin1String(property); };
-        if (is(Actions::name) && !(met.actions = read(value, Actions::type, reader, settings.actions)))
+        if (is(Published::Actions::name) && !(met.actions = read(value, settings.actions)))
             return false;
-        if (is(Folders::name) && !(met.folders = read(value, Folders::type, reader, folders)))
+        if (is(Published::Scope::name) && !(met.scope = read(value, settings.scope)))
             return false;
-        if (is(ShowMenuIcon::name) && !(met.showIcons = read(value, settings.showIcons)))
+        if (is(Published::CustomFolders::name) && !(met.customFolders = read(value, settings.targets)))
             return false;
-        if (is(ShowInSubmenu::name) && !(met.inSubmenu = read(value, settings.inSubmenu)))
+        if (is(Published::ShowMenuIcon::name) && !(met.showIcons = read(value, settings.showIcons)))
+            return false;
+        if (is(Published::ShowInSubmenu::name) && !(met.inSubmenu = read(value, settings.inSubmenu)))
             return false;
     }
     return met.all();
@@ -154,10 +153,8 @@ std::optional<MenuSettings> readProperties(const QDBusMessage& answer)
         arguments.size() != 1 || arguments.first().userType() != qMetaTypeId<QDBusArgument>())
         return std::nullopt;
     std::optional<MenuSettings> settings(std::in_place);
-    std::vector<Folder> folders;
-    if (!readEntries(arguments.first().value<QDBusArgument>(), *settings, folders))
+    if (!readEntries(arguments.first().value<QDBusArgument>(), *settings))
         return std::nullopt;
-    settings->scope = MenuExtension::Scope(folders);
     return settings;
 }
 

@@ -12,9 +12,6 @@ namespace DolphinBridge {
 /// What a companion says at most. Whatever says more is none.
 namespace Limits {
 inline constexpr std::size_t actions = 1'000;
-inline constexpr std::size_t folders = 100'000;
-/// Bytes of text in all.
-inline constexpr std::size_t text = std::size_t{16} << 20U;
 /// Of one identifier, title or icon name: a host lays every title out.
 inline constexpr std::size_t word = 1'000;
 } // namespace Limits

@@ -50,8 +50,7 @@ QVariant pathsOf(const Clicked& clicked)
     return QVariant::fromValue(paths);
 }
 
-void callCompanion(const std::string& action, const Clicked& clicked, const QDBusConnection& bus,
-                   const QString& token)
+void callCompanion(const Choice& choice, const Clicked& clicked, const QDBusConnection& bus, const QString& token)
 {
     const std::string name(Deployment::extensionIdentifier);
     QDBusMessage call = QDBusMessage::createMethodCall(
@@ -60,10 +59,12 @@ void callCompanion(const std::string& action, const Clicked& clicked, const QDBu
     QVariantMap options;
     if (clicked.isBackground)
         options[QStringLiteral("background")] = true;
+    if (!choice.target.empty())
+        options[QStringLiteral("target")] = QByteArray::fromStdString(choice.target);
     if (!token.isEmpty())
         options[QStringLiteral("activation-token")] = token;
     call.setAutoStartService(false);
-    call << QString::fromStdString(action) << pathsOf(clicked) << options;
+    call << QString::fromStdString(choice.action) << pathsOf(clicked) << options;
     // Nobody waits: the companion tells the user itself what it could not do.
     static_cast<void>(bus.asyncCall(call));
 }
@@ -105,14 +106,14 @@ void withActivationToken(QWidget* window, const std::function<void(const QString
 
 } // namespace
 
-void request(const std::string& action, const std::shared_ptr<const Clicked>& clicked, const QDBusConnection& bus,
+void request(const Choice& choice, const std::shared_ptr<const Clicked>& clicked, const QDBusConnection& bus,
              const QPointer<QWidget>& window)
 {
-    if (action == "copy-path-to-clipboard") {
+    if (choice.action == "copy-path-to-clipboard") {
         copyPaths(*clicked);
         return;
     }
-    withActivationToken(window, [=](const QString& token) { callCompanion(action, *clicked, bus, token); });
+    withActivationToken(window, [=](const QString& token) { callCompanion(choice, *clicked, bus, token); });
 }
 
 } // namespace DolphinBridge

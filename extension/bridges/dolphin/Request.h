@@ -11,9 +11,16 @@
 
 namespace DolphinBridge {
 
-/// Does an action of the menu and returns at once: the companion does it, apart from what only this process can. What
+/// What an item of the menu does.
+struct Choice {
+    std::string action;
+    /// The folder to move or copy to; empty where the action does not need one or asks for it.
+    std::string target;
+};
+
+/// Does what was chosen and returns at once: the companion does it, apart from what only this process can. What
 /// opens may come to the front in the place of `window`.
-void request(const std::string& action, const std::shared_ptr<const Clicked>& clicked, const QDBusConnection& bus,
+void request(const Choice& choice, const std::shared_ptr<const Clicked>& clicked, const QDBusConnection& bus,
              const QPointer<QWidget>& window);
 
 } // namespace DolphinBridge

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
 
@@ -12,7 +13,9 @@ namespace MenuExtension {
 struct CompanionAddress {
     const std::string name{Deployment::extensionIdentifier};
     const std::string path = BusInterface::objectPath(name);
+    /// What it does, and what it says for menus.
     static constexpr const char* interface = BusInterface::FinderSyncExtension::interface;
+    static constexpr const char* menuInterface = BusInterface::FinderSyncMenu::interface;
 };
 
 } // namespace MenuExtension

@@ -94,7 +94,7 @@ void CompanionCopy::appear(GDBusConnection& connection, const char* owner)
     m_connection.reset(static_cast<GDBusConnection*>(g_object_ref(&connection)));
     m_owner = owner;
     m_subscription = g_dbus_connection_signal_subscribe(&connection, owner, propertiesInterface, "PropertiesChanged",
-                                                        m_address.path.c_str(), CompanionAddress::interface,
+                                                        m_address.path.c_str(), CompanionAddress::menuInterface,
                                                         G_DBUS_SIGNAL_FLAGS_NONE, &Callbacks::changed, this, nullptr);
     m_isStale = true;
     m_rested = 0;
@@ -132,7 +132,7 @@ void CompanionCopy::read()
     m_question.reset(g_cancellable_new());
     // By its unique name, so that nobody else answers.
     g_dbus_connection_call(m_connection.get(), m_owner.c_str(), m_address.path.c_str(), propertiesInterface, "GetAll",
-                           g_variant_new("(s)", CompanionAddress::interface), G_VARIANT_TYPE("(a{sv})"),
+                           g_variant_new("(s)", CompanionAddress::menuInterface), G_VARIANT_TYPE("(a{sv})"),
                            G_DBUS_CALL_FLAGS_NO_AUTO_START, forever, m_question.get(), &Callbacks::answered, this);
 }
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -66,6 +67,23 @@ public:
 
 private:
     using Item = typename Host::Item;
+    using Items = std::vector<Reference<Item>>;
+
+    struct Look {
+        std::string name;
+        std::string_view title;
+        const char* tip = "";
+        /// In the icon theme; nothing for none.
+        const char* icon = nullptr;
+    };
+
+    /// What an item does.
+    struct Choice {
+        std::string action;
+        /// The folder to move or copy to; empty where the action does not need one or asks for it.
+        std::string target;
+        std::shared_ptr<const Clicked> clicked;
+    };
 
     /// What all providers of the process share, for as long as it runs.
     struct Shared {
@@ -142,23 +160,19 @@ private:
         // know where it was, whatever its place has become.
         const std::string name = (clicked->isBackground ? "OrvikMenu::background-" : "OrvikMenu::item-") +
                                  std::to_string(shared().changes);
-        std::vector<Reference<Item>> items;
-        for (const MenuAction* action : menu.actions) {
-            Item& item = *items.emplace_back(newItem(name + '-' + action->identifier, action->title,
-                                                     menu.showIcons ? action->icon.c_str() : nullptr));
-            g_signal_connect_data(&item, "activate", G_CALLBACK(&activate), new Choice{action->identifier, clicked},
-                                  &forget, GConnectFlags(0));
+        Items items;
+        for (const auto& [action, targets] : menu.entries) {
+            const Look look{.name = name + '-' + action->identifier,
+                            .title = action->title,
+                            .icon = menu.showIcons ? action->icon.c_str() : nullptr};
+            const Choice choice{.action = action->identifier, .target = {}, .clicked = clicked};
+            items.push_back(targets.empty() ? newItem(look, choice)
+                                            : newSubmenu(look, itemsOf(targets, look, choice, menu.showIcons)));
         }
         if (menu.inSubmenu && !items.empty()) {
-            const Reference<typename Host::Submenu> submenu(Host::newSubmenu());
-            for (const auto& item : items)
-                Host::append(submenu.get(), item.get());
-            if (submenusKeepItems())
-                g_object_weak_ref(G_OBJECT(submenu.get()), &release,
-                                  new std::vector<Reference<Item>>(std::move(items)));
-            items.clear();
-            items.emplace_back(newItem(name, submenuTitle, nullptr));
-            Host::setSubmenu(items.front().get(), submenu.get());
+            Items one;
+            one.push_back(newSubmenu({.name = name, .title = submenuTitle}, std::move(items)));
+            items = std::move(one);
         }
         GList* list = nullptr;
         while (!items.empty()) {
@@ -168,11 +182,38 @@ private:
         return list;
     }
 
+    /// For each target an item that does the choice with it, and one that leaves it to be asked for.
+    static Items itemsOf(std::span<const Target> targets, const Look& parent, const Choice& choice, bool showIcons)
+    {
+        Items items;
+        const auto add = [&](std::string_view title, const std::string& path, const char* tip, const char* icon) {
+            const std::string name = parent.name + '-' + std::to_string(items.size());
+            items.push_back(newItem({.name = name, .title = title, .tip = tip, .icon = icon},
+                                    {.action = choice.action, .target = path, .clicked = choice.clicked}));
+        };
+        for (const Target& target : targets)
+            add(target.title, target.path, target.description.c_str(), showIcons ? targetIcon : nullptr);
+        add(chooseFolderTitle, {}, chooseFolderDescription, nullptr);
+        return items;
+    }
+
+    static Reference<Item> newSubmenu(const Look& look, Items items)
+    {
+        const Reference<typename Host::Submenu> submenu(Host::newSubmenu());
+        for (const auto& item : items)
+            Host::append(submenu.get(), item.get());
+        if (submenusKeepItems())
+            g_object_weak_ref(G_OBJECT(submenu.get()), &release, new Items(std::move(items)));
+        Reference<Item> item = newItem(look);
+        Host::setSubmenu(item.get(), submenu.get());
+        return item;
+    }
+
     /// Whether the items of a submenu that is gone are still there: some libraries forget to let go of them.
     static bool submenusKeepItems()
     {
         static const bool keep = [] {
-            const Reference<Item> item(newItem("OrvikMenu", submenuTitle, nullptr));
+            const Reference<Item> item = newItem({.name = "OrvikMenu", .title = submenuTitle});
             Host::append(Reference<typename Host::Submenu>(Host::newSubmenu()).get(), item.get());
             const bool kept = G_OBJECT(item.get())->ref_count > 1;
             if (kept)
@@ -185,14 +226,22 @@ private:
     /// Lets go of the items of a submenu that is about to be gone, in its place.
     static void release(gpointer data, GObject*) noexcept
     {
-        const std::unique_ptr<std::vector<Reference<Item>>> items(static_cast<std::vector<Reference<Item>>*>(data));
+        const std::unique_ptr<Items> items(static_cast<Items*>(data));
         for (const auto& item : *items)
             g_object_unref(item.get());
     }
 
-    static Item* newItem(const std::string& name, const std::string& title, const char* icon)
+    static Reference<Item> newItem(const Look& look)
     {
-        return Host::newItem(name.c_str(), asLabel(title).c_str(), "", icon);
+        return Reference<Item>(Host::newItem(look.name.c_str(), asLabel(look.title).c_str(), look.tip, look.icon));
+    }
+
+    static Reference<Item> newItem(const Look& look, const Choice& choice)
+    {
+        Reference<Item> item = newItem(look);
+        g_signal_connect_data(item.get(), "activate", G_CALLBACK(&activate), new Choice(choice), &forget,
+                              GConnectFlags(0));
+        return item;
     }
 
     /// To each of the hosts an underscore marks a key, unless there are two.
@@ -204,20 +253,14 @@ private:
         return label;
     }
 
-    /// What an item does.
-    struct Choice {
-        std::string action;
-        std::shared_ptr<const Clicked> clicked;
-    };
-
     static void activate(Item*, gpointer data) noexcept
     {
         quietly([&] {
-            const auto& [action, clicked] = *static_cast<const Choice*>(data);
+            const auto& [action, target, clicked] = *static_cast<const Choice*>(data);
             if (action == actionOfFileManager)
                 Toolkit::copyText(pathsAsText(*clicked));
             else if (GDBusConnection* companion = shared().copy.connection())
-                callRun(*companion, action, *clicked, Toolkit::activationToken());
+                callRun(*companion, action, *clicked, target, Toolkit::activationToken());
         });
     }
 

@@ -7,9 +7,9 @@
 
 namespace MenuExtension {
 
-/// Asks the companion to do an action; nobody waits for the answer. With the token what the action opens may come to
-/// the front; empty where there is none.
+/// Asks the companion to do an action; nobody waits for the answer. The target is the folder to move or copy to, and
+/// with the token what the action opens may come to the front; each is empty where there is none.
 void callRun(GDBusConnection& connection, const std::string& action, const Clicked& clicked,
-             const std::string& token);
+             const std::string& target, const std::string& token);
 
 } // namespace MenuExtension

@@ -10,6 +10,8 @@ EXTENSIONS_NAME = APPLICATION + ".extensions"
 PROGRAM = "orvik-menu-extension"
 OBJECT = "/" + EXTENSION.replace(".", "/").replace("-", "_")
 INTERFACE = "com.orvikstudio.FinderSyncExtension"
+# What the modules of file managers read.
+MENU_INTERFACE = "com.orvikstudio.FinderSyncMenu"
 AUTOSTART = f"autostart/{EXTENSION}.desktop"
 
 
@@ -31,10 +33,11 @@ def processes_of(program, environment_mark):
 
 
 class Companion:
-    """The companion of one test's person."""
+    """The companion of one test's person, from the folder of the programs that are tested or another one."""
 
-    def __init__(self, case):
+    def __init__(self, case, programs=None):
         self._case = case
+        self._program = os.path.join(programs or case.programs, PROGRAM)
         self._mark = "HOME=" + case.home.folder
 
     def processes(self):
@@ -42,7 +45,7 @@ class Companion:
 
     def start(self):
         """As at log-in."""
-        self._case.start_program(PROGRAM)
+        self._case.start_program(self._program)
         eventually(lambda: self._case.bus.has_owner(EXTENSION), "the companion")
 
     def kill(self, signal_number):

@@ -6,10 +6,11 @@ import subprocess
 import sys
 
 from . import garbage_companion, processes
+from .action_stand_in import ActionCall, calls_of, install_actions
 from .buses import SessionBus, call
 from .case import DesktopTestCase
 from .deployment import EXTENSION
-from .extension import INTERFACE, OBJECT, Companion, processes_of
+from .extension import MENU_INTERFACE, OBJECT, Companion, processes_of
 from .suite import TITLES, record
 from .waiting import eventually
 
@@ -90,6 +91,13 @@ class FileManagerTestCase(DesktopTestCase):
     def assertMenu(self, *titles):
         """The menu of the selected items has ours, or comes to have them, without another selection."""
         self.assertEventuallyEqual(self.read_menu, list(titles))
+
+    def read_submenu(self, title):
+        """Opens the menu of the selected items and closes it. Answers the titles below one of ours."""
+        menu = self.running.menu()
+        titles = [entry.title for entry in menu.entry(title).entries]
+        menu.close()
+        return titles
 
     def letter(self):
         return os.path.join(self.work, "letter.txt")
@@ -185,6 +193,41 @@ class FileManagerCases:
         self.assertEventuallyEqual(lambda: sorted(self.clipboard().split(b"\n")),
                                    sorted(os.fsencode(os.path.join(several, name)) for name in names))
 
+    def test_items_go_to_a_custom_folder_or_to_one_that_is_asked_for(self):
+        move, copy, choose = "Move to a folder", "Copy to a folder", "Choose Folder…"
+        installed = self.make_folder()
+        programs = install_actions(self.programs, installed, "move-to-a-folder", "copy-to-a-folder")
+        self.companion = Companion(self, programs)
+        # Two of a name, and none in an active folder.
+        one, two = (self.make_files(folder) for folder in ("elsewhere/same_name", "same_name"))
+        letter = os.fsencode(self.letter())
+        self.start(arrCustomFoldersUrls=[one, self.elsewhere, two, "none"])
+        self.running.select(self.letter())
+        self.assertMenu("Copy path to Clipboard", move, copy)
+
+        folders = ["same_name (elsewhere)", "elsewhere", f"same_name ({os.path.basename(self.home.files)})", choose]
+        menu = self.running.menu()
+        for action in move, copy:
+            self.assertEqual([entry.title for entry in menu.entry(action).entries], folders)
+        menu.choose(move, folders[0])
+        expected = [ActionCall(os.fsencode(one), [letter])]
+        self.assertEventuallyEqual(lambda: calls_of(installed, "move-to-a-folder"), expected)
+        self.running.menu().choose(move, choose)
+        expected.append(ActionCall(None, [letter]))
+        self.assertEventuallyEqual(lambda: calls_of(installed, "move-to-a-folder"), expected)
+
+        self.run_tool("orvik-defaults", "write", "suite", "showinSubMenu", "-bool", "true")
+        self.assertMenu(SUBMENU)
+        self.running.menu().choose(SUBMENU, copy, folders[2])
+        expected = [ActionCall(os.fsencode(two), [letter])]
+        self.assertEventuallyEqual(lambda: calls_of(installed, "copy-to-a-folder"), expected)
+        self.run_tool("orvik-defaults", "write", "suite", "showinSubMenu", "-bool", "false")
+        self.run_tool("orvik-defaults", "delete", "suite", "arrCustomFoldersUrls")
+        self.assertEventuallyEqual(lambda: self.read_submenu(copy), [])
+        self.running.menu().choose(copy)
+        expected.append(ActionCall(None, [letter]))
+        self.assertEventuallyEqual(lambda: calls_of(installed, "copy-to-a-folder"), expected)
+
     def test_the_file_manager_outlives_a_companion_that_hangs(self):
         self.start()
         self.running.select(self.letter())
@@ -201,7 +244,8 @@ class FileManagerCases:
         self.assertMenu()
 
     def test_the_file_manager_outlives_a_companion_that_talks_nonsense(self):
-        nonsense = processes.start([sys.executable, "-B", garbage_companion.__file__, EXTENSION, OBJECT, INTERFACE],
+        nonsense = processes.start([sys.executable, "-B", garbage_companion.__file__, EXTENSION, OBJECT,
+                                    MENU_INTERFACE],
                                    env=self.environment)
         self.addCleanup(processes.end, nonsense)
         eventually(lambda: self.bus.has_owner(EXTENSION), "the nonsense")

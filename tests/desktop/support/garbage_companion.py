@@ -15,13 +15,18 @@ _INTERVAL_MS = 5
 _LONG = "x" * 100_000
 # The properties, each time with another nonsense.
 _NONSENSE = [
-    {"Actions": 1, "Folders": "no", "CustomFolders": True, "ShowMenuIcon": "yes", "ShowInSubmenu": dbus.Int64(2)},
-    {"Actions": dbus.Array([], signature="s"), "Folders": dbus.Array([], signature="a{sv}")},
+    {"Actions": 1, "Scope": "no", "CustomFolders": True, "ShowMenuIcon": "yes", "ShowInSubmenu": dbus.Int64(2)},
+    {"Actions": dbus.Array([], signature="s"), "Scope": dbus.Array([], signature="a{sv}")},
     {},
     {"Actions": dbus.Array([("", "", "", dbus.UInt32(0xFFFFFFFF)), (_LONG, _LONG, _LONG, dbus.UInt32(1)),
                             ("a/b\n", "%s%n&_\n", "../../x", dbus.UInt32(127))], signature="(sssu)"),
-     "Folders": dbus.Array([("", True), ("/" * 5000, True), ("relative", True), (_LONG, True)], signature="(sb)"),
-     "CustomFolders": dbus.Array([], signature="s"), "ShowMenuIcon": True, "ShowInSubmenu": True},
+     "Scope": dbus.ByteArray(b"+\0-" + b"/" * 5000 + b"\0+relative\0+/\0*" + _LONG.encode()),
+     "CustomFolders": dbus.Array(["", "/a\n/../b", "/" + _LONG, "/%s%n&_\n"] * 30, signature="s"),
+     "ShowMenuIcon": True, "ShowInSubmenu": True},
+    # The right form, and more folders than anybody has.
+    {"Actions": dbus.Array([("open-terminal", "Open Terminal", "icon", dbus.UInt32(255))], signature="(sssu)"),
+     "Scope": dbus.ByteArray(b"+/\0" * 200_000), "CustomFolders": dbus.Array(["/"], signature="s"),
+     "ShowMenuIcon": True, "ShowInSubmenu": False},
 ]
 
 
@@ -52,7 +57,7 @@ class Garbage:
     def say(self):
         self._turn += 1
         for signature, values in (("sa{sv}as", (self._interface, self._properties, [])),
-                                  ("sa{sv}as", (self._interface, {}, ["Actions", "Folders"])),
+                                  ("sa{sv}as", (self._interface, {}, ["Actions", "Scope"])),
                                   ("u", (dbus.UInt32(3),)),
                                   ("", ())):
             signal = dbus.lowlevel.SignalMessage(self._path, dbus.PROPERTIES_IFACE, "PropertiesChanged")

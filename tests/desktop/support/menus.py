@@ -96,11 +96,10 @@ class Gtk3Menus(_Menus):
         return [Entry(item.name, item, self._submenu(item)) for item in menu.children
                 if item.role in _ITEMS and item.has("showing")]
 
-    @staticmethod
-    def _submenu(item):
+    def _submenu(self, item):
         if item.role != "menu":
             return []
-        return [Entry(child.name, child, []) for child in item.children
+        return [Entry(child.name, child, self._submenu(child)) for child in item.children
                 if child.role in _ITEMS and child.has("enabled")]
 
 
@@ -119,14 +118,20 @@ class Gtk4Menus(_Menus):
         for item, role in below(menu):
             if role not in _ITEMS:
                 continue
-            title = item.name
-            # The page of a submenu begins with the title that opens it, which leads back.
-            if any(entry.title == title for entry in pages[None]):
-                page = title
+            # The page of a submenu begins with the title that opens it, which leads back and has an arrow before it.
+            parts = item.children
+            if any(control.role == "widget" for control in parts[0].children):
+                page = item.name
                 pages[page] = []
             else:
-                pages[page].append(Entry(title, item, []))
-        return [entry._replace(entries=pages.get(entry.title, [])) for entry in pages[None]]
+                # What opens one has an arrow behind it. Others may have the same title.
+                pages[page].append((item.name, item, parts[-1].role == "widget"))
+
+        def entries_of(page):
+            return [Entry(title, item, entries_of(title) if opens_page else [])
+                    for title, item, opens_page in pages[page]]
+
+        return entries_of(None)
 
     @staticmethod
     def press(hands, control):
@@ -170,9 +175,8 @@ class Qt5Menus(_Menus):
         return [Entry(item.name, item, self._submenu(item)) for item in menu.children
                 if item.role in _ITEMS and item.has("showing")]
 
-    @staticmethod
-    def _submenu(item):
-        return [Entry(entry.name, entry, []) for menu in item.children for entry in menu.children
+    def _submenu(self, item):
+        return [Entry(entry.name, entry, self._submenu(entry)) for menu in item.children for entry in menu.children
                 if entry.role in _ITEMS and entry.name]
 
     def close(self):

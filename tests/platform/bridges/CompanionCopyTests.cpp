@@ -16,9 +16,7 @@ namespace {
 
 Properties offering(const std::vector<std::string>& actions)
 {
-    return Properties()
-        .with("Actions", Properties::actions(actions))
-        .with("Folders", Properties::folders({"/listed"}));
+    return Properties().with("Actions", Properties::actions(actions)).with("Scope", Properties::scope({{"/listed"}}));
 }
 
 class CompanionCopyTest : public testing::Test {
@@ -209,8 +207,7 @@ TEST_F(CompanionCopyTest, TakesGarbageForNothingAndRecovers)
     const auto companion = newCompanion({"a"});
     companion->takeName();
     ASSERT_TRUE(offers({"a"}));
-    companion->publish(
-        Properties().with("Actions", "'garbage'").with("Folders", "[1, 2]").with("Third", "<<{1: 2}>>"));
+    companion->publish(Properties().with("Actions", "'garbage'").with("Scope", "[1, 2]").with("Third", "<<{1: 2}>>"));
     companion->announce();
     EXPECT_TRUE(offers({}));
     companion->publish(offering({"b"}));
@@ -250,7 +247,7 @@ TEST_F(CompanionCopyTest, WaitsForNoCompanionThatIsStopped)
     ASSERT_TRUE(waitUntil([&] { return companion->questions() == 2; }));
     // What it said last still counts, and what is asked of it is sent.
     EXPECT_EQ(offered(), std::vector<std::string>{"a"});
-    callRun(*m_copy->connection(), "a", {{"/listed/item"}, false}, "token");
+    callRun(*m_copy->connection(), "a", {{"/listed/item"}, false}, {}, "token");
     EXPECT_TRUE(waitUntil([&] { return companion->calls().size() == 1; }));
     companion->publish(offering({"b"}));
     companion->announce();

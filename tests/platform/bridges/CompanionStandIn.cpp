@@ -49,7 +49,7 @@ struct CompanionStandIn::Callbacks {
         GVariant* options = nullptr;
         g_variant_get(parameters, "(&s@aay@a{sv})", &action, &paths, &options);
         const Variant owned[]{Variant(paths), Variant(options)};
-        Call asked{action, {}, false};
+        Call asked{.action = action, .paths = {}};
         for (gsize index = 0; index < g_variant_n_children(paths); ++index) {
             const Variant path(g_variant_get_child_value(paths, index));
             asked.paths.emplace_back(g_variant_get_bytestring(path.get()));
@@ -57,6 +57,9 @@ struct CompanionStandIn::Callbacks {
         gboolean background = FALSE;
         asked.isBackground =
             g_variant_lookup(options, "background", "b", &background) != FALSE && background != FALSE;
+        const char* target = nullptr;
+        if (g_variant_lookup(options, "target", "^&ay", &target) != FALSE)
+            asked.target = target;
         return asked;
     }
 };
@@ -111,7 +114,7 @@ void CompanionStandIn::announce()
 {
     EXPECT_TRUE(g_dbus_connection_emit_signal(
         m_connection.get(), nullptr, m_address.path.c_str(), "org.freedesktop.DBus.Properties", "PropertiesChanged",
-        g_variant_new_parsed("(%s, @a{sv} {}, ['Actions'])", CompanionAddress::interface), nullptr));
+        g_variant_new_parsed("(%s, @a{sv} {}, ['Actions'])", CompanionAddress::menuInterface), nullptr));
 }
 
 void CompanionStandIn::goOn()

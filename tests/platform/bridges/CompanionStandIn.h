@@ -36,6 +36,8 @@ public:
         std::string action;
         std::vector<std::string> paths;
         bool isBackground = false;
+        /// The folder to move or copy to; empty where none was named.
+        std::string target = {};
         friend bool operator==(const Call&, const Call&) = default;
     };
     [[nodiscard]] const std::vector<Call>& calls() const { return m_calls; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "extension/bridges/gtk/Handles.h"
+#include "extension/menu/Scope.h"
 
 #include <memory>
 #include <string>
@@ -42,13 +43,21 @@ public:
         return g_variant_builder_end(&builder);
     }
 
-    /// Active folders.
-    static GVariant* folders(const std::vector<std::string>& paths)
+    static GVariant* bytes(const std::string& bytes)
+    {
+        return g_variant_new_fixed_array(G_VARIANT_TYPE_BYTE, bytes.data(), bytes.size(), 1);
+    }
+    static GVariant* scope(const std::vector<MenuExtension::Folder>& folders)
+    {
+        return bytes(MenuExtension::bytesOf(folders));
+    }
+
+    static GVariant* texts(const std::vector<std::string>& texts)
     {
         GVariantBuilder builder;
-        g_variant_builder_init(&builder, G_VARIANT_TYPE("a(sb)"));
-        for (const std::string& path : paths)
-            g_variant_builder_add(&builder, "(sb)", path.c_str(), TRUE);
+        g_variant_builder_init(&builder, G_VARIANT_TYPE_STRING_ARRAY);
+        for (const std::string& text : texts)
+            g_variant_builder_add(&builder, "s", text.c_str());
         return g_variant_builder_end(&builder);
     }
 

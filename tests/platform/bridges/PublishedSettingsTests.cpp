@@ -18,7 +18,7 @@ Properties sound()
 {
     return Properties()
         .with("Actions", "[('hide', 'Hide', 'orvik-menu-hide', uint32 70)]")
-        .with("Folders", "[('/listed', true)]");
+        .with("Scope", Properties::scope({{"/listed"}}));
 }
 
 /// Whether a property in the place of the sound one counts as though there were none.
@@ -27,7 +27,8 @@ testing::AssertionResult countsAsAbsent(const std::string& name, GVariant* value
     const MenuSettings settings = settingsFrom(Properties().with(name, value).with("Other", "1"));
     const MenuSettings nothing;
     if (settings.actions == nothing.actions && !settings.scope.containsItem("/listed/item") &&
-        settings.showIcons == nothing.showIcons && settings.inSubmenu == nothing.inSubmenu)
+        settings.targets == nothing.targets && settings.showIcons == nothing.showIcons &&
+        settings.inSubmenu == nothing.inSubmenu)
         return testing::AssertionSuccess();
     return testing::AssertionFailure() << name << " counts";
 }
@@ -44,9 +45,11 @@ TEST(PublishedSettings, AreWhatTheCompanionSays)
     const MenuSettings settings =
         settingsFrom(Properties()
                          .with("Actions", "[('b', 'To_B', 'icon-b', uint32 3), ('a', 'A', 'i', 127)]")
-                         .with("Folders", "[('/listed', true), ('/listed/not', false)]")
+                         .with("Scope", Properties::bytes(std::string("+/listed\0-/listed/not\0", 22)))
+                         .with("CustomFolders", "['/b/', '/a b']")
                          .with("ShowMenuIcon", "false")
                          .with("ShowInSubmenu", "true"));
+    EXPECT_EQ(settings.targets, (std::vector<Target>{{"/b", "b", "/b"}, {"/a b", "a b", "/a b"}}));
     EXPECT_EQ(settings.actions, (std::vector<MenuAction>{{"b", "To_B", "icon-b", 3}, {"a", "A", "i", 127}}));
     EXPECT_TRUE(settings.scope.containsItem("/listed/item"));
     EXPECT_FALSE(settings.scope.containsItem("/listed/not/item"));
@@ -69,9 +72,11 @@ TEST(PublishedSettings, LeaveOutAPropertyOfTheWrongType)
          {"1", "'text'", "@as []", "['hide']", "[('hide', 'Hide')]", "[('hide', 'Hide', 'icon', int32 70)]",
           "('hide', 'Hide', 'icon', uint32 70)", "<[('hide', 'Hide', 'icon', uint32 70)]>", "@a{sv} {}"})
         EXPECT_TRUE(countsAsAbsent("Actions", value));
-    for (const char* value : {"true", "['/listed']", "[('/listed', 1)]", "[(b'/listed', true)]",
-                              "[('/listed', true, true)]", "{'/listed': true}", "[[('/listed', true)]]"})
-        EXPECT_TRUE(countsAsAbsent("Folders", value));
+    for (const char* value :
+         {"true", "'+/listed'", "['+/listed']", "[b'+/listed']", "[('/listed', true)]", "<b'+/listed'>"})
+        EXPECT_TRUE(countsAsAbsent("Scope", value));
+    for (const char* value : {"'/a'", "[('/a', true)]", "[b'/a']", "[<'/a'>]", "[['/a']]", "@ao ['/a']"})
+        EXPECT_TRUE(countsAsAbsent("CustomFolders", value));
     EXPECT_TRUE(countsAsAbsent("ShowMenuIcon", "0"));
     EXPECT_TRUE(countsAsAbsent("ShowMenuIcon", "'false'"));
     EXPECT_TRUE(countsAsAbsent("ShowInSubmenu", "<true>"));
@@ -129,20 +134,26 @@ TEST(PublishedSettings, HaveNoMoreActionsThanAMenuCanShow)
     EXPECT_TRUE(countsAsAbsent("Actions", Properties::actions(identifiers)));
 }
 
-TEST(PublishedSettings, HaveAHundredThousandFoldersAndNoMore)
+TEST(PublishedSettings, HaveNoScopeOfBytesThatAreNotFolders)
 {
-    std::vector<std::string> paths(100'000, "/folder/of/the/list");
-    paths.back() = "/listed";
-    EXPECT_FALSE(countsAsAbsent("Folders", Properties::folders(paths)));
-    paths.emplace_back("/one/more");
-    EXPECT_TRUE(countsAsAbsent("Folders", Properties::folders(paths)));
+    EXPECT_FALSE(countsAsAbsent("Scope", Properties::bytes(std::string("+/listed\0", 9))));
+    for (const std::string& bytes :
+         {std::string("+/listed"), std::string("/listed\0", 8), std::string("+/listed\0\0", 10),
+          std::string("+/listed\0+", 10), std::string("*/listed\0", 9)})
+        EXPECT_TRUE(countsAsAbsent("Scope", Properties::bytes(bytes)));
+    EXPECT_TRUE(countsAsAbsent("Scope", Properties::bytes("")));
 }
 
-TEST(PublishedSettings, HaveNoMoreTextThanSixteenMebibytes)
+TEST(PublishedSettings, HaveNoMoreCustomFoldersThanAMenuCanShow)
 {
-    const std::size_t enough = (std::size_t(16) << 20U) - std::string("/listed").size();
-    EXPECT_FALSE(countsAsAbsent("Folders", Properties::folders({"/listed", std::string(enough, '/')})));
-    EXPECT_TRUE(countsAsAbsent("Folders", Properties::folders({"/listed", std::string(enough + 1, '/')})));
+    std::vector<std::string> folders(100'000, "/many");
+    const std::size_t last = mostTargets - 1;
+    folders[0] = '/' + std::string(std::size_t(16) << 20U, 'a');
+    folders[last - 1] = "relative";
+    folders[last] = "/last";
+    folders[last + 1] = "/one/more";
+    EXPECT_EQ(settingsFrom(Properties().with("CustomFolders", Properties::texts(folders))).targets,
+              (std::vector<Target>{{"/many", "many", "/many"}, {"/last", "last", "/last"}}));
 }
 
 TEST(PublishedSettings, AreNotLookedForAmongThousands)
@@ -155,7 +166,7 @@ TEST(PublishedSettings, AreNotLookedForAmongThousands)
 
 TEST(PublishedSettings, OfDamagedBytesAreReadWithoutHarm)
 {
-    const Variant all = sound().with("ShowMenuIcon", "true").all();
+    const Variant all = sound().with("ShowMenuIcon", "true").with("CustomFolders", "['/a/x', '/b/x']").all();
     const auto* bytes = static_cast<const char*>(g_variant_get_data(all.get()));
     const std::string whole(bytes, g_variant_get_size(all.get()));
     for (std::size_t position = 0; position < whole.size(); ++position) {
@@ -168,6 +179,9 @@ TEST(PublishedSettings, OfDamagedBytesAreReadWithoutHarm)
             EXPECT_LE(settings.actions.size(), 1U);
             for (const MenuAction& action : settings.actions)
                 EXPECT_TRUE(g_utf8_validate(action.title.c_str(), -1, nullptr) && !action.identifier.empty());
+            EXPECT_LE(settings.targets.size(), 2U);
+            for (const Target& target : settings.targets)
+                EXPECT_TRUE(target.path.starts_with('/') && g_utf8_validate(target.title.c_str(), -1, nullptr));
         }
     }
 }

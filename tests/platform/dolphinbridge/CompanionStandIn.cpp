@@ -1,17 +1,22 @@
 #include "CompanionStandIn.h"
 
+#include "extension/menu/Scope.h"
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/AppliesTo.h"
 #include "settings/Deployment.h"
 
 #include <QDBusMetaType>
+#include <QStringList>
 
 #include <string>
+#include <vector>
 
 namespace {
 
 namespace Companion = BusInterface::FinderSyncExtension;
+namespace Published = BusInterface::FinderSyncMenu;
 
 const std::string name{Deployment::extensionIdentifier};
 
@@ -44,33 +49,28 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, ActionRow& row)
     return argument;
 }
 
-QDBusArgument& operator<<(QDBusArgument& argument, const FolderRow& row)
+namespace {
+
+QByteArray bytesOf(const QList<FolderRow>& rows)
 {
-    argument.beginStructure();
-    argument << row.path << row.active;
-    argument.endStructure();
-    return argument;
+    std::vector<MenuExtension::Folder> folders;
+    for (const FolderRow& row : rows)
+        folders.push_back({row.path.toStdString(), row.active});
+    return QByteArray::fromStdString(MenuExtension::bytesOf(folders));
 }
 
-const QDBusArgument& operator>>(const QDBusArgument& argument, FolderRow& row)
-{
-    argument.beginStructure();
-    argument >> row.path >> row.active;
-    argument.endStructure();
-    return argument;
-}
+} // namespace
 
 QVariantMap properties(const QList<ActionRow>& actions, const QList<FolderRow>& folders, bool showIcons,
                        bool inSubmenu)
 {
     qDBusRegisterMetaType<ActionRow>();
-    qDBusRegisterMetaType<FolderRow>();
     qDBusRegisterMetaType<QList<ActionRow>>();
-    qDBusRegisterMetaType<QList<FolderRow>>();
-    return {{QString::fromLatin1(Companion::Actions::name), QVariant::fromValue(actions)},
-            {QString::fromLatin1(Companion::Folders::name), QVariant::fromValue(folders)},
-            {QString::fromLatin1(Companion::ShowMenuIcon::name), showIcons},
-            {QString::fromLatin1(Companion::ShowInSubmenu::name), inSubmenu}};
+    return {{QString::fromLatin1(Published::Actions::name), QVariant::fromValue(actions)},
+            {QString::fromLatin1(Published::Scope::name), bytesOf(folders)},
+            {QString::fromLatin1(Published::CustomFolders::name), QStringList()},
+            {QString::fromLatin1(Published::ShowMenuIcon::name), showIcons},
+            {QString::fromLatin1(Published::ShowInSubmenu::name), inSubmenu}};
 }
 
 QVariantMap someProperties(const QString& title, const QString& folder)
@@ -107,7 +107,7 @@ void CompanionStandIn::announce()
 {
     QDBusMessage signal = QDBusMessage::createSignal(path(), QStringLiteral("org.freedesktop.DBus.Properties"),
                                                      QStringLiteral("PropertiesChanged"));
-    m_connection.send(signal << QString::fromLatin1(Companion::interface) << QVariantMap() << QStringList());
+    m_connection.send(signal << QString::fromLatin1(Published::interface) << QVariantMap() << QStringList());
 }
 
 bool CompanionStandIn::handleMessage(const QDBusMessage& message, const QDBusConnection& connection)

@@ -21,9 +21,8 @@ struct FolderRow {
 };
 
 Q_DECLARE_METATYPE(ActionRow)
-Q_DECLARE_METATYPE(FolderRow)
 
-/// What a companion says that has these settings.
+/// What a companion says that has these settings, and no custom folders.
 QVariantMap properties(const QList<ActionRow>& actions, const QList<FolderRow>& folders, bool showIcons = true,
                        bool inSubmenu = false);
 /// One action, for anything, in one folder.

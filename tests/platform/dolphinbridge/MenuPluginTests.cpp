@@ -44,12 +44,15 @@ protected:
         file.write(text);
     }
 
-    void companionSays(const QList<ActionRow>& actions, bool showIcons = false, bool inSubmenu = false)
+    void companionSays(const QList<ActionRow>& actions, bool showIcons = false, bool inSubmenu = false,
+                       const QStringList& customFolders = {})
     {
         m_titles.clear();
         for (const ActionRow& action : actions)
             m_titles += action.title;
-        companion.answers = {properties(actions, {{path("in"), true}}, showIcons, inSubmenu)};
+        QVariantMap said = properties(actions, {{path("in"), true}}, showIcons, inSubmenu);
+        said[QStringLiteral("CustomFolders")] = customFolders;
+        companion.answers = {said};
     }
 
     /// What a menu shows of these actions, once it shows some.
@@ -116,6 +119,16 @@ private:
     std::unique_ptr<KFileItemActions> m_host = std::make_unique<KFileItemActions>();
 };
 
+/// Of every action of a menu.
+QStringList all(const QMenu& menu, QString (QAction::*property)() const)
+{
+    QStringList texts;
+    const QList<QAction*> actions = menu.actions();
+    for (const QAction* const action : actions)
+        texts += (action->*property)();
+    return texts;
+}
+
 const auto first = QStringLiteral("First");
 const auto second = QStringLiteral("Second");
 
@@ -123,6 +136,12 @@ QList<ActionRow> twoActions()
 {
     return {{QStringLiteral("first"), first, QStringLiteral("an-icon"), AppliesTo::Anything},
             {QStringLiteral("second"), second, QStringLiteral("an-icon"), AppliesTo::OneFile}};
+}
+
+QList<ActionRow> twoThatTakeFolders()
+{
+    return {{QStringLiteral("move-to-a-folder"), first, {}, AppliesTo::Items | AppliesTo::Target},
+            {QStringLiteral("copy-to-a-folder"), second, {}, AppliesTo::Items | AppliesTo::Target}};
 }
 
 } // namespace
@@ -205,6 +224,53 @@ TEST_F(MenuPluginTest, PutsTheActionsIntoASubmenuWhereThatIsOn)
     EXPECT_EQ(titlesIn(*menu), QStringList(QStringLiteral("Orvik Menu")));
     EXPECT_EQ(titlesIn(*menu->actions().first()->menu()), QStringList({first, second}));
     EXPECT_EQ(offered({path("out/o.txt")}), QStringList());
+}
+
+TEST_F(MenuPluginTest, OffersTheCustomFoldersBelowWhatMovesOrCopies)
+{
+    companionSays(twoThatTakeFolders(), false, false,
+                  {QStringLiteral("/a&b/c"), QStringLiteral("/elsewhere/c"), QStringLiteral("/<b>\u00e4"),
+                   QStringLiteral("none")});
+    settle();
+    const auto menu = menuFor({path("in/a.txt"), path("in/sub")});
+    EXPECT_EQ(titlesIn(*menu), QStringList({first, second}));
+    for (const QAction* const action : menu->actions().mid(0, 2)) {
+        EXPECT_EQ(all(*action->menu(), &QAction::text),
+                  QStringList({QStringLiteral("c (a&&b)"), QStringLiteral("c (elsewhere)"),
+                               QStringLiteral("<b>\u00e4"), QStringLiteral("Choose Folder\u2026")}));
+        EXPECT_TRUE(action->menu()->toolTipsVisible());
+        EXPECT_EQ(all(*action->menu(), &QAction::toolTip),
+                  QStringList({QStringLiteral("/a&b/c"), QStringLiteral("/elsewhere/c"),
+                               QStringLiteral("<p style='white-space:pre'>/&lt;b&gt;\u00e4</p>"),
+                               QStringLiteral("Asks for another folder")}));
+    }
+    EXPECT_EQ(offered({path("out/o.txt")}), QStringList());
+}
+
+TEST_F(MenuPluginTest, NamesTheCustomFolderThatWasChosenToTheCompanion)
+{
+    const auto target = QStringLiteral("/elsewhere/\u00e4 b");
+    companionSays(twoThatTakeFolders(), false, true, {target});
+    settle();
+    const auto menu = menuFor({path("in/a.txt")});
+    const QList<QAction*> actions = menu->actions().first()->menu()->actions();
+    const QDBusMessage run = choose(*actions.last()->menu(), QStringLiteral("\u00e4 b"));
+    EXPECT_EQ(run.arguments().first(), QStringLiteral("copy-to-a-folder"));
+    EXPECT_EQ(pathsIn(run), QList{path("in/a.txt").toUtf8()});
+    EXPECT_EQ(optionsIn(run).value(QStringLiteral("target")).toByteArray(), target.toUtf8());
+
+    const QDBusMessage other = choose(*actions.first()->menu(), QStringLiteral("Choose Folder\u2026"));
+    EXPECT_EQ(other.arguments().first(), QStringLiteral("move-to-a-folder"));
+    EXPECT_FALSE(optionsIn(other).contains(QStringLiteral("target")));
+}
+
+TEST_F(MenuPluginTest, AsksForAFolderAtOnceWhereThereAreNoCustomFolders)
+{
+    companionSays(twoThatTakeFolders());
+    settle();
+    const QDBusMessage run = choose(*menuFor({path("in/a.txt")}), first);
+    EXPECT_EQ(run.arguments().first(), QStringLiteral("move-to-a-folder"));
+    EXPECT_FALSE(optionsIn(run).contains(QStringLiteral("target")));
 }
 
 TEST_F(MenuPluginTest, FillsTheMenuThatWasOpenedBeforeTheCompanionHadAnswered)

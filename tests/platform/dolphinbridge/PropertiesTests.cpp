@@ -3,7 +3,7 @@
 #include "Bus.h"
 #include "CompanionStandIn.h"
 #include "Waiting.h"
-#include "platform/linux/bus/interfaces/FinderSyncExtension.h"
+#include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
 #include "settings/Deployment.h"
 
@@ -14,7 +14,7 @@
 #include <optional>
 #include <string>
 
-using namespace BusInterface::FinderSyncExtension;
+using namespace BusInterface::FinderSyncMenu;
 using DolphinBridge::readProperties;
 using MenuExtension::MenuSettings;
 
@@ -64,14 +64,6 @@ QList<ActionRow> actions(std::size_t count)
     return rows;
 }
 
-QList<FolderRow> folders(std::size_t count, const QString& path)
-{
-    QList<FolderRow> rows;
-    for (std::size_t row = 0; row < count; ++row)
-        rows += FolderRow{path, true};
-    return rows;
-}
-
 } // namespace
 
 TEST_F(ReadProperties, AreReadAsTheCompanionSaysThem)
@@ -88,11 +80,35 @@ TEST_F(ReadProperties, AreReadAsTheCompanionSaysThem)
     EXPECT_FALSE(read->scope.containsItem("/off/a"));
     EXPECT_FALSE(read->showIcons);
     EXPECT_TRUE(read->inSubmenu);
+    EXPECT_TRUE(read->targets.empty());
+}
+
+TEST_F(ReadProperties, HaveTheCustomFoldersThatAreFolders)
+{
+    const auto read =
+        readWith(CustomFolders::name,
+                 QStringList{QStringLiteral("/w\u00f6rk/"), {}, QStringLiteral("relative"), QStringLiteral("/a\nb")});
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->targets, (std::vector<MenuExtension::Target>{{"/w\u00f6rk", "w\u00f6rk", "/w\u00f6rk"},
+                                                                 {"/a\nb", "a\u21b5b", "/a\u21b5b"}}));
+}
+
+TEST_F(ReadProperties, HaveNoMoreCustomFoldersThanAMenuCanShow)
+{
+    QStringList folders(QVector<QString>(100'000, QStringLiteral("/many")).toList());
+    const int last = int{MenuExtension::mostTargets} - 1;
+    folders[0] = QLatin1Char('/') + QString(1 << 24, QLatin1Char('a'));
+    folders[last] = QStringLiteral("/last");
+    folders[last + 1] = QStringLiteral("/one/more");
+    const auto read = readWith(CustomFolders::name, folders);
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->targets.size(), 2U);
+    EXPECT_EQ(read->targets.back().path, "/last");
 }
 
 TEST_F(ReadProperties, ThatTheMenuDoesNotNeedCountForNothing)
 {
-    EXPECT_TRUE(readWith("CustomFolders", QStringList{QStringLiteral("/x")}));
+    EXPECT_TRUE(readWith("DirectoryURLs", QStringList{QStringLiteral("file:///x")}));
     EXPECT_TRUE(readWith("Whatever", QVariant::fromValue(QDBusVariant(QVariantMap{{QStringLiteral("a"), 1}}))));
 }
 
@@ -114,14 +130,16 @@ TEST_F(ReadProperties, OfAnotherTypeAreNone)
                               QByteArray("bytes"),
                               QVariant::fromValue(QDBusVariant(true)),
                               QVariant::fromValue(QVariantList{1, QStringLiteral("a")}),
-                              QVariant::fromValue(ActionRow()),
-                              QVariant::fromValue(FolderRow())};
-    for (const char* const property : {Actions::name, Folders::name, ShowMenuIcon::name, ShowInSubmenu::name}) {
-        for (const QVariant& value : values)
-            EXPECT_FALSE(readWith(property, value)) << property << ' ' << value.typeName();
+                              QVariant::fromValue(ActionRow())};
+    for (const char* const property :
+         {Actions::name, Scope::name, CustomFolders::name, ShowMenuIcon::name, ShowInSubmenu::name}) {
+        for (const QVariant& value : values) {
+            const bool isList = property == CustomFolders::name && value.userType() == QMetaType::QStringList;
+            EXPECT_EQ(readWith(property, value).has_value(), isList) << property << ' ' << value.typeName();
+        }
     }
-    EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(folders(1, QStringLiteral("/")))));
-    EXPECT_FALSE(readWith(Folders::name, QVariant::fromValue(actions(1))));
+    EXPECT_FALSE(readWith(Scope::name, QVariant::fromValue(actions(1))));
+    EXPECT_FALSE(readWith(CustomFolders::name, QVariant::fromValue(actions(1))));
     EXPECT_FALSE(readWith(ShowMenuIcon::name, QVariant::fromValue(actions(1))));
 }
 
@@ -149,16 +167,11 @@ TEST_F(ReadProperties, AreNoneBeyondTheLimits)
     EXPECT_TRUE(readWith(Actions::name, QVariant::fromValue(actions(Limits::actions))));
     EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(actions(Limits::actions + 1))));
 
-    const QString path = QStringLiteral("/a");
-    EXPECT_TRUE(readWith(Folders::name, QVariant::fromValue(folders(Limits::folders, path))));
-    EXPECT_FALSE(readWith(Folders::name, QVariant::fromValue(folders(Limits::folders + 1, path))));
-
-    const auto withText = [&](std::size_t bytes) {
-        return readWith(Folders::name,
-                        QVariant::fromValue(folders(1, QString(static_cast<int>(bytes), QLatin1Char('/')))));
+    const auto withBytes = [&](std::size_t bytes) {
+        return readWith(Scope::name, '+' + QByteArray(static_cast<int>(bytes) - 2, '/') + '\0');
     };
-    EXPECT_TRUE(withText(Limits::text / 2));
-    EXPECT_FALSE(withText(Limits::text + 1));
+    EXPECT_TRUE(withBytes(MenuExtension::Scope::mostBytes));
+    EXPECT_FALSE(withBytes(MenuExtension::Scope::mostBytes + 1));
 
     QList<ActionRow> row = actions(1);
     row[0].title = QString(static_cast<int>(Limits::word), QLatin1Char('x'));

@@ -2,5 +2,5 @@
 
 #include <functional>
 
-/// Runs the event loop until `holds`, 10 seconds at most. Whether it holds.
+/// Runs the event loop until `holds`, a minute at most. Whether it holds.
 [[nodiscard]] bool waitUntil(const std::function<bool()>& holds);

@@ -14,23 +14,26 @@ class Announcements : public QObject {
     Q_OBJECT
 
 public:
-    explicit Announcements(QDBusConnection connection)
+    explicit Announcements(QDBusConnection connection,
+                           const QString& interface = QStringLiteral("com.orvikstudio.FinderSyncExtension"))
     {
         connection.connect({}, companionPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
-                           QStringLiteral("PropertiesChanged"),
-                           {QStringLiteral("com.orvikstudio.FinderSyncExtension")}, {}, this,
+                           QStringLiteral("PropertiesChanged"), {interface}, {}, this,
                            SLOT(note(QString, QVariantMap, QStringList)));
     }
 
-    Q_SLOT void note(const QString&, const QVariantMap& changed, const QStringList&)
+    Q_SLOT void note(const QString&, const QVariantMap& changed, const QStringList& invalidated)
     {
         m_names.append(changed.keys());
+        m_withoutValues.append(invalidated);
     }
 
-    [[nodiscard]] bool isEmpty() const { return m_names.isEmpty(); }
+    [[nodiscard]] bool isEmpty() const { return m_names.isEmpty() && m_withoutValues.isEmpty(); }
     /// Those since the last call.
     [[nodiscard]] QStringList take() { return std::exchange(m_names, {}); }
+    [[nodiscard]] QStringList takeThoseWithoutValues() { return std::exchange(m_withoutValues, {}); }
 
 private:
     QStringList m_names;
+    QStringList m_withoutValues;
 };

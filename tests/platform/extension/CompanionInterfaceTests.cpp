@@ -7,10 +7,8 @@
 
 namespace {
 
-const QString interface = QStringLiteral("com.orvikstudio.FinderSyncExtension");
-
-/// The members of the interface in their order, a line each: their attributes, and those of what is in them.
-std::vector<std::string> membersIn(const QByteArray& description)
+/// The members of an interface in their order, a line each: their attributes, and those of what is in them.
+std::vector<std::string> membersIn(const QByteArray& description, const QString& interface)
 {
     std::vector<std::string> members;
     QXmlStreamReader reader(description);
@@ -43,10 +41,13 @@ using CompanionInterface = CompanionTest;
 
 TEST_F(CompanionInterface, IsTheOneThatIsInstalledForOtherProgramsToRead)
 {
-    QFile file(QStringLiteral(ORVIK_INTERFACES "/") + interface + QStringLiteral(".xml"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    const auto described = membersIn(file.readAll());
-    ASSERT_FALSE(described.empty());
     startAndWait();
-    EXPECT_EQ(membersIn(introspect()), described);
+    for (const char* name : {"com.orvikstudio.FinderSyncExtension", "com.orvikstudio.FinderSyncMenu"}) {
+        const QString interface = QString::fromLatin1(name);
+        QFile file(QStringLiteral(ORVIK_INTERFACES "/") + interface + QStringLiteral(".xml"));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        const auto described = membersIn(file.readAll(), interface);
+        EXPECT_FALSE(described.empty()) << name;
+        EXPECT_EQ(membersIn(introspect(), interface), described);
+    }
 }

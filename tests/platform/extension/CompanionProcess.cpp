@@ -89,6 +89,16 @@ QVariant CompanionTest::property(const char* property)
     return answer.arguments().value(0).value<QDBusVariant>().variant();
 }
 
+QVariantMap CompanionTest::menuProperties()
+{
+    auto get = QDBusMessage::createMethodCall(name, path, QStringLiteral("org.freedesktop.DBus.Properties"),
+                                              QStringLiteral("GetAll"));
+    get << QStringLiteral("com.orvikstudio.FinderSyncMenu");
+    const QDBusMessage answer = connection().call(get);
+    EXPECT_EQ(answer.type(), QDBusMessage::ReplyMessage) << answer.errorMessage().toStdString();
+    return qdbus_cast<QVariantMap>(answer.arguments().value(0));
+}
+
 bool CompanionTest::flag(const char* property)
 {
     return this->property(property).toBool();

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <QVariant>
+#include <QVariantMap>
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -42,6 +42,8 @@ protected:
     [[nodiscard]] bool flag(const char* property);
     [[nodiscard]] QStringList strings(const char* property);
     [[nodiscard]] Items items(const char* property);
+    /// What it says for menus.
+    [[nodiscard]] QVariantMap menuProperties();
     /// Waits for the watched directories to be these.
     [[nodiscard]] bool watches(const QStringList& addresses);
 

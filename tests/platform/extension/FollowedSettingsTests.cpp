@@ -73,6 +73,28 @@ TEST_F(FollowedSettings, AnnounceWhatHasChangedAndNothingElse)
     EXPECT_EQ(announced.take(), QStringList{QStringLiteral("ShowInSubmenu")});
 }
 
+TEST_F(FollowedSettings, AreThereForMenusInLittleSpace)
+{
+    store({{"foldersArray", Array{"/a b/", "/c"}}, {"foldersArraystate", Array{1, 0}}});
+    startAndWait();
+    Announcements announced(connection(), QStringLiteral("com.orvikstudio.FinderSyncMenu"));
+    EXPECT_EQ(menuProperties()[QStringLiteral("Scope")].toByteArray(), QByteArray("+/a b/\0-/c\0", 11));
+
+    store({{"foldersArray", Array{"/new"}}, {"arrCustomFoldersUrls", Array{"/x"}}, {"showinSubMenu", true}});
+    ASSERT_TRUE(waitUntil([&] { return !announced.isEmpty(); }));
+    EXPECT_EQ(announced.take(), QStringList());
+    EXPECT_EQ(
+        announced.takeThoseWithoutValues(),
+        (QStringList{QStringLiteral("Scope"), QStringLiteral("CustomFolders"), QStringLiteral("ShowInSubmenu")}));
+    const QVariantMap properties = menuProperties();
+    EXPECT_EQ(properties[QStringLiteral("Scope")].toByteArray(), QByteArray("+/new\0", 6));
+    EXPECT_EQ(properties[QStringLiteral("CustomFolders")].toStringList(), QStringList{QStringLiteral("/x")});
+    EXPECT_TRUE(properties[QStringLiteral("ShowInSubmenu")].toBool());
+    EXPECT_EQ(properties.keys(),
+              (QStringList{QStringLiteral("Actions"), QStringLiteral("CustomFolders"), QStringLiteral("Scope"),
+                           QStringLiteral("ShowInSubmenu"), QStringLiteral("ShowMenuIcon")}));
+}
+
 TEST_F(FollowedSettings, FollowAFileThatIsRemovedAndComesBack)
 {
     store({{"showinSubMenu", true}});

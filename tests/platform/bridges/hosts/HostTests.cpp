@@ -97,7 +97,19 @@ protected:
                   "[('one_file', 'For_one file', 'icon-1', uint32 4), ('anything', 'Anything', 'icon-2', 127),"
                   " ('picture', 'Picture', 'icon-3', 40), ('copy-path-to-clipboard', 'Copy', 'icon-4', 71),"
                   " ('folders', 'Folders', 'icon-5', 19)]")
-            .with("Folders", "[('/listed', true), ('/listed/off', false), ('/listed/\xc3\xa4', true)]");
+            .with("Scope", Properties::scope({{"/listed"}, {"/listed/off", false}, {"/listed/\xc3\xa4"}}));
+    }
+
+    /// The actions that move or copy, and custom folders.
+    static Properties
+    withCustomFolders(const char* folders = "['/a_b/c', '/elsewhere/c', 'none', '/listed/\xc3\xa4 b']")
+    {
+        return Properties()
+            .with("Actions",
+                  "[('move-to-a-folder', 'Move', 'icon-1', uint32 198), ('anything', 'Anything', 'icon-2', 127),"
+                  " ('copy-to-a-folder', 'Copy', 'icon-3', 198)]")
+            .with("Scope", Properties::scope({{"/listed"}}))
+            .with("CustomFolders", folders);
     }
 
     [[nodiscard]] Items itemsFor(const std::vector<File>& files) const
@@ -205,6 +217,64 @@ TEST_F(HostTest, ShowsASubmenuWhereThatIsWanted)
     EXPECT_TRUE(itemsFor({{"file:///other/a"}}).isEmpty());
 }
 
+TEST_F(HostTest, OffersTheCustomFoldersBelowWhatMovesOrCopies)
+{
+    publish(withCustomFolders());
+    ASSERT_TRUE(offers({listed}, 3));
+    const Items items = itemsFor({listed, {"file:///listed/folder", true}});
+    EXPECT_EQ(items.labels(), (Texts{"Move", "Anything", "Copy"}));
+    EXPECT_EQ(items.all("icon"), (Texts{"icon-1", "icon-2", "icon-3"}));
+    EXPECT_TRUE(items.submenu(1).isEmpty());
+    for (const guint index : {0U, 2U}) {
+        const Items below = items.submenu(index);
+        EXPECT_EQ(below.labels(), (Texts{"c (a__b)", "c (elsewhere)", "\xc3\xa4 b", "Choose Folder\u2026"}));
+        EXPECT_EQ(below.all(TestedHost::tip),
+                  (Texts{"/a_b/c", "/elsewhere/c", "/listed/\xc3\xa4 b", "Asks for another folder"}));
+        EXPECT_EQ(below.all("icon"), (Texts{"folder", "folder", "folder", "(none)"}));
+    }
+    EXPECT_FALSE(haveOneInCommon(items.submenu(0).all("name"), items.submenu(2).all("name")));
+    EXPECT_EQ(itemsForBackground("file:///listed").labels(), Texts{"Anything"});
+
+    publish(withCustomFolders().with("ShowMenuIcon", "false"));
+    EXPECT_TRUE(waitUntil([&] { return itemsFor({listed}).submenu(0).all("icon") == Texts(4, "(none)"); }));
+}
+
+TEST_F(HostTest, NamesTheCustomFolderThatWasChosenToTheCompanion)
+{
+    publish(withCustomFolders());
+    ASSERT_TRUE(offers({listed}, 3));
+    const Items items = itemsFor({listed});
+    items.submenu(0).activate(2);
+    EXPECT_TRUE(wasCalled({"move-to-a-folder", {"/listed/picture"}, false, "/listed/\xc3\xa4 b"}));
+    items.submenu(2).activate(0);
+    EXPECT_TRUE(waitUntil([&] { return m_companion.calls().size() == 2; }));
+    EXPECT_EQ(m_companion.calls().back(), (Call{"copy-to-a-folder", {"/listed/picture"}, false, "/a_b/c"}));
+    items.submenu(2).activate(3);
+    EXPECT_TRUE(waitUntil([&] { return m_companion.calls().size() == 3; }));
+    EXPECT_EQ(m_companion.calls().back(), (Call{"copy-to-a-folder", {"/listed/picture"}, false}));
+}
+
+TEST_F(HostTest, AsksForAFolderAtOnceWhereThereAreNoCustomFolders)
+{
+    publish(withCustomFolders());
+    ASSERT_TRUE(offers({listed}, 3));
+    publish(withCustomFolders("@as []"));
+    EXPECT_TRUE(waitUntil([&] { return itemsFor({listed}).submenu(0).isEmpty(); }));
+    itemsFor({listed}).activate(0);
+    EXPECT_TRUE(wasCalled({"move-to-a-folder", {"/listed/picture"}, false}));
+}
+
+TEST_F(HostTest, HasTheCustomFoldersInASubmenuOfTheSubmenu)
+{
+    publish(withCustomFolders().with("ShowInSubmenu", "true"));
+    ASSERT_TRUE(offers({listed}, 1));
+    const Items items = itemsFor({listed});
+    const Items below = items.submenu(0);
+    EXPECT_EQ(below.labels(), (Texts{"Move", "Anything", "Copy"}));
+    below.submenu(2).activate(1);
+    EXPECT_TRUE(wasCalled({"copy-to-a-folder", {"/listed/picture"}, false, "/elsewhere/c"}));
+}
+
 TEST_F(HostTest, AsksTheCompanionToDoAnAction)
 {
     itemsFor({{"file:///listed/a%20b"}, {"file:///listed/%FF%0A%27"}}).activate(0);
@@ -303,14 +373,18 @@ TEST_F(HostTest, LeavesNothingOfAMenuBehind)
                 G_OBJECT(items.item(index)), [](gpointer, GObject*) { --alive; }, nullptr);
         }
     };
-    publish(properties().with("ShowInSubmenu", "true"));
+    publish(withCustomFolders().with("ShowInSubmenu", "true"));
     ASSERT_TRUE(offers({listed}, 1));
     {
         Items items = itemsFor({listed});
         note(items);
         Items below = items.submenu(0);
         note(below);
-        EXPECT_EQ(alive, 5);
+        for (const guint index : {0U, 2U}) {
+            Items folders = below.submenu(index);
+            note(folders);
+        }
+        EXPECT_EQ(alive, 12);
     }
     EXPECT_EQ(alive, 0);
 }
@@ -319,7 +393,7 @@ TEST_F(HostTest, OffersNothingOfGarbage)
 {
     publish(Properties()
                 .with("Actions", "[('../../a', 'Title', '/etc/icon.png', uint32 127)]")
-                .with("Folders", "[('relative', true), ('', true)]"));
+                .with("Scope", Properties::scope({{"relative"}, {""}})));
     EXPECT_TRUE(offers({listed}, 0));
     EXPECT_TRUE(itemsFor({{"file:///relative/a"}}).isEmpty());
     publish(properties());

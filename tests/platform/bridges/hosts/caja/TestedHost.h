@@ -9,6 +9,7 @@ struct TestedHost {
     static constexpr const char* toolkit = "libgtk-3.so.0";
     static constexpr const char* entryPrefix = "caja_module_";
     static constexpr bool isToldOfChanges = true;
+    static constexpr const char* tip = "tip";
 
     static constexpr auto fileType = caja_file_info_get_type;
     static constexpr auto activate = caja_menu_item_activate;

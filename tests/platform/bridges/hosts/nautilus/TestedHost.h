@@ -9,6 +9,7 @@ struct TestedHost {
     static constexpr const char* toolkit = "libgtk-4.so.1";
     static constexpr const char* entryPrefix = "nautilus_module_";
     static constexpr bool isToldOfChanges = true;
+    static constexpr const char* tip = "tip";
 
     static constexpr auto fileType = nautilus_file_info_get_type;
     static constexpr auto activate = nautilus_menu_item_activate;

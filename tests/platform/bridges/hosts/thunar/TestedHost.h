@@ -12,6 +12,7 @@ struct TestedHost {
     static constexpr const char* toolkit = "libgtk-3.so.0";
     static constexpr const char* entryPrefix = "thunar_extension_";
     static constexpr bool isToldOfChanges = false;
+    static constexpr const char* tip = "tooltip";
 
     static constexpr auto fileType = thunarx_file_info_get_type;
     static constexpr auto itemsOf = thunarx_menu_get_items;
