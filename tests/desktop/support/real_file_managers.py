@@ -190,7 +190,8 @@ class FileManager:
         self._show("ShowItems", os.path.join(folder, names[0]), folder)
         self._enter_view()
         number = f"{len(names):,}".replace(",", r"\D?")
-        self.wait_for_status(rf"(?i)(^sel.*\b{number}\b|\b{number}\b.*sel)", "ctrl+a")
+        # What does not fit is shortened in the middle.
+        self.wait_for_status(rf"(?i)(^sel.*\b{number}\b|\b{number}\b.*lected)", "ctrl+a")
 
     def menu(self):
         """Opens the menu of the selected items."""
