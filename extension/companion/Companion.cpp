@@ -168,7 +168,10 @@ void Companion::quit()
 void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Finished finished)
 {
     // By the settings that were stored before the call.
-    followEvents();
+    if (m_watch.isWhole())
+        followEvents();
+    else
+        look();
     auto refusal = refusalOf(call.action, m_state.settings.menuItems);
     if (!refusal)
         refusal = wrong;

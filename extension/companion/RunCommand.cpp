@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <system_error>
 
 namespace MenuExtension {
 
@@ -17,10 +18,17 @@ namespace {
 
 using namespace BusInterface::FinderSyncExtension;
 
-/// A link on the way is not resolved: the menu goes by the text of a path.
+/// A link on the way is not resolved: the menu goes by the text of a path. What is no path, or begins in a folder
+/// that is gone, becomes nothing, which the companion refuses.
 std::string absolutePath(const std::string& path)
 {
-    return std::filesystem::absolute(path).string();
+    std::error_code error;
+    std::filesystem::path plain;
+    for (const auto& name : std::filesystem::absolute(path, error)) {
+        if (name != ".")
+            plain /= name;
+    }
+    return plain.string();
 }
 
 bool append(sd_bus_message& call, const std::string& action, const std::vector<std::string>& paths)

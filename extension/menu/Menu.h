@@ -3,6 +3,7 @@
 #include "extension/menu/Scope.h"
 #include "extension/menu/Targets.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -65,6 +66,10 @@ struct Menu {
 
 /// The action that the file manager does in its own process: on Wayland nobody else may.
 inline constexpr std::string_view actionOfFileManager = "copy-path-to-clipboard";
+
+/// The most bytes that the paths of a selection with a menu have together: a connection to the bus does not survive a
+/// message that is too large for it.
+inline constexpr std::size_t mostPathBytes = std::size_t{32} << 20U;
 
 /// The title of the submenu.
 inline constexpr const char* submenuTitle = "Orvik Menu";

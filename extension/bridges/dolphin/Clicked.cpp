@@ -12,13 +12,6 @@
 
 namespace DolphinBridge {
 
-namespace {
-
-/// Of all paths. The toolkit's connection does not survive a message that is too large for the bus.
-constexpr std::size_t mostBytes = std::size_t{32} << 20U;
-
-} // namespace
-
 MenuExtension::Selection Clicked::selection() const
 {
     MenuExtension::Selection selection{.items = {}, .isBackground = isBackground};
@@ -35,7 +28,7 @@ std::optional<Clicked> whatWasClicked(const KFileItemListProperties& items, cons
     std::size_t bytes = 0;
     for (const KFileItem& item : list) {
         std::optional<std::string> path = pathOf(item.mostLocalUrl());
-        if (!path || (bytes += path->size()) > mostBytes)
+        if (!path || (bytes += path->size()) > MenuExtension::mostPathBytes)
             return std::nullopt;
         // The type that the host has found already: looking for it could wait for the disk.
         clicked->items.push_back({.path = std::move(*path),

@@ -133,11 +133,14 @@ private:
         clicked->isBackground = isBackground;
         Selection selection{.items = {}, .isBackground = isBackground};
         bool arePictures = !isBackground;
+        std::size_t bytes = 0;
         for (; files; files = files->next) {
             auto* file = static_cast<typename Host::File*>(files->data);
             const std::string& path =
                 clicked->paths.emplace_back(localPath(Reference<GFile>(Host::location(file)).get()));
-            if (!(isBackground ? settings.scope.containsBackground(path) : settings.scope.containsItem(path)))
+            bytes += path.size();
+            if (bytes > mostPathBytes ||
+                !(isBackground ? settings.scope.containsBackground(path) : settings.scope.containsItem(path)))
                 return nullptr;
             // What is in a file is asked only as long as the answer makes a difference.
             const bool isFolder = Host::isFolder(file) != FALSE;

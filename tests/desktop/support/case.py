@@ -34,7 +34,9 @@ class DesktopTestCase(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.programs = os.environ["ORVIK_PROGRAMS"]
+        # Where what is tested is installed, below which prefix; else it is what the build has left.
+        cls.installed = os.environ.get("ORVIK_INSTALLED", "")
+        cls.programs = os.path.join(cls.installed, "bin") if cls.installed else os.environ["ORVIK_PROGRAMS"]
         cls.screenshots = os.environ["ORVIK_SCREENSHOTS"]
         cls._folder = tempfile.mkdtemp(prefix="orvik-desktop-")
         cls.addClassCleanup(shutil.rmtree, cls._folder)

@@ -1,5 +1,6 @@
 """The file managers that show the menu: real ones, driven from outside as a person drives them."""
 
+import glob
 import os
 import re
 import shutil
@@ -10,7 +11,7 @@ from gi.repository import GLib
 from . import accessibility, processes
 from .buses import call
 from .menus import Gtk3Menus, Gtk4Menus, Qt5Menus, below
-from .mounts import laid_over
+from .mounts import laid_over, small_disk
 from .waiting import GaveUp, eventually, give_time
 
 _NAME = "org.freedesktop.FileManager1"
@@ -44,7 +45,10 @@ class FileManager:
         self._modules = os.path.join(case.programs, os.pardir, "lib", "orvik-menu")
         self._bus = case.bus
         self.accessibility_address = case.bus.accessibility_address
-        wrapper, variables = self._with_module() if with_module else ([], {})
+        if case.installed:
+            wrapper, variables = ([] if with_module else self._without_installed_module()), {}
+        else:
+            wrapper, variables = self._with_module() if with_module else ([], {})
         environment = {
             **case.environment,
             "AT_SPI_BUS_ADDRESS": self.accessibility_address,
@@ -87,6 +91,11 @@ class FileManager:
         os.makedirs(target)
         shutil.copy(os.path.join(self._modules, self.module), target)
         return laid_over(own, system), {}
+
+    def _without_installed_module(self):
+        """What starts the command with nothing in the folder that our module is installed in."""
+        module, = glob.glob(f"{self._case.installed}/lib/**/{self.module}", recursive=True)
+        return small_disk(os.path.dirname(module), "64k")
 
     def close(self):
         processes.end(self.process)
@@ -190,7 +199,8 @@ class FileManager:
         self._show("ShowItems", os.path.join(folder, names[0]), folder)
         self._enter_view()
         number = f"{len(names):,}".replace(",", r"\D?")
-        self.wait_for_status(rf"(?i)(^sel.*\b{number}\b|\b{number}\b.*sel)", "ctrl+a")
+        # What does not fit is shortened in the middle.
+        self.wait_for_status(rf"(?i)(^sel.*\b{number}\b|\b{number}\b.*lected)", "ctrl+a")
 
     def menu(self):
         """Opens the menu of the selected items."""

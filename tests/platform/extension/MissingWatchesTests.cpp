@@ -3,6 +3,8 @@
 #include "NoMoreDescriptors.h"
 #include "extension/companion/Companion.h"
 
+#include <QByteArrayList>
+#include <QDBusMetaType>
 #include <QDBusPendingCall>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
@@ -40,14 +42,20 @@ struct MissingWatches : CompanionTest {
                 busName(), QStringLiteral("/com/orvikstudio/orvikmenu/findersyncextension"),
                 QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
             get << QStringLiteral("com.orvikstudio.FinderSyncExtension") << QStringLiteral("ShowInSubmenu");
-            const QDBusPendingReply<QDBusVariant> answer = connection().asyncCall(get);
-            while (!answer.isFinished()) {
-                constexpr std::uint64_t microseconds = 10'000;
-                sd_event_run(m_event.get(), microseconds);
-                runFor(std::chrono::milliseconds(1));
-            }
+            const QDBusPendingReply<QDBusVariant> answer = answered(connection().asyncCall(get));
             return answer.isValid() && answer.value().variant().toBool() == expected;
         });
+    }
+
+    /// Runs the companion until it has answered.
+    QDBusPendingCall answered(QDBusPendingCall call)
+    {
+        while (!call.isFinished()) {
+            constexpr std::uint64_t microseconds = 10'000;
+            sd_event_run(m_event.get(), microseconds);
+            runFor(std::chrono::milliseconds(1));
+        }
+        return call;
     }
 
     QString busName() const
@@ -72,4 +80,18 @@ TEST_F(MissingWatches, AreAskedForAgainAndTheSettingsReadMeanwhile)
               std::string(program_invocation_short_name) + ": changes of the settings are followed again\n");
     store({{"showinSubMenu", false}});
     EXPECT_TRUE(showsInSubmenu(false));
+}
+
+TEST_F(MissingWatches, LeaveEachCallToTheSettingsThatAreStored)
+{
+    qDBusRegisterMetaType<QByteArrayList>();
+    testing::internal::CaptureStderr();
+    store({{"menuArrayDic",
+            NS::Value::Array{NS::Value::Dictionary{{"title", "Hide / Unhide item"}, {"state", true}}}}});
+    auto run = QDBusMessage::createMethodCall(
+        busName(), companionPath(), QStringLiteral("com.orvikstudio.FinderSyncExtension"), QStringLiteral("Run"));
+    run << QStringLiteral("hide-unhide-item") << QVariant::fromValue(QByteArrayList{"/somewhere/a"}) << QVariantMap();
+    EXPECT_EQ(answered(connection().asyncCall(run)).error().name().toStdString(),
+              "com.orvikstudio.FinderSyncExtension.Error.OutOfScope");
+    testing::internal::GetCapturedStderr();
 }

@@ -317,3 +317,20 @@ TEST_F(Run, IsThereForAShellToo)
     EXPECT_EQ(alone.readAllStandardError(),
               "orvik-menu-extension: the companion does not run; switch it on in Orvik Menu\n");
 }
+
+TEST_F(Run, TakesPathsFromAShellAsTheyAreTyped)
+{
+    const QString action = QStringLiteral("hide-unhide-item");
+    makeFile("in/a");
+    QProcess& dotted = start({QStringLiteral("--run"), action, QString::fromUtf8(path("./in/./a"))});
+    EXPECT_EQ(statusOf(dotted), 0);
+    EXPECT_EQ(hidden(), "a\n");
+
+    for (const QString& none : {QString(), QString::fromUtf8(path("out/../in/a"))}) {
+        QProcess& wrong = start({QStringLiteral("--run"), action, none});
+        EXPECT_EQ(statusOf(wrong), 1);
+        EXPECT_TRUE(
+            wrong.readAllStandardError().startsWith("orvik-menu-extension: A path must be absolute and plain"));
+    }
+    EXPECT_EQ(hidden(), "a\n");
+}

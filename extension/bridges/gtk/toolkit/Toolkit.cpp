@@ -36,8 +36,11 @@ std::string activationToken()
     if (GDK_IS_X11_DISPLAY(display))
         return "orvik-menu_TIME" + std::to_string(gdk_x11_display_get_user_time(display));
     const Reference<GdkAppLaunchContext> context(gdk_display_get_app_launch_context(display));
+    // Nothing of it is in the token, but without one the library complains and gives none.
+    const Reference<GAppInfo> any(
+        g_app_info_create_from_commandline("orvik-menu", nullptr, G_APP_INFO_CREATE_NONE, nullptr));
     const Text token(
-        g_app_launch_context_get_startup_notify_id(G_APP_LAUNCH_CONTEXT(context.get()), nullptr, nullptr));
+        g_app_launch_context_get_startup_notify_id(G_APP_LAUNCH_CONTEXT(context.get()), any.get(), nullptr));
     return token ? token.get() : std::string();
 }
 

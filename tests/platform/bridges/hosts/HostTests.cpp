@@ -363,6 +363,16 @@ TEST_F(HostTest, TakesTenThousandFiles)
     EXPECT_EQ(m_companion.calls().back().paths[9'999], "/listed/a/file/in/some/folder/9999");
 }
 
+TEST_F(HostTest, OffersNothingForMorePathsThanTheBusCarries)
+{
+    const std::string name = '/' + std::string(250, 'x');
+    std::string folder = "file:///listed";
+    for (int depth = 0; depth < 15; ++depth)
+        folder += name;
+    EXPECT_EQ(itemsFor(std::vector<File>(8'000, {folder})).labels(), (Texts{"Anything", "Copy"}));
+    EXPECT_TRUE(itemsFor(std::vector<File>(9'000, {folder})).isEmpty());
+}
+
 TEST_F(HostTest, LeavesNothingOfAMenuBehind)
 {
     static int alive = 0;
