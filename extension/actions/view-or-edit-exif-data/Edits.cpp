@@ -71,7 +71,8 @@ void shift(std::vector<std::string>& arguments, const Tags& tags, std::chrono::s
         const std::string* value = tags.find(store.key);
         const auto time = value && !store.key.starts_with("IPTC:") ? photoTime(*value) : std::nullopt;
         if (time)
-            arguments.push_back(assignment(store.written, duration.count() < 0 ? "-=" : "+=", durationText(duration)));
+            arguments.push_back(
+                assignment(store.written, duration.count() < 0 ? "-=" : "+=", durationText(duration)));
     }
     const auto date = photoTime(textOf(Field::Date, tags));
     if (date) {
@@ -129,8 +130,8 @@ std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
 bool areMade(const Edits& edits, const Tags& before, const Tags& after)
 {
     using PersonalData::Kind;
-    const bool textsAreMade = std::ranges::all_of(
-        edits.texts, [&](const auto& text) { return isMade(text.first, text.second, after); });
+    const bool textsAreMade =
+        std::ranges::all_of(edits.texts, [&](const auto& text) { return isMade(text.first, text.second, after); });
     const auto date = edits.shift.count() != 0 ? photoTime(textOf(Field::Date, before)) : std::nullopt;
     const bool isShifted = !date || photoTime(textOf(Field::Date, after)) == *date + edits.shift;
     const bool isTurned = !edits.orientation || edits.orientation == orientationOf(after);
@@ -138,8 +139,8 @@ bool areMade(const Edits& edits, const Tags& before, const Tags& after)
     const bool isRemoved = std::ranges::none_of(after, [&](const Tag& tag) {
         const auto kind = PersonalData::kindOf(tag);
         const bool goesWithPlace = kind == Kind::Place && edits.place && !edits.place->place;
-        const bool isSetAnew = (kind == Kind::Place && edits.place) ||
-                               (kind == Kind::People && edits.texts.contains(Field::Author));
+        const bool isSetAnew =
+            (kind == Kind::Place && edits.place) || (kind == Kind::People && edits.texts.contains(Field::Author));
         return kind && (goesWithPlace || (edits.removesPersonalData && !isSetAnew));
     });
     return textsAreMade && isShifted && isTurned && isPlaced && isRemoved;

@@ -63,11 +63,9 @@ bool ExifTool::start()
     if (!path || !input.writing || !output.reading || !complaints.reading)
         return false;
     // Without what the user has added to the program, which could change what is read here.
-    m_process = Command::start(*path, {program, "-config", "", "-stay_open", "True", "-@", "-"},
-                               Command::environment(),
-                               {.input = input.reading.get(),
-                                .output = output.writing.get(),
-                                .complaints = complaints.writing.get()});
+    m_process = Command::start(
+        *path, {program, "-config", "", "-stay_open", "True", "-@", "-"}, Command::environment(),
+        {.input = input.reading.get(), .output = output.writing.get(), .complaints = complaints.writing.get()});
     if (!m_process)
         return false;
     m_process->limit(RLIMIT_AS, m_limits.memory);

@@ -49,8 +49,8 @@ public:
     /// Whether the program is there.
     [[nodiscard]] static bool isInstalled();
 
-    /// Runs it with arguments that hold no line ends and begin neither with a space nor with '#'. Ends at once when it
-    /// is asked to stop, which ends the process.
+    /// Runs it with arguments that hold no line ends and begin neither with a space nor with '#'. Ends at once when
+    /// it is asked to stop, which ends the process.
     [[nodiscard]] Answer run(const std::vector<std::string>& arguments, const std::stop_token& stop);
 
 private:

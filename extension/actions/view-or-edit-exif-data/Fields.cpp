@@ -22,10 +22,8 @@ constexpr std::array descriptionStores{
     Store{"PNG:Description", "PNG:Description", false},
 };
 constexpr std::array authorStores{
-    Store{"XMP-dc:Creator", "XMP-dc:Creator", true},
-    Store{"IFD0:Artist", "EXIF:Artist", true},
-    Store{"IPTC:By-line", "IPTC:By-line", false},
-    Store{"PNG:Author", "PNG:Author", false},
+    Store{"XMP-dc:Creator", "XMP-dc:Creator", true}, Store{"IFD0:Artist", "EXIF:Artist", true},
+    Store{"IPTC:By-line", "IPTC:By-line", false},    Store{"PNG:Author", "PNG:Author", false},
     Store{"IFD0:XPAuthor", "EXIF:XPAuthor", false},
 };
 constexpr std::array copyrightStores{
@@ -48,17 +46,18 @@ constexpr std::array orientationStores{
     Store{"IFD0:Orientation", "EXIF:Orientation#", true},
     Store{"XMP-tiff:Orientation", "XMP-tiff:Orientation#", false},
 };
-// Each store has a latitude and a longitude; this is the part of the name before them.
-constexpr std::array placeStores{
-    Store{"Composite:GPS", "EXIF:GPS", true},
-    Store{"XMP-exif:GPS", "XMP-exif:GPS", false},
-};
+/// The names before "Latitude" and "Longitude", with signs.
+constexpr std::array<std::string_view, 2> placeStores{"Composite:GPS", "XMP-exif:GPS"};
 
 /// What ExifTool calls them, from 1.
 constexpr std::array<std::string_view, 8> orientations{
-    "Horizontal (normal)",   "Mirror horizontal", "Rotate 180",
-    "Mirror vertical",       "Mirror horizontal and rotate 270 CW",
-    "Rotate 90 CW",          "Mirror horizontal and rotate 90 CW",
+    "Horizontal (normal)",
+    "Mirror horizontal",
+    "Rotate 180",
+    "Mirror vertical",
+    "Mirror horizontal and rotate 270 CW",
+    "Rotate 90 CW",
+    "Mirror horizontal and rotate 90 CW",
     "Rotate 270 CW",
 };
 
@@ -104,7 +103,7 @@ std::span<const Store> storesOf(Field field)
     case Field::Orientation:
         return orientationStores;
     case Field::Place:
-        return placeStores;
+        break;
     }
     return {};
 }
@@ -134,11 +133,13 @@ std::optional<int> orientationOf(const Tags& tags)
 
 std::optional<Place> placeOf(const Tags& tags)
 {
-    const std::string* latitude = tags.find("Composite:GPSLatitude");
-    const std::string* longitude = tags.find("Composite:GPSLongitude");
-    if (!latitude || !longitude)
-        return std::nullopt;
-    return placeFrom(numberFrom(*latitude), numberFrom(*longitude));
+    for (const std::string_view store : placeStores) {
+        const std::string* latitude = tags.find(std::string(store) + "Latitude");
+        const std::string* longitude = tags.find(std::string(store) + "Longitude");
+        if (latitude && longitude)
+            return placeFrom(numberFrom(*latitude), numberFrom(*longitude));
+    }
+    return std::nullopt;
 }
 
 bool isSame(const std::optional<Place>& one, const std::optional<Place>& other)
@@ -146,7 +147,8 @@ bool isSame(const std::optional<Place>& one, const std::optional<Place>& other)
     constexpr double closest = 1.5e-6;
     if (!one || !other)
         return one.has_value() == other.has_value();
-    return std::abs(one->latitude - other->latitude) < closest && std::abs(one->longitude - other->longitude) < closest;
+    return std::abs(one->latitude - other->latitude) < closest &&
+           std::abs(one->longitude - other->longitude) < closest;
 }
 
 std::optional<Place> placeFrom(std::string_view text)

@@ -23,7 +23,7 @@ struct Store {
     bool always;
 };
 
-/// Where a field is stored, the one that counts first.
+/// Where a field is stored, the one that counts first. A place is more than a text, and has none.
 [[nodiscard]] std::span<const Store> storesOf(Field field);
 
 /// The stored text; empty where there is none. Of Place and Orientation the functions below say more.

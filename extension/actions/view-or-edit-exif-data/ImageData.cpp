@@ -92,8 +92,8 @@ std::optional<Extent> partOf(const Extent& whole, std::uint64_t offset, std::uin
 void skipCoded(ByteSource& file, Reader& reader)
 {
     while (reader.rest().length > 1) {
-        const std::string_view bytes = file.look(
-            reader.place(), std::min<std::uint64_t>(ByteSource::mostAtOnce, reader.rest().length));
+        const std::string_view bytes =
+            file.look(reader.place(), std::min<std::uint64_t>(ByteSource::mostAtOnce, reader.rest().length));
         if (bytes.size() < 2)
             return;
         const std::size_t place = bytes.find('\xff');
@@ -282,9 +282,8 @@ private:
         if (below == entries.end())
             return true;
         const auto offsets = numbers(below->second);
-        return offsets && std::ranges::all_of(*offsets, [&](std::uint64_t offset) {
-                   return takeDirectories(offset, depth + 1);
-               });
+        return offsets && std::ranges::all_of(
+                              *offsets, [&](std::uint64_t offset) { return takeDirectories(offset, depth + 1); });
     }
 
     bool takeStrips(const Entries& entries, std::uint64_t offsetTag, std::uint64_t lengthTag)
@@ -309,7 +308,8 @@ private:
     [[nodiscard]] std::optional<std::vector<std::uint64_t>> numbers(const Entry& entry) const
     {
         const std::size_t size = entry.type == 3 ? 2 : entry.type == 4 || entry.type == 13 ? 4 : 0;
-        if (size == 0 || entry.count > m_file.size() / size || entry.count > mostParts - std::min(mostParts, m_parts.size()))
+        if (size == 0 || entry.count > m_file.size() / size ||
+            entry.count > mostParts - std::min(mostParts, m_parts.size()))
             return std::nullopt;
         Reader reader(m_file, entry.field, m_order);
         if (entry.count * size > entry.field.length)

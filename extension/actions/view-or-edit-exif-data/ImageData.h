@@ -15,8 +15,8 @@ struct Extent {
 };
 
 /// The parts of a picture's file that make the picture, in their order: not what is said of it. All lie in the file.
-/// For JPEG, PNG, GIF, TIFF and what cameras write on its ground, HEIC, AVIF, JPEG XL and JPEG 2000; nothing for other
-/// files, and where the file does not hold what it says.
+/// For JPEG, PNG, GIF, TIFF and what cameras write on its ground, HEIC, AVIF, JPEG XL and JPEG 2000; nothing for
+/// other files, and where the file does not hold what it says.
 [[nodiscard]] std::optional<std::vector<Extent>> imageData(ByteSource& file);
 
 /// Whether two files hold the same picture, byte by byte; nothing where imageData() does not know.

@@ -47,7 +47,9 @@ std::optional<PhotoTime> photoTime(std::string_view text)
     const auto hour = takeOneOf(text, " T") ? takeNumber(text, 2) : std::nullopt;
     const auto minute = hour && takeOneOf(text, ":") ? takeNumber(text, 2) : std::nullopt;
     // Some say no more than hours and minutes.
-    const auto second = minute && takeOneOf(text, ":") ? takeNumber(text, 2) : minute ? std::optional(0) : std::nullopt;
+    const auto second = minute && takeOneOf(text, ":") ? takeNumber(text, 2)
+                        : minute                       ? std::optional(0)
+                                                       : std::nullopt;
     if (!second || *hour > 23 || *minute > 59 || *second > 59)
         return std::nullopt;
     if (!text.empty() && text.find_first_of(".+-Z ") != 0)

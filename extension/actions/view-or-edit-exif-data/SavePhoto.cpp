@@ -185,12 +185,14 @@ Trouble savePhoto(TagReader& exifTool, const Photo& photo, const Edits& edits, c
     if (arguments.empty())
         return {};
 
-    const TemporaryName temporary(photo.folder, extensionOf(photo.name));
+    // The file's own name may say that it is of another kind.
+    const std::string* const kind = before.tags.find("File:FileTypeExtension");
+    const TemporaryName temporary(photo.folder, kind ? extensionOf('.' + *kind) : extensionOf(photo.name));
     // What ExifTool would say of it is no word for a person.
     if (::faccessat(photo.folder.get(), ".", W_OK, AT_EACCESS) != 0)
         return cannotBeSaved();
     if (Trouble trouble =
-            exifTool.write(photo.file.get(), photo.name, temporary.path(), std::move(arguments), stop))
+            exifTool.write(photo.file.get(), temporary.name(), temporary.path(), std::move(arguments), stop))
         return trouble;
     const FileDescriptor made(
         ::openat(photo.folder.get(), temporary.name().c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
@@ -228,9 +230,10 @@ void removeLeftovers(const FileDescriptor& folder)
     const std::time_t now = std::time(nullptr);
     while (const dirent* entry = stream ? ::readdir(stream.get()) : nullptr) {
         struct stat status = {};
-        const bool isLeftover = std::string_view(static_cast<const char*>(entry->d_name)).starts_with(temporaryPrefix) &&
-                                ::fstatat(folder.get(), static_cast<const char*>(entry->d_name), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-                                S_ISREG(status.st_mode) && now - status.st_mtime > longAgo;
+        const bool isLeftover =
+            std::string_view(static_cast<const char*>(entry->d_name)).starts_with(temporaryPrefix) &&
+            ::fstatat(folder.get(), static_cast<const char*>(entry->d_name), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+            S_ISREG(status.st_mode) && now - status.st_mtime > longAgo;
         if (isLeftover)
             ::unlinkat(folder.get(), static_cast<const char*>(entry->d_name), 0);
     }

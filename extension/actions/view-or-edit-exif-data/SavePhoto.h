@@ -15,7 +15,8 @@ struct SaveOptions {
 
 /// Makes edits in a photo's file: writes a file beside it, checks that it says what it is to say and that the picture
 /// is the same byte by byte, flushes it and lets it take the place in one step, with the permissions and the extended
-/// attributes. Whatever fails or ends on the way, the photo stays as it was. What is to be made already is left alone.
+/// attributes. Whatever fails or ends on the way, the photo stays as it was. What is to be made already is left
+/// alone.
 [[nodiscard]] Trouble savePhoto(TagReader& exifTool, const Photo& photo, const Edits& edits,
                                 const SaveOptions& options, const std::stop_token& stop);
 

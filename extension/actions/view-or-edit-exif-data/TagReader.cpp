@@ -105,7 +105,13 @@ std::vector<Reading> TagReader::read(std::span<const int> files, std::span<const
             return;
         const std::string* const error = tags.find("ExifTool:Error");
         Reading& reading = readings[place->second];
-        reading.trouble = error ? Trouble{.kind = Trouble::Kind::CannotBeRead, .words = *error} : Trouble{};
+        const std::string* const kind = tags.find("File:MIMEType");
+        if (error)
+            reading.trouble = {.kind = Trouble::Kind::CannotBeRead, .words = *error};
+        else if (kind && kind->starts_with("text/"))
+            reading.trouble = {.kind = Trouble::Kind::CannotBeRead, .words = "It is a text"};
+        else
+            reading.trouble = {};
         reading.tags = std::move(tags);
     });
     // Where one file's tags are no text that can be read, those of the others are asked for again.
@@ -123,8 +129,8 @@ std::vector<Reading> TagReader::read(std::span<const int> files, std::span<const
     return readings;
 }
 
-Trouble TagReader::write(int from, const std::string& name, const std::string& to,
-                         std::vector<std::string> arguments, const std::stop_token& stop)
+Trouble TagReader::write(int from, const std::string& name, const std::string& to, std::vector<std::string> arguments,
+                         const std::stop_token& stop)
 {
     const Link source = link(from, name);
     // Values are escaped; lists are split; what IPTC holds is UTF-8 from now on.

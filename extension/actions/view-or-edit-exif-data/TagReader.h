@@ -17,8 +17,8 @@ namespace MenuExtension::Exif {
 
 /// What a file says.
 struct Reading {
-    Tags tags;
-    Trouble trouble;
+    Tags tags = {};
+    Trouble trouble = {};
 };
 
 /// Reads what files say by an ExifTool of its own, which sees none of their names. One thread at a time.
