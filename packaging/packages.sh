@@ -12,6 +12,7 @@ packages_build=(
   libexpat1-dev
   libglib2.0-dev
   ninja-build
+  nlohmann-json3-dev
   qt6-base-dev
   qt6-base-dev-tools
   libqt6opengl6-dev
@@ -46,6 +47,7 @@ packages_packaging_check=(
 packages_panel=(
   breeze-icon-theme
   fonts-inter
+  libimage-exiftool-perl
   libqt6svg6
   qt6-wayland
   xdg-utils

@@ -69,6 +69,7 @@ EditForm::EditForm(QWidget* parent)
     addLine(*form, Field::Title, tr("Title"));
     m_description->setTabChangesFocus(true);
     m_description->setAccessibleName(tr("Description"));
+    m_description->viewport()->setAccessibleName(tr("Description"));
     m_description->setFixedHeight(4 * fontMetrics().lineSpacing());
     form->addRow(tr("Description"), m_description);
     addLine(*form, Field::Author, tr("Author"));

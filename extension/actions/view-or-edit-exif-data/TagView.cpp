@@ -144,7 +144,7 @@ void TagView::showTags(const Merged& merged)
 {
     m_model.clear();
     m_model.setHorizontalHeaderLabels({tr("Name"), tr("Value")});
-    QStandardItem* const first = addGroup(m_model, tr("The usual"));
+    QStandardItem* const first = addGroup(m_model, tr("Summary"));
     for (const Usual& each : usual) {
         for (const std::string_view key : each.keys) {
             if (const Merged::Line* const line = key.empty() ? nullptr : lineOf(merged, key)) {

@@ -1,0 +1,217 @@
+"""View or Edit Exif Data: what photos say, asked for on the bus and driven by keyboard alone."""
+
+import json
+import os
+import shutil
+import subprocess
+import unittest
+
+from support.action_window import ActionWindow, run_action
+from support.case import DesktopTestCase
+from support.extension import Companion
+from support.suite import record
+from support.waiting import eventually
+
+ACTION = "view-or-edit-exif-data"
+TITLE = "Exif Data"
+PHOTOS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../platform/exif/photos")
+EXIFTOOL = shutil.which("exiftool")
+# What each person has of the machine.
+_PROGRAM_PATH = "/usr/bin:/bin"
+
+
+class Exif(DesktopTestCase):
+    def setUp(self):
+        super().setUp()
+        self.suite.write(menuArrayDic=record(), foldersArray=[self.home.files], foldersArraystate=[1])
+        os.symlink(EXIFTOOL, os.path.join(self.home.programs, "exiftool"))
+        os.symlink("/usr/bin/env", os.path.join(self.home.programs, "env"))
+        os.symlink("/usr/bin/perl", os.path.join(self.home.programs, "perl"))
+        Companion(self).start()
+
+    def photo(self, name="photo.jpg", kind="jpg", **tags):
+        path = os.path.join(self.home.files, name)
+        shutil.copy(os.path.join(PHOTOS, "photo." + kind), path)
+        if tags:
+            subprocess.run([EXIFTOOL, "-q", "-overwrite_original", *[f"-{tag}={value}" for tag, value in tags.items()],
+                            path], check=True, env={"PATH": _PROGRAM_PATH, "LANG": "C.UTF-8"})
+        return path
+
+    def tags(self, path):
+        output = subprocess.run([EXIFTOOL, "-json", "-n", path], check=True, capture_output=True,
+                                env={"PATH": _PROGRAM_PATH, "LANG": "C.UTF-8"}).stdout
+        return json.loads(output)[0]
+
+    def open(self, *paths):
+        return ActionWindow(self, ACTION, TITLE, *paths)
+
+    def cells(self, action):
+        return [item.name for item in action.window.all("tree item")]
+
+    def to_edit_page(self, action):
+        """From wherever the keyboard is to the form."""
+        tabs = eventually(lambda: action.window.find("page tab list"), "the pages")
+        for _ in range(30):
+            if eventually(action.focused, "something to have the keyboard") == tabs:
+                break
+            self.hands.press("shift+Tab")
+        self.hands.press("Right")
+        eventually(lambda: action.window.find("text", "Title").has("enabled"), "the form")
+
+    def save(self, action):
+        action.tab_to("Save")
+        self.hands.press("space")
+
+    def assertTells(self, action, words):
+        eventually(lambda: words in action.texts(), f"“{words}” among {action.texts()}")
+
+    def test_it_shows_the_usual_first_and_everything_after_it(self):
+        action = self.open(self.photo(Title="A hill", Artist="Ada", ISO=400))
+        cells = eventually(lambda: "A hill" in self.cells(action) and self.cells(action), "the data")
+        self.assertEqual(cells[0], "Summary")
+        self.assertIn("Ada", cells)
+        self.assertIn("Bits Per Sample", cells)
+        self.assertIn("photo.jpg", action.texts())
+        self.save_picture("exif-information")
+
+    def test_a_search_goes_through_names_and_values(self):
+        action = self.open(self.photo(Title="A hill", Artist="Ada"))
+        eventually(lambda: "A hill" in self.cells(action), "the data")
+        action.tab_to("Search")
+        self.hands.type("hill")
+        eventually(lambda: "A hill" in self.cells(action) and "Ada" not in self.cells(action), "what is found")
+        self.hands.type("zzz")
+        self.assertTells(action, "Nothing is found.")
+
+    def test_texts_a_date_and_a_place_are_written_by_keyboard_alone(self):
+        path = self.photo(Title="old")
+        action = self.open(path)
+        self.to_edit_page(action)
+        for name, text in (("Title", "new title"), ("Description", "two words"), ("Author", "Ada"),
+                           ("Copyright", "free"), ("Date taken", "2024-02-29 12:34:56"), ("Place", "48.5, -2.25")):
+            action.tab_to(name)
+            self.hands.press("ctrl+a")
+            self.hands.type(text)
+        self.save(action)
+
+        self.assertTells(action, "1 photo(s) saved.")
+        tags = self.tags(path)
+        self.assertEqual([tags[name] for name in ("Title", "Description", "Artist", "Copyright", "DateTimeOriginal")],
+                         ["new title", "two words", "Ada", "free", "2024:02:29 12:34:56"])
+        self.assertAlmostEqual(tags["GPSLatitude"], 48.5)
+        self.assertAlmostEqual(tags["GPSLongitude"], -2.25)
+        self.assertEqual(os.listdir(self.home.files), ["photo.jpg"])
+        self.save_picture("exif-edit")
+
+    def test_what_many_photos_do_not_share_is_told_and_left_alone(self):
+        paths = [self.photo(f"{number}.jpg", Title=f"title {number}", Artist="Ada") for number in range(3)]
+        action = self.open(*paths)
+        eventually(lambda: "Different values" in self.cells(action), "the data")
+        self.assertIn("3 photo(s)", action.texts())
+        self.save_picture("exif-many")
+        self.to_edit_page(action)
+        action.tab_to("Author")
+        self.hands.press("ctrl+a")
+        self.hands.type("Bo")
+        self.save(action)
+
+        self.assertTells(action, "3 photo(s) saved.")
+        for number, path in enumerate(paths):
+            self.assertEqual((self.tags(path)["Title"], self.tags(path)["Artist"]), (f"title {number}", "Bo"))
+
+    def test_a_date_is_moved_and_the_original_kept(self):
+        path = self.photo(DateTimeOriginal="2023:12:31 23:30:00")
+        with open(path, "rb") as file:
+            before = file.read()
+        action = self.open(path)
+        self.to_edit_page(action)
+        action.tab_to("Move date by hours")
+        self.hands.press("ctrl+a")
+        self.hands.type("1")
+        action.tab_to("Keep the original file beside it, with “_original” after its name")
+        self.hands.press("space")
+        self.save(action)
+
+        self.assertTells(action, "1 photo(s) saved.")
+        self.assertEqual(self.tags(path)["DateTimeOriginal"], "2024:01:01 00:30:00")
+        with open(path + "_original", "rb") as file:
+            self.assertEqual(file.read(), before)
+
+    def test_what_is_personal_is_told_and_removed_when_it_is_agreed_to(self):
+        path = self.photo(Title="A hill", Artist="Ada", GPSLatitude="48.5", GPSLatitudeRef="N", SerialNumber="123")
+        action = self.open(path)
+        self.to_edit_page(action)
+        for key, remains in (("Escape", True), ("space", False)):
+            action.tab_to("Remove Location and Personal Data…")
+            self.hands.press("space")
+            dialog = eventually(lambda: action.find_window("Remove Location and Personal Data"), "the question")
+            shown = [item.name for item in dialog.all("tree item")]
+            for words in ("Where it was taken", "Who took it and who is in it", "Which camera it was", "Ada", "123"):
+                self.assertIn(words, shown)
+            if not remains:
+                self.save_picture("exif-personal")
+                action.tab_to("Remove", window=dialog)
+            self.hands.press(key)
+            eventually(lambda: action.find_window(TITLE), "the window")
+            if remains:
+                self.assertIn("GPSLatitude", self.tags(path))
+        self.assertTells(action, "1 photo(s) saved.")
+        tags = self.tags(path)
+        self.assertEqual(tags["Title"], "A hill")
+        self.assertFalse({"Artist", "GPSLatitude", "SerialNumber"} & set(tags))
+
+    def test_a_photo_that_cannot_be_changed_is_named_and_the_others_are_saved(self):
+        paths = [self.photo("good.jpg"), self.photo("bad.webp", kind="webp")]
+        action = self.open(*paths)
+        self.to_edit_page(action)
+        action.tab_to("Title")
+        self.hands.type("x")
+        self.save(action)
+
+        self.assertTells(action, "1 photo(s) saved; these were left as they were:")
+        failures, = [item.name for item in action.window.find("list", "Photos that failed").all("list item")]
+        self.assertTrue(failures.startswith("bad.webp: "), failures)
+        self.assertEqual(self.tags(paths[0])["Title"], "x")
+        self.save_picture("exif-failure")
+
+    def test_what_is_not_to_be_understood_is_told_and_nothing_is_written(self):
+        path = self.photo()
+        with open(path, "rb") as file:
+            before = file.read()
+        action = self.open(path)
+        self.to_edit_page(action)
+        action.tab_to("Date taken")
+        self.hands.type("yesterday")
+        self.save(action)
+        self.assertTells(action, "The date is to be written as 2026-12-31 23:59:59.")
+        with open(path, "rb") as file:
+            self.assertEqual(file.read(), before)
+
+    def test_escape_closes_it_and_another_may_run_meanwhile(self):
+        path = self.photo()
+        first = self.open(path)
+        second = self.open(path)
+        self.hands.press("Escape")
+        eventually(lambda: not second.is_running(), "the second to end")
+        self.assertTrue(first.is_running())
+        eventually(lambda: first.find_window(TITLE), "the first to have the keyboard")
+        self.hands.press("Escape")
+        eventually(lambda: not first.is_running(), "the first to end")
+
+    def test_a_name_that_is_no_text_is_no_hindrance(self):
+        name = os.fsencode(self.home.files) + b"/not \xff text\n.jpg"
+        shutil.copy(os.path.join(PHOTOS, "photo.jpg"), name)
+        action = self.open(name)
+        eventually(lambda: "JPEG" in self.cells(action), "the data")
+        self.assertIn("not \ufffd text\u21b5.jpg", action.texts())
+
+    def test_without_exiftool_it_is_not_offered(self):
+        os.unlink(os.path.join(self.home.programs, "exiftool"))
+        self.assertIsNotNone(run_action(self, ACTION, self.photo_by_hand()))
+
+    def photo_by_hand(self):
+        return shutil.copy(os.path.join(PHOTOS, "photo.jpg"), self.home.files)
+
+
+if __name__ == "__main__":
+    unittest.main()
