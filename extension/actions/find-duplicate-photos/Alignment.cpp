@@ -58,6 +58,32 @@ float valueAt(const Grid& grid, const Between& row, const Between& column)
     return above + row.share * (along(row.first + 1) - above);
 }
 
+/// The curve through four values a cell apart (Catmull and Rom's), between the second and the third.
+float curve(const std::array<float, 4>& values, float share)
+{
+    const float second = values[2] - values[0];
+    const float third = 2 * values[0] - 5 * values[1] + 4 * values[2] - values[3];
+    const float fourth = 3 * (values[1] - values[2]) + values[3] - values[0];
+    return values[1] + share * (second + share * (third + share * fourth)) / 2;
+}
+
+/// As valueAt(), and closer to what lies between the cells.
+float curvedValueAt(const Grid& grid, float atRow, float atColumn)
+{
+    const Between row = between(atRow);
+    const Between column = between(atColumn);
+    const auto inside = [](int index) { return std::clamp(index, 0, side - 1); };
+    std::array<float, 4> down{};
+    for (int line = 0; line < 4; ++line) {
+        std::array<float, 4> across{};
+        for (int at = 0; at < 4; ++at)
+            across[static_cast<std::size_t>(at)] =
+                grid[cell(inside(row.first + line - 1), inside(column.first + at - 1))];
+        down[static_cast<std::size_t>(line)] = curve(across, column.share);
+    }
+    return curve(down, row.share);
+}
+
 struct Slopes {
     Grid across;
     Grid down;
@@ -234,8 +260,32 @@ Grid placed(const Grid& whole, const Placement& placement)
         for (int column = 0; column < side; ++column) {
             const float atColumn = cellAt(placement.across, placeOf(column));
             result[cell(row, column)] = isInside(atRow) && isInside(atColumn)
-                                            ? valueAt(whole, between(atRow), between(atColumn))
+                                            ? curvedValueAt(whole, atRow, atColumn)
                                             : std::numeric_limits<float>::quiet_NaN();
+        }
+    }
+    return result;
+}
+
+ColorGrid placed(const ColorGrid& whole, const Placement& placement)
+{
+    constexpr auto count = static_cast<int>(Thumb::colorSide);
+    const auto weights = [](const Placement::Axis& axis, int index) {
+        const float place = (static_cast<float>(index) + 0.5F) / count - 0.5F;
+        const float at = std::clamp((axis.shift + axis.scale * place + 0.5F) * count - 0.5F, 0.0F, count - 1.001F);
+        return Between{static_cast<int>(at), at - std::floor(at)};
+    };
+    ColorGrid result{};
+    for (int row = 0; row < count; ++row) {
+        const Between rows = weights(placement.down, row);
+        for (int column = 0; column < count; ++column) {
+            const Between columns = weights(placement.across, column);
+            const auto along = [&](int line) {
+                const auto at = static_cast<std::size_t>(line * count + columns.first);
+                return std::lerp(whole[at], whole[at + 1], columns.share);
+            };
+            result[static_cast<std::size_t>(row * count + column)] =
+                std::lerp(along(rows.first), along(rows.first + 1), rows.share);
         }
     }
     return result;

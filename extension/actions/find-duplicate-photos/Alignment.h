@@ -9,6 +9,7 @@ namespace MenuExtension::SimilarPhotos {
 
 /// Values of a picture in the cells of a thumb.
 using Grid = std::array<float, Thumb::side * Thumb::side>;
+using ColorGrid = std::array<float, Thumb::colorSide * Thumb::colorSide>;
 
 /// Where a picture's places are in another one: both have their centre at 0, and are 1 wide and 1 high.
 struct Placement {
@@ -36,5 +37,7 @@ struct Placement {
 
 /// The values of `whole` at the cells of a picture that is placed in it; not a number where it is outside.
 [[nodiscard]] Grid placed(const Grid& whole, const Placement& placement);
+/// The same for a colour, whose nearest value it gives where it is outside.
+[[nodiscard]] ColorGrid placed(const ColorGrid& whole, const Placement& placement);
 
 } // namespace MenuExtension::SimilarPhotos

@@ -60,6 +60,7 @@ Thumb thumbOf(const Pixels& pixels)
     std::vector<float> brightness(count);
     std::vector<float> blue(count);
     std::vector<float> red(count);
+    std::vector<float> full(count);
     for (std::size_t at = 0; at < count; ++at) {
         const auto r = static_cast<float>(pixels.bytes[at * 3]);
         const auto g = static_cast<float>(pixels.bytes[at * 3 + 1]);
@@ -68,6 +69,8 @@ Thumb thumbOf(const Pixels& pixels)
         brightness[at] = y;
         blue[at] = (b - y) * 0.564F;
         red[at] = (r - y) * 0.713F;
+        constexpr float end = 246;
+        full[at] = std::max({r, g, b}) >= end ? 1.0F : 0.0F;
     }
     const Part part = withoutBorder(pixels);
 
@@ -84,6 +87,10 @@ Thumb thumbOf(const Pixels& pixels)
                            [&](float cell) { return toByte((cell - thumb.mean) / thumb.step); });
     std::ranges::transform(cellsOf<Thumb::colorSide>(blue, pixels.width, part), thumb.blue.begin(), toByte);
     std::ranges::transform(cellsOf<Thumb::colorSide>(red, pixels.width, part), thumb.red.begin(), toByte);
+    const auto shares = cellsOf<Thumb::side>(full, pixels.width, part);
+    constexpr float noticed = 0.04F;
+    for (std::size_t cell = 0; cell < shares.size(); ++cell)
+        thumb.full[cell / 8] |= static_cast<std::uint8_t>((shares[cell] > noticed ? 1U : 0U) << cell % 8);
     return thumb;
 }
 

@@ -26,6 +26,8 @@ struct Thumb {
     /// What the colours have of blue and of red, in levels.
     std::array<std::int8_t, colorSide * colorSide> blue{};
     std::array<std::int8_t, colorSide * colorSide> red{};
+    /// A bit for each cell: whether a band is at its end somewhere in it, as in what was made brighter.
+    std::array<std::uint8_t, side * side / 8> full{};
     float mean = 0;
     float step = 1;
     /// Width by height, of what is in the square.
