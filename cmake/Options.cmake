@@ -5,8 +5,11 @@ target_compile_options(orvik_options INTERFACE
   -Wundef -Wimplicit-fallthrough $<$<BOOL:${ORVIK_WARNINGS_AS_ERRORS}>:-Werror>
   # g++ 12 counts a scoped enumerator as hiding a type of its name, so only locals are looked at there.
   $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow>)
+# A test runs about once for each time it is built: the optimiser would take more time than it gives.
+define_property(TARGET PROPERTY ORVIK_IS_TEST INHERITED)
 # What a program holds of its own file counts towards its memory, and nothing of ours gains from more than -O2.
-target_compile_options(orvik_options INTERFACE -ffunction-sections -fdata-sections $<$<CONFIG:Release>:-O2>)
+target_compile_options(orvik_options INTERFACE -ffunction-sections -fdata-sections
+  $<$<CONFIG:Release>:$<IF:$<BOOL:$<TARGET_PROPERTY:ORVIK_IS_TEST>>,-O0,-O2>>)
 target_link_options(orvik_options INTERFACE -Wl,--gc-sections -Wl,--as-needed)
 target_include_directories(orvik_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(ORVIK_SANITIZE)

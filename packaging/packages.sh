@@ -10,6 +10,7 @@ packages_build=(
   g++
   libarchive-dev
   libexpat1-dev
+  libglib2.0-dev
   ninja-build
   qt6-base-dev
   qt6-base-dev-tools
@@ -103,7 +104,6 @@ packages_fuzz=(
 
 packages_bench=(
   libbenchmark-dev
-  libglib2.0-dev
   libxcb1-dev
 )
 

@@ -1,15 +1,12 @@
 #include "platform/linux/program/Program.h"
 
 #include "platform/linux/bus/ActivationToken.h"
-#include "platform/linux/look/Appearance.h"
-#include "platform/linux/program/ColorSchemeSetting.h"
 #include "platform/linux/program/DisplayConnection.h"
+#include "platform/linux/program/Resources.h"
 #include "platform/linux/program/TerminationSignals.h"
+#include "platform/linux/program/WindowSurroundings.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QEvent>
-#include <QTimer>
 #include <QWidget>
 
 #include <algorithm>
@@ -69,21 +66,6 @@ int statusWithoutDisplay(const ProgramDescription& description, int argc, char**
     return EXIT_FAILURE;
 }
 
-/// The first window is activated with the token that the program was started with, which is used up then.
-class StartToken : public QObject {
-public:
-    StartToken() { QCoreApplication::instance()->installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Expose) {
-            ActivationToken::forget();
-            QCoreApplication::instance()->removeEventFilter(this);
-        }
-        return false;
-    }
-};
-
 } // namespace
 
 int Program::run(const ProgramDescription& description, int argc, char** argv, const Main& main)
@@ -108,12 +90,7 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     if (program.m_name.ownedByAnother())
         return program.activateOther();
 
-    const StartToken startToken;
-    applyAppearance(ColorScheme::Light);
-    const ColorSchemeSetting colorScheme(
-        program.m_bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); });
-    // It is drawn in many sizes, which can wait until the window shows.
-    QTimer::singleShot(0, application.get(), [] { QApplication::setWindowIcon(icon()); });
+    const WindowSurroundings surroundings(program.m_bus, QCoreApplication::applicationDirPath());
     program.whenAskedToEnd([] { QCoreApplication::quit(); });
     // A process that is ending is not the one to be activated.
     QObject::connect(application.get(), &QCoreApplication::aboutToQuit, [&program] { program.m_name.release(); });
@@ -127,12 +104,12 @@ Program::Program(const ProgramDescription& description, const QVariantMap& platf
 
 QString Program::resources()
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" ORVIK_RESOURCES));
+    return installedResources(QCoreApplication::applicationDirPath());
 }
 
 QIcon Program::icon()
 {
-    return QIcon(resources() + QStringLiteral("/Assets/orvik-menu.svg"));
+    return productIcon(QCoreApplication::applicationDirPath());
 }
 
 void Program::whenAskedToEnd(std::function<void()> asked)

@@ -1,0 +1,57 @@
+#include "extension/actions/window/PerformInWindow.h"
+
+#include "extension/actions/support/Answer.h"
+#include "platform/linux/bus/SessionBus.h"
+#include "platform/linux/program/DisplayConnection.h"
+#include "platform/linux/program/TerminationSignals.h"
+#include "platform/linux/program/WindowSurroundings.h"
+#include "settings/Deployment.h"
+
+#include <QApplication>
+#include <QWidget>
+
+#include <array>
+#include <cstdlib>
+#include <string>
+
+namespace MenuExtension {
+
+namespace {
+
+/// What the process was started with is the request's, not the toolkit's.
+std::string programName = "orvik-menu";
+std::array<char*, 2> arguments{programName.data(), nullptr};
+int argumentCount = 1;
+
+int failWithoutDisplay()
+{
+    answer(Outcome::failed("There is no display to show the window on."));
+    return EXIT_FAILURE;
+}
+
+} // namespace
+
+Outcome performInWindow(const MakeWindow& make)
+{
+    LinuxDesktop::TerminationSignals terminationSignals;
+    LinuxDesktop::SessionBus::keepToolkitFromStartingOne();
+    const auto application = LinuxDesktop::connectToDisplay(argumentCount, arguments.data(), failWithoutDisplay);
+    QApplication::setApplicationName(QString::fromStdString(programName));
+    QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
+    QGuiApplication::setDesktopFileName(
+        QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size()));
+    terminationSignals.whenAsked([] { QApplication::closeAllWindows(); });
+
+    LinuxDesktop::SessionBus bus("orvik-menu: there is no session bus");
+    const LinuxDesktop::WindowSurroundings surroundings(bus, QCoreApplication::applicationDirPath() +
+                                                                 QStringLiteral("/" ORVIK_ACTION_TO_PROGRAMS));
+    const auto window = make();
+    window->show();
+    window->raise();
+    window->activateWindow();
+    answer(Outcome::done());
+    QApplication::exec();
+    return Outcome::done();
+}
+
+} // namespace MenuExtension

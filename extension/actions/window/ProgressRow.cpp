@@ -1,0 +1,115 @@
+#include "extension/actions/window/ProgressRow.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace MenuExtension {
+
+namespace {
+
+constexpr auto aMoment = std::chrono::milliseconds(400);
+constexpr auto betweenDrawings = std::chrono::milliseconds(100);
+/// The bar counts in thousandths, since a count of bytes does not fit its numbers.
+constexpr int wholeBar = 1000;
+
+} // namespace
+
+QString remainingTimeText(std::chrono::seconds remaining)
+{
+    const auto translated = [](const char* text, int count) {
+        return QCoreApplication::translate("ProgressRow", text, nullptr, count);
+    };
+    const auto seconds = remaining.count();
+    if (seconds < 5)
+        return QCoreApplication::translate("ProgressRow", "a few seconds left");
+    if (seconds < 55)
+        return translated("about %n seconds left", static_cast<int>((seconds + 4) / 5 * 5));
+    if (seconds < 90)
+        return QCoreApplication::translate("ProgressRow", "about a minute left");
+    const auto minutes = (seconds + 30) / 60;
+    if (minutes < 55)
+        return translated("about %n minutes left", static_cast<int>(minutes));
+    if (minutes < 90)
+        return QCoreApplication::translate("ProgressRow", "about an hour left");
+    return translated("about %n hours left", static_cast<int>(std::min<std::int64_t>((minutes + 30) / 60, 9999)));
+}
+
+ProgressRow::ProgressRow(QWidget* parent)
+    : QWidget(parent), m_bar(new QProgressBar(this)), m_words(new QLabel(this)), m_cancel(new QPushButton(this))
+{
+    m_bar->setTextVisible(false);
+    m_words->setTextFormat(Qt::PlainText);
+    m_words->setMinimumWidth(1);
+    m_cancel->setText(tr("Cancel"));
+    auto* const texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addWidget(m_bar);
+    texts->addWidget(m_words);
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(12);
+    row->addLayout(texts, 1);
+    row->addWidget(m_cancel, 0, Qt::AlignVCenter);
+    hide();
+
+    m_delay.setSingleShot(true);
+    m_delay.setInterval(aMoment);
+    connect(&m_delay, &QTimer::timeout, this, [this] {
+        showWhatIsKnown();
+        show();
+    });
+    m_drawing.setInterval(betweenDrawings);
+    connect(&m_drawing, &QTimer::timeout, this, &ProgressRow::showWhatIsKnown);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        m_cancel->setEnabled(false);
+        emit cancelled();
+    });
+}
+
+void ProgressRow::start(const QString& what)
+{
+    m_what = what;
+    m_bar->setAccessibleName(what);
+    m_text.clear();
+    m_done = 0;
+    m_total = 0;
+    m_estimate = TimeEstimate(TimeEstimate::Clock::now());
+    m_cancel->setEnabled(true);
+    m_delay.start();
+    m_drawing.start();
+}
+
+void ProgressRow::advance(std::uint64_t done, std::uint64_t total, const QString& words)
+{
+    m_done = done;
+    m_total = total;
+    m_text = words;
+    m_estimate.advance(done, total, TimeEstimate::Clock::now());
+}
+
+void ProgressRow::finish()
+{
+    m_delay.stop();
+    m_drawing.stop();
+    hide();
+}
+
+void ProgressRow::showWhatIsKnown()
+{
+    m_bar->setMaximum(m_total == 0 ? 0 : wholeBar);
+    if (m_total > 0)
+        m_bar->setValue(static_cast<int>(static_cast<double>(std::min(m_done, m_total)) /
+                                         static_cast<double>(m_total) * wholeBar));
+    QString text = m_text.isEmpty() ? m_what : m_text;
+    if (const auto remaining = m_total > 0 ? m_estimate.remaining() : std::nullopt)
+        text += QStringLiteral(" · ") + remainingTimeText(*remaining);
+    m_words->setText(text);
+}
+
+} // namespace MenuExtension
