@@ -108,6 +108,8 @@ void Groups::forget(const std::vector<ItemNumber>& items)
             group.last = previous;
         --group.count;
         measure(group);
+        if (group.count > 0 && group.chosen == group.count)
+            setChosen(group.first, false);
     }
 }
 

@@ -31,7 +31,7 @@ public:
     /// Adds a group, or items to the one that was added under that key, where it is not 0. They are not chosen.
     GroupNumber add(std::uint64_t key, const std::vector<Item>& items);
     void clear();
-    /// Forgets items that are gone. Of a group that has one left it forgets that too.
+    /// Forgets items that are gone. A group with one left is none any more.
     void forget(const std::vector<ItemNumber>& items);
 
     /// All that have at least two items, the largest saving first.

@@ -43,7 +43,8 @@ std::vector<bool> KeepRule::kept(const std::vector<Item>& items) const
 {
     std::vector<bool> kept(items.size(), false);
     if (kind == Kind::InFolder) {
-        std::ranges::transform(items, kept.begin(), [this](const Item& item) { return liesIn(item.path, folder); });
+        std::transform(items.begin(), items.end(), kept.begin(),
+                       [this](const Item& item) { return liesIn(item.path, folder); });
         return std::ranges::find(kept, true) == kept.end() ? std::vector<bool>() : kept;
     }
     const auto best = std::ranges::min_element(

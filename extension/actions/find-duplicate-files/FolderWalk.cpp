@@ -24,7 +24,7 @@ namespace {
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
 /// How many folders in each other are open at once.
 constexpr std::size_t longestWay = 200;
-constexpr std::size_t mostEntriesAtOnce = 50'000;
+constexpr std::size_t mostEntriesAtOnce = 10'000;
 
 bool isSelfOrParent(const char* name)
 {
