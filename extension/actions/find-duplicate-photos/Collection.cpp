@@ -35,6 +35,14 @@ std::vector<Candidate> candidatesFor(const Signature& signature, const Neighbour
     return candidates;
 }
 
+Resemblances::Part partOf(const Likeness& likeness)
+{
+    using Part = Resemblances::Part;
+    if (likeness.cut <= Likeness::hardlyCut)
+        return Part::Neither;
+    return likeness.isOtherCut ? Part::Other : Part::One;
+}
+
 } // namespace
 
 std::vector<Resemblances::Pair> Collection::add(std::uint32_t number, const Thumb& thumb)
@@ -55,11 +63,12 @@ std::vector<Resemblances::Pair> Collection::add(std::uint32_t number, const Thum
         if (!other)
             continue;
         ++count;
-        const float difference = likenessOf(*other, thumb, candidate.symmetry).difference();
+        const Likeness likeness = likenessOf(*other, thumb, candidate.symmetry);
+        const float difference = likeness.difference();
         if (difference > widestLimit)
             continue;
         alike.insert(candidate.thumb);
-        pairs.push_back({m_numbers[candidate.thumb], number, difference});
+        pairs.push_back({m_numbers[candidate.thumb], number, difference, partOf(likeness)});
         isKnown = difference <= theSame;
     }
     m_compared += count;

@@ -251,6 +251,7 @@ void place(const Placement& placement, Likeness& likeness)
     const auto [least, most] = std::ranges::minmax(insides);
     likeness.beside = std::max(0.0F, std::min(-least, most));
     likeness.cut = std::max(most, -least);
+    likeness.isOtherCut = most > -least;
 }
 
 bool haveLikeShapes(const Thumb& one, const Thumb& other, Symmetry symmetry)
@@ -267,9 +268,7 @@ float Likeness::difference() const
     // Aligning finds a place a little beside the right one.
     constexpr float exact = 0.003F;
     const float shift = std::max(0.0F, beside - exact) * 50;
-    // What was cut has its cells elsewhere, and so a little different everywhere. It has to be cut clearly: something
-    // that has moved looks like a little of it.
-    constexpr float hardlyCut = 0.01F;
+    // What was cut has its cells elsewhere, and so a little different everywhere.
     constexpr float clearlyCut = 0.03F;
     const float isCut = std::clamp((cut - hardlyCut) / (clearlyCut - hardlyCut), 0.0F, 1.0F);
     const float differs = std::lerp(std::max(content * 3, place * 1.1F), std::max(content * 2, place * 0.5F), isCut);

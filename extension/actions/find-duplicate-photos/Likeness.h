@@ -15,8 +15,12 @@ struct Likeness {
     /// How far each shows what the other does not: a part of its length. Of two of a series one was taken a little
     /// beside the other; of a cutting everything is in the whole.
     float beside = 0;
-    /// How much is cut away at a side.
+    /// How much is cut away at a side, and of which.
     float cut = 0;
+    bool isOtherCut = false;
+
+    /// How much is cut away at a side before that is noticed: a little of it may as well be something that has moved.
+    static constexpr float hardlyCut = 0.01F;
 
     /// All of it in one number: 0 for the same picture, 1 for one that has nothing to do with it.
     [[nodiscard]] float difference() const;

@@ -2,19 +2,15 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace MenuExtension::SimilarPhotos {
 
-void Clusters::reach(std::uint32_t number)
+std::uint32_t Clusters::of(std::uint32_t number)
 {
     while (m_above.size() <= number)
         m_above.push_back(static_cast<std::uint32_t>(m_above.size()));
-}
-
-std::uint32_t Clusters::of(std::uint32_t number)
-{
-    reach(number);
     while (m_above[number] != number) {
         m_above[number] = m_above[m_above[number]];
         number = m_above[number];
@@ -76,8 +72,20 @@ std::vector<std::vector<std::uint32_t>> Resemblances::groups(float limit)
 void Resemblances::forgetNeedless()
 {
     std::ranges::stable_sort(m_pairs, {}, &Pair::difference);
+    // Those that are the same by pairs which say so, and of these the ones that have found their whole.
+    Clusters same;
+    for (const Pair& pair : m_pairs) {
+        if (pair.part == Part::Neither)
+            same.join(pair.one, pair.other);
+    }
+    std::set<std::uint32_t> parts;
     Clusters clusters;
-    std::erase_if(m_pairs, [&](const Pair& pair) { return !clusters.join(pair.one, pair.other); });
+    std::erase_if(m_pairs, [&](const Pair& pair) {
+        if (pair.part == Part::Neither)
+            return !clusters.join(pair.one, pair.other);
+        const std::uint32_t part = same.of(pair.part == Part::One ? pair.one : pair.other);
+        return parts.contains(part) || !clusters.join(pair.one, pair.other) || !parts.insert(part).second;
+    });
     m_kept = m_pairs.size();
     m_areNeeded = true;
 }

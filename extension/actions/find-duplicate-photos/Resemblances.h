@@ -13,8 +13,6 @@ public:
     bool join(std::uint32_t one, std::uint32_t other);
 
 private:
-    void reach(std::uint32_t number);
-
     std::vector<std::uint32_t> m_above;
 };
 
@@ -22,17 +20,21 @@ private:
 /// more than a few for each picture, however many resemble each other.
 class Resemblances {
 public:
+    /// Which of two is a part that was cut out of the other.
+    enum class Part : std::uint8_t { Neither, One, Other };
     struct Pair {
         std::uint32_t one;
         std::uint32_t other;
         float difference;
+        Part part = Part::Neither;
     };
 
     void add(const Pair& pair);
     /// The pairs that lead from each picture of a group to all others of it, the most alike first.
     [[nodiscard]] const std::vector<Pair>& needed();
     /// Groups of two and more, each in the order of its numbers: those that are joined by pairs which differ by no
-    /// more than the limit.
+    /// more than the limit. A part, and what is the same as it, belongs to one whole alone, the one that it is most
+    /// like: two pictures of a series have parts in common, and are not the same for that.
     [[nodiscard]] std::vector<std::vector<std::uint32_t>> groups(float limit);
 
 private:

@@ -1,6 +1,7 @@
 #include "extension/actions/photos/PhotoReading.h"
 
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace MenuExtension::Photos {
@@ -13,6 +14,11 @@ constexpr std::array readers{
     "VipsForeignLoadTiff", "VipsForeignLoadHeif", "VipsForeignLoadNsgif",
     "VipsForeignLoadJp2k", "VipsForeignLoadJxl",  "VipsForeignLoadPpm",
 };
+
+Unreadable otherKind()
+{
+    return {"is no picture of a kind that can be read here"};
+}
 
 Unreadable damaged()
 {
@@ -49,12 +55,13 @@ std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
     const char* const reader = photo.source ? vips_foreign_find_load_source(photo.source.get()) : nullptr;
     if (!reader) {
         vips_error_clear();
-        return Unreadable{"is no picture of a kind that can be read here"};
+        return otherKind();
     }
     photo.header.reset(vips_image_new_from_source(photo.source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr));
     if (!photo.header) {
+        const bool isOther = std::string_view(vips_error_buffer()).find("blocked") != std::string_view::npos;
         vips_error_clear();
-        return damaged();
+        return isOther ? otherKind() : damaged();
     }
     photo.width = vips_image_get_width(photo.header.get());
     photo.height = vips_image_get_page_height(photo.header.get());
@@ -69,8 +76,8 @@ std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
 std::variant<Image, Unreadable> readSmall(const OpenedPhoto& photo, int longest)
 {
     VipsImage* read = nullptr;
-    vips_thumbnail_source(photo.source.get(), &read, longest, "height", longest, "size", VIPS_SIZE_DOWN, "fail_on",
-                          VIPS_FAIL_ON_TRUNCATED, nullptr);
+    vips_thumbnail_source(photo.source.get(), &read, longest, "height", longest, "size", VIPS_SIZE_DOWN,
+                          "option_string", "fail_on=truncated", nullptr);
     Image image(read);
     image = after(image, [](VipsImage* in, VipsImage** out) {
         return vips_colourspace(in, out, VIPS_INTERPRETATION_sRGB, nullptr);
