@@ -97,29 +97,38 @@ void Groups::clear()
 
 void Groups::forget(const std::vector<ItemNumber>& items)
 {
+    std::vector<bool> isGone(m_items.size(), false);
+    std::vector<GroupNumber> groups;
     for (const ItemNumber number : items) {
-        static_cast<void>(setChosen(number, false));
-        StoredGroup& group = m_groups[m_items[number].group];
-        ItemNumber previous = none;
-        for (ItemNumber at = group.first; at != number && at != none; at = m_items[at].next)
-            previous = at;
-        (previous == none ? group.first : m_items[previous].next) = m_items[number].next;
-        if (group.last == number)
-            group.last = previous;
-        --group.count;
-        measure(group);
+        setChosen(number, false);
+        isGone[number] = true;
+        groups.push_back(m_items[number].group);
+    }
+    std::ranges::sort(groups);
+    const auto [rest, end] = std::ranges::unique(groups);
+    groups.erase(rest, end);
+    for (const GroupNumber number : groups) {
+        StoredGroup& group = m_groups[number];
+        std::vector<ItemNumber> left = itemsOf(number);
+        std::erase_if(left, [&](ItemNumber item) { return isGone[item]; });
+        relink(group, left);
         if (group.count > 0 && group.chosen == group.count)
             setChosen(group.first, false);
     }
 }
 
-void Groups::measure(StoredGroup& group) const
+void Groups::relink(StoredGroup& group, const std::vector<ItemNumber>& items)
 {
+    group.first = items.empty() ? none : items.front();
+    group.last = items.empty() ? none : items.back();
+    group.count = static_cast<std::uint32_t>(items.size());
     group.bytes = 0;
     group.largest = 0;
-    for (ItemNumber at = group.first; at != none; at = m_items[at].next) {
-        group.bytes += m_items[at].size;
-        group.largest = std::max(group.largest, m_items[at].size);
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        StoredItem& item = m_items[items[index]];
+        item.next = index + 1 < items.size() ? items[index + 1] : none;
+        group.bytes += item.size;
+        group.largest = std::max(group.largest, item.size);
     }
 }
 

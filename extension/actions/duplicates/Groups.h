@@ -41,6 +41,8 @@ public:
 
     [[nodiscard]] std::vector<ItemNumber> itemsOf(GroupNumber group) const;
     [[nodiscard]] std::uint32_t countOf(GroupNumber group) const { return m_groups[group].count; }
+    [[nodiscard]] std::uint32_t chosenOf(GroupNumber group) const { return m_groups[group].chosen; }
+    [[nodiscard]] ItemNumber firstOf(GroupNumber group) const { return m_groups[group].first; }
     /// What is saved when only the largest item of the group stays.
     [[nodiscard]] std::int64_t savingOf(GroupNumber group) const;
     [[nodiscard]] Item item(ItemNumber number) const;
@@ -86,7 +88,7 @@ private:
     [[nodiscard]] std::uint32_t deviceIndex(dev_t device);
     [[nodiscard]] bool contains(GroupNumber group, std::string_view text) const;
     void sortBySaving(std::vector<GroupNumber>& groups) const;
-    void measure(StoredGroup& group) const;
+    void relink(StoredGroup& group, const std::vector<ItemNumber>& items);
 
     GrowingArray<char> m_texts;
     GrowingArray<StoredItem> m_items;
