@@ -141,6 +141,7 @@ float slopeAt(const Grid& grid, std::size_t cell)
 struct Difference {
     float content = 1;
     float place = 1;
+    float light = 0;
 };
 
 /// How much of a cell's level in the second picture the first does not tell.
@@ -172,10 +173,13 @@ Difference differenceBetween(const Compared& from, const Compared& to)
     float sum = 0;
     float mean = 0;
     float squares = 0;
+    float light = 0;
     for (const Pair& pair : pairs) {
+        const float expected = valueOf(curve, pair.from);
+        light += std::pow(expected - pair.from, 2.0F);
         mean += pair.to;
         squares += pair.to * pair.to;
-        const float square = std::pow(missing(pair, valueOf(curve, pair.from), to.brightness), 2.0F);
+        const float square = std::pow(missing(pair, expected, to.brightness), 2.0F);
         sum += square;
         const std::size_t at = pair.cell / side / part * parts + pair.cell % side / part;
         sums[at] += square;
@@ -191,7 +195,7 @@ Difference differenceBetween(const Compared& from, const Compared& to)
         if (counts[at] >= part)
             worst = std::max(worst, sums[at] / counts[at]);
     }
-    return {std::sqrt(sum / count) / contrast, std::sqrt(worst) / contrast};
+    return {std::sqrt(sum / count) / contrast, std::sqrt(worst) / contrast, std::sqrt(light / count) / contrast};
 }
 
 /// In either direction: what is cut off at white is in one of them only.
@@ -272,7 +276,9 @@ float Likeness::difference() const
     constexpr float clearlyCut = 0.03F;
     const float isCut = std::clamp((cut - hardlyCut) / (clearlyCut - hardlyCut), 0.0F, 1.0F);
     const float differs = std::lerp(std::max(content * 3, place * 1.1F), std::max(content * 2, place * 0.5F), isCut);
-    return std::min(1.0F, std::hypot(differs, color, shift) + std::max(0.0F, cut - hardlyCut) * 0.5F);
+    constexpr float mostOfLight = 0.04F;
+    return std::min(1.0F, std::hypot(differs, color, shift) + std::max(0.0F, cut - hardlyCut) * 0.5F +
+                              std::min(light * 0.5F, mostOfLight));
 }
 
 Likeness likenessOf(const Thumb& one, const Thumb& other, Symmetry symmetry)
@@ -283,7 +289,10 @@ Likeness likenessOf(const Thumb& one, const Thumb& other, Symmetry symmetry)
     const View whole = viewOf(one, {});
     const View picture = viewOf(other, symmetry);
     const Difference asItIs = differenceOf({whole.brightness, whole.full}, {picture.brightness, picture.full});
-    best = {.content = asItIs.content, .place = asItIs.place, .color = colorDifference(whole, picture, {})};
+    best = {.content = asItIs.content,
+            .place = asItIs.place,
+            .color = colorDifference(whole, picture, {}),
+            .light = asItIs.light};
     constexpr float clearlyAlike = 0.02F;
     if (asItIs.content < clearlyAlike && asItIs.place < 2 * clearlyAlike)
         return best;
@@ -302,7 +311,10 @@ Likeness likenessOf(const Thumb& one, const Thumb& other, Symmetry symmetry)
         // Where it explains most of what differs, that is how the two were taken, whatever follows from it.
         constexpr float most = 0.55F;
         if (there.content < stayed.content * most) {
-            best = {.content = there.content, .place = there.place, .color = colorDifference(whole, picture, *found)};
+            best = {.content = there.content,
+                    .place = there.place,
+                    .color = colorDifference(whole, picture, *found),
+                    .light = there.light};
             place(*found, best);
             break;
         }

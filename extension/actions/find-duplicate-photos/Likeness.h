@@ -12,6 +12,8 @@ struct Likeness {
     /// Where they differ most.
     float place = 1;
     float color = 1;
+    /// How much the light has changed, which says a little only: two of a series rarely have the very same.
+    float light = 0;
     /// How far each shows what the other does not: a part of its length. Of two of a series one was taken a little
     /// beside the other; of a cutting everything is in the whole.
     float beside = 0;

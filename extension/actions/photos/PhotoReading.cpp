@@ -1,5 +1,6 @@
 #include "extension/actions/photos/PhotoReading.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -14,6 +15,12 @@ constexpr std::array readers{
     "VipsForeignLoadTiff", "VipsForeignLoadHeif", "VipsForeignLoadNsgif",
     "VipsForeignLoadJp2k", "VipsForeignLoadJxl",  "VipsForeignLoadPpm",
 };
+
+/// The library names a reader that is blocked too.
+bool isForPhotos(std::string_view reader)
+{
+    return std::ranges::any_of(readers, [reader](const char* name) { return reader.starts_with(name); });
+}
 
 Unreadable otherKind()
 {
@@ -53,15 +60,14 @@ std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
     OpenedPhoto photo;
     photo.source.reset(vips_source_new_from_descriptor(file));
     const char* const reader = photo.source ? vips_foreign_find_load_source(photo.source.get()) : nullptr;
-    if (!reader) {
+    if (!reader || !isForPhotos(reader)) {
         vips_error_clear();
         return otherKind();
     }
     photo.header.reset(vips_image_new_from_source(photo.source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr));
     if (!photo.header) {
-        const bool isOther = std::string_view(vips_error_buffer()).find("blocked") != std::string_view::npos;
         vips_error_clear();
-        return isOther ? otherKind() : damaged();
+        return damaged();
     }
     photo.width = vips_image_get_width(photo.header.get());
     photo.height = vips_image_get_page_height(photo.header.get());
