@@ -17,6 +17,7 @@ packages_build=(
   qt6-base-dev-tools
   libqt6opengl6-dev
   libsystemd-dev
+  libxxhash-dev
   pkg-config
   python3
   qt6-svg-dev
@@ -105,8 +106,12 @@ packages_fuzz=(
 )
 
 packages_bench=(
+  fdupes
+  jdupes
   libbenchmark-dev
   libxcb1-dev
+  rdfind
+  rmlint
 )
 
 is_installed() {
