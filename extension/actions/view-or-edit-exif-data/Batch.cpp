@@ -54,12 +54,12 @@ void readPhotos(const Request& request, const std::vector<std::string>& paths, c
         take(index, std::move(reading));
     };
     share(paths.size(), laterShare, stop, [&](TagReader& exifTool, std::size_t begin, std::size_t end) {
-        std::vector<Photo> photos;
+        std::vector<OpenedFile> photos;
         std::vector<int> files;
         std::vector<std::string> names;
         std::vector<std::size_t> indices;
         for (std::size_t index = begin; index < end; ++index) {
-            auto photo = openPhoto(request, paths[index]);
+            auto photo = openWithFolder(request, paths[index]);
             if (!photo) {
                 report(index, {.trouble = cannotBeOpened()});
                 continue;
@@ -84,7 +84,7 @@ void savePhotos(const Request& request, const std::vector<std::string>& paths, c
 {
     std::mutex mutex;
     share(paths.size(), 1, stop, [&](TagReader& exifTool, std::size_t index, std::size_t) {
-        const auto photo = openPhoto(request, paths[index]);
+        const auto photo = openWithFolder(request, paths[index]);
         Trouble trouble = photo ? savePhoto(exifTool, *photo, edits, options, stop) : cannotBeOpened();
         const std::lock_guard lock(mutex);
         take(index, std::move(trouble));

@@ -1,6 +1,7 @@
 #include "SavePhoto.h"
 
 #include "ImageData.h"
+#include "extension/actions/placing/Attributes.h"
 #include "platform/linux/system/FolderStream.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@
 #include <string_view>
 #include <sys/random.h>
 #include <sys/stat.h>
-#include <sys/xattr.h>
 #include <unistd.h>
 #include <vector>
 
@@ -59,42 +59,6 @@ Trouble cannotBeSaved()
     return {.kind = Trouble::Kind::CannotBeSaved, .error = errno};
 }
 
-/// Whether the file system has no such thing as the call was for.
-bool isUnknownThere()
-{
-    return errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL;
-}
-
-/// Permissions, lists of rights and what programs have noted. False, with errno, where something would be lost.
-bool copyAttributes(int from, int to, const struct stat& status)
-{
-    // Only the superuser may give a file away.
-    struct stat made = {};
-    if (::fstat(to, &made) == 0 && (made.st_uid != status.st_uid || made.st_gid != status.st_gid))
-        static_cast<void>(::fchown(to, status.st_uid, status.st_gid));
-    if (::fchmod(to, status.st_mode & 07777U) != 0)
-        return false;
-    const ssize_t size = ::flistxattr(from, nullptr, 0);
-    if (size <= 0)
-        return size == 0 || isUnknownThere();
-    std::string names(static_cast<std::size_t>(size), '\0');
-    const ssize_t listed = ::flistxattr(from, names.data(), names.size());
-    names.resize(static_cast<std::size_t>(std::max<ssize_t>(listed, 0)));
-    for (std::string_view rest = names; !rest.empty();) {
-        const std::string name(rest.substr(0, rest.find('\0')));
-        rest.remove_prefix(std::min(name.size() + 1, rest.size()));
-        const ssize_t length = ::fgetxattr(from, name.c_str(), nullptr, 0);
-        std::string value(static_cast<std::size_t>(std::max<ssize_t>(length, 0)), '\0');
-        if (length < 0 || ::fgetxattr(from, name.c_str(), value.data(), value.size()) != length)
-            continue;
-        const bool isUsers = name.starts_with("user.") || name.starts_with("system.posix_acl");
-        // What is the system's own is not everybody's to set.
-        if (::fsetxattr(to, name.c_str(), value.data(), value.size(), 0) != 0 && isUsers)
-            return false;
-    }
-    return true;
-}
-
 /// A copy of a file's bytes under a new name in the folder.
 bool copyTo(int from, const FileDescriptor& folder, const std::string& name, const struct stat& status)
 {
@@ -118,13 +82,13 @@ bool copyTo(int from, const FileDescriptor& folder, const std::string& name, con
 }
 
 /// False, with errno.
-bool keepOriginal(const Photo& photo, const struct stat& status)
+bool keepOriginal(const OpenedFile& photo, const struct stat& status)
 {
     const std::string original = photo.name + std::string(originalSuffix);
     if (::linkat(photo.folder.get(), photo.name.c_str(), photo.folder.get(), original.c_str(), 0) == 0 ||
         errno == EEXIST)
         return true;
-    if (errno != EPERM && errno != EMLINK && !isUnknownThere())
+    if (errno != EPERM && errno != EMLINK && !isUnsupported())
         return false;
     // A file has one name there.
     const TemporaryName temporary(photo.folder, {});
@@ -135,7 +99,7 @@ bool keepOriginal(const Photo& photo, const struct stat& status)
 }
 
 /// Whether the new file may take the photo's place.
-Trouble check(TagReader& exifTool, const Photo& photo, int made, const Edits& edits, const Tags& before,
+Trouble check(TagReader& exifTool, const OpenedFile& photo, int made, const Edits& edits, const Tags& before,
               const std::stop_token& stop)
 {
     ByteSource ofPhoto(photo.file.get());
@@ -151,14 +115,8 @@ Trouble check(TagReader& exifTool, const Photo& photo, int made, const Edits& ed
     return {};
 }
 
-bool syncFolder(const FileDescriptor& folder)
-{
-    const FileDescriptor readable(::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return readable && (::fsync(readable.get()) == 0 || isUnknownThere());
-}
-
 /// What can be known before anything is written.
-Trouble obstacle(const Photo& photo, const Edits& edits, const Tags& tags)
+Trouble obstacle(const OpenedFile& photo, const Edits& edits, const Tags& tags)
 {
     if (edits.shift.count() != 0 && !photoTime(textOf(Field::Date, tags)))
         return {.kind = Trouble::Kind::NoDate};
@@ -173,7 +131,7 @@ Trouble obstacle(const Photo& photo, const Edits& edits, const Tags& tags)
 
 } // namespace
 
-Trouble savePhoto(TagReader& exifTool, const Photo& photo, const Edits& edits, const SaveOptions& options,
+Trouble savePhoto(TagReader& exifTool, const OpenedFile& photo, const Edits& edits, const SaveOptions& options,
                   const std::stop_token& stop)
 {
     const Reading before = exifTool.read(photo.file.get(), photo.name, stop);

@@ -17,7 +17,7 @@ struct SaveOptions {
 /// is the same byte by byte, flushes it and lets it take the place in one step, with the permissions and the extended
 /// attributes. Whatever fails or ends on the way, the photo stays as it was. What is to be made already is left
 /// alone.
-[[nodiscard]] Trouble savePhoto(TagReader& exifTool, const Photo& photo, const Edits& edits,
+[[nodiscard]] Trouble savePhoto(TagReader& exifTool, const OpenedFile& photo, const Edits& edits,
                                 const SaveOptions& options, const std::stop_token& stop);
 
 /// Removes what programs that were killed left in a folder long ago.

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "ExifTool.h"
-#include "Photo.h"
 #include "Tags.h"
 #include "Trouble.h"
+#include "extension/actions/placing/OpenedFile.h"
 
 #include "platform/linux/system/TemporaryFolders.h"
 

@@ -332,7 +332,7 @@ TEST_F(SavePhotoTest, AFullDiskLeavesThePhotoAsItWas)
 TEST_F(SavePhotoTest, AFileThatChangesMeanwhileIsNotReplaced)
 {
     const Path path = photo("jpg");
-    const auto opened = openPhoto(request(), path);
+    const auto opened = openWithFolder(request(), path);
     ASSERT_TRUE(opened);
     Files::write(path, Files::read(path) + "x");
     TagReader reader;
@@ -346,7 +346,7 @@ TEST_F(SavePhotoTest, LeftoversOfLongAgoGoAndOthersStay)
     Files::write(listed() / old, "x");
     Files::write(listed() / ".orvik-exif-fedcba9876543210.jpg", "x");
     fs::last_write_time(listed() / old, fs::file_time_type::clock::now() - 1h);
-    const auto opened = openPhoto(request(), photo("jpg"));
+    const auto opened = openWithFolder(request(), photo("jpg"));
     ASSERT_TRUE(opened);
     removeLeftovers(opened->folder);
     EXPECT_EQ(names(), (std::vector<std::string>{".orvik-exif-fedcba9876543210.jpg", "photo.jpg"}));

@@ -1,4 +1,4 @@
-#include "Photo.h"
+#include "extension/actions/placing/OpenedFile.h"
 
 #include "extension/actions/support/Picture.h"
 #include "platform/linux/system/ParentFolder.h"
@@ -11,37 +11,37 @@
 #include <system_error>
 #include <utility>
 
-namespace MenuExtension::Exif {
+namespace MenuExtension {
 
 using namespace LinuxDesktop;
 
-bool Photo::isUnchanged() const
+bool OpenedFile::isUnchanged() const
 {
     struct stat status = {};
     return ::fstatat(folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 && FileStamp::of(status) == stamp;
 }
 
-std::optional<Photo> openPhoto(const Request& request, const std::string& path)
+std::optional<OpenedFile> openWithFolder(const Request& request, const std::string& path)
 {
-    Photo photo;
-    photo.file = openFile(request, path);
-    const auto stamp = photo.file ? FileStamp::of(photo.file.get()) : std::nullopt;
+    OpenedFile opened;
+    opened.file = openFile(request, path);
+    const auto stamp = opened.file ? FileStamp::of(opened.file.get()) : std::nullopt;
     if (!stamp)
         return std::nullopt;
-    photo.stamp = *stamp;
+    opened.stamp = *stamp;
     std::error_code failed;
     const std::filesystem::path real =
-        std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(photo.file.get()), failed);
-    photo.name = real.filename();
-    photo.folder = FileDescriptor(::open(parentFolder(real.native()).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-    if (failed || !photo.folder)
+        std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(opened.file.get()), failed);
+    opened.name = real.filename();
+    opened.folder = FileDescriptor(::open(parentFolder(real.native()).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (failed || !opened.folder)
         return std::nullopt;
     // Whatever folder that was: it is the one where it holds the file that was opened.
-    if (!photo.isUnchanged()) {
+    if (!opened.isUnchanged()) {
         errno = ENOENT;
         return std::nullopt;
     }
-    return photo;
+    return opened;
 }
 
 std::string extensionOf(std::string_view name)
@@ -55,4 +55,4 @@ std::string extensionOf(std::string_view name)
     return isPlain && extension.size() <= longest ? std::string(extension) : "";
 }
 
-} // namespace MenuExtension::Exif
+} // namespace MenuExtension

@@ -6,10 +6,10 @@
 #include <optional>
 #include <string>
 
-namespace MenuExtension::Exif {
+namespace MenuExtension {
 
-/// A photo's file, open for reading, and where it lies: where a link at its path leads to.
-struct Photo {
+/// A file, open for reading, and where it lies: where a link at its path leads to.
+struct OpenedFile {
     LinuxDesktop::FileDescriptor file;
     /// To reach what lies in there.
     LinuxDesktop::FileDescriptor folder;
@@ -22,9 +22,9 @@ struct Photo {
 };
 
 /// Opens an ordinary file that lies where the actions may work. Nothing, with errno.
-[[nodiscard]] std::optional<Photo> openPhoto(const Request& request, const std::string& path);
+[[nodiscard]] std::optional<OpenedFile> openWithFolder(const Request& request, const std::string& path);
 
 /// The end of a name that says what kind of file it is, without its dot: letters and digits, or nothing.
 [[nodiscard]] std::string extensionOf(std::string_view name);
 
-} // namespace MenuExtension::Exif
+} // namespace MenuExtension
