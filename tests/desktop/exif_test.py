@@ -94,7 +94,7 @@ class Exif(DesktopTestCase):
             self.hands.type(text)
         self.save(action)
 
-        self.assertTells(action, "1 photo(s) saved.")
+        self.assertTells(action, "1 photo was saved.")
         tags = self.tags(path)
         self.assertEqual([tags[name] for name in ("Title", "Description", "Artist", "Copyright", "DateTimeOriginal")],
                          ["new title", "two words", "Ada", "free", "2024:02:29 12:34:56"])
@@ -107,7 +107,7 @@ class Exif(DesktopTestCase):
         paths = [self.photo(f"{number}.jpg", Title=f"title {number}", Artist="Ada") for number in range(3)]
         action = self.open(*paths)
         eventually(lambda: "Different values" in self.cells(action), "the data")
-        self.assertIn("3 photo(s)", action.texts())
+        self.assertIn("3 photos", action.texts())
         self.save_picture("exif-many")
         self.to_edit_page(action)
         action.tab_to("Author")
@@ -115,7 +115,7 @@ class Exif(DesktopTestCase):
         self.hands.type("Bo")
         self.save(action)
 
-        self.assertTells(action, "3 photo(s) saved.")
+        self.assertTells(action, "3 photos were saved.")
         for number, path in enumerate(paths):
             self.assertEqual((self.tags(path)["Title"], self.tags(path)["Artist"]), (f"title {number}", "Bo"))
 
@@ -132,7 +132,7 @@ class Exif(DesktopTestCase):
         self.hands.press("space")
         self.save(action)
 
-        self.assertTells(action, "1 photo(s) saved.")
+        self.assertTells(action, "1 photo was saved.")
         self.assertEqual(self.tags(path)["DateTimeOriginal"], "2024:01:01 00:30:00")
         with open(path + "_original", "rb") as file:
             self.assertEqual(file.read(), before)
@@ -155,7 +155,7 @@ class Exif(DesktopTestCase):
             eventually(lambda: action.find_window(TITLE), "the window")
             if remains:
                 self.assertIn("GPSLatitude", self.tags(path))
-        self.assertTells(action, "1 photo(s) saved.")
+        self.assertTells(action, "1 photo was saved.")
         tags = self.tags(path)
         self.assertEqual(tags["Title"], "A hill")
         self.assertFalse({"Artist", "GPSLatitude", "SerialNumber"} & set(tags))
@@ -168,7 +168,7 @@ class Exif(DesktopTestCase):
         self.hands.type("x")
         self.save(action)
 
-        self.assertTells(action, "1 photo(s) saved; these were left as they were:")
+        self.assertTells(action, "1 photo was saved. These were left as they were:")
         failures, = [item.name for item in action.window.find("list", "Photos that failed").all("list item")]
         self.assertTrue(failures.startswith("bad.webp: "), failures)
         self.assertEqual(self.tags(paths[0])["Title"], "x")

@@ -23,14 +23,24 @@ using Photos::Image;
 
 enum class Format { Jpeg, Png, WebP, Tiff, Heic, Avif };
 
-struct FreeBlob {
-    void operator()(void* bytes) const { g_free(bytes); }
+struct LetGoOfBytes {
+    void operator()(VipsBlob* bytes) const { vips_area_unref(VIPS_AREA(bytes)); }
 };
 
 /// What a picture is as a file.
-struct Encoded {
-    std::unique_ptr<void, FreeBlob> bytes;
-    std::size_t size = 0;
+class Encoded {
+public:
+    explicit Encoded(VipsBlob* bytes) : m_bytes(bytes) {}
+
+    [[nodiscard]] std::string_view bytes() const
+    {
+        std::size_t size = 0;
+        const void* const begin = vips_blob_get(m_bytes.get(), &size);
+        return {static_cast<const char*>(begin), size};
+    }
+
+private:
+    std::unique_ptr<VipsBlob, LetGoOfBytes> m_bytes;
 };
 
 std::string_view text(VipsImage* image, const char* name)
@@ -84,17 +94,16 @@ int writeTo(VipsImage* image, Format format, int quality, VipsTarget* target)
 std::optional<Encoded> encoded(VipsImage* image, Format format, int quality)
 {
     VipsTarget* target = vips_target_new_to_memory();
-    Encoded result;
-    const bool isWritten = target && writeTo(image, format, quality, target) == 0;
-    if (isWritten)
-        result.bytes.reset(vips_target_steal(target, &result.size));
+    VipsBlob* bytes = nullptr;
+    if (target && writeTo(image, format, quality, target) == 0)
+        g_object_get(target, "blob", &bytes, nullptr);
     VIPS_UNREF(target);
-    return isWritten && result.bytes ? std::optional(std::move(result)) : std::nullopt;
+    return bytes ? std::optional(Encoded(bytes)) : std::nullopt;
 }
 
 bool writeAll(int file, const Encoded& picture)
 {
-    std::string_view rest(static_cast<const char*>(picture.bytes.get()), picture.size);
+    std::string_view rest = picture.bytes();
     while (!rest.empty()) {
         const ssize_t count = ::write(file, rest.data(), rest.size());
         if (count < 0 && errno == EINTR)
@@ -178,10 +187,11 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
         auto file = encoded(picture.get(), format, quality);
         if (!file)
             return notWritten();
-        if (goal.kind != Goal::Kind::Bytes || file->size <= goal.value)
+        if (goal.kind != Goal::Kind::Bytes || file->bytes().size() <= goal.value)
             return Made{*std::move(file), size.width, size.height};
         quality = std::min(quality, std::max(worstQuality, quality - 10));
-        const double share = std::sqrt(static_cast<double>(goal.value) / static_cast<double>(file->size)) * care;
+        const double share =
+            std::sqrt(static_cast<double>(goal.value) / static_cast<double>(file->bytes().size())) * care;
         const auto smaller = [share](std::uint32_t length) {
             return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(length * std::min(share, 0.95)));
         };
@@ -260,7 +270,7 @@ Result resize(const Job& job, int photo, int target)
     if (auto* refusal = std::get_if<Refused>(&made))
         return *std::move(refusal);
     const Made& done = std::get<Made>(made);
-    result.after = asShown(done.width, done.height, done.file.size);
+    result.after = asShown(done.width, done.height, done.file.bytes().size());
     if (job.shownPixels > 0)
         result.shownAfter = shown(done.file, job.shownPixels);
     else if (!writeAll(target, done.file))

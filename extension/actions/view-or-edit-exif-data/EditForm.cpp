@@ -86,6 +86,9 @@ EditForm::EditForm(QWidget* parent)
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
+    // The page's own shows.
+    area->viewport()->setAutoFillBackground(false);
+    m_fields->setAutoFillBackground(false);
     m_refusal->setWordWrap(true);
     m_refusal->setTextFormat(Qt::PlainText);
     m_refusal->hide();
@@ -141,6 +144,7 @@ void EditForm::addShift(QFormLayout& form)
 void EditForm::addOrientation(QFormLayout& form)
 {
     m_orientation->setAccessibleName(tr("Orientation"));
+    m_orientation->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     form.addRow(tr("Orientation"), m_orientation);
 }
 

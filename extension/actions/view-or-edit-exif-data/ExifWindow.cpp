@@ -134,7 +134,7 @@ void ExifWindow::read()
 {
     const auto photos = selected();
     m_heading->setText(photos.size() == 1 ? m_names.data(m_names.index(static_cast<int>(photos.front()))).toString()
-                                          : tr("%n photo(s)", nullptr, static_cast<int>(photos.size())));
+                                          : tr("%n photos", nullptr, static_cast<int>(photos.size())));
     m_form->setBusy(true);
     m_progress->start(tr("Reading photos"));
     m_work.read(photos);
@@ -175,9 +175,8 @@ void ExifWindow::showSaved(const PhotoWork::Progress& progress)
 {
     m_photos->setEnabled(true);
     const auto saved = static_cast<int>(progress.done - progress.failures.size());
-    m_result->setText(progress.failures.empty()
-                          ? tr("%n photo(s) saved.", nullptr, saved)
-                          : tr("%n photo(s) saved; these were left as they were:", nullptr, saved));
+    const QString words = saved == 1 ? tr("1 photo was saved.") : tr("%n photos were saved.", nullptr, saved);
+    m_result->setText(progress.failures.empty() ? words : words + u' ' + tr("These were left as they were:"));
     m_result->show();
     showFailures(progress.failures);
     read();

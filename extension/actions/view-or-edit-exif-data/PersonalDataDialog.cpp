@@ -54,9 +54,7 @@ PersonalDataDialog::PersonalDataDialog(const Merged& merged, QWidget* parent) : 
     const bool isAny = !groups.empty();
 
     auto* const words = new QLabel(
-        isAny ? tr("This is removed for good from %n photo(s), unless the originals are kept. Title, description, "
-                   "copyright and date stay.",
-                   nullptr, static_cast<int>(merged.photos()))
+        isAny ? tr("This is removed for good, unless the original is kept. Title, description, copyright and date stay.")
               : tr("The photos have no location and no personal data that is known here."),
         this);
     words->setTextFormat(Qt::PlainText);

@@ -29,7 +29,7 @@ TEST(ResizedName, IsNoLongerThanANameMayBe)
 TEST(ResizedName, APatternHasTheNameAndNothingThatNoNameHas)
 {
     EXPECT_TRUE(isNamePattern("{name} small"));
-    for (const std::string pattern : {std::string(), std::string("small"), std::string("a/{name}"),
+    for (const std::string& pattern : {std::string(), std::string("small"), std::string("a/{name}"),
                                       std::string("{name}\0", 7), std::string(300, 'x')})
         EXPECT_FALSE(isNamePattern(pattern)) << pattern;
 }
