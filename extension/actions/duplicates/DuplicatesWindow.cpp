@@ -215,7 +215,11 @@ QWidget* DuplicatesWindow::makeDetails()
     header.setStretchLastSection(false);
     header.setSectionResizeMode(QHeaderView::Interactive);
     header.setSectionResizeMode(ItemListModel::FolderColumn, QHeaderView::Stretch);
-    header.resizeSection(ItemListModel::NameColumn, 170);
+    header.resizeSection(ItemListModel::NameColumn, 150);
+    const Item longest{.path = {}, .state = {.device = 0, .inode = 0, .size = 0, .modified = 999'999'999'999'999'999}};
+    constexpr int aroundText = 24;
+    header.resizeSection(ItemListModel::SizeColumn, fontMetrics().horizontalAdvance(sizeText(999'900)) + aroundText);
+    header.resizeSection(ItemListModel::DateColumn, fontMetrics().horizontalAdvance(dateText(longest)) + aroundText);
     header.setMinimumSectionSize(60);
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setWordWrap(true);
@@ -466,8 +470,8 @@ void DuplicatesWindow::showChoice()
     m_remove->setEnabled(chosen.items > 0 && !m_isRemoving);
     m_rules->setEnabled(!m_isRemoving);
     m_remove->setText(chosen.items == 1 ? tr("Move 1 Item to Trash")
-                                        : tr("Move %1 Items to Trash").arg(QLocale().toString(
-                                              static_cast<qulonglong>(chosen.items))));
+                                        : tr("Move %1 Items to Trash")
+                                              .arg(QLocale().toString(static_cast<qulonglong>(chosen.items))));
     m_sum->setText(chosen.items == 0
                        ? QString()
                        : tr("Chosen: %1, %2").arg(m_presentation.counted(chosen.items), sizeText(chosen.bytes)));
