@@ -1,7 +1,7 @@
-// Finds the duplicates among 20,000 files of 2 GB, half of which have some, beside the programs that do only that: with
-// the files in memory, and with none of their bytes there. Every program runs in turn, and the medians are compared. The
-// files lie in a folder of the bench's own, which is gone afterwards: in the folder that is its argument, else where
-// temporary files go that may be large.
+// Finds the duplicates among 20,000 files of 2 GB, half of which have some, beside the programs that do only that:
+// with the files in memory, and with none of their bytes there. Every program runs in turn, and the medians are
+// compared. The files lie in a folder of the bench's own, which is gone afterwards: in the folder that is its
+// argument, else where temporary files go that may be large.
 #include "extension/actions/find-duplicate-files/DuplicateFileFinder.h"
 
 #include <algorithm>
@@ -254,10 +254,10 @@ int main(int argc, char** argv)
     const std::string self = fs::read_symlink("/proc/self/exe");
     const std::vector<Rival> rivals{
         {"ours", {self, "--find"}},
-        {"rmlint", {"rmlint", "--types=duplicates", "--no-with-color", "-o", "summary:/dev/null"}},
+        {"rmlint", {"rmlint", "--types=duplicates", "--no-with-color", "-o", "summary:stdout"}},
         {"jdupes", {"jdupes", "-r", "-q"}},
         {"jdupes, trusting its hash", {"jdupes", "-r", "-q", "-Q"}},
-        {"rdfind", {"rdfind", "-dryrun", "true", "-outputname", "/dev/null"}},
+        {"rdfind", {"rdfind", "-dryrun", "true", "-makeresultsfile", "false"}},
         {"fdupes", {"fdupes", "-r", "-q"}},
     };
     compare(files, rivals, false, warmRounds);
