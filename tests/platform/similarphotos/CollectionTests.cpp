@@ -1,8 +1,8 @@
 #include "Painting.h"
 #include "extension/actions/find-duplicate-photos/Collection.h"
-#include "extension/actions/find-duplicate-photos/Likeness.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -11,9 +11,15 @@ using namespace MenuExtension::SimilarPhotos;
 /// How much the first of two differs from the second, in a collection that has others too; 1 where nothing was found.
 float difference(const Painting& one, const Painting& other)
 {
+    static const std::vector<Thumb> others = [] {
+        std::vector<Thumb> thumbs;
+        for (std::uint32_t number = 0; number < 20; ++number)
+            thumbs.push_back(Painting::of(500 + number, 80, 60).thumb());
+        return thumbs;
+    }();
     Collection collection;
-    for (std::uint32_t number = 0; number < 20; ++number)
-        static_cast<void>(collection.add(number, Painting::of(500 + number, 160, 120).thumb()));
+    for (std::uint32_t number = 0; number < others.size(); ++number)
+        static_cast<void>(collection.add(number, others[number]));
     constexpr std::uint32_t first = 100;
     EXPECT_TRUE(collection.add(first, one.thumb()).empty());
     const auto pairs = collection.add(first + 1, other.thumb());
@@ -84,18 +90,18 @@ TEST_P(SamePicture, IsNotTheNextOfASeries)
     EXPECT_GT(difference(painting, painting.with(bird, 140, 80)), usualLimit);
 }
 
-TEST_P(SamePicture, IsNotOneInOtherColours)
+TEST_P(SamePicture, IsNotAnother)
 {
-    const Painting painting = Painting::of(GetParam());
-    Painting other = painting;
-    const Painting tint = Painting::plain(320, 240, {0, 0, 0});
-    Likeness likeness = likenessOf(painting.thumb(), other.thumb(), {});
-    EXPECT_LT(likeness.difference(), 0.01);
-    EXPECT_GT(difference(painting, Painting::of(GetParam() + 1000)), usualLimit);
-    EXPECT_GT(difference(painting, tint), usualLimit);
+    EXPECT_GT(difference(Painting::of(GetParam()), Painting::of(GetParam() + 1000)), usualLimit);
 }
 
-INSTANTIATE_TEST_SUITE_P(Pictures, SamePicture, testing::Range(1U, 7U));
+TEST_P(SamePicture, IsNotTheOneInOtherColours)
+{
+    const Painting painting = Painting::of(GetParam());
+    EXPECT_GT(difference(painting, painting.withBandsSwapped()), usualLimit);
+}
+
+INSTANTIATE_TEST_SUITE_P(Pictures, SamePicture, testing::Range(1U, 5U));
 
 TEST(Collection, ManyCopiesOfOnePictureCostNoMoreThanOne)
 {

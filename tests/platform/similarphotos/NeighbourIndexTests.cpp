@@ -88,7 +88,7 @@ TEST(NeighbourIndex, LooksAtFewOfMany)
     const std::uint64_t before = index.measured();
     constexpr std::size_t searches = 200;
     for (std::size_t search = 0; search < searches; ++search)
-        static_cast<void>(index.within(signatures[search * 100], 0.2F));
+        static_cast<void>(index.within(signatures[search * 100], 0.1F));
     EXPECT_LT(index.measured() - before, searches * count / 4);
 }
 

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <random>
+#include <utility>
 #include <vector>
 
 /// A picture that is made by a number, and what is done to it.
@@ -35,8 +37,11 @@ public:
                 const double y = (row + 0.5) / height;
                 std::array<double, 3> color{90 + 40 * x, 110 + 30 * y, 120 - 30 * x};
                 for (const Spot& spot : spots) {
-                    const double far = std::hypot(x - spot.x, y - spot.y) / spot.size;
-                    const double strength = std::exp(-far * far);
+                    const double far =
+                        ((x - spot.x) * (x - spot.x) + (y - spot.y) * (y - spot.y)) / spot.size / spot.size;
+                    if (far > 9)
+                        continue;
+                    const double strength = std::exp(-far);
                     for (std::size_t band = 0; band < color.size(); ++band)
                         color[band] += spot.color[band] * strength;
                 }
@@ -103,6 +108,14 @@ public:
         Painting result = *this;
         for (std::uint8_t& byte : result.m_bytes)
             byte = toByte(byte * factor + offset);
+        return result;
+    }
+    /// What was red is blue.
+    [[nodiscard]] Painting withBandsSwapped() const
+    {
+        Painting result = *this;
+        for (std::size_t at = 0; at < m_bytes.size(); at += 3)
+            std::swap(result.m_bytes[at], result.m_bytes[at + 2]);
         return result;
     }
     /// As strong compression does.
