@@ -6,10 +6,10 @@ import shutil
 import subprocess
 import unittest
 
-from support.action_window import ActionWindow, run_action
+from gi.repository import GLib
+
+from support.action_window import ask_for_action, run_action, start_companion
 from support.case import DesktopTestCase
-from support.extension import Companion
-from support.suite import record
 from support.waiting import eventually
 
 ACTION = "view-or-edit-exif-data"
@@ -23,11 +23,10 @@ _PROGRAM_PATH = "/usr/bin:/bin"
 class Exif(DesktopTestCase):
     def setUp(self):
         super().setUp()
-        self.suite.write(menuArrayDic=record(), foldersArray=[self.home.files], foldersArraystate=[1])
         os.symlink(EXIFTOOL, os.path.join(self.home.programs, "exiftool"))
         os.symlink("/usr/bin/env", os.path.join(self.home.programs, "env"))
         os.symlink("/usr/bin/perl", os.path.join(self.home.programs, "perl"))
-        Companion(self).start()
+        start_companion(self)
 
     def photo(self, name="photo.jpg", kind="jpg", **tags):
         path = os.path.join(self.home.files, name)
@@ -43,58 +42,65 @@ class Exif(DesktopTestCase):
         return json.loads(output)[0]
 
     def open(self, *paths):
-        return ActionWindow(self, ACTION, TITLE, *paths)
+        self.action = run_action(self, ACTION, *paths)
+        self.window = self.action.active_window(TITLE)
 
-    def cells(self, action):
-        return [item.name for item in action.window.all("tree item")]
+    def cells(self):
+        return [item.name for item in self.window.all("tree item")]
 
-    def to_edit_page(self, action):
+    def labels(self):
+        return [label.name for label in self.window.all("label")]
+
+    def go_to(self, name):
+        self.action.go_to(name, self.window)
+
+    def to_edit_page(self):
         """From wherever the keyboard is to the form."""
-        tabs = eventually(lambda: action.window.find("page tab list"), "the pages")
+        tabs = eventually(lambda: self.window.find("page tab list"), "the pages")
         for _ in range(30):
-            if eventually(action.focused, "something to have the keyboard") == tabs:
+            if eventually(self.window.focused, "something to have the keyboard") == tabs:
                 break
             self.hands.press("shift+Tab")
         self.hands.press("Right")
-        eventually(lambda: action.window.find("text", "Title").has("enabled"), "the form")
+        eventually(lambda: self.window.find("text", "Title").has("enabled"), "the form")
 
-    def save(self, action):
-        action.tab_to("Save")
+    def save(self):
+        self.go_to("Save")
         self.hands.press("space")
 
-    def assertTells(self, action, words):
-        eventually(lambda: words in action.texts(), f"“{words}” among {action.texts()}")
+    def assertTells(self, words):
+        eventually(lambda: words in self.labels(), f"“{words}” among {self.labels()}")
 
     def test_it_shows_the_usual_first_and_everything_after_it(self):
-        action = self.open(self.photo(Title="A hill", Artist="Ada", ISO=400))
-        cells = eventually(lambda: "A hill" in self.cells(action) and self.cells(action), "the data")
+        self.open(self.photo(Title="A hill", Artist="Ada", ISO=400))
+        cells = eventually(lambda: "A hill" in self.cells() and self.cells(), "the data")
         self.assertEqual(cells[0], "Summary")
         self.assertIn("Ada", cells)
         self.assertIn("Bits Per Sample", cells)
-        self.assertIn("photo.jpg", action.texts())
+        self.assertIn("photo.jpg", self.labels())
         self.save_picture("exif-information")
 
     def test_a_search_goes_through_names_and_values(self):
-        action = self.open(self.photo(Title="A hill", Artist="Ada"))
-        eventually(lambda: "A hill" in self.cells(action), "the data")
-        action.tab_to("Search")
+        self.open(self.photo(Title="A hill", Artist="Ada"))
+        eventually(lambda: "A hill" in self.cells(), "the data")
+        self.go_to("Search")
         self.hands.type("hill")
-        eventually(lambda: "A hill" in self.cells(action) and "Ada" not in self.cells(action), "what is found")
+        eventually(lambda: "A hill" in self.cells() and "Ada" not in self.cells(), "what is found")
         self.hands.type("zzz")
-        self.assertTells(action, "Nothing is found.")
+        self.assertTells("Nothing is found.")
 
     def test_texts_a_date_and_a_place_are_written_by_keyboard_alone(self):
         path = self.photo(Title="old")
-        action = self.open(path)
-        self.to_edit_page(action)
+        self.open(path)
+        self.to_edit_page()
         for name, text in (("Title", "new title"), ("Description", "two words"), ("Author", "Ada"),
                            ("Copyright", "free"), ("Date taken", "2024-02-29 12:34:56"), ("Place", "48.5, -2.25")):
-            action.tab_to(name)
+            self.go_to(name)
             self.hands.press("ctrl+a")
             self.hands.type(text)
-        self.save(action)
+        self.save()
 
-        self.assertTells(action, "1 photo was saved.")
+        self.assertTells("1 photo was saved.")
         tags = self.tags(path)
         self.assertEqual([tags[name] for name in ("Title", "Description", "Artist", "Copyright", "DateTimeOriginal")],
                          ["new title", "two words", "Ada", "free", "2024:02:29 12:34:56"])
@@ -105,17 +111,17 @@ class Exif(DesktopTestCase):
 
     def test_what_many_photos_do_not_share_is_told_and_left_alone(self):
         paths = [self.photo(f"{number}.jpg", Title=f"title {number}", Artist="Ada") for number in range(3)]
-        action = self.open(*paths)
-        eventually(lambda: "Different values" in self.cells(action), "the data")
-        self.assertIn("3 photos", action.texts())
+        self.open(*paths)
+        eventually(lambda: "Different values" in self.cells(), "the data")
+        self.assertIn("3 photos", self.labels())
         self.save_picture("exif-many")
-        self.to_edit_page(action)
-        action.tab_to("Author")
+        self.to_edit_page()
+        self.go_to("Author")
         self.hands.press("ctrl+a")
         self.hands.type("Bo")
-        self.save(action)
+        self.save()
 
-        self.assertTells(action, "3 photos were saved.")
+        self.assertTells("3 photos were saved.")
         for number, path in enumerate(paths):
             self.assertEqual((self.tags(path)["Title"], self.tags(path)["Artist"]), (f"title {number}", "Bo"))
 
@@ -123,53 +129,53 @@ class Exif(DesktopTestCase):
         path = self.photo(DateTimeOriginal="2023:12:31 23:30:00")
         with open(path, "rb") as file:
             before = file.read()
-        action = self.open(path)
-        self.to_edit_page(action)
-        action.tab_to("Move date by hours")
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Move date by hours")
         self.hands.press("ctrl+a")
         self.hands.type("1")
-        action.tab_to("Keep the original file beside it, with “_original” after its name")
+        self.go_to("Keep the original file beside it, with “_original” after its name")
         self.hands.press("space")
-        self.save(action)
+        self.save()
 
-        self.assertTells(action, "1 photo was saved.")
+        self.assertTells("1 photo was saved.")
         self.assertEqual(self.tags(path)["DateTimeOriginal"], "2024:01:01 00:30:00")
         with open(path + "_original", "rb") as file:
             self.assertEqual(file.read(), before)
 
     def test_what_is_personal_is_told_and_removed_when_it_is_agreed_to(self):
         path = self.photo(Title="A hill", Artist="Ada", GPSLatitude="48.5", GPSLatitudeRef="N", SerialNumber="123")
-        action = self.open(path)
-        self.to_edit_page(action)
+        self.open(path)
+        self.to_edit_page()
         for key, remains in (("Escape", True), ("space", False)):
-            action.tab_to("Remove Location and Personal Data…")
+            self.go_to("Remove Location and Personal Data…")
             self.hands.press("space")
-            dialog = eventually(lambda: action.find_window("Remove Location and Personal Data"), "the question")
+            dialog = self.action.active_window("Remove Location and Personal Data")
             shown = [item.name for item in dialog.all("tree item")]
             for words in ("Where it was taken", "Who took it and who is in it", "Which camera it was", "Ada", "123"):
                 self.assertIn(words, shown)
             if not remains:
                 self.save_picture("exif-personal")
-                action.tab_to("Remove", window=dialog)
+                self.action.go_to("Remove", dialog)
             self.hands.press(key)
-            eventually(lambda: action.find_window(TITLE), "the window")
+            self.action.active_window(TITLE)
             if remains:
                 self.assertIn("GPSLatitude", self.tags(path))
-        self.assertTells(action, "1 photo was saved.")
+        self.assertTells("1 photo was saved.")
         tags = self.tags(path)
         self.assertEqual(tags["Title"], "A hill")
         self.assertFalse({"Artist", "GPSLatitude", "SerialNumber"} & set(tags))
 
     def test_a_photo_that_cannot_be_changed_is_named_and_the_others_are_saved(self):
         paths = [self.photo("good.jpg"), self.photo("bad.webp", kind="webp")]
-        action = self.open(*paths)
-        self.to_edit_page(action)
-        action.tab_to("Title")
+        self.open(*paths)
+        self.to_edit_page()
+        self.go_to("Title")
         self.hands.type("x")
-        self.save(action)
+        self.save()
 
-        self.assertTells(action, "1 photo was saved. These were left as they were:")
-        failures, = [item.name for item in action.window.find("list", "Photos that failed").all("list item")]
+        self.assertTells("1 photo was saved. These were left as they were:")
+        failures, = [item.name for item in self.window.find("list", "Photos that failed").all("list item")]
         self.assertTrue(failures.startswith("bad.webp: "), failures)
         self.assertEqual(self.tags(paths[0])["Title"], "x")
         self.save_picture("exif-failure")
@@ -178,39 +184,38 @@ class Exif(DesktopTestCase):
         path = self.photo()
         with open(path, "rb") as file:
             before = file.read()
-        action = self.open(path)
-        self.to_edit_page(action)
-        action.tab_to("Date taken")
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Date taken")
         self.hands.type("yesterday")
-        self.save(action)
-        self.assertTells(action, "The date is to be written as 2026-12-31 23:59:59.")
+        self.save()
+        self.assertTells("The date is to be written as 2026-12-31 23:59:59.")
         with open(path, "rb") as file:
             self.assertEqual(file.read(), before)
 
     def test_escape_closes_it_and_another_may_run_meanwhile(self):
         path = self.photo()
-        first = self.open(path)
-        second = self.open(path)
+        self.open(path)
+        first = self.action
+        self.open(path)
         self.hands.press("Escape")
-        eventually(lambda: not second.is_running(), "the second to end")
+        self.action.wait_for_end()
         self.assertTrue(first.is_running())
-        eventually(lambda: first.find_window(TITLE), "the first to have the keyboard")
+        first.active_window(TITLE)
         self.hands.press("Escape")
-        eventually(lambda: not first.is_running(), "the first to end")
+        first.wait_for_end()
 
     def test_a_name_that_is_no_text_is_no_hindrance(self):
         name = os.fsencode(self.home.files) + b"/not \xff text\n.jpg"
         shutil.copy(os.path.join(PHOTOS, "photo.jpg"), name)
-        action = self.open(name)
-        eventually(lambda: "JPEG" in self.cells(action), "the data")
-        self.assertIn("not \ufffd text\u21b5.jpg", action.texts())
+        self.open(name)
+        eventually(lambda: "JPEG" in self.cells(), "the data")
+        self.assertIn("not \ufffd text\u21b5.jpg", self.labels())
 
     def test_without_exiftool_it_is_not_offered(self):
         os.unlink(os.path.join(self.home.programs, "exiftool"))
-        self.assertIsNotNone(run_action(self, ACTION, self.photo_by_hand()))
-
-    def photo_by_hand(self):
-        return shutil.copy(os.path.join(PHOTOS, "photo.jpg"), self.home.files)
+        with self.assertRaises(GLib.Error):
+            ask_for_action(self, ACTION, self.photo())
 
 
 if __name__ == "__main__":

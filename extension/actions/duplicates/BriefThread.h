@@ -24,7 +24,7 @@ public:
         return m_stop.get_token();
     }
     /// The one before must have been joined.
-    template <typename Work>
+    template<typename Work>
     void start(Work work)
     {
         std::packaged_task<void()> task([work = std::move(work), stop = m_stop.get_token()] { work(stop); });

@@ -215,7 +215,12 @@ QWidget* DuplicatesWindow::makeDetails()
     header.setStretchLastSection(false);
     header.setSectionResizeMode(QHeaderView::Interactive);
     header.setSectionResizeMode(ItemListModel::FolderColumn, QHeaderView::Stretch);
-    header.resizeSection(ItemListModel::NameColumn, 170);
+    header.resizeSection(ItemListModel::NameColumn, 150);
+    const Item longest{.path = {},
+                       .state = {.device = 0, .inode = 0, .size = 0, .modified = 999'999'999'999'999'999}};
+    constexpr int aroundText = 24;
+    header.resizeSection(ItemListModel::SizeColumn, fontMetrics().horizontalAdvance(sizeText(999'900)) + aroundText);
+    header.resizeSection(ItemListModel::DateColumn, fontMetrics().horizontalAdvance(dateText(longest)) + aroundText);
     header.setMinimumSectionSize(60);
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setWordWrap(true);
@@ -250,9 +255,7 @@ void DuplicatesWindow::search()
     m_isSearching = true;
     m_wasStopped = false;
     m_progress->start(tr("Looking for duplicates"));
-    const auto wake = [this] {
-        QMetaObject::invokeMethod(this, &DuplicatesWindow::takeLater, Qt::QueuedConnection);
-    };
+    const auto wake = [this] { QMetaObject::invokeMethod(this, &DuplicatesWindow::takeLater, Qt::QueuedConnection); };
     m_queue = std::make_unique<FindingsQueue>(wake, m_search.renew());
     m_search.start([this](const std::stop_token& stop) {
         m_finder->find(*m_queue, stop);
@@ -366,9 +369,10 @@ void DuplicatesWindow::showRemoval()
 {
     const std::scoped_lock lock(m_removal->mutex);
     const std::uint64_t done = m_removal->removed.size() + m_removal->kept.size();
-    m_progress->advance(done, m_removal->total,
-                        tr("%1 of %2").arg(QLocale().toString(static_cast<qulonglong>(done)),
-                                           m_presentation.counted(m_removal->total)));
+    m_progress->advance(
+        done, m_removal->total,
+        tr("%1 of %2")
+            .arg(QLocale().toString(static_cast<qulonglong>(done)), m_presentation.counted(m_removal->total)));
 }
 
 void DuplicatesWindow::endRemoval()
@@ -465,11 +469,12 @@ void DuplicatesWindow::showChoice()
     const Groups::Sum& chosen = m_groups.chosen();
     m_remove->setEnabled(chosen.items > 0 && !m_isRemoving);
     m_rules->setEnabled(!m_isRemoving);
-    m_remove->setText(chosen.items == 1 ? tr("Move 1 Item to Trash")
-                                        : tr("Move %1 Items to Trash").arg(QLocale().toString(
-                                              static_cast<qulonglong>(chosen.items))));
+    m_remove->setText(
+        chosen.items == 1
+            ? tr("Move 1 Item to Trash")
+            : tr("Move %1 Items to Trash").arg(QLocale().toString(static_cast<qulonglong>(chosen.items))));
     m_sum->setText(chosen.items == 0
-                       ? QString()
+                       ? tr("Nothing is chosen.")
                        : tr("Chosen: %1, %2").arg(m_presentation.counted(chosen.items), sizeText(chosen.bytes)));
     m_listModel->refresh();
     m_itemsModel->refresh();
@@ -483,15 +488,16 @@ void DuplicatesWindow::showHeading()
         saving += m_groups.savingOf(group);
     const bool isFiltered = !m_filter->text().isEmpty();
     if (!groups.empty())
-        m_heading->setText((groups.size() == 1 ? tr("1 group, %1 could be saved")
-                                               : tr("%1 groups, %2 could be saved")
-                                                     .arg(QLocale().toString(static_cast<qulonglong>(groups.size()))))
-                               .arg(sizeText(saving)));
+        m_heading->setText(
+            (groups.size() == 1
+                 ? tr("1 group, %1 could be saved")
+                 : tr("%1 groups, %2 could be saved").arg(QLocale().toString(static_cast<qulonglong>(groups.size()))))
+                .arg(sizeText(saving)));
     else if (isFiltered)
         m_heading->setText(tr("No group matches the filter"));
     else
         m_heading->setText(m_presentation.title);
-    m_nothing->setText(m_isSearching    ? tr("Looking for duplicates…")
+    m_nothing->setText(m_isSearching  ? tr("Looking for duplicates…")
                        : m_wasStopped ? tr("The search was stopped before anything was found.")
                                       : m_presentation.nothingFound);
     m_pages->setCurrentIndex(groups.empty() && !isFiltered ? NothingPage : ListPage);
@@ -501,8 +507,8 @@ void DuplicatesWindow::showHeading()
 void DuplicatesWindow::addTrouble(const std::string& path, const std::string& why)
 {
     if (m_troubles.size() < mostTroubles)
-        m_troubles.append(QStringLiteral("%1 %2.").arg(LinuxDesktop::fileNameText(path),
-                                                       LinuxDesktop::fileNameText(why)));
+        m_troubles.append(
+            QStringLiteral("%1 %2.").arg(LinuxDesktop::fileNameText(path), LinuxDesktop::fileNameText(why)));
     else
         ++m_moreTroubles;
 }

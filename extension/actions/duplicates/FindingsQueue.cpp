@@ -14,7 +14,7 @@ FindingsQueue::FindingsQueue(std::function<void()> wake, std::stop_token stop)
     : m_wake(std::move(wake)), m_stop(std::move(stop))
 {}
 
-template <typename Change>
+template<typename Change>
 void FindingsQueue::tell(const Change& change)
 {
     bool isFirst = false;

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] Batch take();
 
 private:
-    template <typename Change>
+    template<typename Change>
     void tell(const Change& change);
 
     const std::function<void()> m_wake;

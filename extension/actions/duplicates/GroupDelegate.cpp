@@ -55,7 +55,8 @@ void GroupDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 QSize GroupDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
 {
-    return {option.fontMetrics.averageCharWidth() * 24, 2 * option.fontMetrics.height() + betweenLines + 2 * around - 4};
+    return {option.fontMetrics.averageCharWidth() * 24,
+            2 * option.fontMetrics.height() + betweenLines + 2 * around - 4};
 }
 
 } // namespace MenuExtension::Duplicates

@@ -20,7 +20,8 @@ GroupListModel::GroupListModel(const Groups& groups, const Presentation& present
 void GroupListModel::setGroups(std::vector<GroupNumber> groups)
 {
     const auto rows = static_cast<std::size_t>(m_rows);
-    const auto [end, ignored] = std::mismatch(m_shown.begin(), m_shown.begin() + m_rows, groups.begin(), groups.end());
+    const auto [end, ignored] =
+        std::mismatch(m_shown.begin(), m_shown.begin() + m_rows, groups.begin(), groups.end());
     const auto same = static_cast<int>(end - m_shown.begin());
     const auto wanted = static_cast<int>(std::min(groups.size(), std::max<std::size_t>(rows, rowsAtOnce)));
     if (same < m_rows) {

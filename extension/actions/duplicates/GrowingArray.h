@@ -44,7 +44,7 @@ private:
 };
 
 /// An array of plain values for millions of them. A reference into it stays good until clear().
-template <typename T>
+template<typename T>
 class GrowingArray {
     static_assert(std::is_trivially_copyable_v<T>);
 
@@ -52,10 +52,7 @@ public:
     [[nodiscard]] std::size_t size() const { return m_size; }
     [[nodiscard]] T& operator[](std::size_t index) { return data()[index]; }
     [[nodiscard]] const T& operator[](std::size_t index) const { return data()[index]; }
-    [[nodiscard]] T* data() const
-    {
-        return static_cast<T*>(static_cast<void*>(m_memory.data()));
-    }
+    [[nodiscard]] T* data() const { return static_cast<T*>(static_cast<void*>(m_memory.data())); }
     [[nodiscard]] T* begin() const { return data(); }
     [[nodiscard]] T* end() const { return data() + m_size; }
 

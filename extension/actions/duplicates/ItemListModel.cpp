@@ -39,8 +39,7 @@ void ItemListModel::findProposal()
     std::vector<Item> items;
     for (int row = 0; row < m_rows; ++row)
         items.push_back(m_groups.item(m_items[static_cast<std::size_t>(row)]));
-    const KeepRule rule{
-        .kind = KeepRule::Kind::Best, .folder = {}, .isBetter = m_presentation.proposal->isBetter};
+    const KeepRule rule{.kind = KeepRule::Kind::Best, .folder = {}, .isBetter = m_presentation.proposal->isBetter};
     const std::vector<bool> kept = rule.kept(items);
     m_proposed = static_cast<int>(std::ranges::find(kept, true) - kept.begin());
     std::swap(items.front(), items[static_cast<std::size_t>(m_proposed)]);

@@ -36,7 +36,8 @@ bool comesBefore(const KeepRule& rule, const Item& one, const Item& other)
 bool liesIn(const std::string& path, const std::string& folder)
 {
     const std::size_t length = folder.find_last_not_of('/') + 1;
-    return path.size() > length && path[length] == '/' && path.starts_with(std::string_view(folder).substr(0, length));
+    return path.size() > length && path[length] == '/' &&
+           path.starts_with(std::string_view(folder).substr(0, length));
 }
 
 std::vector<bool> KeepRule::kept(const std::vector<Item>& items) const

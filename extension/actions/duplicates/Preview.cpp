@@ -28,7 +28,8 @@ QImage readPicture(QFile& file, QSize pixels)
         return {};
     QSize size = reader.size();
     // The picture may be turned by a quarter.
-    const QSize room = reader.transformation() & QImageIOHandler::TransformationRotate90 ? pixels.transposed() : pixels;
+    const QSize room =
+        reader.transformation() & QImageIOHandler::TransformationRotate90 ? pixels.transposed() : pixels;
     if (size.isValid() && (size.width() > room.width() || size.height() > room.height()))
         reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1}));
     return reader.read();

@@ -19,6 +19,8 @@ namespace {
 
 constexpr int lowest = 150;
 constexpr int iconExtent = 64;
+/// Between a tile's outline and its picture.
+constexpr int frame = 8;
 
 QIcon iconOf(const Item& item)
 {
@@ -46,6 +48,8 @@ PreviewPane::Tile PreviewPane::makeTile()
     auto* const box = new QWidget(this);
     auto* const content = new QLabel(box);
     content->setTextFormat(Qt::PlainText);
+    content->setFrameShape(QFrame::StyledPanel);
+    content->setMargin(frame);
     content->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     auto* const caption = new QLabel(box);
     caption->setTextFormat(Qt::PlainText);
@@ -94,7 +98,7 @@ void PreviewPane::ask()
         return;
     const int count = static_cast<int>(m_items.size());
     const int captionHeight = fontMetrics().height() + layout()->spacing();
-    const QSize room(width() / count - layout()->spacing(), height() - captionHeight);
+    const QSize room(width() / count - layout()->spacing() - 2 * frame, height() - captionHeight - 2 * frame);
     const std::scoped_lock lock(m_mutex);
     m_wish = Wish{.number = ++m_number, .items = m_items, .pixels = room.expandedTo({1, 1}) * devicePixelRatioF()};
     m_wished.notify_one();

@@ -66,13 +66,13 @@ FileReader::Result FileReader::readPart(int file, std::int64_t offset, std::size
         if (m_stop.stop_requested())
             return Result::Stopped;
         const iovec rest{m_buffer.get() + filled, size - filled};
-        const ssize_t count = ::preadv2(file, &rest, 1, offset + static_cast<off_t>(filled),
-                                        wait == Wait::Yes ? 0 : RWF_NOWAIT);
+        const ssize_t count =
+            ::preadv2(file, &rest, 1, offset + static_cast<off_t>(filled), wait == Wait::Yes ? 0 : RWF_NOWAIT);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
             return wait == Wait::No && (errno == EAGAIN || errno == EOPNOTSUPP) ? Result::NotInMemory
-                                                                                 : Result::Failed;
+                                                                                : Result::Failed;
         if (count == 0)
             return Result::Changed;
         filled += static_cast<std::size_t>(count);

@@ -146,8 +146,8 @@ void FileSearch::tellAhead(Readings& readings)
 {
     // One file under several names is one.
     std::ranges::sort(readings, {}, [this](const Reading& reading) { return identityOf(reading.file); });
-    const auto [rest, end] = std::ranges::unique(
-        readings, {}, [this](const Reading& reading) { return identityOf(reading.file); });
+    const auto [rest, end] =
+        std::ranges::unique(readings, {}, [this](const Reading& reading) { return identityOf(reading.file); });
     readings.erase(rest, end);
     m_comparison.read(readings, FileComparison::What::Whole);
     eachEqual(readings, [this](std::span<Reading> group) {

@@ -51,7 +51,8 @@ Presentation presentationOf(DuplicateFileFinder& finder)
 Outcome perform(const Request& request)
 {
     return performInWindow([&request] {
-        // The folder whose background was clicked may have been reached by a link; an item that is one is not followed.
+        // The folder whose background was clicked may have been reached by a link; an item that is one is not
+        // followed.
         const auto open = [&request](const std::string& path, int flags) {
             return openItem(request, path, request.background ? flags & ~O_NOFOLLOW : flags);
         };

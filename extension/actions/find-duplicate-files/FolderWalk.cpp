@@ -35,8 +35,7 @@ bool isSelfOrParent(const char* name)
 std::unordered_set<std::string> hiddenNamesIn(int folder)
 {
     constexpr std::size_t longest = std::size_t{1} << 20U;
-    const FileDescriptor file(
-        ::openat(folder, ".hidden", O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    const FileDescriptor file(::openat(folder, ".hidden", O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status = {};
     if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
         return {};
@@ -196,7 +195,8 @@ void FolderWalk::tell(FolderNumber folder, const char* name, int error) const
     std::string path = m_tree.pathOf(folder);
     if (name)
         path.append(path.ends_with('/') ? "" : "/").append(name);
-    // What has gone since it was listed is nobody's loss, and neither is a folder that was replaced by something else.
+    // What has gone since it was listed is nobody's loss, and neither is a folder that was replaced by something
+    // else.
     if (error != ENOENT)
         m_trouble(path, "cannot be read: " + Words::reason(error));
 }

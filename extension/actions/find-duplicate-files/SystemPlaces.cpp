@@ -10,8 +10,8 @@ namespace MenuExtension {
 
 namespace {
 
-constexpr std::array systemFolders{"bin",  "boot",  "dev",  "etc", "lib", "lib32", "lib64", "libx32",
-                                   "proc", "run",   "sbin", "snap", "sys", "tmp",   "usr",   "var"};
+constexpr std::array systemFolders{"bin",  "boot", "dev",  "etc",  "lib", "lib32", "lib64", "libx32",
+                                   "proc", "run",  "sbin", "snap", "sys", "tmp",   "usr",   "var"};
 
 bool isTrash(std::string_view name)
 {
@@ -47,11 +47,25 @@ bool isKernelFileSystem(int folder)
     constexpr std::uint64_t configurations = 0x62656570;
     constexpr std::uint64_t controls = 0x65735543;
     constexpr std::uint64_t queues = 0x19800202;
-    constexpr std::array<std::uint64_t, 19> kinds{
-        AUTOFS_SUPER_MAGIC, BINFMTFS_MAGIC, BPF_FS_MAGIC,   CGROUP2_SUPER_MAGIC, CGROUP_SUPER_MAGIC,
-        DEBUGFS_MAGIC,      DEVPTS_SUPER_MAGIC, EFIVARFS_MAGIC, HUGETLBFS_MAGIC, NSFS_MAGIC,
-        PROC_SUPER_MAGIC,   PSTOREFS_MAGIC, SECURITYFS_MAGIC, SELINUX_MAGIC,     SYSFS_MAGIC,
-        TRACEFS_MAGIC,      configurations, controls,       queues};
+    constexpr std::array<std::uint64_t, 19> kinds{AUTOFS_SUPER_MAGIC,
+                                                  BINFMTFS_MAGIC,
+                                                  BPF_FS_MAGIC,
+                                                  CGROUP2_SUPER_MAGIC,
+                                                  CGROUP_SUPER_MAGIC,
+                                                  DEBUGFS_MAGIC,
+                                                  DEVPTS_SUPER_MAGIC,
+                                                  EFIVARFS_MAGIC,
+                                                  HUGETLBFS_MAGIC,
+                                                  NSFS_MAGIC,
+                                                  PROC_SUPER_MAGIC,
+                                                  PSTOREFS_MAGIC,
+                                                  SECURITYFS_MAGIC,
+                                                  SELINUX_MAGIC,
+                                                  SYSFS_MAGIC,
+                                                  TRACEFS_MAGIC,
+                                                  configurations,
+                                                  controls,
+                                                  queues};
     struct statfs status = {};
     if (::fstatfs(folder, &status) != 0)
         return false;

@@ -136,7 +136,12 @@ void DuplicatePhotoFinder::tellKnown(Search& search)
 {
     for (const auto& [path, why] : m_troubles)
         search.findings.trouble(path, why);
+    // What was moved to the trash meanwhile is not told again.
     for (const auto& group : m_collection.resemblances().groups(search.limit)) {
+        for (const std::uint32_t photo : group)
+            m_photos[photo].isGone = !isThere(m_photos[photo]);
+    }
+    for (const auto& group : groups(search.limit)) {
         std::vector<Item> items;
         ++search.lastKey;
         for (const std::uint32_t photo : group) {
@@ -246,7 +251,7 @@ void DuplicatePhotoFinder::tellPair(const Resemblances::Pair& pair, Search& sear
     const bool isOneTold = one != search.told.end();
     const bool isOtherTold = other != search.told.end();
     // What belongs together in truth is known at the end.
-    if (isOneTold && isOtherTold)
+    if ((isOneTold && isOtherTold) || m_photos[pair.one].isGone || m_photos[pair.other].isGone)
         return;
     std::vector<Item> items;
     const std::uint64_t key = isOneTold ? one->second : isOtherTold ? other->second : ++search.lastKey;
@@ -257,12 +262,26 @@ void DuplicatePhotoFinder::tellPair(const Resemblances::Pair& pair, Search& sear
     search.findings.found(key, std::move(items));
 }
 
+std::vector<std::vector<std::uint32_t>> DuplicatePhotoFinder::groups(float limit)
+{
+    auto groups = m_collection.resemblances().groups(limit);
+    for (auto& group : groups)
+        std::erase_if(group, [this](std::uint32_t photo) { return m_photos[photo].isGone; });
+    std::erase_if(groups, [](const auto& group) { return group.size() < 2; });
+    return groups;
+}
+
+bool DuplicatePhotoFinder::isThere(const Photo& photo) const
+{
+    struct stat status = {};
+    return ::lstat(m_tree.pathOf(photo.file).c_str(), &status) == 0 && FileState::of(status) == photo.state;
+}
+
 bool DuplicatePhotoFinder::isToldRight(const Search& search)
 {
-    const auto groups = m_collection.resemblances().groups(search.limit);
     std::size_t count = 0;
     std::set<std::uint64_t> keys;
-    for (const auto& group : groups) {
+    for (const auto& group : groups(search.limit)) {
         const auto keyOf = [&](std::uint32_t photo) {
             const auto told = search.told.find(photo);
             return told == search.told.end() ? 0 : told->second;

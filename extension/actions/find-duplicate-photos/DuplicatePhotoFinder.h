@@ -67,6 +67,7 @@ private:
         FileTree::File file;
         Duplicates::FileState state;
         Size size;
+        bool isGone = false;
     };
     struct Search;
 
@@ -82,6 +83,9 @@ private:
     bool readFile(std::uint32_t file, Search& search, PhotoReader& reader);
     void add(const Photo& photo, const Thumb& thumb, Search& search);
     void tellPair(const Resemblances::Pair& pair, Search& search);
+    /// Of the photos that are there.
+    [[nodiscard]] std::vector<std::vector<std::uint32_t>> groups(float limit);
+    [[nodiscard]] bool isThere(const Photo& photo) const;
     /// Whether the groups are as they were told.
     [[nodiscard]] bool isToldRight(const Search& search);
     [[nodiscard]] Duplicates::Item itemOf(std::uint32_t photo) const;

@@ -33,7 +33,9 @@ protected:
             paths.push_back(m_folder.path());
         DuplicateFileFinder finder(
             paths,
-            [](const std::string& path, int flags) { return FileDescriptor(::open(path.c_str(), flags | O_CLOEXEC)); },
+            [](const std::string& path, int flags) {
+                return FileDescriptor(::open(path.c_str(), flags | O_CLOEXEC));
+            },
             choices);
         finder.find(m_heard, m_stop.get_token());
         EXPECT_FALSE(m_heard.isRepeated());
@@ -56,8 +58,8 @@ protected:
 };
 
 /// Sizes around every border between two ways of reading.
-const std::vector<std::size_t> sizes{1,          4095,       4096,        16'384,      32'768,          131'072,
-                                     131'073,    262'144,    262'145,     524'288,     1'000'003,       5'000'000};
+const std::vector<std::size_t> sizes{1,       4095,    4096,    16'384,  32'768,    131'072,
+                                     131'073, 262'144, 262'145, 524'288, 1'000'003, 5'000'000};
 
 } // namespace
 
@@ -90,8 +92,8 @@ TEST_F(DuplicateFiles, AreThoseThatHoldTheSameBytes)
 
 TEST_F(DuplicateFiles, HaveAnyNames)
 {
-    std::vector<std::string> names{"\xff\xfe", "a\nb", "-rf", " ", "$(touch x)", "caf\xC3\xA9", "cafe\xCC\x81",
-                                   std::string(255, 'n')};
+    std::vector<std::string> names{"\xff\xfe",   "a\nb",        "-rf",          " ",
+                                   "$(touch x)", "caf\xC3\xA9", "cafe\xCC\x81", std::string(255, 'n')};
     for (const std::string& name : names)
         make(name, "the same");
     find();
@@ -167,9 +169,9 @@ TEST_F(DuplicateFiles, OneThatMayNotBeReadIsToldOfAndTheOthersAreFound)
     const OrdinaryUser user;
     find();
     EXPECT_EQ(m_heard.groups(), groupsOf({{"a", "c"}, {"d", "f"}}));
-    EXPECT_EQ(m_heard.troubles(), (std::map<std::string, std::string>{
-                                      {m_folder.path("b"), "cannot be read: Permission denied"},
-                                      {m_folder.path("e"), "cannot be read: Permission denied"}}));
+    EXPECT_EQ(m_heard.troubles(),
+              (std::map<std::string, std::string>{{m_folder.path("b"), "cannot be read: Permission denied"},
+                                                  {m_folder.path("e"), "cannot be read: Permission denied"}}));
 }
 
 TEST_F(DuplicateFiles, HolesAreTheZeroesThatTheyStandFor)

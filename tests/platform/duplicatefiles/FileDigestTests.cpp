@@ -52,7 +52,8 @@ protected:
 
 TEST_F(FileDigest, IsTheSameForTheSameBytesAndNoOther)
 {
-    for (const std::size_t size : {std::size_t{1}, std::size_t{4096}, std::size_t{256 * 1024}, std::size_t{700'001}}) {
+    for (const std::size_t size :
+         {std::size_t{1}, std::size_t{4096}, std::size_t{256 * 1024}, std::size_t{700'001}}) {
         std::string content = Files::noise(size);
         const Digest digest = whole(content);
         EXPECT_EQ(whole(content), digest);

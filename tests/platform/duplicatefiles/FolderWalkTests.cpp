@@ -131,8 +131,8 @@ TEST_F(FolderWalkTest, TellsOfAFolderThatCannotBeReadAndGoesOn)
     m_folder.setMode("locked", 0);
     const OrdinaryUser user;
     EXPECT_EQ(collected(), Names{"a/file"});
-    EXPECT_EQ(m_troubles, (std::map<std::string, std::string>{
-                              {m_folder.path("locked"), "cannot be read: Permission denied"}}));
+    EXPECT_EQ(m_troubles,
+              (std::map<std::string, std::string>{{m_folder.path("locked"), "cannot be read: Permission denied"}}));
 }
 
 TEST_F(FolderWalkTest, GoesDeeperThanAPathMayBeLong)

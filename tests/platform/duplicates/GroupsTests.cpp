@@ -102,9 +102,10 @@ TEST(Groups, NoOrderOfChoicesAndRulesChoosesAllOfAGroup)
         const GroupNumber group = all[random() % all.size()];
         const auto items = groups.itemsOf(group);
         if (random() % 4 == 0) {
-            groups.choose(all, {.kind = kinds[random() % kinds.size()],
-                                .folder = "/" + std::to_string(random() % 4),
-                                .isBetter = [](const Item& one, const Item& other) { return one.path > other.path; }});
+            groups.choose(all,
+                          {.kind = kinds[random() % kinds.size()],
+                           .folder = "/" + std::to_string(random() % 4),
+                           .isBetter = [](const Item& one, const Item& other) { return one.path > other.path; }});
         } else {
             groups.setChosen(items[random() % items.size()], random() % 4 != 0);
         }
