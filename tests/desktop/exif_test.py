@@ -10,6 +10,7 @@ from gi.repository import GLib
 
 from support.action_window import ask_for_action, run_action, start_companion
 from support.case import DesktopTestCase
+from support.hostile_names import NAMES
 from support.waiting import eventually
 
 ACTION = "view-or-edit-exif-data"
@@ -37,7 +38,12 @@ class Exif(DesktopTestCase):
         return path
 
     def tags(self, path):
-        output = subprocess.run([EXIFTOOL, "-json", "-n", path], check=True, capture_output=True,
+        with open(path, "rb") as file:
+            return self.tags_of(file)
+
+    @staticmethod
+    def tags_of(file):
+        output = subprocess.run([EXIFTOOL, "-json", "-n", "-"], check=True, capture_output=True, stdin=file,
                                 env={"PATH": _PROGRAM_PATH, "LANG": "C.UTF-8"}).stdout
         return json.loads(output)[0]
 
@@ -211,6 +217,21 @@ class Exif(DesktopTestCase):
         self.open(name)
         eventually(lambda: "JPEG" in self.cells(), "the data")
         self.assertIn("not \ufffd text\u21b5.jpg", self.labels())
+
+    def test_names_are_nothing_but_names(self):
+        folder = os.fsencode(self.home.files)
+        paths = [shutil.copy(os.path.join(PHOTOS, "photo.jpg"), os.path.join(folder, name)) for name in NAMES]
+        self.open(*paths)
+        self.to_edit_page()
+        self.go_to("Title")
+        self.hands.type("x")
+        self.save()
+        self.assertTells(f"{len(NAMES)} photos were saved.")
+        self.assertEqual(sorted(os.listdir(folder)), sorted(NAMES))
+        for path in paths:
+            with open(path, "rb") as file:
+                self.assertEqual(self.tags_of(file)["Title"], "x")
+        self.assertFalse(os.path.exists(os.path.join(self.home.folder, "pwned")))
 
     def test_without_exiftool_it_is_not_offered(self):
         os.unlink(os.path.join(self.home.programs, "exiftool"))

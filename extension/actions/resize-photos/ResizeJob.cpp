@@ -67,9 +67,12 @@ Size sizeFrom(Reader& reader)
 
 Pixels pixelsFrom(Reader& reader)
 {
-    const std::uint32_t width = reader.length();
-    const std::uint32_t height = reader.length();
-    return {width, height, std::string(reader.take(std::uint64_t{width} * height * 3))};
+    // No screen is that large, and their product is a number.
+    constexpr std::uint64_t most = 1U << 16U;
+    const std::uint64_t width = reader.number();
+    const std::uint64_t height = reader.number();
+    const std::string_view bytes = reader.take(width > most || height > most ? UINT64_MAX : width * height * 3);
+    return {static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height), std::string(bytes)};
 }
 
 } // namespace

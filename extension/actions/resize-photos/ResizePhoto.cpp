@@ -124,7 +124,7 @@ Outcome takePlaceOf(Unnamed& made, const OpenedFile& photo, Outcome outcome)
     if (auto words = moveToTrash(pathOf(photo.folder) + '/' + photo.name))
         return {.kind = Outcome::Kind::CannotBeTrashed, .words = *std::move(words)};
     outcome.name = photo.name;
-    return made.take(photo.name) ? outcome : cannotBeSaved();
+    return made.take(photo.name) ? outcome : Outcome{.kind = Outcome::Kind::OnlyInTrash, .error = errno};
 }
 
 } // namespace
@@ -179,6 +179,31 @@ std::optional<Result> PhotoResizer::preview(const OpenedFile& photo, const Goal&
     const std::array files{photo.file.get()};
     const Photos::Answer answer = m_worker.ask(textOf(Job{goal, pixels}), files, stop);
     return answer.fault ? std::nullopt : std::optional(resultFrom(answer.bytes));
+}
+
+std::uint64_t fairShare(std::vector<std::uint64_t> sizes, std::uint64_t total)
+{
+    std::ranges::sort(sizes);
+    std::uint64_t left = total;
+    for (std::size_t index = 0; index < sizes.size(); ++index) {
+        const std::uint64_t share = left / (sizes.size() - index);
+        if (sizes[index] > share)
+            return std::max<std::uint64_t>(share, 1);
+        left -= sizes[index];
+    }
+    return std::max<std::uint64_t>(total, 1);
+}
+
+Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, std::uint64_t bytes)
+{
+    std::vector<std::uint64_t> sizes;
+    for (const std::string& path : paths) {
+        const auto photo = openWithFolder(request, path);
+        struct stat status = {};
+        if (photo && ::fstat(photo->file.get(), &status) == 0)
+            sizes.push_back(static_cast<std::uint64_t>(status.st_size));
+    }
+    return {Goal::Kind::Bytes, fairShare(std::move(sizes), bytes)};
 }
 
 void resizePhotos(const Request& request, const std::vector<std::string>& paths, const Goal& goal,

@@ -34,6 +34,8 @@ struct Outcome {
         CannotBeSaved,
         /// The desktop's own words are in `words`.
         CannotBeTrashed,
+        /// The photo is in the trash, but the resized one could not take its place, for errno's reason in `error`.
+        OnlyInTrash,
         /// The end of a sentence that begins with the name is in `words`.
         Refused,
         TakesTooLong,
@@ -68,6 +70,12 @@ public:
 private:
     Photos::Worker m_worker;
 };
+
+/// A goal of so many bytes for all the photos together, as one that each of them can have: those that are small
+/// enough leave their share to the others. Looks at the files.
+[[nodiscard]] Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, std::uint64_t bytes);
+/// The most bytes that each may have so that all together have no more than `total`; `sizes` are those they have.
+[[nodiscard]] std::uint64_t fairShare(std::vector<std::uint64_t> sizes, std::uint64_t total);
 
 /// Resizes many photos on as many threads as help. Called from them, one at a time; returns when all is done or it is
 /// asked to stop.

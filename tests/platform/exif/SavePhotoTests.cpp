@@ -4,14 +4,17 @@
 #include "extension/actions/view-or-edit-exif-data/PersonalData.h"
 
 #include <chrono>
+#include <csignal>
 #include <fcntl.h>
 #include <linux/capability.h>
+#include <random>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
+#include <thread>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -363,4 +366,32 @@ TEST_F(SavePhotoTest, OfManyPhotosOneThatFailsDoesNotHoldUpTheOthers)
     ASSERT_EQ(troubles.size(), 20U);
     for (const auto& [index, kind] : troubles)
         EXPECT_EQ(kind == Kind::None, index != 7) << index;
+}
+
+/// A process that is killed while it saves, at a moment that nobody chooses.
+TEST_F(SavePhotoTest, WhoeverIsKilledLeavesThePhotoAsItWasOrAsItWasToBe)
+{
+    const Path path = photo("jpg");
+    const std::string first = Files::read(path);
+    std::mt19937 random(std::random_device{}());
+    for (int round = 0; round < 12; ++round) {
+        Edits edits;
+        edits.texts[Field::Title] = "round " + std::to_string(round);
+        const std::string before = Files::read(path);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            static_cast<void>(save(path, edits, {.keepsOriginal = true}));
+            ::_exit(EXIT_SUCCESS);
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(random() % 900));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        if (Files::read(path) != before) {
+            EXPECT_EQ(text(Field::Title, path), "round " + std::to_string(round));
+            EXPECT_EQ(Files::read(path.native() + "_original"), first);
+        }
+        for (const std::string& name : names())
+            EXPECT_TRUE(name == "photo.jpg" || name == "photo.jpg_original" || name.starts_with(".orvik-exif-"))
+                << name;
+    }
 }

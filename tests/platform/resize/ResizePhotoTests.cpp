@@ -4,16 +4,19 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
+#include <random>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 #include <vips/vips.h>
@@ -148,7 +151,7 @@ TEST_F(ResizePhotoTest, SizesAreToldAsThePhotoIsShown)
 TEST_F(ResizePhotoTest, ASizeInBytesIsReached)
 {
     const Path path = photo("a.jpg", 1200, 900);
-    for (const std::uint64_t most : {100'000U, 20'000U, 3'000U}) {
+    for (const std::uint64_t most : {100'000U, 20'000U, 6'000U}) {
         const auto outcome = resize(path, {Goal::Kind::Bytes, most});
         ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
         EXPECT_LE(fs::file_size(listed() / outcome.name), most);
@@ -285,6 +288,59 @@ TEST_F(ResizePhotoTest, APreviewShowsBothAndWritesNothing)
     EXPECT_EQ(shown->shownBefore.height, 50U);
     EXPECT_EQ(shown->shownAfter.height, 50U);
     EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a.jpg"});
+}
+
+TEST_F(ResizePhotoTest, AllTogetherHaveNoMoreThanIsWanted)
+{
+    EXPECT_EQ(fairShare({100, 100, 100}, 90), 30U);
+    EXPECT_EQ(fairShare({10, 100, 100}, 90), 40U) << "what one does not need is the others'";
+    EXPECT_EQ(fairShare({10, 20, 30}, 90), 90U) << "where all are small enough none has to change";
+    EXPECT_EQ(fairShare({}, 90), 90U);
+    EXPECT_EQ(fairShare({5, 5, 5}, 1), 1U);
+
+    std::vector<std::string> paths;
+    for (const char* name : {"a.jpg", "b.jpg"})
+        paths.push_back(photo(name, 1200, 900));
+    paths.push_back(photo("small.jpg", 40, 30));
+    constexpr std::uint64_t most = 100'000;
+    std::uint64_t sum = fs::file_size(paths.back());
+    const Goal goal = sharedGoal(request(), paths, most);
+    for (std::size_t number = 0; number < 2; ++number) {
+        const auto outcome = resize(paths[number], goal);
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        sum += outcome.after.bytes;
+    }
+    EXPECT_EQ(resize(paths.back(), goal).kind, Kind::SmallAlready);
+    EXPECT_LE(sum, most);
+}
+
+/// A process that is killed while it resizes, at a moment that nobody chooses.
+TEST_F(ResizePhotoTest, WhoeverIsKilledLeavesWholeFilesOnly)
+{
+    const Path path = photo("a.jpg", 1200, 900, 1);
+    const std::string before = Files::read(path);
+    std::mt19937 random(std::random_device{}());
+    for (int round = 0; round < 20; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            for (;;)
+                static_cast<void>(resize(path, {Goal::Kind::Percent, 50}));
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(random() % 400));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        EXPECT_EQ(Files::read(path), before);
+        for (const std::string& name : namesIn(listed())) {
+            if (name == "a.jpg")
+                continue;
+            const Image image = open(listed() / name);
+            ASSERT_TRUE(image) << name;
+            EXPECT_EQ(vips_image_get_width(image.get()), 600);
+            double mean = 0;
+            EXPECT_EQ(vips_avg(image.get(), &mean, nullptr), 0) << name << " can be read to its end";
+            fs::remove(listed() / name);
+        }
+    }
 }
 
 TEST_F(ResizePhotoTest, AWorkerThatIsNotThereIsToldOf)

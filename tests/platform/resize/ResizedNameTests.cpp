@@ -30,7 +30,7 @@ TEST(ResizedName, APatternHasTheNameAndNothingThatNoNameHas)
 {
     EXPECT_TRUE(isNamePattern("{name} small"));
     for (const std::string& pattern : {std::string(), std::string("small"), std::string("a/{name}"),
-                                      std::string("{name}\0", 7), std::string(300, 'x')})
+                                       std::string("{name}\0", 7), std::string(300, 'x')})
         EXPECT_FALSE(isNamePattern(pattern)) << pattern;
 }
 
@@ -46,6 +46,9 @@ TEST(ResizeJob, IsUnderstoodByTheOtherEnd)
     EXPECT_EQ(resultFrom(textOf(refusal)), refusal);
     for (const std::string text : {"", "D", "x", "Dabc"})
         EXPECT_TRUE(std::holds_alternative<Refused>(resultFrom(text)));
+    // So many pixels that the number of their bytes begins anew.
+    const Result boast = Resized{{}, {}, {}, {1'824'726'041, 3'369'774'176, std::string(32, 'x')}};
+    EXPECT_TRUE(std::holds_alternative<Refused>(resultFrom(textOf(boast))));
 }
 
 TEST(ResizeJob, SizesFollowTheGoalAndNeverGrow)
