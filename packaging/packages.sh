@@ -16,6 +16,7 @@ packages_build=(
   qt6-base-dev-tools
   libqt6opengl6-dev
   libsystemd-dev
+  libvips-dev
   libxxhash-dev
   pkg-config
   python3
@@ -48,6 +49,7 @@ packages_panel=(
   breeze-icon-theme
   fonts-inter
   libqt6svg6
+  libvips42
   qt6-wayland
   xdg-utils
 )
@@ -105,6 +107,7 @@ packages_fuzz=(
 
 packages_bench=(
   fdupes
+  findimagedupes
   jdupes
   libbenchmark-dev
   libxcb1-dev

@@ -8,8 +8,7 @@ from .waiting import eventually
 
 
 class DuplicatesWindowTestCase(DesktopTestCase):
-    """What is named so: the action, and the title of its window."""
-
+    # Of the action, and of its window.
     action_name = None
     title = None
 
@@ -47,7 +46,7 @@ class DuplicatesWindowTestCase(DesktopTestCase):
         return [item.name for item in self.list_of("Groups").children if item.role == "list item"]
 
     def cells(self):
-        """The texts of the items' rows on view, a list a column."""
+        """Of the items on view, row by row."""
         return [item for item in self.list_of("Items of the Group").children if item.role == "tree item"]
 
     def go_to(self, name):
