@@ -17,6 +17,7 @@ packages_build=(
   qt6-base-dev-tools
   libqt6opengl6-dev
   libsystemd-dev
+  libvips-dev
   libxxhash-dev
   pkg-config
   python3
@@ -50,6 +51,7 @@ packages_panel=(
   fonts-inter
   libimage-exiftool-perl
   libqt6svg6
+  libvips42
   qt6-wayland
   xdg-utils
 )
@@ -107,6 +109,7 @@ packages_fuzz=(
 
 packages_bench=(
   fdupes
+  findimagedupes
   jdupes
   libbenchmark-dev
   libxcb1-dev

@@ -3,18 +3,13 @@
 import os
 import unittest
 
-from support.action_window import run_action, start_companion
-from support.case import DesktopTestCase
+from support.duplicates_window import DuplicatesWindowTestCase
 from support.waiting import eventually
 
-ACTION = "find-duplicate-files"
-WINDOW = "Duplicate Files"
 
-
-class FindDuplicateFiles(DesktopTestCase):
-    def setUp(self):
-        super().setUp()
-        start_companion(self)
+class FindDuplicateFiles(DuplicatesWindowTestCase):
+    action_name = "find-duplicate-files"
+    title = "Duplicate Files"
 
     def make(self, name, contents, modified=None):
         path = os.path.join(os.fsencode(self.home.files), os.fsencode(name))
@@ -25,40 +20,10 @@ class FindDuplicateFiles(DesktopTestCase):
             os.utime(path, (modified, modified))
         return path
 
-    def left(self):
-        """The files that are there, by their ways from the person's folder."""
-        root = os.fsencode(self.home.files)
-        return sorted(os.path.relpath(os.path.join(folder, name), root)
-                      for folder, _, names in os.walk(root) for name in names)
-
-    def trashed(self):
-        folder = os.path.join(self.home.data, "Trash", "files")
-        return sorted(os.listdir(os.fsencode(folder))) if os.path.isdir(folder) else []
-
-    def open(self, *paths, **options):
-        self.action = run_action(self, ACTION, *(paths or [self.home.files]), **({"background": not paths} | options))
-        self.window = self.action.active_window(WINDOW)
-
-    def labels(self):
-        return [label.name for label in self.window.all("label")]
-
-    def assertTells(self, text):
-        eventually(lambda: text in self.labels(), f"“{text}” among {self.labels()}")
-
-    def list_of(self, name):
-        for each in self.window.descendants():
-            if each.name == name and each.role in ("list", "tree"):
-                return each
-        raise LookupError(f"no list “{name}”")
-
-    def groups(self):
-        return [item.name for item in self.list_of("Groups").children if item.role == "list item"]
-
     def boxes(self):
         """The names of the items on view, and whether each is chosen."""
-        names = [item for item in self.list_of("Items of the Group").children if item.role == "tree item"]
         columns = 4
-        return {item.name: item.has("checked") for item in names[::columns]}
+        return {item.name: item.has("checked") for item in self.cells()[::columns]}
 
     def assertBoxes(self, **boxes):
         self.assertEventuallyEqual(self.boxes, boxes)
@@ -66,27 +31,6 @@ class FindDuplicateFiles(DesktopTestCase):
     def assertFocused(self, name):
         eventually(lambda: self.window.focused().name == name,
                    f"{name} to have the keyboard, which {self.window.focused().name} has")
-
-    def go_to(self, name):
-        """Presses Tab until the control of that name has the keyboard."""
-        for _ in range(20):
-            if self.window.focused().name == name:
-                return
-            before = self.window.focused()
-            self.hands.press("Tab")
-            eventually(lambda: self.window.focused() != before, "the next control to have the keyboard")
-        self.fail(f"“{name}” is not reached")
-
-    def choose_by_rule(self, *keys):
-        self.go_to("Choose by Rule")
-        self.hands.press("space")
-        eventually(lambda: any(window.all("menu item") for window in self.action.windows()), "the menu of rules")
-        self.hands.press(*keys, "Return")
-        eventually(lambda: not any(window.all("menu item") for window in self.action.windows()), "the menu to go")
-
-    def press_button(self, name):
-        self.go_to(name)
-        self.hands.press("space")
 
     def test_groups_come_with_the_largest_saving_first(self):
         for name in "ab":
@@ -231,7 +175,7 @@ class FindDuplicateFiles(DesktopTestCase):
         self.assertEqual(text.text, f"{self.home.files}/b is the last copy that is left.")
         self.save_picture("duplicate-files-left-out")
         self.hands.press("Escape")
-        self.action.active_window(WINDOW)
+        self.action.active_window(self.title)
 
     def test_what_cannot_be_looked_at_is_told_of_and_the_others_are_found(self):
         for name in "ab":
@@ -253,7 +197,7 @@ class FindDuplicateFiles(DesktopTestCase):
         self.assertTells("1 group, 2 bytes could be saved")
         self.hands.press("Escape")
         self.action.wait_for_end()
-        self.action, self.window = first, first.active_window(WINDOW)
+        self.action, self.window = first, first.active_window(self.title)
         self.assertTells("1 group, 1 byte could be saved")
         self.hands.press("ctrl+w")
         self.action.wait_for_end()

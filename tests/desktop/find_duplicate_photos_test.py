@@ -31,8 +31,8 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
             os.utime(path, (modified, modified))
         return path
 
-    def names(self):
-        """Of the items on view."""
+    def texts(self):
+        """What the list of items says."""
         return [cell.name for cell in self.cells()]
 
     def test_the_same_picture_is_found_and_the_best_is_kept(self):
@@ -42,8 +42,8 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
         self.paint("other.jpg", 2)
         self.open()
         eventually(lambda: len(self.groups()) == 1, "the group")
-        eventually(lambda: any(name.startswith("480 × 360") for name in self.names()), "the size in pixels")
-        self.assertIn("Best: most pixels", " ".join(self.names() + self.labels()))
+        eventually(lambda: any(name.startswith("480 × 360") for name in self.texts()), "the size in pixels")
+        self.assertIn("Best: most pixels", " ".join(self.texts() + self.labels()))
         self.save_picture("duplicate-photos")
         self.choose_by_rule("Down")
         eventually(lambda: any(label.startswith("Chosen: 2 photos") for label in self.labels()), "the choice")

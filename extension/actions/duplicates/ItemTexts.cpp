@@ -3,6 +3,7 @@
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
 
@@ -20,6 +21,9 @@ QString folderText(const Item& item)
 
 QString sizeText(std::int64_t bytes)
 {
+    // The locale knows no singular of it.
+    if (bytes == 1)
+        return QCoreApplication::translate("ItemTexts", "1 byte");
     return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
 }
 

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <memory>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace MenuExtension::Duplicates {
@@ -64,6 +65,13 @@ bool isAt(const std::string& path, const FileState& state)
     return ::lstat(path.c_str(), &status) == 0 && FileState::of(status) == state;
 }
 
+/// Locks a file as long as it is open; false where another program's lock does not allow it. Where the file system
+/// has no locks nobody has one.
+bool lock(const FileDescriptor& file, int operation)
+{
+    return ::flock(file.get(), operation | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
 /// The items of a group of which some are chosen.
 class GroupRemoval {
 public:
@@ -84,6 +92,9 @@ public:
         const FileDescriptor file = openUnchanged(going, why);
         if (!file)
             return why;
+        // Two such windows may each be about to remove what the other one keeps.
+        if (!lock(file, LOCK_EX))
+            return "is in use by another program";
         why = "is the last copy that is left";
         for (const ItemNumber other : m_staying) {
             const Item staying = m_groups.item(other);
@@ -93,6 +104,10 @@ public:
                 staying.state.isSameFile(going.state) ? FileDescriptor() : openUnchanged(staying, ignored);
             if (!otherFile)
                 continue;
+            if (!lock(otherFile, LOCK_SH)) {
+                why = "has a copy that another program is using";
+                continue;
+            }
             const auto objection = m_means.check({going, file.get()}, {staying, otherFile.get()}, m_stop);
             if (m_stop.stop_requested())
                 return "was not reached";

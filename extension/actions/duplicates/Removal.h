@@ -33,9 +33,10 @@ struct RemovalMeans {
                                                         const std::stop_token& stop);
 
 /// Moves the chosen items to the trash, and never the last copy: each goes only while an item of its group that is
-/// not chosen is there, unchanged, and `check` has agreed to the two. Nobody may change `groups` meanwhile.
-/// `removed` hears of each that has gone, `kept` of each that stays and why; both from this thread. Ends within
-/// 100 ms of a request to stop, but for the one item that is on its way to the trash.
+/// not chosen is there, unchanged, and `check` has agreed to the two. Several processes may do this at once: both
+/// files are locked meanwhile (flock). Nobody may change `groups` while it goes on. `removed` hears of each that has
+/// gone, `kept` of each that stays and why; both from this thread. Ends within 100 ms of a request to stop, but for
+/// the one item that is on its way to the trash.
 void removeChosen(const Groups& groups, const RemovalMeans& means, const std::function<void(ItemNumber)>& removed,
                   const std::function<void(ItemNumber, const std::string& why)>& kept, const std::stop_token& stop);
 

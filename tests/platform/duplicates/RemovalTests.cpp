@@ -1,6 +1,7 @@
 #include "extension/actions/duplicates/Removal.h"
 
 #include "../chooser/TemporaryFolder.h"
+#include "platform/linux/system/FileDescriptor.h"
 #include "support/Files.h"
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -203,6 +205,35 @@ TEST_F(Removal, DoesNotWaitForAPipeInAFilesPlace)
     remove();
     EXPECT_EQ(left(), (Names{"a", "b", "c"}));
     EXPECT_EQ(m_kept, (Kept{{"c", "has changed since it was found"}}));
+}
+
+TEST_F(Removal, KeepsOneWhereTwoRemoveWhatTheOtherKeeps)
+{
+    // The other one begins while this one compares.
+    group({"a", "b"});
+    Groups groups;
+    const auto numbers = groups.itemsOf(groups.add(0, {item("a"), item("b")}));
+    groups.setChosen(numbers[0], true);
+    std::vector<std::string> othersReasons;
+    m_check = [&](const OpenedItem& going, const OpenedItem& staying, const std::stop_token& stop) {
+        removeChosen(
+            groups, {.check = haveEqualBytes, .trash = m_moveToTrash}, [](ItemNumber) { FAIL(); },
+            [&](ItemNumber, const std::string& why) { othersReasons.push_back(why); }, stop);
+        return haveEqualBytes(going, staying, stop);
+    };
+    remove();
+    EXPECT_EQ(left(), Names{"a"});
+    EXPECT_EQ(othersReasons, Names{"is in use by another program"});
+}
+
+TEST_F(Removal, LeavesWhatAnotherProgramHasLocked)
+{
+    group({"a", "b", "c"});
+    const LinuxDesktop::FileDescriptor file(::open(path("b").c_str(), O_RDONLY | O_CLOEXEC));
+    ASSERT_EQ(::flock(file.get(), LOCK_SH), 0);
+    remove();
+    EXPECT_EQ(left(), (Names{"a", "b"}));
+    EXPECT_EQ(m_kept, (Kept{{"b", "is in use by another program"}}));
 }
 
 TEST_F(Removal, TellsWhatTheTrashDidNotTakeAndGoesOn)
