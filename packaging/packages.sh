@@ -112,6 +112,7 @@ packages_bench=(
   findimagedupes
   jdupes
   libbenchmark-dev
+  libvips-tools
   libxcb1-dev
   rdfind
   rmlint

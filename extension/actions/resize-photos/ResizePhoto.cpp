@@ -207,13 +207,14 @@ Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, s
 }
 
 void resizePhotos(const Request& request, const std::vector<std::string>& paths, const Goal& goal,
-                  const Target& target, const TakeOutcome& take, const std::stop_token& stop)
+                  const Target& target, const TakeOutcome& take, const std::stop_token& stop,
+                  const std::string& worker)
 {
     constexpr unsigned mostThreads = 8;
     std::atomic<std::size_t> next = 0;
     std::mutex mutex;
     const auto work = [&] {
-        PhotoResizer resizer;
+        PhotoResizer resizer(worker);
         for (std::size_t index = next++; index < paths.size() && !stop.stop_requested(); index = next++) {
             const auto photo = openWithFolder(request, paths[index]);
             Outcome outcome = photo ? resizer.resize(*photo, goal, target, stop)

@@ -81,6 +81,7 @@ private:
 /// asked to stop.
 using TakeOutcome = std::function<void(std::size_t index, Outcome outcome)>;
 void resizePhotos(const Request& request, const std::vector<std::string>& paths, const Goal& goal,
-                  const Target& target, const TakeOutcome& take, const std::stop_token& stop);
+                  const Target& target, const TakeOutcome& take, const std::stop_token& stop,
+                  const std::string& worker = Photos::programBeside("resize-photos-worker"));
 
 } // namespace MenuExtension::Resizing
