@@ -1,6 +1,7 @@
 """Resize Photos: the window, asked for on the bus, by accessibility and by keyboard alone, and the files it makes."""
 
 import os
+import signal
 import struct
 import subprocess
 import unittest
@@ -61,7 +62,7 @@ class ResizePhotos(DesktopTestCase):
         self.action.go_to(name, self.window)
 
     def choose(self, box, *keys):
-        """Chooses in a box by keys, from its first entry on."""
+        """Chooses in a box that has its first entry. A box is called what is chosen in it."""
         self.go_to(box)
         self.hands.press("Home", *keys)
 
@@ -78,14 +79,14 @@ class ResizePhotos(DesktopTestCase):
         self.assertEqual([frame.name for frame in self.window.descendants() if frame.name in ("Before", "After")
                           and frame.role != "label"], ["Before", "After"])
         self.save_picture("resize")
-        self.choose("Size", "Down", "Down")
+        self.choose("For a screen", "Down", "Down")
         self.assertTells("1200 × 900 pixels")
         self.assertEqual(self.left(), [b"photo.jpg"])
 
     def test_half_of_a_photo_lies_beside_it(self):
         before = self.contents(self.photo())
         self.open(self.path("photo.jpg"))
-        self.choose("Size", "Down", "Down")
+        self.choose("For a screen", "Down", "Down")
         self.press_button("Resize")
         self.assertTells("1 photo was resized: ")
         self.assertEqual(self.left(), [b"photo-600x450.jpg", b"photo.jpg"])
@@ -96,12 +97,12 @@ class ResizePhotos(DesktopTestCase):
     def test_in_its_place_the_original_goes_to_the_trash(self):
         before = self.contents(self.photo())
         self.open(self.path("photo.jpg"))
-        self.choose("Size", "End")
-        self.choose("Measured by")
+        self.choose("For a screen", "End")
+        self.choose("Longest side")
         self.go_to("Value")
         self.hands.press("ctrl+a")
         self.hands.type("300")
-        self.choose("Save", "End")
+        self.choose("Beside the originals", "End")
         self.press_button("Resize")
         self.assertTells("1 photo was resized: ")
         self.assertEqual(self.left(), [b"photo.jpg"])
@@ -112,7 +113,7 @@ class ResizePhotos(DesktopTestCase):
         paths = [self.photo(f"{number}.jpg") for number in range(3)]
         self.open(*paths)
         self.assertEqual(self.labels()[0], "3 photos")
-        self.choose("Size", "Down")
+        self.choose("For a screen", "Down")
         self.go_to("Value")
         self.hands.press("ctrl+a")
         self.hands.type("300")
@@ -127,8 +128,8 @@ class ResizePhotos(DesktopTestCase):
         folder = os.path.join(self.home.folder, "small ones")
         os.mkdir(folder)
         self.open(self.photo())
-        self.choose("Size", "Down", "Down")
-        self.choose("Save", "Down")
+        self.choose("For a screen", "Down", "Down")
+        self.choose("Beside the originals", "Down")
         self.press_button("Resize")
         self.assertTells("Choose the folder first.")
         self.press_button("Choose Folder…")
@@ -169,8 +170,8 @@ class ResizePhotos(DesktopTestCase):
         self.open(*map(self.path, names))
         os.remove(self.path("vanishes.jpg"))
         os.mkfifo(self.path("vanishes.jpg"))
-        self.choose("Size", "End")
-        self.choose("Measured by")
+        self.choose("For a screen", "End")
+        self.choose("Longest side")
         self.go_to("Value")
         self.hands.press("ctrl+a")
         self.hands.type("200")
@@ -189,7 +190,7 @@ class ResizePhotos(DesktopTestCase):
         for name in NAMES:
             self.photo(name, 400, 300)
         self.open(*map(self.path, NAMES))
-        self.choose("Size", "Down", "Down")
+        self.choose("For a screen", "Down", "Down")
         self.press_button("Resize")
         self.assertTells(f"{len(NAMES)} photos were resized: ")
         made = [name for name in self.left() if name not in NAMES]
@@ -199,32 +200,52 @@ class ResizePhotos(DesktopTestCase):
             self.assertEqual(self.size_of(self.path(name)), "JPEG 200x150")
         self.assertFalse(os.path.exists(os.path.join(self.home.folder, "pwned")))
 
-    def test_closing_ends_the_work_and_leaves_whole_files_only(self):
+    def workers(self):
+        """The processes that the action has started."""
+        found = set()
+        for entry in filter(str.isdigit, os.listdir("/proc")):
+            try:
+                with open(f"/proc/{entry}/stat", encoding="utf-8", errors="replace") as file:
+                    if int(file.read().rpartition(")")[2].split()[1]) == self.action.process_id:
+                        found.add(int(entry))
+            except OSError:
+                continue
+        return found
+
+    def start_work_without_end(self):
+        """Resizes more photos than are done at once, by workers of which one at least stands still."""
         paths = [self.photo("0.jpg", 4000, 3000)]
-        for number in range(1, 40):
+        for number in range(1, 30):
             paths.append(self.path(f"{number}.jpg"))
             os.link(paths[0], paths[-1])
         self.open(*paths)
-        self.press_button("Resize")
-        eventually(lambda: len(self.left()) > len(paths), "the first to be there")
-        self.hands.press("Escape")
-        self.action.wait_for_end()
+        self.assertTells("1920 × 1440 pixels")
+        self.go_to("Resize")
+        others = self.workers()
+        self.hands.press("space")
+        for worker in eventually(lambda: self.workers() - others, "the workers"):
+            os.kill(worker, signal.SIGSTOP)
+        return paths
+
+    def assertMadeAreWhole(self, paths):
         made = [name for name in self.left() if self.path(name) not in paths]
         self.assertLess(len(made), len(paths))
         for name in made:
             self.assertEqual(self.size_of(self.path(name)), "JPEG 1920x1440")
 
+    def test_closing_ends_the_work_and_leaves_whole_files_only(self):
+        paths = self.start_work_without_end()
+        self.hands.press("Escape")
+        self.action.wait_for_end()
+        self.assertMadeAreWhole(paths)
+
     def test_cancelling_leaves_the_rest_as_it_is(self):
-        paths = [self.photo("0.jpg", 4000, 3000)]
-        for number in range(1, 60):
-            paths.append(self.path(f"{number}.jpg"))
-            os.link(paths[0], paths[-1])
-        self.open(*paths)
-        self.press_button("Resize")
+        paths = self.start_work_without_end()
         eventually(lambda: self.window.find("push button", "Cancel"), "the progress")
         self.press_button("Cancel")
         self.assertTells("It was ended.")
         self.assertTrue(self.window.find("push button", "Resize").has("enabled"))
+        self.assertMadeAreWhole(paths)
 
     def test_another_may_run_meanwhile(self):
         path = self.photo()

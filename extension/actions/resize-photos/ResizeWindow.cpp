@@ -31,9 +31,8 @@ constexpr std::chrono::milliseconds still{120};
 
 ResizeWindow::ResizeWindow(const Request& request)
     : m_request(request), m_heading(new QLabel(this)), m_photos(new QListView(this)), m_pane(new ComparePane(this)),
-      m_size(new SizeRow(this)), m_choices(new QWidget(this)), m_result(new QLabel(this)),
-      m_failures(new QListView(this)), m_progress(new ProgressRow(this)),
-      m_resize(new QPushButton(tr("Resize"), this)), m_previews(request), m_work(request)
+      m_size(new SizeRow(this)), m_choices(new QWidget(this)), m_result(new QLabel(this)), m_previews(request),
+      m_work(request)
 {
     setWindowTitle(tr("Resize Photos"));
     QStringList names;
@@ -45,7 +44,13 @@ ResizeWindow::ResizeWindow(const Request& request)
     form->setSpacing(10);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("Size"), m_size);
+    // Who cannot see the label hears it with the box.
+    static_cast<QLabel*>(form->labelForField(m_size))->setBuddy(m_size->focusProxy());
     m_target = new TargetRows(*form, LinuxDesktop::parentFolder(request.paths.front()), this);
+    // The keyboard goes through what there is in the order in which it was made.
+    m_failures = new QListView(this);
+    m_resize = new QPushButton(tr("Resize"), this);
+    m_progress = new ProgressRow(this);
     layOut();
 
     m_settled.setSingleShot(true);

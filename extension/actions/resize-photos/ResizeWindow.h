@@ -49,9 +49,9 @@ private:
     QWidget* m_choices;
     TargetRows* m_target = nullptr;
     QLabel* m_result;
-    QListView* m_failures;
-    ProgressRow* m_progress;
-    QPushButton* m_resize;
+    QListView* m_failures = nullptr;
+    QPushButton* m_resize = nullptr;
+    ProgressRow* m_progress = nullptr;
     /// So that each digit of a number does not start a preview.
     QTimer m_settled;
     PreviewWork m_previews;

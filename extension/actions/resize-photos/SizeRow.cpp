@@ -55,8 +55,8 @@ SizeRow::SizeRow(QWidget* parent)
     m_preset->addItem(tr("Free"));
     for (const Unit& unit : units)
         m_unit->addItem(tr(unit.name));
-    m_preset->setAccessibleName(tr("Size"));
-    m_unit->setAccessibleName(tr("Measured by"));
+    // A box is called what is chosen in it.
+    m_unit->setAccessibleDescription(tr("What the size is measured by"));
     m_value->setAccessibleName(tr("Value"));
     setFocusProxy(m_preset);
     auto* const row = new QHBoxLayout(this);

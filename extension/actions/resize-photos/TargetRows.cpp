@@ -45,7 +45,6 @@ TargetRows::TargetRows(QFormLayout& form, std::string folder, QWidget* parent)
     // In the order of Target::Kind.
     m_where->addItems(
         {tr("Beside the originals"), tr("In a folder"), tr("In their place; the originals go to the trash")});
-    m_where->setAccessibleName(tr("Save"));
     m_folderName->setText(tr("None is chosen yet"));
     m_pattern->setText(QString::fromStdString(Target().pattern));
     m_pattern->setAccessibleName(tr("Name"));
