@@ -28,9 +28,9 @@ constexpr std::array units{
     Unit{QT_TRANSLATE_NOOP("SizeRow", "Percentage"), QT_TRANSLATE_NOOP("SizeRow", " %"), Goal::Kind::Percent, false,
          1, 99, 50, 5},
     Unit{QT_TRANSLATE_NOOP("SizeRow", "Each file at most"), QT_TRANSLATE_NOOP("SizeRow", " kB"), Goal::Kind::Bytes,
-         false, 5, 1'000'000, 500, 100},
+         false, 10, 1'000'000, 500, 100},
     Unit{QT_TRANSLATE_NOOP("SizeRow", "All together at most"), QT_TRANSLATE_NOOP("SizeRow", " kB"), Goal::Kind::Bytes,
-         true, 5, 1'000'000, 5000, 500},
+         true, 10, 1'000'000, 5000, 500},
 };
 
 /// A usual size, by its unit; its value is the unit's.
