@@ -90,6 +90,8 @@ void ExifWindow::layOut()
     m_photos->setVisible(!isOne);
     m_pages->addTab(m_tags, tr("Information"));
     m_pages->addTab(m_form, tr("Edit"));
+    // No frame within the window's own.
+    m_pages->setDocumentMode(true);
 
     m_result->setTextFormat(Qt::PlainText);
     m_result->setWordWrap(true);
