@@ -268,7 +268,7 @@ Result resize(const Job& job, int photo, int target)
     }
     auto made = make(read, *format, job.goal, stored);
     if (auto* refusal = std::get_if<Refused>(&made))
-        return *std::move(refusal);
+        return std::move(*refusal);
     const Made& done = std::get<Made>(made);
     result.after = asShown(done.width, done.height, done.file.bytes().size());
     if (job.shownPixels > 0)
