@@ -1,12 +1,14 @@
 // Measures the finder of duplicate photos.
 //   orvik-bench-photos accuracy FOLDER SCENES   makes a set of variants, series and look-alikes in FOLDER, and prints
 //                                               how many of each kind were found and how many wrongly
-//   orvik-bench-photos make FOLDER PICTURES     makes pictures of 12 megapixels, one in ten of them twice
+//   orvik-bench-photos speed FOLDER PICTURES    makes pictures of 12 megapixels in a folder of its own in FOLDER, one
+//                                               in ten of them twice, and finds them beside the program that does so
 //   orvik-bench-photos find FOLDER              finds the duplicates among the pictures in FOLDER, and prints how
-//   many
+//                                               many
 #include "Reading.h"
 #include "Scene.h"
 #include "Variants.h"
+#include "bench/rivals/Rivals.h"
 #include "extension/actions/find-duplicate-photos/Collection.h"
 
 #include <algorithm>
@@ -175,9 +177,8 @@ int accuracy(const std::string& folder, std::uint32_t scenes)
 }
 
 /// Photos of 12 megapixels that take as long to read as a camera's; every tenth is there twice, smaller.
-int makeLarge(const std::string& folder, std::uint32_t count)
+void makeLarge(const std::string& folder, std::uint32_t count)
 {
-    fs::create_directories(folder);
     constexpr int scale = 4;
     constexpr int smallWidth = 1000;
     constexpr int smallHeight = 750;
@@ -203,7 +204,6 @@ int makeLarge(const std::string& folder, std::uint32_t count)
         for (VipsImage* image : {photo, grainy, grain, large})
             g_object_unref(image);
     });
-    return EXIT_SUCCESS;
 }
 
 int find(const std::string& folder)
@@ -223,6 +223,28 @@ int find(const std::string& folder)
     return EXIT_SUCCESS;
 }
 
+int speed(const std::string& place, std::uint32_t count)
+{
+    const Rivals::Folder folder(place);
+    makeLarge(folder.path(), count);
+    const std::string expected = std::to_string(count) + " pictures, " + std::to_string(count / 10) + " groups";
+    const std::vector<Rivals::Program> programs{
+        {"ours", {fs::read_symlink("/proc/self/exe"), "find", folder.path()}},
+        {"findimagedupes", {"findimagedupes", "-R", folder.path()}},
+    };
+    constexpr int rounds = 3;
+    std::printf("%u pictures of 12 megapixels:\n", count);
+    Rivals::compare(
+        programs, rounds, place, [] {},
+        [&](const Rivals::Measured& result) {
+            if (result.output.starts_with(expected))
+                return;
+            std::fprintf(stderr, "found %s", result.output.c_str());
+            std::exit(EXIT_FAILURE);
+        });
+    return EXIT_SUCCESS;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -235,10 +257,10 @@ int main(int argc, char** argv)
     const auto number = [&] { return static_cast<std::uint32_t>(std::stoul(arguments[3])); };
     if (argc == 4 && arguments[1] == "accuracy")
         return accuracy(arguments[2], number());
-    if (argc == 4 && arguments[1] == "make")
-        return makeLarge(arguments[2], number());
+    if (argc == 4 && arguments[1] == "speed")
+        return speed(arguments[2], number());
     if (argc == 3 && arguments[1] == "find")
         return find(arguments[2]);
-    std::fprintf(stderr, "usage: orvik-bench-photos accuracy FOLDER SCENES | make FOLDER PICTURES | find FOLDER\n");
+    std::fprintf(stderr, "usage: orvik-bench-photos accuracy FOLDER SCENES | speed FOLDER PICTURES | find FOLDER\n");
     return 2;
 }

@@ -470,7 +470,8 @@ void DuplicatesWindow::showChoice()
     m_remove->setEnabled(chosen.items > 0 && !m_isRemoving);
     m_rules->setEnabled(!m_isRemoving);
     m_remove->setText(
-        chosen.items == 1
+        chosen.items == 0 ? tr("Move to Trash")
+        : chosen.items == 1
             ? tr("Move 1 Item to Trash")
             : tr("Move %1 Items to Trash").arg(QLocale().toString(static_cast<qulonglong>(chosen.items))));
     m_sum->setText(chosen.items == 0
