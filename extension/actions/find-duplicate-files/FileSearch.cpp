@@ -158,6 +158,7 @@ void FileSearch::tellAhead(Readings& readings)
         }
         const std::uint64_t key = m_keys.size() + 1;
         m_keys.emplace(std::pair(group.front().state.size, group.front().digest), key);
+        std::ranges::sort(items, {}, &Item::path);
         m_findings.found(key, std::move(items));
     });
 }
