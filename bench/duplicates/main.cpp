@@ -1,12 +1,13 @@
 // Finds the duplicates among 20,000 files of 2 GB, half of which have some, beside the programs that do only that:
-// with the files in memory, and with none of their bytes there. Every program runs in turn, and the medians are
-// compared. The files lie in a folder of the bench's own, which is gone afterwards: in the folder that is its
-// argument, else where temporary files go that may be large.
+// with the files in memory, and with none of their bytes there.
+//   orvik-bench-duplicates [FOLDER [FILES]]   in a folder of its own in FOLDER, else where temporary files go that
+//   may
+//                                             be large; so many files
+#include "bench/rivals/Rivals.h"
 #include "extension/actions/find-duplicate-files/DuplicateFileFinder.h"
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -17,8 +18,6 @@
 #include <mutex>
 #include <random>
 #include <string>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -29,7 +28,7 @@ using namespace MenuExtension;
 using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
-constexpr int fileCount = 20'000;
+constexpr int usualCount = 20'000;
 constexpr int folderCount = 200;
 constexpr int warmRounds = 5;
 constexpr int coldRounds = 3;
@@ -74,32 +73,26 @@ int find(const std::string& folder)
 
 class Files {
 public:
-    explicit Files(const fs::path& place) : m_folder((place / "orvik-bench-XXXXXX").native())
+    Files(const fs::path& place, int count) : m_place(place), m_count(count)
     {
-        if (!::mkdtemp(m_folder.data())) {
-            std::perror(m_folder.c_str());
-            std::exit(EXIT_FAILURE);
-        }
         for (int number = 0; number < folderCount; ++number)
-            fs::create_directory(fs::path(m_folder) / std::to_string(number));
+            fs::create_directory(m_place.path() / std::to_string(number));
     }
-    ~Files() { fs::remove_all(m_folder); }
-    Files(const Files&) = delete;
-    Files& operator=(const Files&) = delete;
 
     void make()
     {
         std::vector<fs::path> names;
-        for (int number = 0; number < fileCount; ++number)
-            names.push_back(fs::path(m_folder) / std::to_string(number % folderCount) / std::to_string(number));
+        for (int number = 0; number < m_count; ++number)
+            names.push_back(m_place.path() / std::to_string(number % folderCount) / std::to_string(number));
         std::ranges::shuffle(names, m_random);
-        while (names.size() > fileCount / 2) {
+        while (names.size() > static_cast<std::size_t>(m_count) / 2) {
             // Two to five that are the same.
             const std::string content = noise();
-            for (auto copies = 2 + m_random() % 4; copies > 0 && names.size() > fileCount / 2; --copies)
+            for (auto copies = 2 + m_random() % 4; copies > 0 && names.size() > static_cast<std::size_t>(m_count) / 2;
+                 --copies)
                 write(names, content);
         }
-        m_duplicates = fileCount - names.size();
+        m_duplicates = static_cast<std::size_t>(m_count) - names.size();
         while (!names.empty()) {
             // Alone, some of them of the same size as another that differs in one place.
             std::string content = noise();
@@ -116,7 +109,7 @@ public:
     /// Lets the system forget what the files hold; of other files it forgets nothing.
     void makeCold() const
     {
-        for (const auto& entry : fs::recursive_directory_iterator(m_folder)) {
+        for (const auto& entry : fs::recursive_directory_iterator(m_place.path())) {
             if (!entry.is_regular_file())
                 continue;
             const LinuxDesktop::FileDescriptor file(::open(entry.path().c_str(), O_RDONLY | O_CLOEXEC));
@@ -125,7 +118,8 @@ public:
         }
     }
 
-    [[nodiscard]] const std::string& folder() const { return m_folder; }
+    [[nodiscard]] const fs::path& folder() const { return m_place.path(); }
+    [[nodiscard]] int count() const { return m_count; }
     [[nodiscard]] std::size_t duplicates() const { return m_duplicates; }
     [[nodiscard]] double gigabytes() const { return m_bytes / 1e9; }
 
@@ -146,100 +140,42 @@ private:
         m_bytes += static_cast<double>(content.size());
     }
 
-    std::string m_folder;
+    Rivals::Folder m_place;
+    int m_count;
     std::mt19937_64 m_random{42};
     std::size_t m_duplicates = 0;
     double m_bytes = 0;
 };
 
-struct Run {
-    double milliseconds = 0;
-    double megabytes = 0;
-    std::string output;
-};
-
-struct Rival {
-    std::string name;
-    std::vector<std::string> command;
-    std::vector<double> taken = {};
-    double megabytes = 0;
-};
-
-Run run(const std::vector<std::string>& command, const std::string& folder)
-{
-    std::array<int, 2> pipe{};
-    if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
-        std::exit(EXIT_FAILURE);
-    const auto begin = Clock::now();
-    const pid_t child = ::fork();
-    if (child == 0) {
-        std::vector<char*> arguments;
-        for (const std::string& word : command)
-            arguments.push_back(const_cast<char*>(word.c_str()));
-        arguments.push_back(const_cast<char*>(folder.c_str()));
-        arguments.push_back(nullptr);
-        const int nowhere = ::open("/dev/null", O_WRONLY);
-        ::dup2(pipe[1], STDOUT_FILENO);
-        ::dup2(nowhere, STDERR_FILENO);
-        // Some write their reports where they are.
-        if (::chdir("/") == 0)
-            ::execvp(arguments.front(), arguments.data());
-        ::_exit(127);
-    }
-    ::close(pipe[1]);
-    Run result;
-    std::array<char, 65'536> buffer{};
-    for (ssize_t count = 0; (count = ::read(pipe[0], buffer.data(), buffer.size())) > 0;) {
-        if (result.output.size() < buffer.size())
-            result.output.append(buffer.data(), static_cast<std::size_t>(count));
-    }
-    ::close(pipe[0]);
-    int status = 0;
-    rusage usage = {};
-    ::wait4(child, &status, 0, &usage);
-    result.milliseconds = Milliseconds(Clock::now() - begin).count();
-    result.megabytes = static_cast<double>(usage.ru_maxrss) / 1024.0;
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-        std::fprintf(stderr, "%s failed\n", command.front().c_str());
-        std::exit(EXIT_FAILURE);
-    }
-    return result;
-}
-
-double median(std::vector<double> values)
-{
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
-
-void compare(const Files& files, std::vector<Rival> rivals, bool isCold, int rounds)
-{
+struct Found {
+    std::size_t items = 0;
     double first = 0;
-    for (int round = isCold ? 1 : 0; round <= rounds; ++round) {
-        for (Rival& rival : rivals) {
-            if (isCold)
-                files.makeCold();
-            const Run result = run(rival.command, files.folder());
-            // The first round only brings the files into memory.
-            if (round == 0)
-                continue;
-            rival.taken.push_back(result.milliseconds);
-            rival.megabytes = std::max(rival.megabytes, result.megabytes);
-            if (&rival != &rivals.front())
-                continue;
-            std::size_t items = 0;
-            if (std::sscanf(result.output.c_str(), "%zu %lf", &items, &first) != 2 || items != files.duplicates()) {
-                std::fprintf(stderr, "found %zu of %zu\n", items, files.duplicates());
-                std::exit(EXIT_FAILURE);
-            }
-        }
+};
+
+/// What find() printed; ends the bench where it is not all that there is.
+Found foundBy(const Rivals::Measured& result, const Files& files)
+{
+    Found found;
+    if (std::sscanf(result.output.c_str(), "%zu %lf", &found.items, &found.first) != 2 ||
+        found.items != files.duplicates()) {
+        std::fprintf(stderr, "found %zu of %zu\n", found.items, files.duplicates());
+        std::exit(EXIT_FAILURE);
     }
-    const double own = median(rivals.front().taken);
+    return found;
+}
+
+void compare(const Files& files, const std::vector<Rivals::Program>& programs, bool isCold, int rounds,
+             const fs::path& place)
+{
+    Found found;
+    const auto before = [&] {
+        if (isCold)
+            files.makeCold();
+    };
     std::printf("%s\n", isCold ? "With none of their bytes in memory:" : "With the files in memory:");
-    for (const Rival& rival : rivals)
-        std::printf("  %-28s %8.0f ms %6.2f times ours %7.1f MB\n", rival.name.c_str(), median(rival.taken),
-                    median(rival.taken) / own, rival.megabytes);
-    std::printf("  our first group after %.0f ms\n", first);
+    Rivals::compare(programs, rounds, place, before,
+                    [&](const Rivals::Measured& result) { found = foundBy(result, files); });
+    std::printf("  our first group after %.0f ms\n", found.first);
 }
 
 } // namespace
@@ -248,18 +184,22 @@ int main(int argc, char** argv)
 {
     if (argc > 2 && std::string(argv[1]) == "--find")
         return find(argv[2]);
-    Files files(argc > 1 ? argv[1] : "/var/tmp");
+    const fs::path place = argc > 1 ? argv[1] : "/var/tmp";
+    Files files(place, argc > 2 ? std::stoi(argv[2]) : usualCount);
     files.make();
-    std::printf("%d files, %.2f GB, %zu of them with duplicates\n", fileCount, files.gigabytes(), files.duplicates());
+    std::printf("%d files, %.2f GB, %zu of them with duplicates\n", files.count(), files.gigabytes(),
+                files.duplicates());
     const std::string self = fs::read_symlink("/proc/self/exe");
-    const std::vector<Rival> rivals{
-        {"ours", {self, "--find"}},
-        {"rmlint", {"rmlint", "--types=duplicates", "--no-with-color", "-o", "summary:stdout"}},
-        {"jdupes", {"jdupes", "-r", "-q"}},
-        {"jdupes, trusting its hash", {"jdupes", "-r", "-q", "-Q"}},
-        {"rdfind", {"rdfind", "-dryrun", "true", "-makeresultsfile", "false"}},
-        {"fdupes", {"fdupes", "-r", "-q"}},
+    const std::string folder = files.folder();
+    // None is given a name for a report: some put their file in the place of what is there.
+    const std::vector<Rivals::Program> programs{
+        {"ours", {self, "--find", folder}},
+        {"rmlint", {"rmlint", "--types=duplicates", "--no-with-color", "-o", "summary:stdout", folder}},
+        {"jdupes", {"jdupes", "-r", "-q", folder}},
+        {"jdupes, trusting its hash", {"jdupes", "-r", "-q", "-Q", folder}},
+        {"rdfind", {"rdfind", "-dryrun", "true", "-makeresultsfile", "false", folder}},
+        {"fdupes", {"fdupes", "-r", "-q", folder}},
     };
-    compare(files, rivals, false, warmRounds);
-    compare(files, rivals, true, coldRounds);
+    compare(files, programs, false, warmRounds, place);
+    compare(files, programs, true, coldRounds, place);
 }

@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
-#include <unistd.h>
 
 namespace {
 
@@ -51,10 +50,10 @@ int main(int argc, char** argv)
     if (argc > 2 && (std::string(argv[1]) == "--read" || std::string(argv[1]) == "--write"))
         return work(argv[2], std::string(argv[1]) == "--write");
     const int count = argc > 1 ? std::atoi(argv[1]) : 1000;
-    std::string folder = "/var/tmp/orvik-bench-XXXXXX";
-    if (count < 1 || !::mkdtemp(folder.data()))
+    if (count < 1)
         return EXIT_FAILURE;
-    const fs::path photos = fs::path(folder) / "photos";
+    const Rivals::Folder folder("/var/tmp");
+    const fs::path photos = folder.path() / "photos";
     fs::create_directory(photos);
     const auto makeAll = [&] {
         for (int number = 0; number < count; ++number)
@@ -64,15 +63,16 @@ int main(int argc, char** argv)
     makeAll();
     std::printf("%d photos\n", count);
     const std::string self = fs::read_symlink("/proc/self/exe");
-    Rivals::compare("Read:",
-                    {{"ours", {self, "--read", photos}},
-                     {"exiftool", {"exiftool", "-config", "", "-json", "-G0:1", "-r", photos}}},
-                    rounds, [] {});
-    Rivals::compare("A title written:",
-                    {{"ours", {self, "--write", photos}},
+    const auto all = [](const Rivals::Measured&) {};
+    std::puts("Read:");
+    Rivals::compare(
+        {{"ours", {self, "--read", photos}},
+         {"exiftool", {"exiftool", "-config", "", "-json", "-G0:1", "-r", photos}}},
+        rounds, "/var/tmp", [] {}, all);
+    std::puts("A title written:");
+    Rivals::compare({{"ours", {self, "--write", photos}},
                      {"exiftool",
                       {"exiftool", "-config", "", "-overwrite_original", "-Title=title", "-ImageDescription=title",
                        "-r", photos}}},
-                    rounds, makeAll);
-    fs::remove_all(folder);
+                    rounds, "/var/tmp", makeAll, all);
 }

@@ -1,12 +1,14 @@
 // Measures the finder of duplicate photos.
 //   orvik-bench-photos accuracy FOLDER SCENES   makes a set of variants, series and look-alikes in FOLDER, and prints
 //                                               how many of each kind were found and how many wrongly
-//   orvik-bench-photos make FOLDER PICTURES     makes pictures of 12 megapixels, one in ten of them twice
+//   orvik-bench-photos speed FOLDER PICTURES    makes pictures of 12 megapixels in a folder of its own in FOLDER, one
+//                                               in ten of them twice, and finds them beside the program that does so
 //   orvik-bench-photos find FOLDER              finds the duplicates among the pictures in FOLDER, and prints how
-//   many
+//                                               many
 #include "Reading.h"
 #include "Scene.h"
 #include "Variants.h"
+#include "bench/rivals/Rivals.h"
 #include "extension/actions/find-duplicate-photos/Collection.h"
 
 #include <algorithm>
@@ -100,6 +102,93 @@ std::vector<Picture> picturesOf(std::uint32_t number, const std::string& folder)
     return pictures;
 }
 
+double share(int part, int whole)
+{
+    return whole == 0 ? 1.0 : double(part) / whole;
+}
+
+/// How well pictures were put together.
+class Scores {
+public:
+    Scores(const std::vector<Picture>& pictures, const std::vector<std::vector<std::uint32_t>>& groups)
+    {
+        std::vector<int> groupOf(pictures.size(), -1);
+        for (std::size_t group = 0; group < groups.size(); ++group) {
+            for (const std::uint32_t member : groups[group])
+                groupOf[member] = static_cast<int>(group);
+        }
+        std::size_t photo = 0;
+        for (std::size_t number = 0; number < pictures.size(); ++number) {
+            const int group = groupOf[number];
+            if (pictures[number].kind == "photo")
+                photo = number;
+            Score& score = m_scores[pictures[number].kind];
+            ++score.count;
+            // The photo itself is found with any of the others.
+            score.found += group >= 0 && group == groupOf[photo] ? 1 : 0;
+            if (group >= 0)
+                addPairs(score, pictures, number, groups[static_cast<std::size_t>(group)]);
+        }
+    }
+
+    void printLine(float limit) const
+    {
+        double least = 1;
+        double leastOfCuts = 1;
+        for (const auto& kind : Variants::kinds()) {
+            double& smallest = kind.cutsOrAdds ? leastOfCuts : least;
+            smallest = std::min(smallest, recall(kind.name));
+        }
+        std::printf("  limit %.2f: least recall %.3f, of crops and borders %.3f; precision %.4f\n", double(limit),
+                    least, leastOfCuts, share(m_all.right, m_all.right + m_all.wrong));
+    }
+    void printTable() const
+    {
+        std::printf("%-24s %8s %8s %10s   %s\n", "kind", "pictures", "recall", "precision", "target of the recall");
+        for (const auto& kind : Variants::kinds()) {
+            const Score& score = m_scores.at(kind.name);
+            std::printf("%-24s %8d %8.3f %10.4f   %s\n", kind.name, score.count, recall(kind.name),
+                        share(score.right, score.right + score.wrong), kind.cutsOrAdds ? "0.80" : "0.97");
+        }
+        for (const char* kind : {"series", "look-alike"})
+            std::printf("%-24s %8d, of which %d were taken for duplicates of another\n", kind,
+                        m_scores.at(kind).count, m_scores.at(kind).wrongPictures);
+        std::printf("%-24s %8s %8s %10.4f   (of all pairs that were put together)\n", "all", "", "",
+                    share(m_all.right, m_all.right + m_all.wrong));
+    }
+
+private:
+    struct Score {
+        int count = 0;
+        int found = 0;
+        int right = 0;
+        int wrong = 0;
+        int wrongPictures = 0;
+    };
+
+    void addPairs(Score& score, const std::vector<Picture>& pictures, std::size_t number,
+                  const std::vector<std::uint32_t>& group)
+    {
+        bool isWrong = false;
+        for (const std::uint32_t other : group) {
+            if (other == number)
+                continue;
+            const bool isRight = pictures[other].shot == pictures[number].shot;
+            ++(isRight ? score.right : score.wrong);
+            ++(isRight ? m_all.right : m_all.wrong);
+            isWrong = isWrong || !isRight;
+        }
+        score.wrongPictures += isWrong ? 1 : 0;
+    }
+    [[nodiscard]] double recall(const std::string& kind) const
+    {
+        return share(m_scores.at(kind).found, m_scores.at(kind).count);
+    }
+
+    std::map<std::string, Score> m_scores;
+    Score m_all;
+};
+
 int accuracy(const std::string& folder, std::uint32_t scenes)
 {
     fs::create_directories(folder);
@@ -115,59 +204,10 @@ int accuracy(const std::string& folder, std::uint32_t scenes)
     SimilarPhotos::Collection collection;
     Reading::addAll(paths, collection);
 
-    std::vector<int> groupOf(pictures.size(), -1);
-    const auto groups = collection.resemblances().groups(SimilarPhotos::usualLimit);
-    for (std::size_t group = 0; group < groups.size(); ++group) {
-        for (const std::uint32_t member : groups[group])
-            groupOf[member] = static_cast<int>(group);
-    }
-    struct Score {
-        int count = 0;
-        int found = 0;
-        int right = 0;
-        int wrong = 0;
-        int wrongPictures = 0;
-        bool isVariant = false;
-    };
-    std::map<std::string, Score> scores;
-    Score all;
-    std::size_t photo = 0;
-    for (std::size_t number = 0; number < pictures.size(); ++number) {
-        const Picture& picture = pictures[number];
-        Score& score = scores[picture.kind];
-        ++score.count;
-        if (picture.kind == "photo")
-            photo = number;
-        const int group = groupOf[number];
-        score.isVariant = picture.kind != "photo" && picture.kind != "series" && picture.kind != "look-alike";
-        if (score.isVariant && group >= 0 && group == groupOf[photo])
-            ++score.found;
-        if (group < 0)
-            continue;
-        bool isWrong = false;
-        for (const std::uint32_t other : groups[static_cast<std::size_t>(group)]) {
-            if (other == number)
-                continue;
-            const bool isRight = pictures[other].shot == picture.shot;
-            ++(isRight ? score.right : score.wrong);
-            ++(isRight ? all.right : all.wrong);
-            isWrong = isWrong || !isRight;
-        }
-        score.wrongPictures += isWrong ? 1 : 0;
-    }
-    std::printf("%zu pictures, %zu groups\n", pictures.size(), groups.size());
-    std::printf("%-24s %8s %8s %10s   %s\n", "kind", "pictures", "recall", "precision", "target of the recall");
-    const auto share = [](int part, int whole) { return whole == 0 ? 1.0 : double(part) / whole; };
-    for (const auto& kind : Variants::kinds()) {
-        const Score& score = scores[kind.name];
-        std::printf("%-24s %8d %8.3f %10.4f   %s\n", kind.name, score.count, share(score.found, score.count),
-                    share(score.right, score.right + score.wrong), kind.cutsOrAdds ? "0.80" : "0.97");
-    }
-    for (const char* kind : {"series", "look-alike"})
-        std::printf("%-24s %8d, of which %d were taken for duplicates of another\n", kind, scores[kind].count,
-                    scores[kind].wrongPictures);
-    std::printf("%-24s %8s %8s %10.4f   (of all pairs that were put together)\n", "all", "", "",
-                share(all.right, all.right + all.wrong));
+    std::printf("%zu pictures\n", pictures.size());
+    for (const float limit : {0.10F, 0.15F, 0.20F, SimilarPhotos::usualLimit, 0.30F, 0.40F})
+        Scores(pictures, collection.resemblances().groups(limit)).printLine(limit);
+    Scores(pictures, collection.resemblances().groups(SimilarPhotos::usualLimit)).printTable();
     std::printf("pictures compared: %.1f for each; places in the index looked at: %.0f for each\n",
                 double(collection.compared()) / double(pictures.size()),
                 double(collection.index().measured()) / double(pictures.size()));
@@ -175,9 +215,8 @@ int accuracy(const std::string& folder, std::uint32_t scenes)
 }
 
 /// Photos of 12 megapixels that take as long to read as a camera's; every tenth is there twice, smaller.
-int makeLarge(const std::string& folder, std::uint32_t count)
+void makeLarge(const std::string& folder, std::uint32_t count)
 {
-    fs::create_directories(folder);
     constexpr int scale = 4;
     constexpr int smallWidth = 1000;
     constexpr int smallHeight = 750;
@@ -203,7 +242,6 @@ int makeLarge(const std::string& folder, std::uint32_t count)
         for (VipsImage* image : {photo, grainy, grain, large})
             g_object_unref(image);
     });
-    return EXIT_SUCCESS;
 }
 
 int find(const std::string& folder)
@@ -223,6 +261,28 @@ int find(const std::string& folder)
     return EXIT_SUCCESS;
 }
 
+int speed(const std::string& place, std::uint32_t count)
+{
+    const Rivals::Folder folder(place);
+    makeLarge(folder.path(), count);
+    const std::string expected = std::to_string(count) + " pictures, " + std::to_string(count / 10) + " groups";
+    const std::vector<Rivals::Program> programs{
+        {"ours", {fs::read_symlink("/proc/self/exe"), "find", folder.path()}},
+        {"findimagedupes", {"findimagedupes", "-R", folder.path()}},
+    };
+    constexpr int rounds = 3;
+    std::printf("%u pictures of 12 megapixels:\n", count);
+    Rivals::compare(
+        programs, rounds, place, [] {},
+        [&](const Rivals::Measured& result) {
+            if (result.output.starts_with(expected))
+                return;
+            std::fprintf(stderr, "found %s", result.output.c_str());
+            std::exit(EXIT_FAILURE);
+        });
+    return EXIT_SUCCESS;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -235,10 +295,10 @@ int main(int argc, char** argv)
     const auto number = [&] { return static_cast<std::uint32_t>(std::stoul(arguments[3])); };
     if (argc == 4 && arguments[1] == "accuracy")
         return accuracy(arguments[2], number());
-    if (argc == 4 && arguments[1] == "make")
-        return makeLarge(arguments[2], number());
+    if (argc == 4 && arguments[1] == "speed")
+        return speed(arguments[2], number());
     if (argc == 3 && arguments[1] == "find")
         return find(arguments[2]);
-    std::fprintf(stderr, "usage: orvik-bench-photos accuracy FOLDER SCENES | make FOLDER PICTURES | find FOLDER\n");
+    std::fprintf(stderr, "usage: orvik-bench-photos accuracy FOLDER SCENES | speed FOLDER PICTURES | find FOLDER\n");
     return 2;
 }

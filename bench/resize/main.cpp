@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
-#include <unistd.h>
 #include <vips/vips.h>
 
 namespace {
@@ -74,11 +73,11 @@ int main(int argc, char** argv)
     if (argc > 3 && std::string(argv[1]) == "--resize")
         return resizeAll(argv[2], argv[3]);
     const int count = argc > 1 ? std::atoi(argv[1]) : 200;
-    std::string folder = "/var/tmp/orvik-bench-XXXXXX";
-    if (count < 1 || !::mkdtemp(folder.data()) || VIPS_INIT("bench") != 0)
+    if (count < 1 || VIPS_INIT("bench") != 0)
         return EXIT_FAILURE;
-    const fs::path photos = fs::path(folder) / "photos";
-    const fs::path small = fs::path(folder) / "small";
+    const Rivals::Folder folder("/var/tmp");
+    const fs::path photos = folder.path() / "photos";
+    const fs::path small = folder.path() / "small";
     fs::create_directory(photos);
     // A few different ones are enough.
     constexpr int different = 8;
@@ -98,11 +97,13 @@ int main(int argc, char** argv)
         mogrify.push_back(entry.path());
         thumbnail.push_back(entry.path());
     }
-    Rivals::compare("Resized for a screen:",
-                    {{"ours", {self, "--resize", photos, small}}, {"mogrify", mogrify}, {"vipsthumbnail", thumbnail}},
-                    rounds, [&] {
-                        fs::remove_all(small);
-                        fs::create_directory(small);
-                    });
-    fs::remove_all(folder);
+    std::puts("Resized for a screen:");
+    Rivals::compare(
+        {{"ours", {self, "--resize", photos, small}}, {"mogrify", mogrify}, {"vipsthumbnail", thumbnail}}, rounds,
+        "/var/tmp",
+        [&] {
+            fs::remove_all(small);
+            fs::create_directory(small);
+        },
+        [](const Rivals::Measured&) {});
 }

@@ -1,6 +1,7 @@
-#include "bench/rivals/Rivals.h"
+#include "Rivals.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -11,47 +12,51 @@
 
 namespace Rivals {
 
+namespace fs = std::filesystem;
+
 namespace {
 
-using Clock = std::chrono::steady_clock;
-using Milliseconds = std::chrono::duration<double, std::milli>;
-
-struct Measured {
-    std::vector<double> milliseconds;
-    std::vector<double> processor;
-    double megabytes = 0;
-};
-
-double millisecondsOf(const timeval& time)
+[[noreturn]] void execute(const std::vector<std::string>& command, const fs::path& folder, int output)
 {
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    std::vector<char*> arguments;
+    for (const std::string& word : command)
+        arguments.push_back(const_cast<char*>(word.c_str()));
+    arguments.push_back(nullptr);
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    ::dup2(output, STDOUT_FILENO);
+    ::dup2(nowhere, STDERR_FILENO);
+    if (::chdir(folder.c_str()) == 0)
+        ::execvp(arguments.front(), arguments.data());
+    ::_exit(127);
 }
 
-void run(const std::vector<std::string>& command, Measured& measured)
+Measured run(const std::vector<std::string>& command, const fs::path& folder)
 {
-    const auto begin = Clock::now();
+    std::array<int, 2> pipe{};
+    if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
+        std::exit(EXIT_FAILURE);
+    const auto begin = std::chrono::steady_clock::now();
     const pid_t child = ::fork();
-    if (child == 0) {
-        std::vector<char*> arguments;
-        for (const std::string& word : command)
-            arguments.push_back(const_cast<char*>(word.c_str()));
-        arguments.push_back(nullptr);
-        const int nowhere = ::open("/dev/null", O_WRONLY);
-        ::dup2(nowhere, STDOUT_FILENO);
-        ::dup2(nowhere, STDERR_FILENO);
-        ::execvp(arguments.front(), arguments.data());
-        ::_exit(127);
+    if (child == 0)
+        execute(command, folder, pipe[1]);
+    ::close(pipe[1]);
+    Measured result;
+    std::array<char, 65'536> buffer{};
+    for (ssize_t count = 0; (count = ::read(pipe[0], buffer.data(), buffer.size())) > 0;) {
+        if (result.output.size() < buffer.size())
+            result.output.append(buffer.data(), static_cast<std::size_t>(count));
     }
+    ::close(pipe[0]);
     int status = 0;
     rusage usage = {};
     ::wait4(child, &status, 0, &usage);
-    measured.milliseconds.push_back(Milliseconds(Clock::now() - begin).count());
-    measured.processor.push_back(millisecondsOf(usage.ru_utime) + millisecondsOf(usage.ru_stime));
-    measured.megabytes = std::max(measured.megabytes, static_cast<double>(usage.ru_maxrss) / 1024.0);
+    result.milliseconds = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+    result.megabytes = static_cast<double>(usage.ru_maxrss) / 1024.0;
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
         std::fprintf(stderr, "%s failed\n", command.front().c_str());
         std::exit(EXIT_FAILURE);
     }
+    return result;
 }
 
 double median(std::vector<double> values)
@@ -62,25 +67,42 @@ double median(std::vector<double> values)
 
 } // namespace
 
-void compare(const std::string& title, std::vector<Rival> rivals, int rounds, const std::function<void()>& prepare)
+Folder::Folder(const fs::path& place)
 {
-    std::vector<Measured> measured(rivals.size());
+    std::string name = (place / "orvik-bench-XXXXXX").native();
+    if (!::mkdtemp(name.data())) {
+        std::perror(name.c_str());
+        std::exit(EXIT_FAILURE);
+    }
+    m_path = name;
+}
+
+Folder::~Folder()
+{
+    fs::remove_all(m_path);
+}
+
+void compare(const std::vector<Program>& programs, int rounds, const fs::path& place,
+             const std::function<void()>& before, const std::function<void(const Measured&)>& check)
+{
+    const Folder work(place);
+    std::vector<std::vector<double>> taken(programs.size());
+    std::vector<double> megabytes(programs.size());
     for (int round = 0; round < rounds; ++round) {
-        for (std::size_t rival = 0; rival < rivals.size(); ++rival) {
-            prepare();
-            run(rivals[rival].command, measured[rival]);
+        for (std::size_t program = 0; program < programs.size(); ++program) {
+            before();
+            const Measured result = run(programs[program].command, work.path());
+            taken[program].push_back(result.milliseconds);
+            megabytes[program] = std::max(megabytes[program], result.megabytes);
+            if (program == 0)
+                check(result);
         }
     }
-    const double own = median(measured.front().milliseconds);
-    const double ownProcessor = median(measured.front().processor);
-    std::printf("%s\n", title.c_str());
-    for (std::size_t rival = 0; rival < rivals.size(); ++rival) {
-        const double time = median(measured[rival].milliseconds);
-        const double processor = median(measured[rival].processor);
-        std::printf("  %-24s %8.0f ms %6.2f times ours, of the processor %8.0f ms %6.2f times ours %7.1f MB\n",
-                    rivals[rival].name.c_str(), time, time / own, processor, processor / ownProcessor,
-                    measured[rival].megabytes);
-    }
+    const double own = median(taken.front());
+    for (std::size_t program = 0; program < programs.size(); ++program)
+        std::printf("  %-28s %8.0f ms %6.2f times ours %7.1f MB\n", programs[program].name.c_str(),
+                    median(taken[program]), median(taken[program]) / own, megabytes[program]);
+    std::fflush(stdout);
 }
 
 } // namespace Rivals

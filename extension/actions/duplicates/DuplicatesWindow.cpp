@@ -222,6 +222,13 @@ QWidget* DuplicatesWindow::makeDetails()
     header.resizeSection(ItemListModel::SizeColumn, fontMetrics().horizontalAdvance(sizeText(999'900)) + aroundText);
     header.resizeSection(ItemListModel::DateColumn, fontMetrics().horizontalAdvance(dateText(longest)) + aroundText);
     header.setMinimumSectionSize(60);
+    // What a finder tells of its own is what its items are chosen by.
+    for (int column = ItemListModel::FirstOwnColumn, place = 1; column < m_itemsModel->columnCount();
+         ++column, ++place)
+        header.moveSection(header.visualIndex(column), place);
+    constexpr int charactersOfReason = 24;
+    if (m_presentation.proposal)
+        header.resizeSection(m_itemsModel->columnCount() - 1, charactersOfReason * fontMetrics().averageCharWidth());
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setWordWrap(true);
 
@@ -470,7 +477,8 @@ void DuplicatesWindow::showChoice()
     m_remove->setEnabled(chosen.items > 0 && !m_isRemoving);
     m_rules->setEnabled(!m_isRemoving);
     m_remove->setText(
-        chosen.items == 1
+        chosen.items == 0 ? tr("Move to Trash")
+        : chosen.items == 1
             ? tr("Move 1 Item to Trash")
             : tr("Move %1 Items to Trash").arg(QLocale().toString(static_cast<qulonglong>(chosen.items))));
     m_sum->setText(chosen.items == 0

@@ -15,7 +15,9 @@ char lower(char character)
 
 bool isFoundIn(std::string_view whole, std::string_view lowerText)
 {
-    return std::ranges::search(whole, lowerText, {}, lower).begin() != whole.end() || lowerText.empty();
+    const auto isSame = [](char one, char lowerOne) { return lower(one) == lowerOne; };
+    return lowerText.empty() ||
+           std::search(whole.begin(), whole.end(), lowerText.begin(), lowerText.end(), isSame) != whole.end();
 }
 
 std::string lowered(std::string_view text)
@@ -29,7 +31,7 @@ std::string lowered(std::string_view text)
 
 GroupNumber Groups::add(std::uint64_t key, const std::vector<Item>& items)
 {
-    GroupNumber number = static_cast<GroupNumber>(m_groups.size());
+    auto number = static_cast<GroupNumber>(m_groups.size());
     if (key != 0)
         number = m_keys.try_emplace(key, number).first->second;
     if (number == m_groups.size())
@@ -105,8 +107,7 @@ void Groups::forget(const std::vector<ItemNumber>& items)
         groups.push_back(m_items[number].group);
     }
     std::ranges::sort(groups);
-    const auto [rest, end] = std::ranges::unique(groups);
-    groups.erase(rest, end);
+    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
     for (const GroupNumber number : groups) {
         StoredGroup& group = m_groups[number];
         std::vector<ItemNumber> left = itemsOf(number);

@@ -53,7 +53,7 @@ PreviewPane::Tile PreviewPane::makeTile()
     content->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     auto* const caption = new QLabel(box);
     caption->setTextFormat(Qt::PlainText);
-    caption->setAlignment(Qt::AlignCenter);
+    caption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     caption->setForegroundRole(QPalette::PlaceholderText);
     auto* const column = new QVBoxLayout(box);
@@ -78,27 +78,47 @@ void PreviewPane::showItems(const std::vector<Item>& items)
     for (std::size_t index = 0; index < m_tiles.size(); ++index) {
         Tile& tile = m_tiles[index];
         tile.box->setVisible(index < m_items.size());
-        if (index < m_items.size())
-            tile.caption->setText(captionOf(m_items[index]));
-        else
+        if (index >= m_items.size())
             tile.content->clear();
     }
+    showCaptions();
     ask();
 }
 
 void PreviewPane::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    showCaptions();
     ask();
+}
+
+/// As much of each as there is room for; screen readers are told all of it.
+void PreviewPane::showCaptions()
+{
+    for (std::size_t index = 0; index < m_items.size(); ++index) {
+        QLabel& caption = *m_tiles[index].caption;
+        const QStringList lines = captionOf(m_items[index]);
+        QStringList shown;
+        for (const QString& line : lines)
+            shown.append(fontMetrics().elidedText(line, Qt::ElideMiddle, tileWidth()));
+        caption.setText(shown.join(u'\n'));
+        caption.setAccessibleName(lines.join(QStringLiteral(", ")));
+    }
+}
+
+int PreviewPane::tileWidth() const
+{
+    const int count = static_cast<int>(m_items.size());
+    return (width() - (count - 1) * layout()->spacing()) / count;
 }
 
 void PreviewPane::ask()
 {
     if (m_items.empty())
         return;
-    const int count = static_cast<int>(m_items.size());
-    const int captionHeight = fontMetrics().height() + layout()->spacing();
-    const QSize room(width() / count - layout()->spacing() - 2 * frame, height() - captionHeight - 2 * frame);
+    const auto captionLines = static_cast<int>(captionOf(m_items.front()).size());
+    const int captionHeight = captionLines * fontMetrics().lineSpacing() + layout()->spacing();
+    const QSize room(tileWidth() - 2 * frame, height() - captionHeight - 2 * frame);
     const std::scoped_lock lock(m_mutex);
     m_wish = Wish{.number = ++m_number, .items = m_items, .pixels = room.expandedTo({1, 1}) * devicePixelRatioF()};
     m_wished.notify_one();
@@ -149,15 +169,17 @@ void PreviewPane::show(unsigned number, std::size_t index, const Item& item, con
     content.setPixmap(picture);
 }
 
-QString PreviewPane::captionOf(const Item& item) const
+QStringList PreviewPane::captionOf(const Item& item) const
 {
-    QStringList parts{nameText(item)};
+    QStringList parts;
     for (const auto& column : m_presentation.columns)
         parts.append(column.text(item));
     if (m_presentation.isSideBySide)
         parts.append(sizeText(item.state.size));
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(" · "));
+    QStringList lines{nameText(item)};
+    if (!parts.isEmpty())
+        lines.append(parts.join(QStringLiteral(" · ")));
+    return lines;
 }
 
 } // namespace MenuExtension::Duplicates

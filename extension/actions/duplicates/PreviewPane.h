@@ -49,7 +49,10 @@ private:
     void ask();
     void show(unsigned number, std::size_t index, const Item& item, const Preview& preview);
     [[nodiscard]] Tile makeTile();
-    [[nodiscard]] QString captionOf(const Item& item) const;
+    void showCaptions();
+    [[nodiscard]] int tileWidth() const;
+    /// Its lines.
+    [[nodiscard]] QStringList captionOf(const Item& item) const;
 
     const Presentation& m_presentation;
     std::vector<Tile> m_tiles;

@@ -42,7 +42,8 @@ FileReader::Result unchangedOr(int file, const FileState& state)
 } // namespace
 
 FileReader::FileReader(std::function<void(std::size_t)> hasRead, std::stop_token stop)
-    : m_hasRead(std::move(hasRead)), m_stop(std::move(stop)), m_buffer(std::make_unique<std::byte[]>(bufferSize))
+    : m_hasRead(std::move(hasRead)), m_stop(std::move(stop)),
+      m_buffer(std::make_unique<std::array<std::byte, bufferSize>>())
 {}
 
 FileDescriptor FileReader::open(const std::string& path, FileState& state) const
@@ -65,7 +66,7 @@ FileReader::Result FileReader::readPart(int file, std::int64_t offset, std::size
     for (std::size_t filled = 0; filled < size;) {
         if (m_stop.stop_requested())
             return Result::Stopped;
-        const iovec rest{m_buffer.get() + filled, size - filled};
+        const iovec rest{m_buffer->data() + filled, size - filled};
         const ssize_t count =
             ::preadv2(file, &rest, 1, offset + static_cast<off_t>(filled), wait == Wait::Yes ? 0 : RWF_NOWAIT);
         if (count < 0 && errno == EINTR)
@@ -86,7 +87,7 @@ FileReader::Result FileReader::readEnds(int file, const FileState& state, Wait w
     for (const std::int64_t offset : {std::int64_t{0}, state.size - endSize}) {
         if (const Result result = readPart(file, offset, endSize, wait); result != Result::Read)
             return result;
-        digest = digestOf(XXH3_128bits_withSeed(m_buffer.get(), endSize, digest.low));
+        digest = digestOf(XXH3_128bits_withSeed(m_buffer->data(), endSize, digest.low));
     }
     return Result::Read;
 }
@@ -98,7 +99,7 @@ FileReader::Result FileReader::readWhole(int file, const FileState& state, Wait 
         if (const Result result = readPart(file, 0, size, wait); result != Result::Read)
             return result;
         m_hasRead(size);
-        digest = digestOf(XXH3_128bits(m_buffer.get(), size));
+        digest = digestOf(XXH3_128bits(m_buffer->data(), size));
         return unchangedOr(file, state);
     }
     const std::unique_ptr<XXH3_state_t, FreeState> hash(XXH3_createState());
@@ -111,7 +112,7 @@ FileReader::Result FileReader::readWhole(int file, const FileState& state, Wait 
         if (result != Result::Read)
             return result;
         m_hasRead(length);
-        XXH3_128bits_update(hash.get(), m_buffer.get(), length);
+        XXH3_128bits_update(hash.get(), m_buffer->data(), length);
     }
     digest = digestOf(XXH3_128bits_digest(hash.get()));
     return unchangedOr(file, state);

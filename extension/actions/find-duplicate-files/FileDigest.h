@@ -3,13 +3,14 @@
 #include "extension/actions/duplicates/Item.h"
 #include "platform/linux/system/FileDescriptor.h"
 
-#include <compare>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <stop_token>
 #include <string>
+#include <tuple>
 
 namespace MenuExtension {
 
@@ -17,7 +18,11 @@ namespace MenuExtension {
 struct Digest {
     std::uint64_t high = 0;
     std::uint64_t low = 0;
-    friend auto operator<=>(const Digest&, const Digest&) = default;
+    friend bool operator==(const Digest&, const Digest&) = default;
+    friend bool operator<(const Digest& one, const Digest& other)
+    {
+        return std::tie(one.high, one.low) < std::tie(other.high, other.low);
+    }
 };
 
 /// Reads files. Each thread has one of its own.
@@ -58,7 +63,7 @@ private:
 
     const std::function<void(std::size_t)> m_hasRead;
     const std::stop_token m_stop;
-    const std::unique_ptr<std::byte[]> m_buffer;
+    const std::unique_ptr<std::array<std::byte, bufferSize>> m_buffer;
 };
 
 /// Where on its disk an open file begins; 0 where that is not known.

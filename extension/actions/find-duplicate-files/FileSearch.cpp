@@ -145,10 +145,10 @@ void FileSearch::lookAhead()
 void FileSearch::tellAhead(Readings& readings)
 {
     // One file under several names is one.
-    std::ranges::sort(readings, {}, [this](const Reading& reading) { return identityOf(reading.file); });
-    const auto [rest, end] =
-        std::ranges::unique(readings, {}, [this](const Reading& reading) { return identityOf(reading.file); });
-    readings.erase(rest, end);
+    const auto identity = [this](const Reading& reading) { return identityOf(reading.file); };
+    std::ranges::sort(readings, {}, identity);
+    const auto isSame = [&](const Reading& one, const Reading& other) { return identity(one) == identity(other); };
+    readings.erase(std::unique(readings.begin(), readings.end(), isSame), readings.end());
     m_comparison.read(readings, FileComparison::What::Whole);
     eachEqual(readings, [this](std::span<Reading> group) {
         std::vector<Item> items;
@@ -158,6 +158,7 @@ void FileSearch::tellAhead(Readings& readings)
         }
         const std::uint64_t key = m_keys.size() + 1;
         m_keys.emplace(std::pair(group.front().state.size, group.front().digest), key);
+        std::ranges::sort(items, {}, &Item::path);
         m_findings.found(key, std::move(items));
     });
 }

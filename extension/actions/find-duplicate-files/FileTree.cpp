@@ -110,10 +110,11 @@ std::string FileTree::pathOf(FolderNumber folder) const
     while (const auto parent = parentOf(way.back()))
         way.push_back(*parent);
     std::string path;
-    for (auto step = way.rbegin(); step != way.rend(); ++step) {
+    std::ranges::reverse(way);
+    for (const FolderNumber step : way) {
         if (!path.empty() && !path.ends_with('/'))
             path += '/';
-        path += nameOf(*step);
+        path += nameOf(step);
     }
     return path;
 }

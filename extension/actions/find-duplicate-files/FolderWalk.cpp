@@ -109,9 +109,10 @@ FileDescriptor FolderWalk::open(FolderNumber folder)
         names.push_back(*parent);
     }
     FileDescriptor reached;
-    for (auto name = names.rbegin(); name != names.rend(); ++name) {
+    std::ranges::reverse(names);
+    for (const auto& name : names) {
         const int from = reached ? reached.get() : m_way.back().descriptor.get();
-        reached = FileDescriptor(::openat(from, m_tree.nameOf(*name), folderFlags));
+        reached = FileDescriptor(::openat(from, m_tree.nameOf(name), folderFlags));
         if (!reached)
             break;
     }

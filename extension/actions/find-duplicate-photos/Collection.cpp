@@ -13,7 +13,7 @@ namespace MenuExtension::SimilarPhotos {
 namespace {
 
 /// How far apart the signatures of two pictures may be that look alike.
-constexpr float radius = 0.5F;
+constexpr float radius = 0.6F;
 /// The most pictures that a new one is compared with, nearest first.
 constexpr std::size_t mostCompared = 64;
 

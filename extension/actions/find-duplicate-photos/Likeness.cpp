@@ -275,8 +275,14 @@ float Likeness::difference() const
     // What was cut has its cells elsewhere, and so a little different everywhere.
     constexpr float clearlyCut = 0.03F;
     const float isCut = std::clamp((cut - hardlyCut) / (clearlyCut - hardlyCut), 0.0F, 1.0F);
-    const float differs = std::lerp(std::max(content * 3, place * 1.1F), std::max(content * 2, place * 0.5F), isCut);
-    constexpr float mostOfLight = 0.04F;
+    // Where the light is another altogether, levels are told less well, and it was not the next of a series.
+    constexpr float hardlyLit = 0.3F;
+    constexpr float clearlyLit = 0.5F;
+    const float isLit = std::clamp((light - hardlyLit) / (clearlyLit - hardlyLit), 0.0F, 1.0F);
+    const float everywhere = std::lerp(content * 3, content * 2.2F, isLit);
+    const float somewhere = std::lerp(place * 1.1F, place * 0.7F, isLit);
+    const float differs = std::lerp(std::max(everywhere, somewhere), std::max(content * 2.5F, place * 0.6F), isCut);
+    const float mostOfLight = std::lerp(0.04F, 0.02F, isLit);
     return std::min(1.0F, std::hypot(differs, color, shift) + std::max(0.0F, cut - hardlyCut) * 0.5F +
                               std::min(light * 0.5F, mostOfLight));
 }

@@ -57,7 +57,7 @@ std::vector<std::vector<std::uint32_t>> Resemblances::groups(float limit)
         members.push_back(pair.other);
     }
     std::ranges::sort(members);
-    members.erase(std::ranges::unique(members).begin(), members.end());
+    members.erase(std::unique(members.begin(), members.end()), members.end());
     std::map<std::uint32_t, std::vector<std::uint32_t>> groups;
     for (const std::uint32_t member : members)
         groups[clusters.of(member)].push_back(member);

@@ -34,7 +34,7 @@ class DuplicatesWindowTestCase(DesktopTestCase):
         return [label.name for label in self.window.all("label")]
 
     def assertTells(self, text):
-        eventually(lambda: text in self.labels(), f"“{text}” among {self.labels()}")
+        eventually(lambda: text in self.labels(), f"the words “{text}”")
 
     def list_of(self, name):
         for each in self.window.descendants():
@@ -52,11 +52,12 @@ class DuplicatesWindowTestCase(DesktopTestCase):
     def go_to(self, name):
         """Presses Tab until the control of that name has the keyboard."""
         for _ in range(20):
-            if self.window.focused().name == name:
+            focused = eventually(self.window.focused, "a control to have the keyboard")
+            if focused.name == name:
                 return
-            before = self.window.focused()
             self.hands.press("Tab")
-            eventually(lambda: self.window.focused() != before, "the next control to have the keyboard")
+            # pylint: disable-next=cell-var-from-loop
+            eventually(lambda: self.window.focused() != focused, "the next control to have the keyboard")
         self.fail(f"“{name}” is not reached")
 
     def choose_by_rule(self, *keys):

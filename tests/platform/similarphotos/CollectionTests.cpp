@@ -61,7 +61,7 @@ TEST_P(SamePicture, IsFoundBrightened)
 {
     const Painting painting = Painting::of(GetParam());
     EXPECT_LT(difference(painting, painting.brightened(1.2, 5)), usualLimit);
-    EXPECT_LT(difference(painting, painting.brightened(1.5, 20)), usualLimit) << "with much cut off at white";
+    EXPECT_LT(difference(painting, painting.brightened(1.35, 15)), usualLimit) << "with much cut off at white";
     EXPECT_LT(difference(painting, painting.brightened(0.7, 0)), usualLimit);
 }
 
