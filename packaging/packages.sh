@@ -12,10 +12,13 @@ packages_build=(
   libexpat1-dev
   libglib2.0-dev
   ninja-build
+  nlohmann-json3-dev
   qt6-base-dev
   qt6-base-dev-tools
   libqt6opengl6-dev
   libsystemd-dev
+  libvips-dev
+  libxxhash-dev
   pkg-config
   python3
   qt6-svg-dev
@@ -46,7 +49,9 @@ packages_packaging_check=(
 packages_panel=(
   breeze-icon-theme
   fonts-inter
+  libimage-exiftool-perl
   libqt6svg6
+  libvips42
   qt6-wayland
   xdg-utils
 )
@@ -103,8 +108,14 @@ packages_fuzz=(
 )
 
 packages_bench=(
+  fdupes
+  findimagedupes
+  jdupes
   libbenchmark-dev
+  libvips-tools
   libxcb1-dev
+  rdfind
+  rmlint
 )
 
 is_installed() {

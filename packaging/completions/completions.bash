@@ -23,10 +23,10 @@ _orvik_help() {
   "$1" --help 2>/dev/null | sed -n "s/^$2.*/\1/p"
 }
 
-# Those that can be done here are programs of their own.
+# Those that can be done here are programs of their own, which may have workers, and files that say what they need.
 _orvik_actions() {
   local command
-  command=$(readlink -f "$(type -P "$1")") && ls "${command%/*}/@to_actions@" 2>/dev/null
+  command=$(readlink -f "$(type -P "$1")") && ls "${command%/*}/@to_actions@" 2>/dev/null | grep -v -e '-worker$' -e '[.]'
 }
 
 _orvik_domains() {

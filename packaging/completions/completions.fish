@@ -16,11 +16,11 @@ function __orvik_help
     __orvik_run --help | sed -n "s/^$argv[1].*/\1/p"
 end
 
-# Those that can be done here are programs of their own.
+# Those that can be done here are programs of their own, which may have workers, and files that say what they need.
 function __orvik_actions
     set line (commandline --tokenize --current-process --cut-at-cursor)
     set program (realpath (command --search $line[1]))
-    and ls (dirname $program)/@to_actions@ 2>/dev/null
+    and ls (dirname $program)/@to_actions@ 2>/dev/null | string match --invert --regex -- '-worker$|[.]'
 end
 
 # __orvik_after NUMBER COMMAND...: whether that many words are there, the first of them one of the commands.

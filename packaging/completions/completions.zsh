@@ -26,7 +26,10 @@ case ${words[1]:t},$((CURRENT - 1)),$words[2] in
   orvik-notify,2,*) compadd -- @extension@ ;;
   *,1,*) compadd -- ${(f)"$(_orvik_help '  \(--[a-z]*\)')"} ;;
   orvik-menu,2,--tab) compadd -- @tabs@ ;;
-  # Those that can be done here are programs of their own.
-  orvik-menu-extension,2,--run) compadd -- ${program:A:h}/@to_actions@/*(N:t) ;;
+  # Those that can be done here are programs of their own, which may have workers, and files that say what they need.
+  orvik-menu-extension,2,--run)
+    local files=(${program:A:h}/@to_actions@/*(N:t))
+    compadd -- ${files:#*(.*|-worker)}
+    ;;
   orvik-menu-extension,*,--run) _files ;;
 esac

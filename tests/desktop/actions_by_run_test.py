@@ -10,19 +10,11 @@ from gi.repository import Gio, GLib
 from support.case import DesktopTestCase
 from support.deployment import EXTENSION
 from support.extension import INTERFACE, OBJECT, Companion, processes_of
+from support.hostile_names import NAMES
 from support.recorder import install_recorder
 from support.suite import record
 from support.waiting import eventually
 
-NAMES = [
-    b"new\nline",
-    b"it's \"quoted\" `too` \\",
-    b"-rf --",
-    b"$(touch pwned) ${HOME} ;&|*?",
-    b"100%s%n%20#?",
-    b"not \xff utf-8 \xed\xa0\x80",
-    b"x" * 255,
-]
 PNG = b"\x89PNG\r\n\x1a\n"
 
 

@@ -81,6 +81,9 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         break;
     case PE_FrameLineEdit:
     case PE_PanelLineEdit:
+        // One in a spin box has no frame of its own.
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth == 0)
+            break;
         ControlPainting::drawLineEdit(*option, *painter);
         break;
     case PE_Frame:
@@ -166,6 +169,14 @@ void PanelStyle::polish(QWidget* widget)
 void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                     const QWidget* widget) const
 {
+    const auto* spinBox = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+    if (control == CC_SpinBox && spinBox) {
+        ControlPainting::drawLineEdit(*spinBox, *painter);
+        QStyleOptionSpinBox buttons(*spinBox);
+        buttons.subControls &= ~SC_SpinBoxFrame;
+        QProxyStyle::drawComplexControl(control, &buttons, painter, widget);
+        return;
+    }
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control != CC_ScrollBar || !bar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);

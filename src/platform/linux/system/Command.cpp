@@ -15,6 +15,7 @@
 extern "C" {
 #include <sys/pidfd.h>
 }
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -51,6 +52,8 @@ public:
         else
             posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_adddup2(&m_actions, surroundings.output, STDOUT_FILENO);
+        if (surroundings.complaints >= 0)
+            posix_spawn_file_actions_adddup2(&m_actions, surroundings.complaints, STDERR_FILENO);
         posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1);
 
         posix_spawnattr_init(&m_attributes);
@@ -114,6 +117,18 @@ std::optional<int> Process::wait(const FileDescriptor& interruption)
     while (::poll(sources.data(), sources.size(), -1) < 0 && errno == EINTR) {
     }
     return exitStatus();
+}
+
+void Process::limit(int resource, std::size_t most) const
+{
+    const rlimit limits{most, most};
+    ::prlimit(m_id, static_cast<__rlimit_resource>(resource), &limits, nullptr);
+}
+
+void Process::kill()
+{
+    if (m_ended && ::pidfd_send_signal(m_ended.get(), SIGKILL, nullptr, 0) == 0)
+        ::waitpid(m_id, nullptr, 0);
 }
 
 std::vector<std::string> environment()

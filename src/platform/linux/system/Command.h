@@ -2,6 +2,7 @@
 
 #include "platform/linux/system/FileDescriptor.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,11 @@ public:
     /// Waits until the program ends, or until there is something to read from `interruption`, then as exitStatus().
     std::optional<int> wait(const FileDescriptor& interruption);
 
+    /// Sets the most that it may have of a resource, one of the RLIMIT constants, from now on.
+    void limit(int resource, std::size_t most) const;
+    /// Ends a child at once, and clears it away.
+    void kill();
+
 private:
     pid_t m_id;
     FileDescriptor m_ended;
@@ -47,6 +53,8 @@ struct Surroundings {
     int input = -1;
     /// Its standard output. This process's own is for its own texts.
     int output = STDERR_FILENO;
+    /// Its standard error; this process's own where none is given.
+    int complaints = -1;
 };
 
 /// Starts the program at a path in a session of its own, with no open files but the standard ones. `arguments` begin

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QTreeView>
+
+namespace MenuExtension::Duplicates {
+
+/// A list of items with several columns, in which the space bar operates the box of the current item. Main thread.
+class ItemView : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit ItemView(QWidget* parent = nullptr);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace MenuExtension::Duplicates

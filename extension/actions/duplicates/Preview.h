@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+#include <string>
+
+namespace MenuExtension::Duplicates {
+
+/// What is in a file, in short.
+struct Preview {
+    /// Null where there is none.
+    QImage picture;
+    /// The beginning of a text; empty for what is none.
+    QString text;
+};
+
+/// The preview of an ordinary file, with a picture that fits into `pixels`. Neither very large pictures nor anything
+/// that would have to be waited for is opened. Any thread.
+[[nodiscard]] Preview readPreview(const std::string& path, QSize pixels);
+
+} // namespace MenuExtension::Duplicates

@@ -1,0 +1,174 @@
+#include "extension/actions/duplicates/Removal.h"
+
+#include "extension/protocol/Words.h"
+#include "platform/linux/system/FileDescriptor.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <memory>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace MenuExtension::Duplicates {
+
+using LinuxDesktop::FileDescriptor;
+
+namespace {
+
+constexpr std::size_t blockSize = std::size_t{256} << 10U;
+
+/// As many bytes as there are, up to a whole block; negative, with errno, where they cannot be read.
+ssize_t readBlock(int descriptor, char* block, off_t offset)
+{
+    std::size_t filled = 0;
+    while (filled < blockSize) {
+        const ssize_t count =
+            ::pread(descriptor, block + filled, blockSize - filled, offset + static_cast<off_t>(filled));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return -1;
+        if (count == 0)
+            break;
+        filled += static_cast<std::size_t>(count);
+    }
+    return static_cast<ssize_t>(filled);
+}
+
+std::string cannotBeRead(int error)
+{
+    return "cannot be read: " + Words::reason(error);
+}
+
+/// The file that was found, open for reading and unchanged; else why not.
+FileDescriptor openUnchanged(const Item& item, std::string& why)
+{
+    // What is a pipe by now would keep whoever opens it.
+    FileDescriptor file(::open(item.path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    struct stat status = {};
+    if (!file || ::fstat(file.get(), &status) != 0)
+        why = errno == ENOENT ? "is not there any more" : cannotBeRead(errno);
+    else if (!S_ISREG(status.st_mode) || FileState::of(status) != item.state)
+        why = "has changed since it was found";
+    else
+        return file;
+    return {};
+}
+
+/// Whether the path leads to the file still, whatever the file holds by now.
+bool isAt(const std::string& path, const FileState& state)
+{
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0 && FileState::of(status) == state;
+}
+
+/// Locks a file as long as it is open; false where another program's lock does not allow it. Where the file system
+/// has no locks nobody has one.
+bool lock(const FileDescriptor& file, int operation)
+{
+    return ::flock(file.get(), operation | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+/// The items of a group of which some are chosen.
+class GroupRemoval {
+public:
+    GroupRemoval(const Groups& groups, GroupNumber group, const RemovalMeans& means, const std::stop_token& stop)
+        : m_groups(groups), m_means(means), m_stop(stop)
+    {
+        for (const ItemNumber number : groups.itemsOf(group)) {
+            if (!groups.isChosen(number))
+                m_staying.push_back(number);
+        }
+    }
+
+    /// Why an item stays; nothing where it has gone.
+    std::optional<std::string> remove(ItemNumber number)
+    {
+        const Item going = m_groups.item(number);
+        std::string why;
+        const FileDescriptor file = openUnchanged(going, why);
+        if (!file)
+            return why;
+        // Two such windows may each be about to remove what the other one keeps.
+        if (!lock(file, LOCK_EX))
+            return "is in use by another program";
+        why = "is the last copy that is left";
+        for (const ItemNumber other : m_staying) {
+            const Item staying = m_groups.item(other);
+            std::string ignored;
+            // One file under two names is one copy.
+            const FileDescriptor otherFile =
+                staying.state.isSameFile(going.state) ? FileDescriptor() : openUnchanged(staying, ignored);
+            if (!otherFile)
+                continue;
+            if (!lock(otherFile, LOCK_SH)) {
+                why = "has a copy that another program is using";
+                continue;
+            }
+            const auto objection = m_means.check({going, file.get()}, {staying, otherFile.get()}, m_stop);
+            if (m_stop.stop_requested())
+                return "was not reached";
+            if (objection)
+                why = *objection;
+            // Comparing may have taken long.
+            else if (isAt(staying.path, staying.state) && isAt(going.path, going.state))
+                return m_means.trash(going.path);
+        }
+        return why;
+    }
+
+private:
+    const Groups& m_groups;
+    const RemovalMeans& m_means;
+    const std::stop_token& m_stop;
+    std::vector<ItemNumber> m_staying;
+};
+
+} // namespace
+
+std::optional<std::string> haveEqualBytes(const OpenedItem& going, const OpenedItem& staying,
+                                          const std::stop_token& stop)
+{
+    const auto block = std::make_unique<std::array<char, blockSize>>();
+    const auto otherBlock = std::make_unique<std::array<char, blockSize>>();
+    for (off_t offset = 0; !stop.stop_requested(); offset += static_cast<off_t>(blockSize)) {
+        const ssize_t count = readBlock(going.descriptor, block->data(), offset);
+        if (count < 0)
+            return cannotBeRead(errno);
+        const ssize_t otherCount = readBlock(staying.descriptor, otherBlock->data(), offset);
+        if (otherCount < 0)
+            return "cannot be compared with its copy: " + Words::reason(errno);
+        if (count != otherCount ||
+            std::memcmp(block->data(), otherBlock->data(), static_cast<std::size_t>(count)) != 0)
+            return "is not the same as its copy";
+        if (count == 0)
+            return std::nullopt;
+    }
+    return "was not compared to its end";
+}
+
+void removeChosen(const Groups& groups, const RemovalMeans& means, const std::function<void(ItemNumber)>& removed,
+                  const std::function<void(ItemNumber, const std::string& why)>& kept, const std::stop_token& stop)
+{
+    for (const GroupNumber group : groups.bySaving()) {
+        std::optional<GroupRemoval> removal;
+        for (const ItemNumber number : groups.itemsOf(group)) {
+            if (stop.stop_requested())
+                return;
+            if (!groups.isChosen(number))
+                continue;
+            if (!removal)
+                removal.emplace(groups, group, means, stop);
+            const auto why = removal->remove(number);
+            if (!why)
+                removed(number);
+            else if (!stop.stop_requested())
+                kept(number, *why);
+        }
+    }
+}
+
+} // namespace MenuExtension::Duplicates

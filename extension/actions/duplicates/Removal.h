@@ -1,0 +1,43 @@
+#pragma once
+
+#include "extension/actions/duplicates/Groups.h"
+
+#include <functional>
+#include <optional>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+namespace MenuExtension::Duplicates {
+
+/// A file that is open for reading, and is still the one that was found.
+struct OpenedItem {
+    const Item& item;
+    int descriptor;
+};
+
+/// What a removal needs to know and do. All are called from the thread that removes.
+struct RemovalMeans {
+    /// Whether an item may go because of another that stays. Nothing where it may; else why not: the end of a
+    /// sentence that begins with the first one's name, without a full stop. Both files have been looked at already:
+    /// they are two, and have not changed since they were found.
+    std::function<std::optional<std::string>(const OpenedItem& going, const OpenedItem& staying,
+                                             const std::stop_token& stop)>
+        check;
+    /// Moves an item to the trash, or says why it could not, as above.
+    std::function<std::optional<std::string>(const std::string& path)> trash;
+};
+
+/// Finds equal bytes in both, now. What `check` is for files.
+[[nodiscard]] std::optional<std::string> haveEqualBytes(const OpenedItem& going, const OpenedItem& staying,
+                                                        const std::stop_token& stop);
+
+/// Moves the chosen items to the trash, and never the last copy: each goes only while an item of its group that is
+/// not chosen is there, unchanged, and `check` has agreed to the two. Several processes may do this at once: both
+/// files are locked meanwhile (flock). Nobody may change `groups` while it goes on. `removed` hears of each that has
+/// gone, `kept` of each that stays and why; both from this thread. Ends within 100 ms of a request to stop, but for
+/// the one item that is on its way to the trash.
+void removeChosen(const Groups& groups, const RemovalMeans& means, const std::function<void(ItemNumber)>& removed,
+                  const std::function<void(ItemNumber, const std::string& why)>& kept, const std::stop_token& stop);
+
+} // namespace MenuExtension::Duplicates

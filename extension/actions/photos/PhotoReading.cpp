@@ -1,0 +1,113 @@
+#include "extension/actions/photos/PhotoReading.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace MenuExtension::Photos {
+
+namespace {
+
+/// The classes of the library that read the formats which photos come in.
+constexpr std::array readers{
+    "VipsForeignLoadJpeg", "VipsForeignLoadPng",  "VipsForeignLoadWebp",
+    "VipsForeignLoadTiff", "VipsForeignLoadHeif", "VipsForeignLoadNsgif",
+    "VipsForeignLoadJp2k", "VipsForeignLoadJxl",  "VipsForeignLoadPpm",
+};
+
+/// The library names a reader that is blocked too.
+bool isForPhotos(std::string_view reader)
+{
+    return std::ranges::any_of(readers, [reader](const char* name) { return reader.starts_with(name); });
+}
+
+Unreadable otherKind()
+{
+    return {"is no picture of a kind that can be read here"};
+}
+
+Unreadable damaged()
+{
+    return {"cannot be read: it is damaged or ends too early"};
+}
+
+/// What a step makes of an image; nothing where it fails.
+template<class Step>
+Image after(const Image& image, Step step)
+{
+    VipsImage* result = nullptr;
+    return image && step(image.get(), &result) == 0 ? Image(result) : nullptr;
+}
+
+} // namespace
+
+void prepareReading()
+{
+    g_log_set_default_handler([](const char*, GLogLevelFlags, const char*, void*) {}, nullptr);
+    if (vips_init("orvik-menu") != 0)
+        return;
+    // Workers are what runs side by side.
+    vips_concurrency_set(1);
+    vips_cache_set_max(0);
+    vips_operation_block_set("VipsForeignLoad", TRUE);
+    for (const char* reader : readers)
+        vips_operation_block_set(reader, FALSE);
+}
+
+std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
+{
+    OpenedPhoto photo;
+    photo.source.reset(vips_source_new_from_descriptor(file));
+    const char* const reader = photo.source ? vips_foreign_find_load_source(photo.source.get()) : nullptr;
+    if (!reader || !isForPhotos(reader)) {
+        vips_error_clear();
+        return otherKind();
+    }
+    photo.header.reset(vips_image_new_from_source(photo.source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr));
+    if (!photo.header) {
+        vips_error_clear();
+        return damaged();
+    }
+    photo.width = vips_image_get_width(photo.header.get());
+    photo.height = vips_image_get_page_height(photo.header.get());
+    if (static_cast<double>(photo.width) * photo.height > mostPixels)
+        return Unreadable{"is too large: it has " + std::to_string(photo.width) + " × " +
+                          std::to_string(photo.height) + " pixels"};
+    if (vips_image_get_orientation_swap(photo.header.get()))
+        std::swap(photo.width, photo.height);
+    return photo;
+}
+
+std::variant<Image, Unreadable> readSmall(const OpenedPhoto& photo, int longest)
+{
+    VipsImage* read = nullptr;
+    vips_thumbnail_source(photo.source.get(), &read, longest, "height", longest, "size", VIPS_SIZE_DOWN,
+                          "option_string", "fail_on=truncated", nullptr);
+    Image image(read);
+    image = after(image, [](VipsImage* in, VipsImage** out) {
+        return vips_colourspace(in, out, VIPS_INTERPRETATION_sRGB, nullptr);
+    });
+    if (image && vips_image_hasalpha(image.get()) != 0) {
+        image = after(image, [](VipsImage* in, VipsImage** out) {
+            const std::array white{255.0, 255.0, 255.0};
+            VipsArrayDouble* const background = vips_array_double_new(white.data(), static_cast<int>(white.size()));
+            const int failed = vips_flatten(in, out, "background", background, nullptr);
+            vips_area_unref(VIPS_AREA(background));
+            return failed;
+        });
+    }
+    image = after(image, [](VipsImage* in, VipsImage** out) { return vips_cast_uchar(in, out, nullptr); });
+    image =
+        after(image, [](VipsImage* in, VipsImage** out) { return vips_extract_band(in, out, 0, "n", 3, nullptr); });
+    // Only now is the file read.
+    if (image)
+        image.reset(vips_image_copy_memory(image.get()));
+    if (!image) {
+        vips_error_clear();
+        return damaged();
+    }
+    return image;
+}
+
+} // namespace MenuExtension::Photos

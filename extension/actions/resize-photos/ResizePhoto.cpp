@@ -1,0 +1,234 @@
+#include "ResizePhoto.h"
+
+#include "ResizedName.h"
+#include "extension/actions/files/Trash.h"
+#include "extension/actions/placing/Attributes.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <mutex>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace MenuExtension::Resizing {
+
+using LinuxDesktop::FileDescriptor;
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Some formats take long to write.
+constexpr Photos::Limits limits{.memory = std::uint64_t{3} << 30U, .processor = 300s, .patience = 600s};
+
+Outcome cannotBeSaved()
+{
+    return {.kind = Outcome::Kind::CannotBeSaved, .error = errno};
+}
+
+/// A file in a folder that has no name yet, or one that goes with it.
+class Unnamed {
+public:
+    explicit Unnamed(const FileDescriptor& folder) : m_folder(folder)
+    {
+        m_file = FileDescriptor(::openat(folder.get(), ".", O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
+        if (m_file || (errno != EOPNOTSUPP && errno != EISDIR && errno != ENOENT))
+            return;
+        std::uint64_t number = 0;
+        static_cast<void>(::getrandom(&number, sizeof(number), 0));
+        m_name = ".orvik-resize-" + std::to_string(number);
+        m_file = FileDescriptor(
+            ::openat(folder.get(), m_name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+        if (!m_file)
+            m_name.clear();
+    }
+    ~Unnamed()
+    {
+        if (!m_name.empty())
+            ::unlinkat(m_folder.get(), m_name.c_str(), 0);
+    }
+    Unnamed(const Unnamed&) = delete;
+    Unnamed& operator=(const Unnamed&) = delete;
+
+    [[nodiscard]] const FileDescriptor& file() const { return m_file; }
+
+    /// Gives it a name that nothing has. False, with errno, which is EEXIST where something has it.
+    bool take(const std::string& name)
+    {
+        if (m_name.empty()) {
+            const std::string itself = "/proc/self/fd/" + std::to_string(m_file.get());
+            return ::linkat(AT_FDCWD, itself.c_str(), m_folder.get(), name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+        }
+        if (::renameat2(m_folder.get(), m_name.c_str(), m_folder.get(), name.c_str(), RENAME_NOREPLACE) != 0)
+            return false;
+        m_name.clear();
+        return true;
+    }
+
+private:
+    const FileDescriptor& m_folder;
+    FileDescriptor m_file;
+    std::string m_name;
+};
+
+Outcome outcomeOf(Photos::Fault fault)
+{
+    switch (fault) {
+    case Photos::Fault::NotStarted:
+        return {.kind = Outcome::Kind::WorkerIsMissing};
+    case Photos::Fault::TookTooLong:
+        return {.kind = Outcome::Kind::TakesTooLong};
+    case Photos::Fault::Died:
+        return {.kind = Outcome::Kind::TakesTooMuch};
+    case Photos::Fault::Stopped:
+        return {.kind = Outcome::Kind::Cancelled};
+    }
+    return {};
+}
+
+/// The path of an open folder, at this moment.
+std::string pathOf(const FileDescriptor& folder)
+{
+    std::error_code failed;
+    return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(folder.get()), failed);
+}
+
+/// Gives the new file the first name of the pattern that is free.
+Outcome nameByPattern(Unnamed& made, const OpenedFile& photo, const Target& target, Outcome outcome)
+{
+    constexpr unsigned tries = 10'000;
+    for (unsigned number = 1; number < tries; ++number) {
+        outcome.name = resizedName(target.pattern, photo.name, outcome.after, number);
+        if (made.take(outcome.name))
+            return outcome;
+        if (errno != EEXIST)
+            break;
+    }
+    return cannotBeSaved();
+}
+
+Outcome takePlaceOf(Unnamed& made, const OpenedFile& photo, Outcome outcome)
+{
+    if (!photo.isUnchanged())
+        return {.kind = Outcome::Kind::Changed};
+    if (auto words = moveToTrash(pathOf(photo.folder) + '/' + photo.name))
+        return {.kind = Outcome::Kind::CannotBeTrashed, .words = *std::move(words)};
+    outcome.name = photo.name;
+    return made.take(photo.name) ? outcome : Outcome{.kind = Outcome::Kind::OnlyInTrash, .error = errno};
+}
+
+} // namespace
+
+PhotoResizer::PhotoResizer(std::string worker) : m_worker(std::move(worker), limits) {}
+
+Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Target& target,
+                             const std::stop_token& stop)
+{
+    FileDescriptor elsewhere;
+    if (target.kind == Target::Kind::Folder) {
+        elsewhere = FileDescriptor(::open(target.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        if (!elsewhere)
+            return cannotBeSaved();
+    }
+    const FileDescriptor& folder = elsewhere ? elsewhere : photo.folder;
+    Unnamed made(folder);
+    if (!made.file())
+        return cannotBeSaved();
+    const std::array files{photo.file.get(), made.file().get()};
+    const Photos::Answer answer = m_worker.ask(textOf(Job{.goal = goal}), files, stop);
+    if (answer.fault)
+        return outcomeOf(*answer.fault);
+    const Result result = resultFrom(answer.bytes);
+    if (const auto* refused = std::get_if<Refused>(&result))
+        return {.kind = Outcome::Kind::Refused, .words = refused->why};
+    const auto& resized = std::get<Resized>(result);
+    Outcome outcome{.before = resized.before, .after = resized.after};
+    if (resized.before == resized.after) {
+        outcome.kind = Outcome::Kind::SmallAlready;
+        return outcome;
+    }
+    struct stat status = {};
+    struct stat written = {};
+    // What is on the disk is what the worker has made.
+    if (::fstat(photo.file.get(), &status) != 0 || ::fstat(made.file().get(), &written) != 0 ||
+        static_cast<std::uint64_t>(written.st_size) != resized.after.bytes ||
+        !copyAttributes(photo.file.get(), made.file().get(), status) || ::fsync(made.file().get()) != 0)
+        return cannotBeSaved();
+    if (stop.stop_requested())
+        return {.kind = Outcome::Kind::Cancelled};
+    outcome = target.kind == Target::Kind::InPlace ? takePlaceOf(made, photo, std::move(outcome))
+                                                   : nameByPattern(made, photo, target, std::move(outcome));
+    if (outcome.kind == Outcome::Kind::Done && !syncFolder(folder))
+        return cannotBeSaved();
+    return outcome;
+}
+
+std::optional<Result> PhotoResizer::preview(const OpenedFile& photo, const Goal& goal, std::uint32_t pixels,
+                                            const std::stop_token& stop)
+{
+    const std::array files{photo.file.get()};
+    const Photos::Answer answer = m_worker.ask(textOf(Job{goal, pixels}), files, stop);
+    return answer.fault ? std::nullopt : std::optional(resultFrom(answer.bytes));
+}
+
+std::uint64_t fairShare(std::vector<std::uint64_t> sizes, std::uint64_t total)
+{
+    std::ranges::sort(sizes);
+    std::uint64_t left = total;
+    for (std::size_t index = 0; index < sizes.size(); ++index) {
+        const std::uint64_t share = left / (sizes.size() - index);
+        if (sizes[index] > share)
+            return std::max<std::uint64_t>(share, 1);
+        left -= sizes[index];
+    }
+    return std::max<std::uint64_t>(total, 1);
+}
+
+Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, std::uint64_t bytes)
+{
+    std::vector<std::uint64_t> sizes;
+    for (const std::string& path : paths) {
+        const auto photo = openWithFolder(request, path);
+        struct stat status = {};
+        if (photo && ::fstat(photo->file.get(), &status) == 0)
+            sizes.push_back(static_cast<std::uint64_t>(status.st_size));
+    }
+    return {Goal::Kind::Bytes, fairShare(std::move(sizes), bytes)};
+}
+
+void resizePhotos(const Request& request, const std::vector<std::string>& paths, const Goal& goal,
+                  const Target& target, const TakeOutcome& take, const std::stop_token& stop,
+                  const std::string& worker)
+{
+    constexpr unsigned mostThreads = 8;
+    std::atomic<std::size_t> next = 0;
+    std::mutex mutex;
+    const auto work = [&] {
+        PhotoResizer resizer(worker);
+        for (std::size_t index = next++; index < paths.size() && !stop.stop_requested(); index = next++) {
+            const auto photo = openWithFolder(request, paths[index]);
+            Outcome outcome = photo ? resizer.resize(*photo, goal, target, stop)
+                                    : Outcome{.kind = Outcome::Kind::CannotBeOpened, .error = errno};
+            const std::lock_guard lock(mutex);
+            take(index, std::move(outcome));
+        }
+    };
+    const std::size_t threads =
+        std::min<std::size_t>(std::clamp(std::thread::hardware_concurrency(), 1U, mostThreads), paths.size());
+    std::vector<std::jthread> others;
+    for (std::size_t thread = 1; thread < threads; ++thread)
+        others.emplace_back(work);
+    work();
+}
+
+} // namespace MenuExtension::Resizing

@@ -1,0 +1,281 @@
+#include "WriteResized.h"
+
+#include "extension/actions/photos/PhotoReading.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cmath>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+#include <variant>
+
+namespace MenuExtension::Resizing {
+
+namespace {
+
+using Photos::Image;
+
+enum class Format { Jpeg, Png, WebP, Tiff, Heic, Avif };
+
+struct LetGoOfBytes {
+    void operator()(VipsBlob* bytes) const { vips_area_unref(VIPS_AREA(bytes)); }
+};
+
+/// What a picture is as a file.
+class Encoded {
+public:
+    explicit Encoded(VipsBlob* bytes) : m_bytes(bytes) {}
+
+    [[nodiscard]] std::string_view bytes() const
+    {
+        std::size_t size = 0;
+        const void* const begin = vips_blob_get(m_bytes.get(), &size);
+        return {static_cast<const char*>(begin), size};
+    }
+
+private:
+    std::unique_ptr<VipsBlob, LetGoOfBytes> m_bytes;
+};
+
+std::string_view text(VipsImage* image, const char* name)
+{
+    const char* value = nullptr;
+    if (vips_image_get_typeof(image, name) == 0 || vips_image_get_string(image, name, &value) != 0)
+        return {};
+    return value;
+}
+
+/// The format that a photo was read from, where it can be written.
+std::optional<Format> formatOf(VipsImage* header)
+{
+    const std::string_view loader = text(header, "vips-loader");
+    if (loader.starts_with("jpegload"))
+        return Format::Jpeg;
+    if (loader.starts_with("pngload"))
+        return Format::Png;
+    if (loader.starts_with("webpload"))
+        return Format::WebP;
+    if (loader.starts_with("tiffload"))
+        return Format::Tiff;
+    if (!loader.starts_with("heifload"))
+        return std::nullopt;
+    return text(header, "heif-compression") == "av1" ? Format::Avif : Format::Heic;
+}
+
+int writeTo(VipsImage* image, Format format, int quality, VipsTarget* target)
+{
+    switch (format) {
+    case Format::Jpeg:
+        return vips_jpegsave_target(image, target, "Q", quality, nullptr);
+    case Format::Png:
+        return vips_pngsave_target(image, target, nullptr);
+    case Format::WebP:
+        return vips_webpsave_target(image, target, "Q", quality, nullptr);
+    case Format::Tiff:
+        return vips_tiffsave_target(image, target, "compression", VIPS_FOREIGN_TIFF_COMPRESSION_DEFLATE, "predictor",
+                                    VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL, nullptr);
+    // The same number means more there.
+    case Format::Heic:
+        return vips_heifsave_target(image, target, "Q", std::max(quality - 25, 1), "compression",
+                                    VIPS_FOREIGN_HEIF_COMPRESSION_HEVC, nullptr);
+    case Format::Avif:
+        return vips_heifsave_target(image, target, "Q", std::max(quality - 25, 1), "compression",
+                                    VIPS_FOREIGN_HEIF_COMPRESSION_AV1, nullptr);
+    }
+    return -1;
+}
+
+std::optional<Encoded> encoded(VipsImage* image, Format format, int quality)
+{
+    VipsTarget* target = vips_target_new_to_memory();
+    VipsBlob* bytes = nullptr;
+    if (target && writeTo(image, format, quality, target) == 0)
+        g_object_get(target, "blob", &bytes, nullptr);
+    VIPS_UNREF(target);
+    return bytes ? std::optional(Encoded(bytes)) : std::nullopt;
+}
+
+bool writeAll(int file, const Encoded& picture)
+{
+    std::string_view rest = picture.bytes();
+    while (!rest.empty()) {
+        const ssize_t count = ::write(file, rest.data(), rest.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        rest.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+/// Photos of more than eight bits a band lose nothing of them.
+bool hasDeepBands(VipsImage* header)
+{
+    return vips_image_get_format(header) != VIPS_FORMAT_UCHAR;
+}
+
+/// The stored picture in that size, in memory. As it is stored: it is turned when it is shown.
+Image scaled(const Photos::OpenedPhoto& photo, std::uint32_t width, std::uint32_t height)
+{
+    VipsImage* made = nullptr;
+    if (!hasDeepBands(photo.header.get())) {
+        vips_thumbnail_source(photo.source.get(), &made, static_cast<int>(width), "height", static_cast<int>(height),
+                              "size", VIPS_SIZE_FORCE, "no_rotate", TRUE, "option_string", "fail_on=truncated",
+                              nullptr);
+    } else {
+        VipsImage* in = photo.header.get();
+        VipsImage* premultiplied = nullptr;
+        VipsImage* resized = nullptr;
+        VipsImage* flat = nullptr;
+        const VipsBandFormat format = vips_image_get_format(in);
+        const bool hasAlpha = vips_image_hasalpha(in) != 0;
+        if (hasAlpha && vips_premultiply(in, &premultiplied, nullptr) == 0)
+            in = premultiplied;
+        if (vips_resize(in, &resized, static_cast<double>(width) / vips_image_get_width(in), "vscale",
+                        static_cast<double>(height) / vips_image_get_height(in), nullptr) == 0 &&
+            hasAlpha && premultiplied)
+            vips_unpremultiply(resized, &flat, nullptr);
+        if (VipsImage* const last = flat ? flat : resized)
+            vips_cast(last, &made, format, nullptr);
+        VIPS_UNREF(premultiplied);
+        VIPS_UNREF(resized);
+        VIPS_UNREF(flat);
+    }
+    const Image lazy(made);
+    return Image(lazy ? vips_image_copy_memory(lazy.get()) : nullptr);
+}
+
+Refused damaged()
+{
+    vips_error_clear();
+    return {"cannot be resized: it is damaged or ends too early"};
+}
+
+Refused notWritten()
+{
+    vips_error_clear();
+    return {"cannot be resized: its format cannot be written here"};
+}
+
+struct Made {
+    Encoded file;
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+};
+
+/// Smaller and smaller until it is small enough.
+std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format, const Goal& goal,
+                                 const Size& stored)
+{
+    constexpr int tries = 8;
+    constexpr int worstQuality = 60;
+    // A little less is asked for, so that the next try is mostly the last.
+    constexpr double care = 0.95;
+    Size size = sizeFor(goal, stored);
+    int quality = goal.quality;
+    for (int count = 0; count < tries; ++count) {
+        const Image picture = scaled(photo, size.width, size.height);
+        if (!picture)
+            return damaged();
+        auto file = encoded(picture.get(), format, quality);
+        if (!file)
+            return notWritten();
+        if (goal.kind != Goal::Kind::Bytes || file->bytes().size() <= goal.value)
+            return Made{*std::move(file), size.width, size.height};
+        quality = std::min(quality, std::max(worstQuality, quality - 10));
+        const double share =
+            std::sqrt(static_cast<double>(goal.value) / static_cast<double>(file->bytes().size())) * care;
+        const auto smaller = [share](std::uint32_t length) {
+            return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(length * std::min(share, 0.95)));
+        };
+        size = {smaller(size.width), smaller(size.height), 0};
+    }
+    return Refused{"cannot be made that small"};
+}
+
+Pixels shown(int file, std::uint32_t longest)
+{
+    const auto opened = Photos::openPhoto(file);
+    const auto* photo = std::get_if<Photos::OpenedPhoto>(&opened);
+    if (!photo)
+        return {};
+    const auto read = Photos::readSmall(*photo, static_cast<int>(longest));
+    const auto* image = std::get_if<Image>(&read);
+    if (!image)
+        return {};
+    const auto width = static_cast<std::uint32_t>(vips_image_get_width(image->get()));
+    const auto height = static_cast<std::uint32_t>(vips_image_get_height(image->get()));
+    return {
+        width, height,
+        std::string(static_cast<const char*>(vips_image_get_data(image->get())), std::size_t{width} * height * 3)};
+}
+
+Pixels shown(const Encoded& picture, std::uint32_t longest)
+{
+    const int file = ::memfd_create("shown", MFD_CLOEXEC);
+    Pixels pixels;
+    if (file >= 0 && writeAll(file, picture))
+        pixels = shown(file, longest);
+    if (file >= 0)
+        ::close(file);
+    return pixels;
+}
+
+} // namespace
+
+Result resize(const Job& job, int photo, int target)
+{
+    struct stat status = {};
+    ::fstat(photo, &status);
+    const auto opened = Photos::openPhoto(photo);
+    if (const auto* unreadable = std::get_if<Photos::Unreadable>(&opened))
+        return Refused{unreadable->why};
+    const auto& read = std::get<Photos::OpenedPhoto>(opened);
+    VipsImage* const header = read.header.get();
+    const auto format = formatOf(header);
+    if (!format)
+        return notWritten();
+    if (vips_image_get_n_pages(header) > 1)
+        return Refused{"cannot be resized: it holds several pictures, and only one would be left"};
+
+    const Size stored{static_cast<std::uint32_t>(vips_image_get_width(header)),
+                      static_cast<std::uint32_t>(vips_image_get_height(header)),
+                      static_cast<std::uint64_t>(status.st_size)};
+    Resized result;
+    // As it is shown.
+    const bool isTurned = vips_image_get_orientation_swap(header) != 0;
+    const auto asShown = [isTurned](std::uint32_t width, std::uint32_t height, std::uint64_t bytes) {
+        return isTurned ? Size{height, width, bytes} : Size{width, height, bytes};
+    };
+    result.before = asShown(stored.width, stored.height, stored.bytes);
+    result.after = result.before;
+    if (job.shownPixels > 0)
+        result.shownBefore = shown(photo, job.shownPixels);
+    const Size wanted = sizeFor(job.goal, stored);
+    const bool isSmallAlready = job.goal.kind == Goal::Kind::Bytes
+                                    ? stored.bytes <= job.goal.value
+                                    : wanted.width >= stored.width && wanted.height >= stored.height;
+    if (isSmallAlready) {
+        result.shownAfter = result.shownBefore;
+        return result;
+    }
+    auto made = make(read, *format, job.goal, stored);
+    if (auto* refusal = std::get_if<Refused>(&made))
+        return std::move(*refusal);
+    const Made& done = std::get<Made>(made);
+    result.after = asShown(done.width, done.height, done.file.bytes().size());
+    if (job.shownPixels > 0)
+        result.shownAfter = shown(done.file, job.shownPixels);
+    else if (!writeAll(target, done.file))
+        return Refused{"cannot be saved: there is no room for it"};
+    return result;
+}
+
+} // namespace MenuExtension::Resizing

@@ -1,0 +1,94 @@
+#include "Batch.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <mutex>
+#include <thread>
+
+namespace MenuExtension::Exif {
+
+namespace {
+
+/// Each has a program of 50 MB.
+constexpr unsigned mostThreads = 4;
+/// What one thread takes at once: little at first, so that there is something to see.
+constexpr std::size_t firstShare = 2;
+constexpr std::size_t laterShare = 24;
+
+/// Calls `work` with a reader of the thread's own and the first and last index of each share.
+void share(std::size_t count, std::size_t mostAtOnce, const std::stop_token& stop,
+           const std::function<void(TagReader&, std::size_t, std::size_t)>& work)
+{
+    std::atomic<std::size_t> next = 0;
+    const auto take = [&] {
+        TagReader reader;
+        std::size_t size = std::min(firstShare, mostAtOnce);
+        for (std::size_t begin = next.fetch_add(size); begin < count && !stop.stop_requested();
+             begin = next.fetch_add(size)) {
+            work(reader, begin, std::min(begin + size, count));
+            size = mostAtOnce;
+        }
+    };
+    const unsigned cores = std::clamp(std::thread::hardware_concurrency(), 1U, mostThreads);
+    const std::size_t threads = std::min<std::size_t>(cores, (count + firstShare - 1) / firstShare);
+    std::vector<std::jthread> others;
+    for (std::size_t thread = 1; thread < threads; ++thread)
+        others.emplace_back(take);
+    take();
+}
+
+Trouble cannotBeOpened()
+{
+    return {.kind = Trouble::Kind::CannotBeOpened, .error = errno};
+}
+
+} // namespace
+
+void readPhotos(const Request& request, const std::vector<std::string>& paths, const TakeReading& take,
+                const std::stop_token& stop)
+{
+    std::mutex mutex;
+    const auto report = [&](std::size_t index, Reading reading) {
+        const std::lock_guard lock(mutex);
+        take(index, std::move(reading));
+    };
+    share(paths.size(), laterShare, stop, [&](TagReader& exifTool, std::size_t begin, std::size_t end) {
+        std::vector<OpenedFile> photos;
+        std::vector<int> files;
+        std::vector<std::string> names;
+        std::vector<std::size_t> indices;
+        for (std::size_t index = begin; index < end; ++index) {
+            auto photo = openWithFolder(request, paths[index]);
+            if (!photo) {
+                report(index, {.trouble = cannotBeOpened()});
+                continue;
+            }
+            files.push_back(photo->file.get());
+            names.push_back(photo->name);
+            indices.push_back(index);
+            photos.push_back(*std::move(photo));
+        }
+        if (files.empty())
+            return;
+        auto readings = exifTool.read(files, names, stop);
+        for (std::size_t place = 0; place < readings.size(); ++place) {
+            if (readings[place].trouble.kind != Trouble::Kind::Cancelled)
+                report(indices[place], std::move(readings[place]));
+        }
+    });
+}
+
+void savePhotos(const Request& request, const std::vector<std::string>& paths, const Edits& edits,
+                const SaveOptions& options, const TakeTrouble& take, const std::stop_token& stop)
+{
+    std::mutex mutex;
+    share(paths.size(), 1, stop, [&](TagReader& exifTool, std::size_t index, std::size_t) {
+        const auto photo = openWithFolder(request, paths[index]);
+        Trouble trouble = photo ? savePhoto(exifTool, *photo, edits, options, stop) : cannotBeOpened();
+        const std::lock_guard lock(mutex);
+        take(index, std::move(trouble));
+    });
+}
+
+} // namespace MenuExtension::Exif

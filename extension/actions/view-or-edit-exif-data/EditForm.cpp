@@ -1,0 +1,272 @@
+#include "EditForm.h"
+
+#include "TagView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTextDocument>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace MenuExtension::Exif {
+
+namespace {
+
+/// In the order of the Exif standard's numbers, from 1.
+constexpr std::array orientationNames{
+    QT_TRANSLATE_NOOP("EditForm", "As it is stored"),
+    QT_TRANSLATE_NOOP("EditForm", "Mirrored"),
+    QT_TRANSLATE_NOOP("EditForm", "Upside down"),
+    QT_TRANSLATE_NOOP("EditForm", "Upside down and mirrored"),
+    QT_TRANSLATE_NOOP("EditForm", "Turned left and mirrored"),
+    QT_TRANSLATE_NOOP("EditForm", "Turned right"),
+    QT_TRANSLATE_NOOP("EditForm", "Turned right and mirrored"),
+    QT_TRANSLATE_NOOP("EditForm", "Turned left"),
+};
+
+/// Dates as people write them here.
+QString shownDate(const std::string& text)
+{
+    const auto time = photoTime(text);
+    if (!time)
+        return QString::fromStdString(text);
+    QString shown = QString::fromStdString(textOf(*time));
+    shown[4] = u'-';
+    shown[7] = u'-';
+    return shown;
+}
+
+QHBoxLayout* makeRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    return row;
+}
+
+} // namespace
+
+EditForm::EditForm(QWidget* parent)
+    : QWidget(parent), m_description(new QPlainTextEdit), m_orientation(new QComboBox), m_place(new QLineEdit),
+      m_keepsOriginal(new QCheckBox(tr("Keep the original file beside it, with “_original” after its name"))),
+      m_keepsTime(new QCheckBox(tr("Keep the file's date of change"))), m_refusal(new QLabel(this)),
+      m_remove(new QPushButton(tr("Remove Location and Personal Data…"), this)),
+      m_save(new QPushButton(tr("Save"), this)), m_fields(new QWidget)
+{
+    auto* const form = new QFormLayout(m_fields);
+    form->setContentsMargins(12, 12, 12, 12);
+    form->setSpacing(10);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    addLine(*form, Field::Title, tr("Title"));
+    m_description->setTabChangesFocus(true);
+    m_description->setAccessibleName(tr("Description"));
+    m_description->viewport()->setAccessibleName(tr("Description"));
+    m_description->setFixedHeight(4 * fontMetrics().lineSpacing());
+    form->addRow(tr("Description"), m_description);
+    addLine(*form, Field::Author, tr("Author"));
+    addLine(*form, Field::Copyright, tr("Copyright"));
+    addLine(*form, Field::Date, tr("Date taken"));
+    addShift(*form);
+    addOrientation(*form);
+    addPlace(*form);
+    form->addRow(QString(), m_keepsOriginal);
+    form->addRow(QString(), m_keepsTime);
+
+    auto* const area = new QScrollArea(this);
+    area->setWidget(m_fields);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    // The page's own shows.
+    area->viewport()->setAutoFillBackground(false);
+    m_fields->setAutoFillBackground(false);
+    m_refusal->setWordWrap(true);
+    m_refusal->setTextFormat(Qt::PlainText);
+    m_refusal->hide();
+
+    QHBoxLayout* const buttons = makeRow();
+    buttons->addWidget(m_remove);
+    buttons->addStretch(1);
+    buttons->addWidget(m_save);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 0, 12, 12);
+    layout->setSpacing(10);
+    layout->addWidget(area, 1);
+    layout->addWidget(m_refusal);
+    layout->addLayout(buttons);
+    setTabOrder(m_remove, m_save);
+
+    connect(m_save, &QPushButton::clicked, this, &EditForm::save);
+    connect(m_remove, &QPushButton::clicked, this, &EditForm::removalAsked);
+}
+
+void EditForm::addLine(QFormLayout& form, Field field, const QString& name)
+{
+    auto* const line = new QLineEdit;
+    line->setAccessibleName(name);
+    m_lines[field] = line;
+    form.addRow(name, line);
+    connect(line, &QLineEdit::returnPressed, this, &EditForm::save);
+}
+
+void EditForm::addShift(QFormLayout& form)
+{
+    using namespace std::chrono_literals;
+    struct Unit {
+        QString name;
+        QString suffix;
+        std::chrono::seconds length;
+    };
+    const std::array units{Unit{tr("Move date by days"), tr(" d"), 24h}, Unit{tr("Move date by hours"), tr(" h"), 1h},
+                           Unit{tr("Move date by minutes"), tr(" min"), 1min},
+                           Unit{tr("Move date by seconds"), tr(" s"), 1s}};
+    QHBoxLayout* const row = makeRow();
+    for (const Unit& unit : units) {
+        auto* const box = new QSpinBox;
+        box->setRange(-99999, 99999);
+        box->setSuffix(unit.suffix);
+        box->setAccessibleName(unit.name);
+        m_shift.emplace_back(box, unit.length);
+        row->addWidget(box, 1);
+    }
+    form.addRow(tr("Move date by"), row);
+}
+
+void EditForm::addOrientation(QFormLayout& form)
+{
+    m_orientation->setAccessibleName(tr("Orientation"));
+    m_orientation->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    form.addRow(tr("Orientation"), m_orientation);
+}
+
+void EditForm::addPlace(QFormLayout& form)
+{
+    m_place->setAccessibleName(tr("Place"));
+    auto* const remove = new QPushButton(tr("Remove Place"));
+    QHBoxLayout* const row = makeRow();
+    row->addWidget(m_place, 1);
+    row->addWidget(remove);
+    form.addRow(tr("Place"), row);
+    connect(m_place, &QLineEdit::returnPressed, this, &EditForm::save);
+    connect(remove, &QPushButton::clicked, this, [this] {
+        m_place->clear();
+        m_place->setPlaceholderText(tr("Is removed when it is saved"));
+        m_place->setModified(true);
+    });
+}
+
+void EditForm::showFields(const Merged& merged)
+{
+    const QString different = tr("Different values");
+    for (const auto& [field, line] : m_lines) {
+        const Merged::Value& value = merged.field(field);
+        const bool differs = merged.differs(value);
+        const QString text = field == Field::Date ? shownDate(value.text) : QString::fromStdString(value.text);
+        line->setText(differs ? QString() : text);
+        line->setPlaceholderText(differs ? different : field == Field::Date ? tr("2026-12-31 23:59:59") : QString());
+        line->setModified(false);
+    }
+    const Merged::Value& description = merged.field(Field::Description);
+    m_description->setPlainText(merged.differs(description) ? QString() : QString::fromStdString(description.text));
+    m_description->setPlaceholderText(merged.differs(description) ? different : QString());
+    m_description->document()->setModified(false);
+    for (const auto& [box, length] : m_shift)
+        box->setValue(0);
+
+    const Merged::Value& orientation = merged.field(Field::Orientation);
+    m_orientation->clear();
+    m_orientation->addItem(merged.differs(orientation) ? different
+                           : orientation.text.empty()  ? tr("None is stored")
+                                                       : tr("Stays as it is"));
+    for (const char* name : orientationNames)
+        m_orientation->addItem(tr(name));
+    const auto number = orientationOf(Tags({{"EXIF", "IFD0", "Orientation", orientation.text}}));
+    m_orientation->setCurrentIndex(merged.differs(orientation) ? 0 : number.value_or(0));
+
+    const Merged::Value& place = merged.field(Field::Place);
+    m_place->setText(merged.differs(place) ? QString() : QString::fromStdString(place.text));
+    m_place->setPlaceholderText(merged.differs(place) ? different : tr("48.858370, 2.294481"));
+    m_place->setModified(false);
+    m_refusal->hide();
+    m_orientation->setProperty("stored", m_orientation->currentIndex());
+}
+
+void EditForm::setBusy(bool busy)
+{
+    m_fields->setEnabled(!busy);
+    m_remove->setEnabled(!busy);
+    m_save->setEnabled(!busy);
+}
+
+SaveOptions EditForm::options() const
+{
+    return {.keepsOriginal = m_keepsOriginal->isChecked(), .keepsTime = m_keepsTime->isChecked()};
+}
+
+void EditForm::refuse(QWidget* typed, const QString& why)
+{
+    m_refusal->setText(why);
+    m_refusal->show();
+    typed->setFocus();
+}
+
+std::optional<Edits> EditForm::edits()
+{
+    Edits edits;
+    for (const auto& [field, line] : m_lines) {
+        if (line->isModified())
+            edits.texts[field] = line->text().trimmed().toStdString();
+    }
+    if (m_description->document()->isModified())
+        edits.texts[Field::Description] = m_description->toPlainText().toStdString();
+    if (const auto date = edits.texts.find(Field::Date); date != edits.texts.end() && !date->second.empty()) {
+        const auto time = photoTime(date->second);
+        if (!time) {
+            refuse(m_lines[Field::Date], tr("The date is to be written as 2026-12-31 23:59:59."));
+            return std::nullopt;
+        }
+        date->second = textOf(*time);
+    }
+    for (const auto& [box, length] : m_shift)
+        edits.shift += box->value() * length;
+    if (edits.shift.count() != 0 && edits.texts.contains(Field::Date)) {
+        refuse(m_shift.front().first, tr("Write a new date or move the one that is there, not both."));
+        return std::nullopt;
+    }
+    const int orientation = m_orientation->currentIndex();
+    if (orientation > 0 && orientation != m_orientation->property("stored").toInt())
+        edits.orientation = orientation;
+    if (m_place->isModified()) {
+        const std::string text = m_place->text().trimmed().toStdString();
+        edits.place = Edits::NewPlace{placeFrom(text)};
+        if (!text.empty() && !edits.place->place) {
+            refuse(m_place,
+                   tr("The place is to be written as latitude and longitude in degrees: 48.858370, 2.294481."));
+            return std::nullopt;
+        }
+    }
+    return edits;
+}
+
+void EditForm::save()
+{
+    m_refusal->hide();
+    const auto made = edits();
+    if (!made)
+        return;
+    if (made->empty())
+        refuse(m_lines[Field::Title], tr("Nothing has been changed yet."));
+    else
+        emit saved(*made);
+}
+
+} // namespace MenuExtension::Exif

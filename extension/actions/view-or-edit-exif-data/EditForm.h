@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Edits.h"
+#include "Merged.h"
+#include "SavePhoto.h"
+
+#include <QWidget>
+
+#include <map>
+#include <optional>
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QSpinBox;
+
+namespace MenuExtension::Exif {
+
+/// The form in which a person changes photos. What is not touched is not changed.
+class EditForm : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit EditForm(QWidget* parent = nullptr);
+
+    /// What the photos say; what was typed and not saved is forgotten.
+    void showFields(const Merged& merged);
+    /// While something runs nothing can be typed.
+    void setBusy(bool busy);
+
+    [[nodiscard]] SaveOptions options() const;
+
+signals:
+    void saved(const MenuExtension::Exif::Edits& edits);
+    void removalAsked();
+
+private:
+    void addLine(QFormLayout& form, Field field, const QString& name);
+    void addShift(QFormLayout& form);
+    void addOrientation(QFormLayout& form);
+    void addPlace(QFormLayout& form);
+    void save();
+    /// Nothing where something typed is not to be understood; then it is said.
+    [[nodiscard]] std::optional<Edits> edits();
+    void refuse(QWidget* typed, const QString& why);
+
+    std::map<Field, QLineEdit*> m_lines;
+    QPlainTextEdit* m_description;
+    std::vector<std::pair<QSpinBox*, std::chrono::seconds>> m_shift;
+    QComboBox* m_orientation;
+    QLineEdit* m_place;
+    QCheckBox* m_keepsOriginal;
+    QCheckBox* m_keepsTime;
+    QLabel* m_refusal;
+    QPushButton* m_remove;
+    QPushButton* m_save;
+    QWidget* m_fields;
+};
+
+} // namespace MenuExtension::Exif

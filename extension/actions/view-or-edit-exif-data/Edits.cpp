@@ -1,0 +1,149 @@
+#include "Edits.h"
+
+#include "ExifTool.h"
+#include "PersonalData.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace MenuExtension::Exif {
+
+namespace {
+
+constexpr std::string_view set = "=";
+
+std::string assignment(std::string_view tag, std::string_view sign, std::string_view value)
+{
+    return '-' + std::string(tag) + std::string(sign) + escaped(value);
+}
+
+/// One for each store of the field that is always written, or is there.
+void assign(std::vector<std::string>& arguments, Field field, const Tags& tags, std::string_view value)
+{
+    for (const Store& store : storesOf(field)) {
+        const bool isThere = tags.find(store.key) != nullptr;
+        if (value.empty() ? isThere : isThere || store.always)
+            arguments.push_back(assignment(store.written, set, value));
+    }
+}
+
+void assignPlace(std::vector<std::string>& arguments, const Tags& tags, const std::optional<Place>& place)
+{
+    if (!place) {
+        for (const auto* entry : PersonalData::entriesIn(tags)) {
+            if (entry->kind == PersonalData::Kind::Place)
+                arguments.push_back(assignment(entry->removed, set, {}));
+        }
+        return;
+    }
+    const std::string latitude = std::to_string(std::abs(place->latitude));
+    const std::string longitude = std::to_string(std::abs(place->longitude));
+    const char* const north = place->latitude < 0 ? "S" : "N";
+    const char* const east = place->longitude < 0 ? "W" : "E";
+    arguments.push_back(assignment("EXIF:GPSLatitude", set, latitude));
+    arguments.push_back(assignment("EXIF:GPSLatitudeRef", set, north));
+    arguments.push_back(assignment("EXIF:GPSLongitude", set, longitude));
+    arguments.push_back(assignment("EXIF:GPSLongitudeRef", set, east));
+    // What was said of another place.
+    for (const std::string_view other : {"GPSAltitude", "GPSAltitudeRef", "GPSImgDirection", "GPSImgDirectionRef"}) {
+        if (tags.find("GPS:" + std::string(other)))
+            arguments.push_back(assignment("EXIF:" + std::string(other), set, {}));
+    }
+    // Some kinds of files have no other.
+    if (tags.find("XMP-exif:GPSLatitude") || tags.find("GIF:GIFVersion")) {
+        arguments.push_back(assignment("XMP-exif:GPSLatitude", set, latitude + north));
+        arguments.push_back(assignment("XMP-exif:GPSLongitude", set, longitude + east));
+    }
+}
+
+/// "DAYS HOURS:MINUTES:SECONDS" as ExifTool takes it, without its sign.
+std::string durationText(std::chrono::seconds duration)
+{
+    const std::chrono::hh_mm_ss clock(std::chrono::abs(duration));
+    return "0:0:0 " + std::to_string(clock.hours().count()) + ':' + std::to_string(clock.minutes().count()) + ':' +
+           std::to_string(clock.seconds().count());
+}
+
+void shift(std::vector<std::string>& arguments, const Tags& tags, std::chrono::seconds duration)
+{
+    // A date and a time in two tags do not move together.
+    for (const Store& store : storesOf(Field::Date)) {
+        const std::string* value = tags.find(store.key);
+        const auto time = value && !store.key.starts_with("IPTC:") ? photoTime(*value) : std::nullopt;
+        if (time)
+            arguments.push_back(
+                assignment(store.written, duration.count() < 0 ? "-=" : "+=", durationText(duration)));
+    }
+    const auto date = photoTime(textOf(Field::Date, tags));
+    if (date) {
+        for (const Store& store : storesOf(Field::Date)) {
+            if (store.key.starts_with("IPTC:") && tags.find(store.key))
+                arguments.push_back(assignment(store.written, set, textOf(*date + duration)));
+        }
+    }
+}
+
+/// As a file gives it back: without the spaces at its end, on lines that end in one way.
+std::string asRead(std::string text)
+{
+    std::erase(text, '\r');
+    text.resize(text.find_last_not_of(" \n") + 1);
+    return text;
+}
+
+bool isMade(Field field, const std::string& wanted, const Tags& after)
+{
+    if (field == Field::Date) {
+        const auto time = photoTime(wanted);
+        return time ? photoTime(textOf(field, after)) == time : textOf(field, after).empty();
+    }
+    return asRead(textOf(field, after)) == asRead(wanted);
+}
+
+} // namespace
+
+std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
+{
+    std::vector<std::string> arguments;
+    // What goes is said first, so that what is written with it stays.
+    if (edits.removesPersonalData) {
+        for (const auto* entry : PersonalData::entriesIn(tags))
+            arguments.push_back(assignment(entry->removed, set, {}));
+    }
+    for (const auto& [field, value] : edits.texts) {
+        if (!isMade(field, value, tags))
+            assign(arguments, field, tags, value);
+    }
+    if (edits.shift.count() != 0)
+        shift(arguments, tags, edits.shift);
+    if (edits.orientation && edits.orientation != orientationOf(tags))
+        assign(arguments, Field::Orientation, tags, std::to_string(*edits.orientation));
+    const bool movesPlace = edits.place && (!edits.place->place || !isSame(edits.place->place, placeOf(tags)));
+    if (movesPlace)
+        assignPlace(arguments, tags, edits.place->place);
+    // Else what is no ASCII is lost there.
+    if (std::ranges::any_of(arguments, [](const std::string& each) { return each.starts_with("-IPTC:"); }))
+        arguments.emplace_back("-IPTC:CodedCharacterSet=UTF8");
+    return arguments;
+}
+
+bool areMade(const Edits& edits, const Tags& before, const Tags& after)
+{
+    using PersonalData::Kind;
+    const bool textsAreMade =
+        std::ranges::all_of(edits.texts, [&](const auto& text) { return isMade(text.first, text.second, after); });
+    const auto date = edits.shift.count() != 0 ? photoTime(textOf(Field::Date, before)) : std::nullopt;
+    const bool isShifted = !date || photoTime(textOf(Field::Date, after)) == *date + edits.shift;
+    const bool isTurned = !edits.orientation || edits.orientation == orientationOf(after);
+    const bool isPlaced = !edits.place || isSame(edits.place->place, placeOf(after));
+    const bool isRemoved = std::ranges::none_of(after, [&](const Tag& tag) {
+        const auto kind = PersonalData::kindOf(tag);
+        const bool goesWithPlace = kind == Kind::Place && edits.place && !edits.place->place;
+        const bool isSetAnew =
+            (kind == Kind::Place && edits.place) || (kind == Kind::People && edits.texts.contains(Field::Author));
+        return kind && (goesWithPlace || (edits.removesPersonalData && !isSetAnew));
+    });
+    return textsAreMade && isShifted && isTurned && isPlaced && isRemoved;
+}
+
+} // namespace MenuExtension::Exif

@@ -1,0 +1,206 @@
+#include "ExifWindow.h"
+
+#include "EditForm.h"
+#include "PersonalDataDialog.h"
+#include "TagView.h"
+#include "TroubleWords.h"
+#include "extension/actions/window/ProgressRow.h"
+#include "platform/linux/text/FileNameText.h"
+
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QLabel>
+#include <QListView>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+
+namespace MenuExtension::Exif {
+
+namespace {
+
+constexpr std::chrono::milliseconds still{80};
+
+QString nameOf(std::string_view path)
+{
+    return LinuxDesktop::fileNameText(path.substr(path.rfind('/') + 1));
+}
+
+} // namespace
+
+ExifWindow::ExifWindow(const Request& request)
+    : m_request(request), m_photos(new QListView(this)), m_heading(new QLabel(this)), m_pages(new QTabWidget(this)),
+      m_tags(new TagView(this)), m_form(new EditForm(this)), m_result(new QLabel(this)),
+      m_failures(new QListView(this)), m_progress(new ProgressRow(this)), m_work(request)
+{
+    setWindowTitle(tr("Exif Data"));
+    QStringList names;
+    for (const std::string& path : request.paths)
+        names.append(nameOf(path));
+    m_names.setStringList(names);
+    layOut();
+
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(still);
+    connect(&m_settled, &QTimer::timeout, this, &ExifWindow::read);
+    connect(m_photos->selectionModel(), &QItemSelectionModel::selectionChanged, &m_settled,
+            qOverload<>(&QTimer::start));
+    connect(&m_work, &PhotoWork::advanced, this, &ExifWindow::showProgress);
+    connect(&m_work, &PhotoWork::wereRead, this, &ExifWindow::showRead);
+    connect(&m_work, &PhotoWork::wereSaved, this, &ExifWindow::showSaved);
+    connect(m_progress, &ProgressRow::cancelled, this, [this] {
+        const bool wasSaving = m_work.isSaving();
+        m_work.cancel();
+        m_progress->finish();
+        m_photos->setEnabled(true);
+        if (wasSaving) {
+            m_result->setText(tr("It was ended; the photos that were not saved yet are as they were."));
+            m_result->show();
+            m_settled.start();
+        }
+    });
+    connect(m_form, &EditForm::saved, this, &ExifWindow::save);
+    connect(m_form, &EditForm::removalAsked, this, &ExifWindow::askToRemove);
+    for (const auto& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+
+    m_photos->selectAll();
+    m_settled.stop();
+    read();
+}
+
+void ExifWindow::layOut()
+{
+    const bool isOne = m_request.paths.size() == 1;
+    QFont font = m_heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.2);
+    font.setWeight(QFont::DemiBold);
+    m_heading->setFont(font);
+    m_heading->setTextFormat(Qt::PlainText);
+
+    m_photos->setModel(&m_names);
+    m_photos->setAccessibleName(tr("Photos"));
+    m_photos->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_photos->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_photos->setUniformItemSizes(true);
+    m_photos->setVisible(!isOne);
+    m_pages->addTab(m_tags, tr("Information"));
+    m_pages->addTab(m_form, tr("Edit"));
+    // No frame within the window's own.
+    m_pages->setDocumentMode(true);
+
+    m_result->setTextFormat(Qt::PlainText);
+    m_result->setWordWrap(true);
+    m_result->hide();
+    m_failures->setModel(&m_failureLines);
+    m_failures->setAccessibleName(tr("Photos that failed"));
+    m_failures->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_failures->setWordWrap(true);
+    m_failures->setMaximumHeight(6 * fontMetrics().lineSpacing());
+    m_failures->hide();
+
+    auto* const parts = new QSplitter(this);
+    parts->addWidget(m_photos);
+    parts->addWidget(m_pages);
+    parts->setStretchFactor(1, 1);
+    parts->setChildrenCollapsible(false);
+    parts->setHandleWidth(12);
+    parts->setSizes({220, 600});
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 18, 20, 18);
+    layout->setSpacing(12);
+    layout->addWidget(m_heading);
+    layout->addWidget(parts, 1);
+    layout->addWidget(m_result);
+    layout->addWidget(m_failures);
+    layout->addWidget(m_progress);
+    resize(isOne ? 660 : 860, 640);
+    (isOne ? static_cast<QWidget*>(m_tags) : m_photos)->setFocus();
+}
+
+std::vector<std::size_t> ExifWindow::selected() const
+{
+    std::vector<std::size_t> photos;
+    for (const QModelIndex& index : m_photos->selectionModel()->selectedRows())
+        photos.push_back(static_cast<std::size_t>(index.row()));
+    std::ranges::sort(photos);
+    return photos;
+}
+
+void ExifWindow::read()
+{
+    const auto photos = selected();
+    m_heading->setText(photos.size() == 1 ? m_names.data(m_names.index(static_cast<int>(photos.front()))).toString()
+                                          : tr("%n photos", nullptr, static_cast<int>(photos.size())));
+    m_form->setBusy(true);
+    m_progress->start(tr("Reading photos"));
+    m_work.read(photos);
+}
+
+void ExifWindow::showProgress(const PhotoWork::Progress& progress)
+{
+    m_progress->advance(progress.done, progress.total, tr("%1 of %2 photos").arg(progress.done).arg(progress.total));
+    // The first of many are something to look at already.
+    if (!m_work.isSaving() && m_merged.photos() == 0 && progress.merged.photos() > 0) {
+        m_merged = progress.merged;
+        m_tags->showTags(m_merged);
+    }
+}
+
+void ExifWindow::showRead(const PhotoWork::Progress& progress)
+{
+    m_progress->finish();
+    m_merged = progress.merged;
+    m_tags->showTags(m_merged);
+    m_form->showFields(m_merged);
+    m_form->setBusy(m_merged.photos() == 0);
+    if (!progress.failures.empty())
+        showFailures(progress.failures);
+}
+
+void ExifWindow::save(const Edits& edits)
+{
+    m_form->setBusy(true);
+    m_photos->setEnabled(false);
+    m_result->hide();
+    m_failures->hide();
+    m_progress->start(tr("Saving photos"));
+    m_work.save(selected(), edits, m_form->options());
+}
+
+void ExifWindow::showSaved(const PhotoWork::Progress& progress)
+{
+    m_photos->setEnabled(true);
+    const auto saved = static_cast<int>(progress.done - progress.failures.size());
+    const QString words = saved == 1 ? tr("1 photo was saved.") : tr("%n photos were saved.", nullptr, saved);
+    m_result->setText(progress.failures.empty() ? words : words + u' ' + tr("These were left as they were:"));
+    m_result->show();
+    showFailures(progress.failures);
+    read();
+}
+
+void ExifWindow::showFailures(const PhotoWork::Failures& failures)
+{
+    QStringList lines;
+    for (const auto& [photo, trouble] : failures)
+        lines.append(nameOf(m_request.paths[photo]) + QStringLiteral(": ") + inWords(trouble));
+    m_failureLines.setStringList(lines);
+    m_failures->setVisible(!lines.isEmpty());
+}
+
+void ExifWindow::askToRemove()
+{
+    PersonalDataDialog dialog(m_merged, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    Edits edits;
+    edits.removesPersonalData = true;
+    save(edits);
+}
+
+} // namespace MenuExtension::Exif

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "PhotoWork.h"
+
+#include <QStringListModel>
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+class QListView;
+class QTabWidget;
+
+namespace MenuExtension {
+class ProgressRow;
+}
+
+namespace MenuExtension::Exif {
+
+class EditForm;
+class TagView;
+
+/// The window of the action: the photos, what they say, and the form to change it.
+class ExifWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The request outlives it.
+    explicit ExifWindow(const Request& request);
+
+private:
+    void layOut();
+    [[nodiscard]] std::vector<std::size_t> selected() const;
+    void read();
+    void save(const Edits& edits);
+    void askToRemove();
+    void showProgress(const PhotoWork::Progress& progress);
+    void showRead(const PhotoWork::Progress& progress);
+    void showSaved(const PhotoWork::Progress& progress);
+    void showFailures(const PhotoWork::Failures& failures);
+
+    const Request& m_request;
+    QStringListModel m_names;
+    QStringListModel m_failureLines;
+    QListView* m_photos;
+    QLabel* m_heading;
+    QTabWidget* m_pages;
+    TagView* m_tags;
+    EditForm* m_form;
+    QLabel* m_result;
+    QListView* m_failures;
+    ProgressRow* m_progress;
+    /// So that going through the list does not read each photo on the way.
+    QTimer m_settled;
+    Merged m_merged;
+    PhotoWork m_work;
+};
+
+} // namespace MenuExtension::Exif

@@ -1,0 +1,243 @@
+"""View or Edit Exif Data: what photos say, asked for on the bus and driven by keyboard alone."""
+
+import json
+import os
+import shutil
+import subprocess
+import unittest
+
+from gi.repository import GLib
+
+from support.action_window import ask_for_action, run_action, start_companion
+from support.case import DesktopTestCase
+from support.hostile_names import NAMES
+from support.waiting import eventually
+
+ACTION = "view-or-edit-exif-data"
+TITLE = "Exif Data"
+PHOTOS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../platform/exif/photos")
+EXIFTOOL = shutil.which("exiftool")
+# What each person has of the machine.
+_PROGRAM_PATH = "/usr/bin:/bin"
+
+
+class Exif(DesktopTestCase):
+    def setUp(self):
+        super().setUp()
+        os.symlink(EXIFTOOL, os.path.join(self.home.programs, "exiftool"))
+        os.symlink("/usr/bin/env", os.path.join(self.home.programs, "env"))
+        os.symlink("/usr/bin/perl", os.path.join(self.home.programs, "perl"))
+        start_companion(self)
+
+    def photo(self, name="photo.jpg", kind="jpg", **tags):
+        path = os.path.join(self.home.files, name)
+        shutil.copy(os.path.join(PHOTOS, "photo." + kind), path)
+        if tags:
+            subprocess.run([EXIFTOOL, "-q", "-overwrite_original", *[f"-{tag}={value}" for tag, value in tags.items()],
+                            path], check=True, env={"PATH": _PROGRAM_PATH, "LANG": "C.UTF-8"})
+        return path
+
+    def tags(self, path):
+        with open(path, "rb") as file:
+            return self.tags_of(file)
+
+    @staticmethod
+    def tags_of(file):
+        output = subprocess.run([EXIFTOOL, "-json", "-n", "-"], check=True, capture_output=True, stdin=file,
+                                env={"PATH": _PROGRAM_PATH, "LANG": "C.UTF-8"}).stdout
+        return json.loads(output)[0]
+
+    def open(self, *paths):
+        self.action = run_action(self, ACTION, *paths)
+        self.window = self.action.active_window(TITLE)
+
+    def cells(self):
+        return [item.name for item in self.window.all("tree item")]
+
+    def labels(self):
+        return [label.name for label in self.window.all("label")]
+
+    def go_to(self, name):
+        self.action.go_to(name, self.window)
+
+    def to_edit_page(self):
+        """From wherever the keyboard is to the form."""
+        tabs = eventually(lambda: self.window.find("page tab list"), "the pages")
+        for _ in range(30):
+            if eventually(self.window.focused, "something to have the keyboard") == tabs:
+                break
+            self.hands.press("shift+Tab")
+        self.hands.press("Right")
+        eventually(lambda: self.window.find("text", "Title").has("enabled"), "the form")
+
+    def save(self):
+        self.go_to("Save")
+        self.hands.press("space")
+
+    def assertTells(self, words):
+        eventually(lambda: words in self.labels(), f"“{words}” among {self.labels()}")
+
+    def test_it_shows_the_usual_first_and_everything_after_it(self):
+        self.open(self.photo(Title="A hill", Artist="Ada", ISO=400))
+        cells = eventually(lambda: "A hill" in self.cells() and self.cells(), "the data")
+        self.assertEqual(cells[0], "Summary")
+        self.assertIn("Ada", cells)
+        self.assertIn("Bits Per Sample", cells)
+        self.assertIn("photo.jpg", self.labels())
+        self.save_picture("exif-information")
+
+    def test_a_search_goes_through_names_and_values(self):
+        self.open(self.photo(Title="A hill", Artist="Ada"))
+        eventually(lambda: "A hill" in self.cells(), "the data")
+        self.go_to("Search")
+        self.hands.type("hill")
+        eventually(lambda: "A hill" in self.cells() and "Ada" not in self.cells(), "what is found")
+        self.hands.type("zzz")
+        self.assertTells("Nothing is found.")
+
+    def test_texts_a_date_and_a_place_are_written_by_keyboard_alone(self):
+        path = self.photo(Title="old")
+        self.open(path)
+        self.to_edit_page()
+        for name, text in (("Title", "new title"), ("Description", "two words"), ("Author", "Ada"),
+                           ("Copyright", "free"), ("Date taken", "2024-02-29 12:34:56"), ("Place", "48.5, -2.25")):
+            self.go_to(name)
+            self.hands.press("ctrl+a")
+            self.hands.type(text)
+        self.save()
+
+        self.assertTells("1 photo was saved.")
+        tags = self.tags(path)
+        self.assertEqual([tags[name] for name in ("Title", "Description", "Artist", "Copyright", "DateTimeOriginal")],
+                         ["new title", "two words", "Ada", "free", "2024:02:29 12:34:56"])
+        self.assertAlmostEqual(tags["GPSLatitude"], 48.5)
+        self.assertAlmostEqual(tags["GPSLongitude"], -2.25)
+        self.assertEqual(os.listdir(self.home.files), ["photo.jpg"])
+        self.save_picture("exif-edit")
+
+    def test_what_many_photos_do_not_share_is_told_and_left_alone(self):
+        paths = [self.photo(f"{number}.jpg", Title=f"title {number}", Artist="Ada") for number in range(3)]
+        self.open(*paths)
+        eventually(lambda: "Different values" in self.cells(), "the data")
+        self.assertIn("3 photos", self.labels())
+        self.save_picture("exif-many")
+        self.to_edit_page()
+        self.go_to("Author")
+        self.hands.press("ctrl+a")
+        self.hands.type("Bo")
+        self.save()
+
+        self.assertTells("3 photos were saved.")
+        for number, path in enumerate(paths):
+            self.assertEqual((self.tags(path)["Title"], self.tags(path)["Artist"]), (f"title {number}", "Bo"))
+
+    def test_a_date_is_moved_and_the_original_kept(self):
+        path = self.photo(DateTimeOriginal="2023:12:31 23:30:00")
+        with open(path, "rb") as file:
+            before = file.read()
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Move date by hours")
+        self.hands.press("ctrl+a")
+        self.hands.type("1")
+        self.go_to("Keep the original file beside it, with “_original” after its name")
+        self.hands.press("space")
+        self.save()
+
+        self.assertTells("1 photo was saved.")
+        self.assertEqual(self.tags(path)["DateTimeOriginal"], "2024:01:01 00:30:00")
+        with open(path + "_original", "rb") as file:
+            self.assertEqual(file.read(), before)
+
+    def test_what_is_personal_is_told_and_removed_when_it_is_agreed_to(self):
+        path = self.photo(Title="A hill", Artist="Ada", GPSLatitude="48.5", GPSLatitudeRef="N", SerialNumber="123")
+        self.open(path)
+        self.to_edit_page()
+        for key, remains in (("Escape", True), ("space", False)):
+            self.go_to("Remove Location and Personal Data…")
+            self.hands.press("space")
+            dialog = self.action.active_window("Remove Location and Personal Data")
+            shown = [item.name for item in dialog.all("tree item")]
+            for words in ("Where it was taken", "Who took it and who is in it", "Which camera it was", "Ada", "123"):
+                self.assertIn(words, shown)
+            if not remains:
+                self.save_picture("exif-personal")
+                self.action.go_to("Remove", dialog)
+            self.hands.press(key)
+            self.action.active_window(TITLE)
+            if remains:
+                self.assertIn("GPSLatitude", self.tags(path))
+        self.assertTells("1 photo was saved.")
+        tags = self.tags(path)
+        self.assertEqual(tags["Title"], "A hill")
+        self.assertFalse({"Artist", "GPSLatitude", "SerialNumber"} & set(tags))
+
+    def test_a_photo_that_cannot_be_changed_is_named_and_the_others_are_saved(self):
+        paths = [self.photo("good.jpg"), self.photo("bad.webp", kind="webp")]
+        self.open(*paths)
+        self.to_edit_page()
+        self.go_to("Title")
+        self.hands.type("x")
+        self.save()
+
+        self.assertTells("1 photo was saved. These were left as they were:")
+        failures, = [item.name for item in self.window.find("list", "Photos that failed").all("list item")]
+        self.assertTrue(failures.startswith("bad.webp: "), failures)
+        self.assertEqual(self.tags(paths[0])["Title"], "x")
+        self.save_picture("exif-failure")
+
+    def test_what_is_not_to_be_understood_is_told_and_nothing_is_written(self):
+        path = self.photo()
+        with open(path, "rb") as file:
+            before = file.read()
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Date taken")
+        self.hands.type("yesterday")
+        self.save()
+        self.assertTells("The date is to be written as 2026-12-31 23:59:59.")
+        with open(path, "rb") as file:
+            self.assertEqual(file.read(), before)
+
+    def test_escape_closes_it_and_another_may_run_meanwhile(self):
+        path = self.photo()
+        self.open(path)
+        first = self.action
+        self.open(path)
+        self.hands.press("Escape")
+        self.action.wait_for_end()
+        self.assertTrue(first.is_running())
+        first.active_window(TITLE)
+        self.hands.press("Escape")
+        first.wait_for_end()
+
+    def test_a_name_that_is_no_text_is_no_hindrance(self):
+        name = os.fsencode(self.home.files) + b"/not \xff text\n.jpg"
+        shutil.copy(os.path.join(PHOTOS, "photo.jpg"), name)
+        self.open(name)
+        eventually(lambda: "JPEG" in self.cells(), "the data")
+        self.assertIn("not \ufffd text\u21b5.jpg", self.labels())
+
+    def test_names_are_nothing_but_names(self):
+        folder = os.fsencode(self.home.files)
+        paths = [shutil.copy(os.path.join(PHOTOS, "photo.jpg"), os.path.join(folder, name)) for name in NAMES]
+        self.open(*paths)
+        self.to_edit_page()
+        self.go_to("Title")
+        self.hands.type("x")
+        self.save()
+        self.assertTells(f"{len(NAMES)} photos were saved.")
+        self.assertEqual(sorted(os.listdir(folder)), sorted(NAMES))
+        for path in paths:
+            with open(path, "rb") as file:
+                self.assertEqual(self.tags_of(file)["Title"], "x")
+        self.assertFalse(os.path.exists(os.path.join(self.home.folder, "pwned")))
+
+    def test_without_exiftool_it_is_not_offered(self):
+        os.unlink(os.path.join(self.home.programs, "exiftool"))
+        with self.assertRaises(GLib.Error):
+            ask_for_action(self, ACTION, self.photo())
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,402 @@
+#include "PhotosTest.h"
+
+#include "extension/actions/view-or-edit-exif-data/ImageData.h"
+#include "extension/actions/view-or-edit-exif-data/PersonalData.h"
+
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <linux/capability.h>
+#include <random>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <thread>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+using namespace MenuExtension::Exif;
+using namespace std::chrono_literals;
+using Kind = Trouble::Kind;
+
+namespace {
+
+class SavePhotoTest : public PhotosTest {
+protected:
+    /// What a person could write everywhere at once.
+    static Edits everything()
+    {
+        Edits edits;
+        edits.texts = {{Field::Title, "Ein Hügel — \"quoted\" <x> &amp; $5 @home \\ 100%"},
+                       {Field::Description, " two\nlines and an end "},
+                       {Field::Author, "Ada Müller; Bo"},
+                       {Field::Copyright, "© 2026 Ada"},
+                       {Field::Date, "2024:02:29 23:59:58"}};
+        edits.place = {.place = Place{-33.856784, 151.215297}};
+        return edits;
+    }
+
+    /// Saves in a process that has done something to itself before.
+    [[nodiscard]] Kind inChild(const Path& path, const std::function<void()>& before) const
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            before();
+            ::_exit(static_cast<int>(save(path, everything())));
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return static_cast<Kind>(WEXITSTATUS(status));
+    }
+
+    static std::string withoutSpacesAround(const std::string& text)
+    {
+        const std::size_t begin = text.find_first_not_of(' ');
+        return text.substr(begin, text.find_last_not_of(' ') - begin + 1);
+    }
+
+    void expectEverything(const Path& path) const
+    {
+        const Edits edits = everything();
+        const Tags tags = read(path).tags;
+        for (const auto& [field, value] : edits.texts)
+            EXPECT_EQ(withoutSpacesAround(textOf(field, tags)), withoutSpacesAround(value)) << path;
+        EXPECT_TRUE(isSame(placeOf(tags), edits.place->place)) << path << textOf(Field::Place, tags);
+    }
+};
+
+} // namespace
+
+TEST_F(SavePhotoTest, WritesEveryFieldInEveryKindOfFileThatExifToolWrites)
+{
+    for (const std::string kind : {"jpg", "png", "tif", "heic", "avif", "gif"}) {
+        const Path path = photo(kind);
+        ASSERT_EQ(save(path, everything()), Kind::None) << kind << ": " << lastWords();
+        expectEverything(path);
+    }
+    EXPECT_EQ(names().size(), 6U) << "nothing is left beside them";
+}
+
+TEST_F(SavePhotoTest, KeepsTheTextThatIsThereInEveryPlaceInStep)
+{
+    const Path path = photo("jpg");
+    Edits edits;
+    edits.texts = {{Field::Description, "first"}};
+    ASSERT_EQ(save(path, edits), Kind::None);
+    edits.texts = {{Field::Description, "second"}};
+    ASSERT_EQ(save(path, edits), Kind::None);
+
+    const Tags tags = read(path).tags;
+    EXPECT_EQ(*tags.find("IFD0:ImageDescription"), "second");
+    EXPECT_EQ(*tags.find("XMP-dc:Description"), "second");
+    EXPECT_EQ(tags.find("IPTC:Caption-Abstract"), nullptr);
+}
+
+TEST_F(SavePhotoTest, RemovesATextFromEveryPlace)
+{
+    const Path path = photo("jpg");
+    ASSERT_EQ(save(path, everything()), Kind::None);
+    Edits edits;
+    edits.texts = {{Field::Title, ""}, {Field::Author, ""}, {Field::Date, ""}};
+    edits.place = Edits::NewPlace{};
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+
+    const Tags tags = read(path).tags;
+    for (const Field field : {Field::Title, Field::Author, Field::Date, Field::Place})
+        EXPECT_EQ(textOf(field, tags), "");
+    EXPECT_EQ(textOf(Field::Copyright, tags), "© 2026 Ada");
+    EXPECT_FALSE(tags.hasGroup("GPS"));
+}
+
+TEST_F(SavePhotoTest, ThePictureStaysTheSameByteByByte)
+{
+    for (const std::string kind : {"jpg", "png", "tif", "heic", "avif", "gif"}) {
+        const Path path = photo(kind);
+        const std::string before = Files::read(path);
+        ASSERT_EQ(save(path, everything()), Kind::None) << kind;
+        const std::string after = Files::read(path);
+        ASSERT_NE(after, before);
+        ByteSource one(before);
+        ByteSource other(after);
+        EXPECT_EQ(haveSameImage(one, other), true) << kind;
+    }
+}
+
+TEST_F(SavePhotoTest, EveryOrientationIsWrittenAndReadBack)
+{
+    const Path path = photo("jpg");
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        Edits edits;
+        edits.orientation = orientation;
+        ASSERT_EQ(save(path, edits), Kind::None) << orientation;
+        EXPECT_EQ(orientationOf(read(path).tags), orientation);
+    }
+}
+
+TEST_F(SavePhotoTest, SaysWhereTheOrientationIsPartOfThePicture)
+{
+    const Path path = photo("heic");
+    const std::string before = Files::read(path);
+    Edits edits;
+    edits.orientation = 6;
+    EXPECT_EQ(save(path, edits), Kind::OrientationInPicture);
+    EXPECT_EQ(Files::read(path), before);
+}
+
+TEST_F(SavePhotoTest, MovesEveryDateByADurationInBothDirections)
+{
+    const Path path = photo("jpg");
+    Edits edits;
+    edits.texts = {{Field::Date, "2023:12:31 23:30:00"}};
+    ASSERT_EQ(save(path, edits), Kind::None);
+    edits = {};
+    edits.shift = 45min;
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+    Tags tags = read(path).tags;
+    EXPECT_EQ(*tags.find("ExifIFD:DateTimeOriginal"), "2024:01:01 00:15:00");
+    EXPECT_EQ(*tags.find("XMP-photoshop:DateCreated"), "2024:01:01 00:15:00");
+
+    edits.shift = -(24h * 400 + 1s);
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+    tags = read(path).tags;
+    EXPECT_EQ(*tags.find("ExifIFD:DateTimeOriginal"), "2022:11:27 00:14:59");
+}
+
+TEST_F(SavePhotoTest, ADateThatIsNotThereCannotBeMoved)
+{
+    Edits edits;
+    edits.shift = 1h;
+    EXPECT_EQ(save(photo("jpg"), edits), Kind::NoDate);
+}
+
+TEST_F(SavePhotoTest, RemovesLocationAndPersonalData)
+{
+    const Path path = photo("jpg");
+    Edits edits = everything();
+    ASSERT_EQ(save(path, edits), Kind::None);
+    edits = {};
+    edits.removesPersonalData = true;
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+
+    const Tags tags = read(path).tags;
+    EXPECT_TRUE(PersonalData::entriesIn(tags).empty());
+    EXPECT_EQ(textOf(Field::Author, tags), "");
+    EXPECT_EQ(textOf(Field::Copyright, tags), "© 2026 Ada") << "is for whoever gets the photo";
+    EXPECT_EQ(save(path, edits), Kind::None) << "there is nothing more to do";
+}
+
+TEST_F(SavePhotoTest, AnAuthorGivenWithTheRemovalStays)
+{
+    const Path path = photo("jpg");
+    ASSERT_EQ(save(path, everything()), Kind::None);
+    Edits edits;
+    edits.removesPersonalData = true;
+    edits.texts = {{Field::Author, "Agency"}};
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+    EXPECT_EQ(text(Field::Author, path), "Agency");
+    EXPECT_EQ(text(Field::Place, path), "");
+}
+
+TEST_F(SavePhotoTest, KeepsPermissionsAndExtendedAttributesAndTheTimeIfAsked)
+{
+    const Path path = photo("jpg");
+    fs::permissions(path, fs::perms(0640));
+    const bool hasAttributes = ::setxattr(path.c_str(), "user.rating", "5", 1, 0) == 0;
+    const std::array<timespec, 2> times{{{1000, 0}, {2000, 7}}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+    ASSERT_EQ(save(path, everything(), {.keepsTime = true}), Kind::None);
+
+    struct stat status = {};
+    ASSERT_EQ(::stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+    EXPECT_EQ(status.st_mtim.tv_sec, 2000);
+    EXPECT_EQ(status.st_mtim.tv_nsec, 7);
+    if (hasAttributes) {
+        char value = 0;
+        EXPECT_EQ(::getxattr(path.c_str(), "user.rating", &value, 1), 1);
+        EXPECT_EQ(value, '5');
+    }
+    ASSERT_EQ(save(path, {.texts = {{Field::Title, "again"}}, .orientation = {}, .place = {}}), Kind::None);
+    ASSERT_EQ(::stat(path.c_str(), &status), 0);
+    EXPECT_NE(status.st_mtim.tv_sec, 2000);
+}
+
+TEST_F(SavePhotoTest, TheOriginalIsKeptBesideItOnce)
+{
+    const Path path = photo("jpg");
+    const std::string before = Files::read(path);
+    ASSERT_EQ(save(path, everything(), {.keepsOriginal = true}), Kind::None);
+    ASSERT_EQ(
+        save(path, {.texts = {{Field::Title, "again"}}, .orientation = {}, .place = {}}, {.keepsOriginal = true}),
+        Kind::None);
+    EXPECT_EQ(names(), (std::vector<std::string>{"photo.jpg", "photo.jpg_original"}));
+    EXPECT_EQ(Files::read(path.native() + "_original"), before);
+}
+
+TEST_F(SavePhotoTest, HostileNamesAndTextsAreNothingButNamesAndTexts)
+{
+    for (const std::string name :
+         {"a\nb.jpg", "-o x.jpg", "#[CSTR]x.jpg", "\xff\xfe.jpg", " .jpg", "touch x|", "|touch x", ">x.jpg",
+          "%d%f.jpg", "@x.jpg", "\x1b[31m.jpg", "-execute", "caf\xC3\xA9.jpg", "&x.jpg"}) {
+        const Path path = photo("jpg", name);
+        ASSERT_EQ(save(path, everything()), Kind::None) << name << ": " << lastWords();
+        expectEverything(path);
+    }
+    for (const std::string value : {"-execute", "<=/etc/passwd", "$Make", "{ready1}\n{ready2}", "#comment", "1.50",
+                                    "007", "1e5", "\"", "\\n", "&lt;", "; ", "a\r\nb", "\t", "x\x01y"}) {
+        const Path path = photo("jpg");
+        const Kind kind = save(path, {.texts = {{Field::Description, value}}, .orientation = {}, .place = {}});
+        EXPECT_TRUE(kind == Kind::None || kind == Kind::EditsNotKept) << value << ": " << lastWords();
+        if (kind == Kind::None && value != "\t" && value != "a\r\nb") {
+            EXPECT_EQ(text(Field::Description, path), value);
+        }
+    }
+    EXPECT_FALSE(fs::exists("x"));
+}
+
+TEST_F(SavePhotoTest, AFileThatCannotBeWrittenIsLeftAloneWithItsReason)
+{
+    for (const std::string kind : {"webp", "jxl"}) {
+        const Path path = photo(kind);
+        const std::string before = Files::read(path);
+        EXPECT_NE(save(path, everything()), Kind::None) << kind;
+        EXPECT_EQ(Files::read(path), before);
+    }
+    const Path truncated = photo("jpg");
+    Files::write(truncated, Files::read(truncated).substr(0, 300));
+    EXPECT_NE(save(truncated, everything()), Kind::None);
+    EXPECT_EQ(fs::file_size(truncated), 300U);
+
+    const Path other = photo("png", "really-png.jpg");
+    const std::string before = Files::read(other);
+    EXPECT_EQ(save(other, everything()), Kind::None) << "a wrong name harms nothing: " << lastWords();
+    EXPECT_NE(Files::read(other), before);
+    EXPECT_EQ(names().size(), 4U) << "nothing is left beside them";
+}
+
+TEST_F(SavePhotoTest, WhatIsNoFileOrHasGoneOrLeadsOutIsNotTouched)
+{
+    fs::create_directory(listed() / "folder.jpg");
+    ASSERT_EQ(::mkfifo((listed() / "pipe.jpg").c_str(), 0600), 0);
+    Files::write(outside() / "photo.jpg", Files::read(photo("jpg")));
+    fs::create_symlink(outside() / "photo.jpg", listed() / "out.jpg");
+    const std::string before = Files::read(outside() / "photo.jpg");
+    for (const char* name : {"folder.jpg", "pipe.jpg", "out.jpg", "gone.jpg"}) {
+        EXPECT_EQ(save(listed() / name, everything()), Kind::CannotBeOpened) << name;
+        EXPECT_EQ(read(listed() / name).trouble.kind, Kind::CannotBeOpened) << name;
+    }
+    EXPECT_EQ(Files::read(outside() / "photo.jpg"), before);
+}
+
+TEST_F(SavePhotoTest, ALinkStaysALinkAndWhereItLeadsIsChanged)
+{
+    const Path path = photo("jpg");
+    fs::create_symlink("photo.jpg", listed() / "link.jpg");
+    ASSERT_EQ(save(listed() / "link.jpg", everything()), Kind::None);
+    EXPECT_TRUE(fs::is_symlink(listed() / "link.jpg"));
+    expectEverything(path);
+}
+
+TEST_F(SavePhotoTest, AFolderThatCannotBeWrittenIsToldOf)
+{
+    const Path path = photo("jpg");
+    const std::string before = Files::read(path);
+    fs::permissions(listed(), fs::perms(0500));
+    const Kind kind = inChild(path, [] {
+        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+        std::array<__user_cap_data_struct, 2> none{};
+        // The superuser may write everywhere otherwise, and so may what it starts.
+        ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+        ::syscall(SYS_capset, &header, none.data());
+    });
+    fs::permissions(listed(), fs::perms(0700));
+    EXPECT_EQ(kind, Kind::CannotBeSaved);
+    EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+    EXPECT_EQ(Files::read(path), before);
+}
+
+TEST_F(SavePhotoTest, AFullDiskLeavesThePhotoAsItWas)
+{
+    const Path path = photo("jpg");
+    Files::write(path, Files::read(path) + Files::noise(200'000));
+    const std::string before = Files::read(path);
+    const Kind kind = inChild(path, [] {
+        const rlimit most{100'000, 100'000};
+        ::setrlimit(RLIMIT_FSIZE, &most);
+    });
+    EXPECT_TRUE(kind == Kind::CannotBeWritten || kind == Kind::ExifToolCrashed) << static_cast<int>(kind);
+    EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+    EXPECT_EQ(Files::read(path), before);
+}
+
+TEST_F(SavePhotoTest, AFileThatChangesMeanwhileIsNotReplaced)
+{
+    const Path path = photo("jpg");
+    const auto opened = openWithFolder(request(), path);
+    ASSERT_TRUE(opened);
+    Files::write(path, Files::read(path) + "x");
+    TagReader reader;
+    EXPECT_EQ(savePhoto(reader, *opened, everything(), {}, {}).kind, Kind::Changed);
+    EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+}
+
+TEST_F(SavePhotoTest, LeftoversOfLongAgoGoAndOthersStay)
+{
+    const std::string old = ".orvik-exif-0123456789abcdef.jpg";
+    Files::write(listed() / old, "x");
+    Files::write(listed() / ".orvik-exif-fedcba9876543210.jpg", "x");
+    fs::last_write_time(listed() / old, fs::file_time_type::clock::now() - 1h);
+    const auto opened = openWithFolder(request(), photo("jpg"));
+    ASSERT_TRUE(opened);
+    removeLeftovers(opened->folder);
+    EXPECT_EQ(names(), (std::vector<std::string>{".orvik-exif-fedcba9876543210.jpg", "photo.jpg"}));
+}
+
+TEST_F(SavePhotoTest, OfManyPhotosOneThatFailsDoesNotHoldUpTheOthers)
+{
+    std::vector<std::string> paths;
+    for (int number = 0; number < 20; ++number)
+        paths.push_back(photo(number == 7 ? "webp" : "jpg", std::to_string(number) + ".jpg"));
+    std::map<std::size_t, Kind> troubles;
+    savePhotos(request(), paths, everything(), {},
+               [&](std::size_t index, const Trouble& trouble) { troubles[index] = trouble.kind; }, {});
+    ASSERT_EQ(troubles.size(), 20U);
+    for (const auto& [index, kind] : troubles)
+        EXPECT_EQ(kind == Kind::None, index != 7) << index;
+}
+
+/// A process that is killed while it saves, at a moment that nobody chooses.
+TEST_F(SavePhotoTest, WhoeverIsKilledLeavesThePhotoAsItWasOrAsItWasToBe)
+{
+    const Path path = photo("jpg");
+    const std::string first = Files::read(path);
+    Edits edits;
+    edits.texts[Field::Title] = "whole";
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_EQ(save(path, edits, {.keepsOriginal = true}), Kind::None);
+    const auto whole = std::chrono::steady_clock::now() - begin;
+    std::mt19937 random(std::random_device{}());
+    std::uniform_real_distribution<double> share(0.0, 1.5);
+    for (int round = 0; round < 12; ++round) {
+        edits.texts[Field::Title] = "round " + std::to_string(round);
+        const std::string before = Files::read(path);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            static_cast<void>(save(path, edits, {.keepsOriginal = true}));
+            ::_exit(EXIT_SUCCESS);
+        }
+        std::this_thread::sleep_for(whole * share(random));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        if (Files::read(path) != before) {
+            EXPECT_EQ(text(Field::Title, path), "round " + std::to_string(round));
+            EXPECT_EQ(Files::read(path.native() + "_original"), first);
+        }
+        for (const std::string& name : names())
+            EXPECT_TRUE(name == "photo.jpg" || name == "photo.jpg_original" || name.starts_with(".orvik-exif-"))
+                << name;
+    }
+}

@@ -1,0 +1,366 @@
+#include "extension/actions/resize-photos/ResizePhoto.h"
+#include "support/Files.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <random>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+#include <vips/vips.h>
+
+namespace fs = std::filesystem;
+using namespace MenuExtension;
+using namespace MenuExtension::Resizing;
+using Kind = Resizing::Outcome::Kind;
+
+namespace {
+
+struct LetGo {
+    void operator()(void* object) const { g_object_unref(object); }
+};
+using Image = std::unique_ptr<VipsImage, LetGo>;
+
+class ResizePhotoTest : public testing::Test {
+protected:
+    using Path = fs::path;
+
+    ResizePhotoTest()
+    {
+        std::string pattern = "/tmp/orvik-resize-XXXXXX";
+        m_root = ::mkdtemp(pattern.data());
+        for (const char* name : {"listed", "other", "home"})
+            fs::create_directories(m_root / name);
+        m_request.scope = Scope({{listed(), true}});
+        ::setenv("XDG_DATA_HOME", (m_root / "home").c_str(), 1);
+    }
+    ~ResizePhotoTest() override
+    {
+        std::error_code ignored;
+        fs::remove_all(m_root, ignored);
+    }
+    static void SetUpTestSuite() { ASSERT_EQ(VIPS_INIT("test"), 0); }
+
+    [[nodiscard]] Path listed() const { return m_root / "listed"; }
+    [[nodiscard]] Path other() const { return m_root / "other"; }
+    [[nodiscard]] const Request& request() const { return m_request; }
+
+    /// A photo of noise, with what a camera says and a colour profile.
+    [[nodiscard]] Path photo(const std::string& name, int width = 400, int height = 300, int orientation = 6) const
+    {
+        VipsImage* noise = nullptr;
+        VipsImage* bytes = nullptr;
+        VipsImage* colors = nullptr;
+        vips_gaussnoise(&noise, width, height, "mean", 128.0, "sigma", 30.0, "seed", 3, nullptr);
+        vips_cast_uchar(noise, &bytes, nullptr);
+        std::array<VipsImage*, 3> bands{bytes, bytes, bytes};
+        vips_bandjoin(bands.data(), &colors, 3, nullptr);
+        VipsImage* photo = nullptr;
+        vips_copy(colors, &photo, "interpretation", VIPS_INTERPRETATION_sRGB, nullptr);
+        vips_image_set_string(photo, "exif-ifd0-Artist", "Ada (Ada, ASCII, 4 components, 4 bytes)");
+        vips_image_set_int(photo, VIPS_META_ORIENTATION, orientation);
+        void* profile = nullptr;
+        std::size_t length = 0;
+        if (VipsBlob* blob = nullptr; vips_profile_load("srgb", &blob, nullptr) == 0) {
+            profile = const_cast<void*>(vips_blob_get(blob, &length));
+            vips_image_set_blob_copy(photo, VIPS_META_ICC_NAME, profile, length);
+            vips_area_unref(VIPS_AREA(blob));
+        }
+        EXPECT_EQ(vips_image_write_to_file(photo, (listed() / name).c_str(), nullptr), 0) << vips_error_buffer();
+        for (VipsImage* each : {noise, bytes, colors, photo})
+            g_object_unref(each);
+        return listed() / name;
+    }
+
+    [[nodiscard]] static Image open(const Path& path)
+    {
+        return Image(vips_image_new_from_file(path.c_str(), nullptr));
+    }
+
+    [[nodiscard]] Resizing::Outcome resize(const Path& path, const Goal& goal, const Target& target = {}) const
+    {
+        const auto photo = openWithFolder(m_request, path);
+        if (!photo)
+            return {.kind = Kind::CannotBeOpened, .error = errno};
+        PhotoResizer resizer(ORVIK_RESIZE_WORKER);
+        return resizer.resize(*photo, goal, target, {});
+    }
+
+    [[nodiscard]] static std::vector<std::string> namesIn(const Path& folder)
+    {
+        std::vector<std::string> found;
+        for (const auto& entry : fs::directory_iterator(folder))
+            found.push_back(entry.path().filename());
+        std::ranges::sort(found);
+        return found;
+    }
+    [[nodiscard]] Path root() const { return m_root; }
+
+private:
+    Path m_root;
+    Request m_request;
+};
+
+constexpr Goal small{Goal::Kind::Length, 100};
+
+} // namespace
+
+TEST_F(ResizePhotoTest, EveryFormatStaysWithItsMetadataProfileAndOrientation)
+{
+    for (const std::string kind : {"jpg", "png", "webp", "tif", "heic", "avif"}) {
+        const Path path = photo("a." + kind);
+        const std::string before = Files::read(path);
+        const auto outcome = resize(path, small);
+        ASSERT_EQ(outcome.kind, Kind::Done) << kind << outcome.words;
+        EXPECT_EQ(Files::read(path), before) << "the original is untouched";
+        const Path made = listed() / outcome.name;
+        const Image image = open(made);
+        ASSERT_TRUE(image) << made;
+        EXPECT_EQ(std::max(vips_image_get_width(image.get()), vips_image_get_height(image.get())), 100) << kind;
+        EXPECT_EQ(outcome.after.bytes, fs::file_size(made));
+        const Image original = open(path);
+        for (const char* field : {VIPS_META_ORIENTATION, VIPS_META_ICC_NAME, "exif-ifd0-Artist", "vips-loader"})
+            EXPECT_EQ(vips_image_get_typeof(image.get(), field), vips_image_get_typeof(original.get(), field))
+                << kind << field;
+        EXPECT_EQ(vips_image_get_orientation(image.get()), vips_image_get_orientation(original.get())) << kind;
+    }
+}
+
+TEST_F(ResizePhotoTest, SizesAreToldAsThePhotoIsShown)
+{
+    const auto turned = resize(photo("turned.jpg", 400, 300, 6), {Goal::Kind::Percent, 50});
+    EXPECT_EQ(turned.before.width, 300U);
+    EXPECT_EQ(turned.after.width, 150U);
+    EXPECT_EQ(turned.name, "turned-150x200.jpg");
+    const auto upright = resize(photo("upright.jpg", 400, 300, 1), {Goal::Kind::Percent, 50});
+    EXPECT_EQ(upright.name, "upright-200x150.jpg");
+}
+
+TEST_F(ResizePhotoTest, ASizeInBytesIsReached)
+{
+    const Path path = photo("a.jpg", 1200, 900);
+    for (const std::uint64_t most : {100'000U, 30'000U, 12'000U}) {
+        const auto outcome = resize(path, {Goal::Kind::Bytes, most});
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        EXPECT_LE(fs::file_size(listed() / outcome.name), most);
+        EXPECT_GT(fs::file_size(listed() / outcome.name), most / 4) << "and not by far";
+    }
+    // What is said of it stays, and has that size already.
+    EXPECT_EQ(resize(path, {Goal::Kind::Bytes, 3000}).kind, Kind::Refused);
+}
+
+TEST_F(ResizePhotoTest, WhatIsSmallAlreadyIsLeftAlone)
+{
+    const Path path = photo("a.jpg");
+    EXPECT_EQ(resize(path, {Goal::Kind::Length, 4000}).kind, Kind::SmallAlready);
+    EXPECT_EQ(resize(path, {Goal::Kind::Percent, 100}).kind, Kind::SmallAlready);
+    EXPECT_EQ(resize(path, {Goal::Kind::Bytes, 100'000'000}).kind, Kind::SmallAlready);
+    EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a.jpg"});
+}
+
+TEST_F(ResizePhotoTest, NothingIsEverOverwritten)
+{
+    const Path path = photo("a.jpg", 400, 300, 1);
+    Files::write(listed() / "a-100x75.jpg", "mine");
+    EXPECT_EQ(resize(path, small).name, "a-100x75 (2).jpg");
+    EXPECT_EQ(resize(path, small).name, "a-100x75 (3).jpg");
+    EXPECT_EQ(Files::read(listed() / "a-100x75.jpg"), "mine");
+    Files::write(other() / "a.jpg", "mine too");
+    const auto elsewhere = resize(path, small, {Target::Kind::Folder, other(), "{name}"});
+    EXPECT_EQ(elsewhere.name, "a (2).jpg");
+    EXPECT_EQ(Files::read(other() / "a.jpg"), "mine too");
+}
+
+TEST_F(ResizePhotoTest, InItsPlaceTheOriginalGoesToTheTrash)
+{
+    const Path path = photo("a.jpg");
+    const std::string before = Files::read(path);
+    const auto outcome = resize(path, small, {.kind = Target::Kind::InPlace});
+    if (outcome.kind == Kind::CannotBeTrashed) {
+        EXPECT_EQ(Files::read(path), before) << "without a trash it stays: " << outcome.words;
+        return;
+    }
+    ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+    EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a.jpg"});
+    EXPECT_LT(fs::file_size(path), before.size());
+    bool isInTrash = false;
+    for (const auto& entry : fs::recursive_directory_iterator(root()))
+        isInTrash =
+            isInTrash || (entry.path() != path && entry.is_regular_file() && Files::read(entry.path()) == before);
+    EXPECT_TRUE(isInTrash);
+}
+
+TEST_F(ResizePhotoTest, PermissionsStay)
+{
+    const Path path = photo("a.jpg");
+    fs::permissions(path, fs::perms(0640));
+    const auto outcome = resize(path, small);
+    EXPECT_EQ(fs::status(listed() / outcome.name).permissions(), fs::perms(0640));
+}
+
+TEST_F(ResizePhotoTest, HostileFilesAreToldOfAndLeaveNothing)
+{
+    const std::string whole = Files::read(photo("a.jpg"));
+    Files::write(listed() / "truncated.jpg", whole.substr(0, whole.size() / 2));
+    Files::write(listed() / "text.jpg", "no picture");
+    Files::write(listed() / "empty.jpg", "");
+    // A TIFF that says 60,000 by 60,000 and holds nothing.
+    const std::string huge("II*\0\x08\0\0\0\x04\0"
+                           "\0\x01\x04\0\x01\0\0\0\x60\xea\0\0"
+                           "\x01\x01\x04\0\x01\0\0\0\x60\xea\0\0"
+                           "\x11\x01\x04\0\x01\0\0\0\x08\0\0\0"
+                           "\x17\x01\x04\0\x01\0\0\0\x10\0\0\0"
+                           "\0\0\0\0",
+                           62);
+    Files::write(listed() / "huge.tif", huge);
+    ASSERT_EQ(::mkfifo((listed() / "pipe.jpg").c_str(), 0600), 0);
+    fs::create_directory(listed() / "folder.jpg");
+    const auto names = namesIn(listed());
+    for (const char* name : {"truncated.jpg", "text.jpg", "empty.jpg", "huge.tif"}) {
+        const auto outcome = resize(listed() / name, small);
+        EXPECT_EQ(outcome.kind, Kind::Refused) << name;
+        EXPECT_FALSE(outcome.words.empty());
+    }
+    for (const char* name : {"pipe.jpg", "folder.jpg", "gone.jpg"})
+        EXPECT_EQ(resize(listed() / name, small).kind, Kind::CannotBeOpened) << name;
+    EXPECT_EQ(namesIn(listed()), names);
+}
+
+TEST_F(ResizePhotoTest, AWrongEndOfTheNameDoesNotMislead)
+{
+    fs::rename(photo("a.png"), listed() / "a.jpg");
+    const auto outcome = resize(listed() / "a.jpg", small);
+    ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+    EXPECT_TRUE(Files::read(listed() / outcome.name).starts_with("\x89PNG"));
+}
+
+TEST_F(ResizePhotoTest, HostileNamesAreNothingButNames)
+{
+    for (const std::string name : {"a\nb.jpg", "-rf.jpg", "\xff\xfe.jpg", "[strip].jpg", "a%s.jpg", "{name}.jpg"}) {
+        const Path path = photo("plain.jpg");
+        fs::rename(path, listed() / name);
+        const auto outcome = resize(listed() / name, small);
+        ASSERT_EQ(outcome.kind, Kind::Done) << name << outcome.words;
+        EXPECT_TRUE(fs::exists(listed() / outcome.name));
+    }
+}
+
+TEST_F(ResizePhotoTest, AFullDiskAndAFolderThatIsNotThereAreToldOf)
+{
+    const Path path = photo("a.jpg", 1200, 900);
+    EXPECT_EQ(resize(path, small, {Target::Kind::Folder, root() / "nowhere", "{name}"}).kind, Kind::CannotBeSaved);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit most{1000, 1000};
+        ::setrlimit(RLIMIT_FSIZE, &most);
+        ::_exit(static_cast<int>(resize(path, small).kind));
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_NE(static_cast<Kind>(WEXITSTATUS(status)), Kind::Done);
+    EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a.jpg"});
+}
+
+TEST_F(ResizePhotoTest, APreviewShowsBothAndWritesNothing)
+{
+    const auto opened = openWithFolder(request(), photo("a.jpg", 400, 300, 6));
+    ASSERT_TRUE(opened);
+    PhotoResizer resizer(ORVIK_RESIZE_WORKER);
+    const auto result = resizer.preview(*opened, small, 50, {});
+    ASSERT_TRUE(result);
+    const auto* shown = std::get_if<Resized>(&*result);
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->before.height, 400U);
+    EXPECT_EQ(shown->after.height, 100U);
+    EXPECT_EQ(shown->shownBefore.height, 50U);
+    EXPECT_EQ(shown->shownAfter.height, 50U);
+    EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a.jpg"});
+}
+
+TEST_F(ResizePhotoTest, AllTogetherHaveNoMoreThanIsWanted)
+{
+    EXPECT_EQ(fairShare({100, 100, 100}, 90), 30U);
+    EXPECT_EQ(fairShare({10, 100, 100}, 90), 40U) << "what one does not need is the others'";
+    EXPECT_EQ(fairShare({10, 20, 30}, 90), 90U) << "where all are small enough none has to change";
+    EXPECT_EQ(fairShare({}, 90), 90U);
+    EXPECT_EQ(fairShare({5, 5, 5}, 1), 1U);
+
+    std::vector<std::string> paths;
+    for (const char* name : {"a.jpg", "b.jpg"})
+        paths.push_back(photo(name, 1200, 900));
+    paths.push_back(photo("small.jpg", 40, 30));
+    constexpr std::uint64_t most = 100'000;
+    std::uint64_t sum = fs::file_size(paths.back());
+    const Goal goal = sharedGoal(request(), paths, most);
+    for (std::size_t number = 0; number < 2; ++number) {
+        const auto outcome = resize(paths[number], goal);
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        sum += outcome.after.bytes;
+    }
+    EXPECT_EQ(resize(paths.back(), goal).kind, Kind::SmallAlready);
+    EXPECT_LE(sum, most);
+}
+
+/// A process that is killed while it resizes, at a moment that nobody chooses.
+TEST_F(ResizePhotoTest, WhoeverIsKilledLeavesWholeFilesOnly)
+{
+    const Path path = photo("a.jpg", 1200, 900, 1);
+    const std::string before = Files::read(path);
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_EQ(resize(path, {Goal::Kind::Percent, 50}).kind, Kind::Done);
+    const auto whole = std::chrono::steady_clock::now() - begin;
+    std::mt19937 random(std::random_device{}());
+    std::uniform_real_distribution<double> share(0.0, 3.0);
+    for (int round = 0; round < 20; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            for (;;)
+                static_cast<void>(resize(path, {Goal::Kind::Percent, 50}));
+        }
+        std::this_thread::sleep_for(whole * share(random));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        EXPECT_EQ(Files::read(path), before);
+        for (const std::string& name : namesIn(listed())) {
+            if (name == "a.jpg")
+                continue;
+            const Image image = open(listed() / name);
+            ASSERT_TRUE(image) << name;
+            EXPECT_EQ(vips_image_get_width(image.get()), 600);
+            double mean = 0;
+            EXPECT_EQ(vips_avg(image.get(), &mean, nullptr), 0) << name << " can be read to its end";
+            fs::remove(listed() / name);
+        }
+    }
+}
+
+TEST_F(ResizePhotoTest, AWorkerThatIsNotThereIsToldOf)
+{
+    const auto opened = openWithFolder(request(), photo("a.jpg"));
+    PhotoResizer resizer("/nowhere/worker");
+    EXPECT_EQ(resizer.resize(*opened, small, {}, {}).kind, Kind::WorkerIsMissing);
+}
+
+TEST_F(ResizePhotoTest, AWishToStopEndsItAndLeavesNothing)
+{
+    const auto opened = openWithFolder(request(), photo("a.jpg"));
+    std::stop_source stop;
+    stop.request_stop();
+    PhotoResizer resizer(ORVIK_RESIZE_WORKER);
+    EXPECT_EQ(resizer.resize(*opened, small, {}, stop.get_token()).kind, Kind::Cancelled);
+    EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a.jpg"});
+}
