@@ -12,9 +12,10 @@ namespace {
 constexpr auto side = static_cast<int>(Thumb::side);
 constexpr auto length = static_cast<float>(Thumb::side);
 
-std::size_t cell(int row, int column)
+/// Of a grid with so many columns.
+std::size_t cell(int row, int column, int columns = side)
 {
-    return static_cast<std::size_t>(row * side + column);
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) + static_cast<std::size_t>(column);
 }
 
 /// From -0.5 to 0.5.
@@ -281,11 +282,10 @@ ColorGrid placed(const ColorGrid& whole, const Placement& placement)
         for (int column = 0; column < count; ++column) {
             const Between columns = weights(placement.across, column);
             const auto along = [&](int line) {
-                const auto at = static_cast<std::size_t>(line * count + columns.first);
+                const std::size_t at = cell(line, columns.first, count);
                 return std::lerp(whole[at], whole[at + 1], columns.share);
             };
-            result[static_cast<std::size_t>(row * count + column)] =
-                std::lerp(along(rows.first), along(rows.first + 1), rows.share);
+            result[cell(row, column, count)] = std::lerp(along(rows.first), along(rows.first + 1), rows.share);
         }
     }
     return result;

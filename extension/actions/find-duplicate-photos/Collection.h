@@ -10,7 +10,7 @@
 namespace MenuExtension::SimilarPhotos {
 
 /// Up to where pictures count as alike.
-inline constexpr float usualLimit = 0.17F;
+inline constexpr float usualLimit = 0.18F;
 inline constexpr float widestLimit = 0.60F;
 
 /// Pictures, of which each new one is compared with those that may look like it. One thread at a time.

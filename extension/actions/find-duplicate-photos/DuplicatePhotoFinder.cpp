@@ -101,23 +101,24 @@ void DuplicatePhotoFinder::walk(const std::stop_token& stop)
         addTrouble(path, why);
     };
     FolderWalk walk(m_tree, {}, trouble, stop);
-    for (const std::string& path : m_paths) {
-        if (stop.stop_requested())
-            break;
+    const auto walkFrom = [&](const std::string& path) {
         const FileDescriptor item = m_means.openItem(path, O_PATH | O_NOFOLLOW);
         struct stat status = {};
-        if (!item || ::fstat(item.get(), &status) != 0) {
-            addTrouble(path, "cannot be read: " + Words::reason(errno));
-        } else if (S_ISREG(status.st_mode)) {
-            walk.addFile(path, status);
-        } else if (!S_ISDIR(status.st_mode)) {
-            addTrouble(path, S_ISLNK(status.st_mode) ? "is a link, and those are not followed"
-                                                     : "is neither a file nor a folder");
-        } else if (FileDescriptor folder = m_means.openItem(path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK)) {
-            walk.addFolder(path, std::move(folder));
-        } else {
-            addTrouble(path, "cannot be read: " + Words::reason(errno));
-        }
+        if (!item || ::fstat(item.get(), &status) != 0)
+            return addTrouble(path, "cannot be read: " + Words::reason(errno));
+        if (S_ISREG(status.st_mode))
+            return walk.addFile(path, status);
+        if (!S_ISDIR(status.st_mode))
+            return addTrouble(path, S_ISLNK(status.st_mode) ? "is a link, and those are not followed"
+                                                            : "is neither a file nor a folder");
+        FileDescriptor folder = m_means.openItem(path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK);
+        if (!folder)
+            return addTrouble(path, "cannot be read: " + Words::reason(errno));
+        walk.addFolder(path, std::move(folder));
+    };
+    for (const std::string& path : m_paths) {
+        if (!stop.stop_requested())
+            walkFrom(path);
     }
     const std::scoped_lock lock(m_mutex);
     m_hasWalked = true;

@@ -281,7 +281,7 @@ float Likeness::difference() const
     const float isLit = std::clamp((light - hardlyLit) / (clearlyLit - hardlyLit), 0.0F, 1.0F);
     const float everywhere = std::lerp(content * 3, content * 2.2F, isLit);
     const float somewhere = std::lerp(place * 1.1F, place * 0.7F, isLit);
-    const float differs = std::lerp(std::max(everywhere, somewhere), std::max(content * 2.5F, place * 0.6F), isCut);
+    const float differs = std::lerp(std::max(everywhere, somewhere), std::max(content * 2, place * 0.5F), isCut);
     const float mostOfLight = std::lerp(0.04F, 0.02F, isLit);
     return std::min(1.0F, std::hypot(differs, color, shift) + std::max(0.0F, cut - hardlyCut) * 0.5F +
                               std::min(light * 0.5F, mostOfLight));
