@@ -2,6 +2,7 @@
 
 #include "extension/companion/DirectoryAddress.h"
 #include "extension/companion/OfferedActions.h"
+#include "extension/protocol/ActionsFolder.h"
 
 #include <chrono>
 #include <cstdint>
@@ -30,7 +31,7 @@ Companion::Companion(sd_event& event, sd_bus& bus, std::string settingsFolder)
     : m_event(event), m_bus(bus), m_suite(std::move(settingsFolder)), m_watch(m_suite.path()),
       m_service(bus, m_state, *this),
       m_panel(bus, [this](const std::vector<std::string>& addresses) { watchDirectories(addresses); }),
-      m_notices(bus), m_runner(event, folderOfActions())
+      m_notices(bus), m_runner(event, folderOfActions()), m_needs(event, [this] { offerActionsAnew(); })
 {
     takeSettings(m_suite.read());
 }
@@ -94,8 +95,22 @@ void Companion::takeSettings(const std::optional<NS::Value::Dictionary>& values)
         m_state.directoryURLs = addressesOf(settings.folders);
         m_scope = Scope(settings.folders);
     }
-    m_state.actions = offeredActions(settings.menuItems, folderOfActions());
     m_state.settings = std::move(settings);
+    offerActions();
+}
+
+void Companion::offerActions()
+{
+    OfferedActions offered = offeredActions(m_state.settings.menuItems, folderOfActions());
+    m_state.actions = std::move(offered.actions);
+    m_needs.waitFor(std::move(offered.missing));
+}
+
+void Companion::offerActionsAnew()
+{
+    const CompanionState before = m_state;
+    offerActions();
+    m_service.announceChangesSince(before);
 }
 
 void Companion::followEvents()

@@ -4,6 +4,7 @@
 #include "extension/companion/ActionRunner.h"
 #include "extension/companion/BusService.h"
 #include "extension/companion/FailureNotices.h"
+#include "extension/companion/NeedsWatch.h"
 #include "extension/companion/PanelLink.h"
 #include "extension/companion/SettingsWatch.h"
 #include "extension/companion/SuiteReader.h"
@@ -30,6 +31,8 @@ public:
 
 private:
     void takeSettings(const std::optional<NS::Value::Dictionary>& values);
+    void offerActions();
+    void offerActionsAnew();
     [[nodiscard]] int listen();
     void followEvents();
     void lookAgain();
@@ -49,6 +52,7 @@ private:
     Scope m_scope;
     FailureNotices m_notices;
     ActionRunner m_runner;
+    NeedsWatch m_needs;
     EventSource m_settingsChanges;
     EventSource m_nextLook;
     /// Whether what was found last counts only if it is still so at the next look.

@@ -54,6 +54,11 @@ class Packages(unittest.TestCase):
         panel = self.binaries[0]
         self.assertEqual(names(panel["Recommends"]), self.listed("packages_panel"))
 
+    def test_what_actions_need_is_recommended(self):
+        needed = {line.split()[2] for path in (BUILD / "libexec/orvik-menu").glob("*.needs")
+                  for line in path.read_text().splitlines()}
+        self.assertLessEqual(needed, names(self.binaries[0]["Recommends"]))
+
     def test_there_is_one_for_each_file_manager_beside_the_panel_s(self):
         file_managers = self.listed("file_managers")
         self.assertEqual(file_managers, {"caja", "dolphin", "nautilus", "nemo", "thunar"})

@@ -3,6 +3,7 @@
 #include "extensions/Card.h"
 #include "extensions/ExtensionRow.h"
 #include "extensions/FileManagerSection.h"
+#include "extensions/LackingActionsSection.h"
 #include "extensions/StatusLine.h"
 
 #include <QEvent>
@@ -21,7 +22,7 @@ constexpr int initialWidth = 620;
 } // namespace
 
 ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& controls, FileManagersControl& fileManagers,
-                                   const QIcon& icon)
+                                   const std::string& actions, const QIcon& icon)
 {
     setWindowTitle(QStringLiteral("Extensions"));
 
@@ -41,6 +42,7 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
     layout->addWidget(card);
     layout->addSpacing(6);
     layout->addWidget(new FileManagerSection(fileManagers, this));
+    layout->addWidget(new LackingActionsSection(actions, this));
     layout->addStretch(1);
 
     for (const auto& keys :

@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QWidget>
 
+#include <string>
 #include <vector>
 
 namespace ExtensionsTool {
@@ -15,9 +16,9 @@ class ExtensionsWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// The controls must outlive the window. `icon` is shown beside each.
+    /// The controls must outlive the window. `icon` is shown beside each. The actions' programs are in `actions`.
     ExtensionsWindow(const std::vector<ExtensionControl*>& controls, FileManagersControl& fileManagers,
-                     const QIcon& icon);
+                     const std::string& actions, const QIcon& icon);
 
 protected:
     bool event(QEvent* event) override;

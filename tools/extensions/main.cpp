@@ -1,3 +1,4 @@
+#include "extension/protocol/ActionsFolder.h"
 #include "extensions/ExtensionControl.h"
 #include "extensions/ExtensionsWindow.h"
 #include "extensions/FileManagersControl.h"
@@ -51,7 +52,7 @@ int main(int argc, char** argv)
     return Program::run(extensions, argc, argv, [](Program& program) {
         ExtensionControl control(program.bus(), autostartFolders(), menuExtension());
         FileManagersControl fileManagers(MenuExtension::usualPlaces());
-        ExtensionsWindow window({&control}, fileManagers, Program::icon());
+        ExtensionsWindow window({&control}, fileManagers, MenuExtension::folderOfActions(), Program::icon());
         return program.show(window);
     });
 }

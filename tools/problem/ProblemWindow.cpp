@@ -109,12 +109,12 @@ ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon)
     }
     std::vector<QPushButton*> buttons = m_remedies;
     buttons.insert(buttons.begin(), close);
-    layOut(picture, {heading, quotation, reason, advice, m_trouble}, buttons);
+    layOut(picture, {heading, reason, advice, quotation, m_trouble}, buttons);
     buttons.back()->setDefault(true);
     buttons.back()->setFocus();
     // What is read out when the window comes.
     setAccessibleDescription(heading->text() + QStringLiteral(". ") +
-                             QStringList{quotation->text(), reason->text(), advice->text()}.join(u' ').simplified());
+                             QStringList{reason->text(), advice->text(), quotation->text()}.join(u' ').simplified());
 }
 
 void ProblemWindow::layOut(QLabel* picture, const std::vector<QLabel*>& texts,

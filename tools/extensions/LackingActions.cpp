@@ -1,0 +1,34 @@
+#include "extensions/LackingActions.h"
+
+#include "settings/MenuCatalogue.h"
+
+#include <QStringList>
+
+#include <unistd.h>
+
+namespace ExtensionsTool {
+
+std::vector<LackingAction> lackingActions(const std::string& programs)
+{
+    std::vector<LackingAction> lacking;
+    for (const CatalogueRow& row : menuCatalogue) {
+        if (::access((programs + '/').append(row.identifier).c_str(), X_OK) != 0)
+            continue;
+        if (auto needs = MenuExtension::missingNeeds(programs, row.identifier); !needs.empty())
+            lacking.push_back(
+                {QString::fromUtf8(row.title.data(), static_cast<qsizetype>(row.title.size())), std::move(needs)});
+    }
+    return lacking;
+}
+
+QString inWords(const LackingAction& action)
+{
+    QStringList packages;
+    for (const MenuExtension::ActionNeed& need : action.needs)
+        packages += QString::fromStdString(need.package);
+    return (packages.size() == 1 ? QStringLiteral("Needs the package %1, which is not installed.")
+                                 : QStringLiteral("Needs the packages %1, which are not installed."))
+        .arg(packages.join(QStringLiteral(", ")));
+}
+
+} // namespace ExtensionsTool
