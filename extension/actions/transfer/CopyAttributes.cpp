@@ -26,13 +26,15 @@ bool isImpossible(int error)
 bool AttributeCopier::copy(int from, const struct stat& source, int to, const struct stat& made)
 {
     mode_t mode = source.st_mode & permissions;
-    if ((source.st_uid != made.st_uid || source.st_gid != made.st_gid) && !copyOwner(source, to, "", mode))
+    const bool hasOwner = source.st_uid == made.st_uid && source.st_gid == made.st_gid;
+    if (!hasOwner && !copyOwner(source, to, "", mode))
         return false;
     if (!copyExtended(from, to))
         return false;
-    if (m_calls.setMode(to, mode) != 0 && !isImpossible(errno))
-        return false;
-    return copyTimes(source, to, "");
+    // A change of the owner may have taken some of them.
+    if ((hasOwner && mode == (made.st_mode & permissions)) || m_calls.setMode(to, mode) == 0 || isImpossible(errno))
+        return copyTimes(source, to, "");
+    return false;
 }
 
 bool AttributeCopier::copyUnopened(const struct stat& source, int folder, const char* name)

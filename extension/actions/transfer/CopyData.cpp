@@ -68,7 +68,7 @@ bool DataCopier::copyData(int from, const struct stat& source, int to)
 {
     const off_t size = source.st_size;
     if (!isSparse(source))
-        return copySegment(from, to, 0, size) && isAtEnd(from, size);
+        return copySegment(from, to, 0, size) && (size > 0 || isAtEnd(from, size));
     for (off_t at = 0; at < size;) {
         const off_t begin = m_calls.seek(from, at, SEEK_DATA);
         if (begin < 0 && errno == ENXIO)

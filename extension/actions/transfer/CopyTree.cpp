@@ -112,7 +112,8 @@ bool TreeCopier::copyFile(int from, const char* name, int to, const char* newNam
         errno = EBUSY;
         return false;
     }
-    FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+    // Nobody else comes into the folder where it is made.
+    FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, source.st_mode & 0777U);
     if (!made)
         return false;
     if (!fillFile(original, source, made) || !made.close()) {
