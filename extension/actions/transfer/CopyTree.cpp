@@ -59,6 +59,7 @@ bool TreeCopier::copy(const Folder& from, const std::string& name, int to, const
     m_finalMode.reset();
     m_fatalError = 0;
     m_root = to;
+    m_folder = from.identity.file;
     m_path = from.path == "/" ? std::string() : from.path;
     m_copyPath.assign(1, '.');
     m_depth = 0;
@@ -85,7 +86,7 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         if (linkToCopy(source, to, newName))
             isMade = true;
         else if (S_ISREG(source.st_mode))
-            isMade = copyFile(from, name, to, newName);
+            isMade = copyFile(from, name, to, newName, source);
         else if (S_ISLNK(source.st_mode))
             isMade = copySymbolicLink(from, name, to, newName, source);
         else
@@ -95,16 +96,14 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         note(name, errno);
         return false;
     }
-    // Of an opened file it was added as it was when it was read.
-    if (!S_ISREG(source.st_mode))
-        m_copied.add(source);
+    m_copied.add(source, m_folder, name);
     ++m_progress.files;
     return true;
 }
 
-bool TreeCopier::copyFile(int from, const char* name, int to, const char* newName)
+/// `source` becomes what the file was when it was copied.
+bool TreeCopier::copyFile(int from, const char* name, int to, const char* newName, struct stat& source)
 {
-    struct stat source = {};
     const FileDescriptor original = m_calls.open(from, name, O_RDONLY);
     if (!original || m_calls.status(original.get(), "", source) != 0)
         return false;
@@ -123,11 +122,9 @@ bool TreeCopier::copyFile(int from, const char* name, int to, const char* newNam
         return false;
     }
     rememberCopy(source, newName);
-    m_copied.add(source);
     return true;
 }
 
-/// `source` becomes what the file was when it was copied.
 bool TreeCopier::fillFile(const FileDescriptor& from, struct stat& source, const FileDescriptor& to)
 {
     for (int attempt = 1; !m_data.copy(from.get(), source, to.get()); ++attempt) {
@@ -158,6 +155,7 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
         return false;
     }
     ++m_depth;
+    const ino_t outer = std::exchange(m_folder, source.st_ino);
     {
         const PathsBelow paths(m_path, name, m_copyPath, newName);
         FolderEntries entries(m_calls, original);
@@ -167,6 +165,7 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
         if (entries.error() != 0)
             note("", entries.error());
     }
+    m_folder = outer;
     --m_depth;
     if (m_fatalError != 0)
         return false;

@@ -47,7 +47,7 @@ public:
 
 private:
     [[nodiscard]] bool copyItem(int from, const char* name, int to, const char* newName);
-    [[nodiscard]] bool copyFile(int from, const char* name, int to, const char* newName);
+    [[nodiscard]] bool copyFile(int from, const char* name, int to, const char* newName, struct stat& source);
     [[nodiscard]] bool fillFile(const LinuxDesktop::FileDescriptor& from, struct stat& source,
                                 const LinuxDesktop::FileDescriptor& to);
     [[nodiscard]] bool copyFolder(int from, const char* name, int to, const char* newName);
@@ -74,6 +74,8 @@ private:
     /// Files of several names: where the first copy lies, from the folder that everything is copied to.
     std::map<std::pair<dev_t, ino_t>, Copy> m_several;
     int m_root = -1;
+    /// The number of the folder whose entries are copied.
+    ino_t m_folder = 0;
     /// Of the original and of the copy that are worked on; for what is said and for m_several.
     std::string m_path;
     std::string m_copyPath;

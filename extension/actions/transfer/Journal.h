@@ -19,6 +19,7 @@ struct Placed {
     std::string sourceName;
     SharedPath targetFolder;
     std::string targetName;
+    /// None where it could not be asked for.
     Identity identity;
     bool isFolder = false;
     /// It is nowhere else any more.

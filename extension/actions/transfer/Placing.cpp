@@ -55,25 +55,26 @@ bool placeNewPlainly(SystemCalls& calls, const Place& item, const Place& target,
 
 /// For a file system that cannot exchange two items: the old one gets a name that people see first, where it is found
 /// if this is as far as it comes.
-bool placeInsteadBySteps(SystemCalls& calls, const Place& item, const Place& target, bool isFolder, const Place& old)
+Replacing placeInsteadBySteps(SystemCalls& calls, const Place& item, const Place& target, bool isFolder,
+                              const Place& old)
 {
     struct stat replaced = {};
     if (calls.status(target.folder, target.name.c_str(), replaced) != 0)
-        return errno == ENOENT && placeNew(calls, item, target, isFolder);
+        return Replacing::Failed;
     const bool wasFolder = S_ISDIR(replaced.st_mode);
     constexpr std::size_t longestEverywhere = 143;
     const std::string spare = placeBeside(calls, target, target, wasFolder, longestEverywhere);
     if (spare.empty())
-        return false;
+        return Replacing::Failed;
     const Place beside{target.folder, spare};
     if (placeNew(calls, item, target, isFolder)) {
         static_cast<void>(placeNew(calls, beside, old, wasFolder));
-        return true;
+        return Replacing::Replaced;
     }
     const int error = errno;
     static_cast<void>(placeNew(calls, beside, target, wasFolder));
     errno = error;
-    return false;
+    return Replacing::Failed;
 }
 
 } // namespace
@@ -85,19 +86,19 @@ bool placeNew(SystemCalls& calls, const Place& item, const Place& target, bool i
     return isUnknown(errno) && placeNewPlainly(calls, item, target, isFolder);
 }
 
-bool placeInstead(SystemCalls& calls, const Place& item, const Place& target, bool isFolder, const Place& old)
+Replacing placeInstead(SystemCalls& calls, const Place& item, const Place& target, bool isFolder, const Place& old)
 {
     if (!rename(calls, item, target, RENAME_EXCHANGE)) {
         if (errno == ENOENT)
-            return placeNew(calls, item, target, isFolder);
-        return isUnknown(errno) && placeInsteadBySteps(calls, item, target, isFolder, old);
+            return placeNew(calls, item, target, isFolder) ? Replacing::NothingReplaced : Replacing::Failed;
+        return isUnknown(errno) ? placeInsteadBySteps(calls, item, target, isFolder, old) : Replacing::Failed;
     }
     if ((item.folder == old.folder && item.name == old.name) || rename(calls, item, old, 0))
-        return true;
+        return Replacing::Replaced;
     const int error = errno;
     static_cast<void>(rename(calls, item, target, RENAME_EXCHANGE));
     errno = error;
-    return false;
+    return Replacing::Failed;
 }
 
 std::string placeBeside(SystemCalls& calls, const Place& item, const Place& target, bool isFolder,

@@ -14,7 +14,8 @@ public:
     /// Removes all where `copied` is null.
     TreeRemover(SystemCalls& calls, Stamps* copied) : m_calls(calls), m_copied(copied) {}
 
-    void remove(int folder, const char* name)
+    /// `inFolder` is the folder's number on its file system.
+    void remove(int folder, ino_t inFolder, const char* name)
     {
         struct stat status = {};
         if (m_calls.status(folder, name, status) != 0) {
@@ -22,7 +23,7 @@ public:
                 note(errno);
         } else if (S_ISDIR(status.st_mode)) {
             removeFolder(folder, name, status);
-        } else if (m_copied && !m_copied->contains(status)) {
+        } else if (m_copied && !m_copied->contains(status, inFolder, name)) {
             note(EBUSY);
         } else if (m_calls.remove(folder, name, 0) != 0) {
             note(errno);
@@ -50,7 +51,7 @@ private:
         }
         FolderEntries entries(m_calls, opened);
         while (const char* entry = entries.next())
-            remove(opened.get(), entry);
+            remove(opened.get(), status.st_ino, entry);
         if (entries.error() != 0)
             note(entries.error());
         if (m_calls.remove(folder, name, AT_REMOVEDIR) != 0)
@@ -80,10 +81,8 @@ private:
     int m_error = 0;
 };
 
-bool remove(SystemCalls& calls, int folder, const char* name, Stamps* copied)
+bool result(const TreeRemover& remover)
 {
-    TreeRemover remover(calls, copied);
-    remover.remove(folder, name);
     errno = remover.error();
     return remover.error() == 0;
 }
@@ -92,12 +91,16 @@ bool remove(SystemCalls& calls, int folder, const char* name, Stamps* copied)
 
 bool removeTree(SystemCalls& calls, int folder, const char* name)
 {
-    return remove(calls, folder, name, nullptr);
+    TreeRemover remover(calls, nullptr);
+    remover.remove(folder, 0, name);
+    return result(remover);
 }
 
-bool removeCopied(SystemCalls& calls, int folder, const char* name, Stamps& copied)
+bool removeCopied(SystemCalls& calls, const Folder& folder, const std::string& name, Stamps& copied)
 {
-    return remove(calls, folder, name, &copied);
+    TreeRemover remover(calls, &copied);
+    remover.remove(folder.get(), folder.identity.file, name.c_str());
+    return result(remover);
 }
 
 } // namespace MenuExtension::Transfers

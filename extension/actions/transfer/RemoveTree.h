@@ -1,7 +1,10 @@
 #pragma once
 
+#include "extension/actions/transfer/Folder.h"
 #include "extension/actions/transfer/Stamps.h"
 #include "extension/actions/transfer/SystemCalls.h"
+
+#include <string>
 
 namespace MenuExtension::Transfers {
 
@@ -11,6 +14,6 @@ namespace MenuExtension::Transfers {
 
 /// The same for what was copied, and for folders that are empty then: what was added or changed since stays, and so
 /// does what cannot be removed. The errno is EBUSY for the former.
-[[nodiscard]] bool removeCopied(SystemCalls& calls, int folder, const char* name, Stamps& copied);
+[[nodiscard]] bool removeCopied(SystemCalls& calls, const Folder& folder, const std::string& name, Stamps& copied);
 
 } // namespace MenuExtension::Transfers

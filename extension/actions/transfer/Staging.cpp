@@ -100,7 +100,7 @@ std::vector<std::string> recordPlaces()
 
 StagingRecord::~StagingRecord()
 {
-    if (m_file)
+    if (m_file && !m_isKept)
         ::unlink(m_path.c_str());
 }
 
@@ -186,22 +186,23 @@ std::optional<Staging> Staging::make(SystemCalls& calls, const SharedFolder& tar
     FileDescriptor folder = calls.open(target->get(), name.c_str(), O_RDONLY | O_DIRECTORY);
     if (!folder) {
         const int error = errno;
-        static_cast<void>(calls.remove(target->get(), name.c_str(), AT_REMOVEDIR));
+        if (calls.remove(target->get(), name.c_str(), AT_REMOVEDIR) != 0)
+            record.keep();
         errno = error;
         return std::nullopt;
     }
-    return Staging(calls, target, std::move(name), std::move(folder));
+    return Staging(calls, record, target, std::move(name), std::move(folder));
 }
 
 Staging::Staging(Staging&& other) noexcept
-    : m_calls(other.m_calls), m_target(std::move(other.m_target)), m_name(std::move(other.m_name)),
+    : m_calls(other.m_calls), m_record(other.m_record), m_target(std::move(other.m_target)), m_name(std::move(other.m_name)),
       m_folder(std::move(other.m_folder)), m_names(other.m_names)
 {}
 
 Staging::~Staging()
 {
-    if (m_folder)
-        static_cast<void>(removeTree(m_calls, m_target->get(), m_name.c_str()));
+    if (m_folder && !removeTree(m_calls, m_target->get(), m_name.c_str()))
+        m_record.keep();
 }
 
 } // namespace MenuExtension::Transfers

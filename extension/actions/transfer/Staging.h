@@ -23,6 +23,9 @@ public:
     /// a full disk must not keep anybody from moving things off it.
     void add(const std::string& path);
 
+    /// The record outlives its process: not all that it names could be removed.
+    void keep() { m_isKept = true; }
+
     /// Removes the hidden folders of killed processes, and the records of them. Those of processes that run are left
     /// alone.
     void removeLeftovers();
@@ -35,9 +38,11 @@ private:
     const std::vector<std::string> m_places;
     std::string m_path;
     LinuxDesktop::FileDescriptor m_file;
+    bool m_isKept = false;
 };
 
-/// A hidden folder in a target's, for what is not whole yet and for what was replaced. Its end removes it.
+/// A hidden folder in a target's, for what is not whole yet and for what was replaced. Its end removes
+/// it. The record must outlive it.
 class Staging {
 public:
     /// Nothing, with errno, where it cannot be made.
@@ -53,11 +58,13 @@ public:
     [[nodiscard]] std::string newName() { return std::to_string(++m_names); }
 
 private:
-    Staging(SystemCalls& calls, SharedFolder target, std::string name, LinuxDesktop::FileDescriptor folder)
-        : m_calls(calls), m_target(std::move(target)), m_name(std::move(name)), m_folder(std::move(folder))
+    Staging(SystemCalls& calls, StagingRecord& record, SharedFolder target, std::string name,
+            LinuxDesktop::FileDescriptor folder)
+        : m_calls(calls), m_record(record), m_target(std::move(target)), m_name(std::move(name)), m_folder(std::move(folder))
     {}
 
     SystemCalls& m_calls;
+    StagingRecord& m_record;
     SharedFolder m_target;
     std::string m_name;
     LinuxDesktop::FileDescriptor m_folder;

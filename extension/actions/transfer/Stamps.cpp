@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <string_view>
 
 namespace MenuExtension::Transfers {
 
@@ -16,19 +18,27 @@ std::uint64_t mixed(std::uint64_t value)
     return value ^ (value >> 31U);
 }
 
-enum class StatusTime { Counts, Ignored };
-
-std::uint64_t stampOf(const struct stat& status, StatusTime statusTime)
+/// Of a file of several names, whose others change the time of its status when they go.
+std::uint64_t stampOfName(ino_t folder, const char* name)
 {
-    const bool counts = statusTime == StatusTime::Counts;
-    const std::array<std::uint64_t, 7> parts{
+    return mixed(folder ^ std::hash<std::string_view>()(name));
+}
+
+std::uint64_t stampOfTime(const struct stat& status)
+{
+    return mixed(static_cast<std::uint64_t>(status.st_ctim.tv_sec) ^
+                 mixed(static_cast<std::uint64_t>(status.st_ctim.tv_nsec)));
+}
+
+std::uint64_t stampOf(const struct stat& status, std::uint64_t rest)
+{
+    const std::array<std::uint64_t, 6> parts{
+        rest,
         static_cast<std::uint64_t>(status.st_dev),
         static_cast<std::uint64_t>(status.st_ino),
         static_cast<std::uint64_t>(status.st_size),
         static_cast<std::uint64_t>(status.st_mtim.tv_sec),
         static_cast<std::uint64_t>(status.st_mtim.tv_nsec),
-        counts ? static_cast<std::uint64_t>(status.st_ctim.tv_sec) : 0,
-        counts ? static_cast<std::uint64_t>(status.st_ctim.tv_nsec) : 0,
     };
     std::uint64_t stamp = 0;
     for (const std::uint64_t part : parts)
@@ -36,27 +46,22 @@ std::uint64_t stampOf(const struct stat& status, StatusTime statusTime)
     return stamp;
 }
 
-/// The removal of one name is a change to the file's others.
-StatusTime statusTimeOf(const struct stat& status)
-{
-    return status.st_nlink > 1 ? StatusTime::Ignored : StatusTime::Counts;
-}
-
 } // namespace
 
-void Stamps::add(const struct stat& status)
+void Stamps::add(const struct stat& status, ino_t folder, const char* name)
 {
-    m_stamps.push_back(stampOf(status, statusTimeOf(status)));
+    m_stamps.push_back(stampOf(status, status.st_nlink > 1 ? stampOfName(folder, name) : stampOfTime(status)));
     m_isSorted = false;
 }
 
-bool Stamps::contains(const struct stat& status)
+bool Stamps::contains(const struct stat& status, ino_t folder, const char* name)
 {
     if (!m_isSorted)
         std::ranges::sort(m_stamps);
     m_isSorted = true;
-    return std::ranges::binary_search(m_stamps, stampOf(status, StatusTime::Counts)) ||
-           std::ranges::binary_search(m_stamps, stampOf(status, StatusTime::Ignored));
+    // It may be the last name of several by now.
+    return std::ranges::binary_search(m_stamps, stampOf(status, stampOfName(folder, name))) ||
+           std::ranges::binary_search(m_stamps, stampOf(status, stampOfTime(status)));
 }
 
 } // namespace MenuExtension::Transfers

@@ -362,7 +362,7 @@ void Transfer::removeOriginals()
 {
     for (const auto& [number, step] : m_placed) {
         const Task& task = m_staged[number].task;
-        if (removeCopied(m_calls, task.source->get(), task.name.c_str(), m_copier.copied()))
+        if (removeCopied(m_calls, *task.source, task.name, m_copier.copied()))
             std::get<Placed>(m_journal[step]).isMoved = true;
         else
             m_result.problems.add({Problem::Kind::NotRemoved, task.source->pathOf(task.name), errno});
@@ -388,12 +388,11 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
         const bool wasFolder = m_calls.status(target.folder, target.name.c_str(), existing) == 0 &&
                                S_ISDIR(existing.st_mode);
         const Place old{m_stagings[*staging].get(), free};
-        if (!placeInstead(m_calls, item, target, isFolder, old))
-            return false;
-        if (m_calls.status(old.folder, old.name.c_str(), existing) == 0)
-            m_journal.emplace_back(Replaced{shared(m_lastTarget, task.target->path), task.newName, *staging, free,
-                                            wasFolder});
-        return true;
+        const Replacing replacing = placeInstead(m_calls, item, target, isFolder, old);
+        if (replacing == Replacing::Replaced)
+            m_journal.emplace_back(
+                Replaced{shared(m_lastTarget, task.target->path), task.newName, *staging, free, wasFolder});
+        return replacing != Replacing::Failed;
     }
     if (placeNew(m_calls, item, target, isFolder))
         return true;
@@ -467,7 +466,8 @@ std::optional<std::size_t> Transfer::stagingFor(const SharedFolder& target)
     const auto found = std::ranges::find(m_stagings, target->identity.device, &Staging::device);
     if (found != m_stagings.end())
         return static_cast<std::size_t>(found - m_stagings.begin());
-    auto made = Staging::make(m_calls, target, m_record);
+    const SharedFolder& outer = m_target->folder();
+    auto made = Staging::make(m_calls, target->identity.device == outer->identity.device ? outer : target, m_record);
     if (!made)
         return std::nullopt;
     m_stagings.push_back(*std::move(made));

@@ -17,6 +17,8 @@ using Tree = std::map<std::string, std::string>;
 /// The item and all that is in it, by their paths below it; the item's own is empty. A folder's time is left out
 /// where it is no part of what is looked at.
 [[nodiscard]] Tree treeOf(const std::filesystem::path& item, bool withFolderTimes = true);
+/// What a file holds. Read in one piece, which is much faster.
+[[nodiscard]] std::string contentOf(const std::filesystem::path& path);
 /// The names in a folder, hidden ones too, sorted.
 [[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path& folder);
 
@@ -47,7 +49,8 @@ protected:
     enum class Disks { One, Two };
     enum class What { Copy, Move };
 
-    explicit TransferTest(Disks disks = Disks::One);
+    /// In memory nothing waits for a disk. Of two file systems only the target is in memory.
+    explicit TransferTest(Disks disks = Disks::One, bool isInMemory = false);
     ~TransferTest() override;
 
     [[nodiscard]] const Path& source() const { return m_source; }

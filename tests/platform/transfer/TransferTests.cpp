@@ -80,7 +80,7 @@ TEST_P(Transfers, TakeManyItemsOfSeveralFolders)
     expectDone(run(items), items.size());
     EXPECT_EQ(namesIn(target()).size(), items.size());
     for (const fs::path& item : items) {
-        EXPECT_EQ(Files::read(target() / item.filename()), item.filename());
+        EXPECT_EQ(contentOf(target() / item.filename()), item.filename());
         expectAtSource(item, !isMove());
     }
     EXPECT_EQ(progress.files, progress.totalFiles);
@@ -95,8 +95,8 @@ TEST_P(Transfers, LeaveWhatIsSkipped)
     const Result result = run({item});
     EXPECT_EQ(result.done, 0U);
     EXPECT_EQ(result.skipped, 1U);
-    EXPECT_EQ(Files::read(target() / "name"), "old");
-    EXPECT_EQ(Files::read(item), "new");
+    EXPECT_EQ(contentOf(target() / "name"), "old");
+    EXPECT_EQ(contentOf(item), "new");
     ASSERT_EQ(answers.asked.size(), 1U);
     EXPECT_EQ(answers.asked[0].source.path, item);
     EXPECT_EQ(answers.asked[0].target.path, target() / "name");
@@ -113,11 +113,11 @@ TEST_P(Transfers, KeepBothUnderAFreeName)
     answers.always = {Resolution::KeepBoth};
     expectDone(run({item}));
     EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"name 2.txt", "name 3.txt", "name.txt"}));
-    EXPECT_EQ(Files::read(target() / "name 3.txt"), "new");
-    EXPECT_EQ(Files::read(target() / "name.txt"), "old");
+    EXPECT_EQ(contentOf(target() / "name 3.txt"), "new");
+    EXPECT_EQ(contentOf(target() / "name.txt"), "old");
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
     EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"name 2.txt", "name.txt"}));
-    EXPECT_EQ(Files::read(item), "new");
+    EXPECT_EQ(contentOf(item), "new");
 }
 
 TEST_P(Transfers, ReplaceAFileAndGiveItBack)
@@ -127,12 +127,12 @@ TEST_P(Transfers, ReplaceAFileAndGiveItBack)
     const Tree before = treeOf(target(), false);
     answers.always = {Resolution::Replace};
     expectDone(run({item}));
-    EXPECT_EQ(Files::read(target() / "name"), "new");
+    EXPECT_EQ(contentOf(target() / "name"), "new");
     expectAtSource(item, !isMove());
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
     forget();
     EXPECT_EQ(treeOf(target(), false), before);
-    EXPECT_EQ(Files::read(item), "new");
+    EXPECT_EQ(contentOf(item), "new");
     expectNoLeftovers();
 }
 
@@ -146,7 +146,7 @@ TEST_P(Transfers, ReplaceAFolderWithAllThatIsInIt)
     EXPECT_EQ(treeOf(target() / "name"), before);
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
     forget();
-    EXPECT_EQ(Files::read(target() / "name/old/file"), "old");
+    EXPECT_EQ(contentOf(target() / "name/old/file"), "old");
     EXPECT_EQ(namesIn(target() / "name"), std::vector<std::string>{"old"});
     EXPECT_EQ(treeOf(source() / "name", false).size(), before.size());
     expectNoLeftovers();
@@ -161,11 +161,11 @@ TEST_P(Transfers, ReplaceAFolderByAFileAndAFileByAFolder)
     answers.always = {Resolution::Replace, true};
     expectDone(run({one, other}), 2);
     EXPECT_EQ(answers.asked.size(), 1U);
-    EXPECT_EQ(Files::read(target() / "one"), "file");
-    EXPECT_EQ(Files::read(target() / "other/file"), "file");
+    EXPECT_EQ(contentOf(target() / "one"), "file");
+    EXPECT_EQ(contentOf(target() / "other/file"), "file");
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
-    EXPECT_EQ(Files::read(target() / "one/file"), "old");
-    EXPECT_EQ(Files::read(target() / "other"), "old");
+    EXPECT_EQ(contentOf(target() / "one/file"), "old");
+    EXPECT_EQ(contentOf(target() / "other"), "old");
 }
 
 TEST_P(Transfers, ForgetWhatWasReplacedInTheEnd)
@@ -197,11 +197,11 @@ TEST_P(Transfers, MergeFolders)
     expectDone(run({source() / "album"}));
     EXPECT_EQ(answers.asked.size(), 3U);
     EXPECT_EQ(namesIn(target() / "album"), (std::vector<std::string>{"both", "deep", "new", "old"}));
-    EXPECT_EQ(Files::read(target() / "album/both"), "newer");
-    EXPECT_EQ(Files::read(target() / "album/deep/both"), "old");
-    EXPECT_EQ(Files::read(target() / "album/deep/er/new"), "new");
+    EXPECT_EQ(contentOf(target() / "album/both"), "newer");
+    EXPECT_EQ(contentOf(target() / "album/deep/both"), "old");
+    EXPECT_EQ(contentOf(target() / "album/deep/er/new"), "new");
     // What was skipped is where it was, and so are the folders that it lies in.
-    EXPECT_EQ(Files::read(source() / "album/deep/both"), "newer");
+    EXPECT_EQ(contentOf(source() / "album/deep/both"), "newer");
     expectAtSource(source() / "album/both", !isMove());
     expectAtSource(source() / "album/deep/er", !isMove());
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
@@ -236,7 +236,7 @@ TEST_P(Transfers, AskOnceForAllTheRestOfAKind)
     expectDone(run(items), 3);
     EXPECT_EQ(answers.asked.size(), 1U);
     for (const char* name : {"1", "2", "3"})
-        EXPECT_EQ(Files::read(target() / name), "new");
+        EXPECT_EQ(contentOf(target() / name), "new");
 }
 
 TEST_P(Transfers, EndWhereAQuestionIsCancelled)
@@ -247,9 +247,9 @@ TEST_P(Transfers, EndWhereAQuestionIsCancelled)
     const Result result = run({one, other});
     EXPECT_TRUE(result.isCancelled);
     EXPECT_EQ(result.done, 0U);
-    EXPECT_EQ(Files::read(target() / "1"), "old");
-    EXPECT_EQ(Files::read(one), "new");
-    EXPECT_EQ(Files::read(other), "new");
+    EXPECT_EQ(contentOf(target() / "1"), "old");
+    EXPECT_EQ(contentOf(one), "new");
+    EXPECT_EQ(contentOf(other), "new");
     EXPECT_EQ(namesIn(target()), std::vector<std::string>{"1"});
 }
 
@@ -261,7 +261,7 @@ TEST_P(Transfers, ReplaceAnotherNameOfTheSameFile)
     fs::create_hard_link(item, target() / "name");
     answers.always = {Resolution::Replace};
     expectDone(run({item}));
-    EXPECT_EQ(Files::read(target() / "name"), "content");
+    EXPECT_EQ(contentOf(target() / "name"), "content");
     expectAtSource(item, !isMove());
 }
 
@@ -275,7 +275,7 @@ TEST_P(Transfers, DoNotReplaceTheFolderThatTheItemLiesIn)
     };
     expectDone(TransferTest::run(what(), {item}));
     EXPECT_EQ(answers.asked.size(), 1U);
-    EXPECT_EQ(Files::read(target() / "name 2"), "inner");
+    EXPECT_EQ(contentOf(target() / "name 2"), "inner");
     expectAtSource(item, !isMove());
 }
 
@@ -327,7 +327,7 @@ TEST_P(Transfers, FollowNoLink)
     fs::create_directory_symlink(outside, source() / "link");
     expectDone(run({source() / "link"}));
     EXPECT_EQ(fs::read_symlink(target() / "link"), outside);
-    EXPECT_EQ(Files::read(outside / "file"), "outside");
+    EXPECT_EQ(contentOf(outside / "file"), "outside");
     expectAtSource(source() / "link", !isMove());
 }
 
@@ -339,8 +339,8 @@ TEST_P(Transfers, GoTogetherWithOthersToTheSameFolder)
     answers.always = {Resolution::KeepBoth};
     expectDone(run({one, other}), 2);
     EXPECT_EQ(answers.asked.size(), 1U);
-    EXPECT_EQ(Files::read(target() / "name"), "one");
-    EXPECT_EQ(Files::read(target() / "name 2"), "other");
+    EXPECT_EQ(contentOf(target() / "name"), "one");
+    EXPECT_EQ(contentOf(target() / "name 2"), "other");
 }
 
 class Copies : public TransferTest {};
@@ -371,7 +371,7 @@ TEST_F(Moves, AreNotUndoneWhereAnotherItemHasTheNameByNow)
     fs::rename(target() / "item", target() / "elsewhere");
     file(target() / "item", "another");
     EXPECT_EQ(kindsOf(undo()), std::vector{Kind::NotUndone});
-    EXPECT_EQ(Files::read(target() / "item"), "another");
+    EXPECT_EQ(contentOf(target() / "item"), "another");
 }
 
 TEST_F(Moves, ComeBackBesideWhatIsThereByNow)
@@ -379,8 +379,8 @@ TEST_F(Moves, ComeBackBesideWhatIsThereByNow)
     run(What::Move, {file(source() / "item", "moved")});
     file(source() / "item", "another");
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
-    EXPECT_EQ(Files::read(source() / "item"), "another");
-    EXPECT_EQ(Files::read(source() / "item 2"), "moved");
+    EXPECT_EQ(contentOf(source() / "item"), "another");
+    EXPECT_EQ(contentOf(source() / "item 2"), "moved");
 }
 
 TEST_F(Copies, ThatTheTrashDoesNotTakeStay)
@@ -513,8 +513,8 @@ TEST_P(UnusualTransfers, ManageWithoutTheNewerKindsOfRenaming)
         const Tree sourceBefore = treeOf(source(), false);
         answers.always = {Resolution::Replace};
         expectDone(run({source() / "all", source() / "file", source() / "folder"}), 3);
-        EXPECT_EQ(Files::read(target() / "file"), "new");
-        EXPECT_EQ(Files::read(target() / "folder/file"), "new");
+        EXPECT_EQ(contentOf(target() / "file"), "new");
+        EXPECT_EQ(contentOf(target() / "folder/file"), "new");
         EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
         forget();
         EXPECT_EQ(treeOf(target(), false), before);
@@ -543,8 +543,8 @@ TEST_P(UnusualTransfers, NeitherOverwriteWhatComesMeanwhile)
     };
     answers.always = {Resolution::KeepBoth};
     expectDone(run({item}));
-    EXPECT_EQ(Files::read(target() / "item"), "quicker");
-    EXPECT_EQ(Files::read(target() / "item 2"), "new");
+    EXPECT_EQ(contentOf(target() / "item"), "quicker");
+    EXPECT_EQ(contentOf(target() / "item 2"), "new");
 }
 
 class UnusualCopies : public TransferTest {
@@ -596,7 +596,7 @@ TEST_F(UnusualCopies, AreMadeAnewWhereTheFileChangesOnce)
             Files::write(item, "second and longer");
     };
     EXPECT_EQ(kindsOf(run(What::Move, {item})), std::vector<Kind>{});
-    EXPECT_EQ(Files::read(target() / "item"), "second and longer");
+    EXPECT_EQ(contentOf(target() / "item"), "second and longer");
     EXPECT_FALSE(fs::exists(item));
 }
 
@@ -619,9 +619,9 @@ TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
     EXPECT_EQ(namesIn(target() / "folder"), (std::vector<std::string>{"changed", "old"}));
     // And it becomes one again.
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
-    EXPECT_EQ(Files::read(source() / "folder/old"), "old");
-    EXPECT_EQ(Files::read(source() / "folder/changed"), "as it is now, longer");
-    EXPECT_EQ(Files::read(source() / "folder/changed 2"), "as it was copied");
+    EXPECT_EQ(contentOf(source() / "folder/old"), "old");
+    EXPECT_EQ(contentOf(source() / "folder/changed"), "as it is now, longer");
+    EXPECT_EQ(contentOf(source() / "folder/changed 2"), "as it was copied");
     EXPECT_FALSE(fs::exists(target() / "folder"));
 }
 
