@@ -93,7 +93,11 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
             isMade = copyNode(to, newName, source);
     }
     if (!isMade) {
-        note(name, errno);
+        const int error = errno;
+        // A link that lacks its times, say. What is in its place where the names differ in case alone is another's.
+        if (error != EEXIST && source.st_mode != 0)
+            static_cast<void>(m_calls.remove(to, newName, 0));
+        note(name, error);
         return false;
     }
     m_copied.add(source, m_folder, name);
@@ -115,12 +119,8 @@ bool TreeCopier::copyFile(int from, const char* name, int to, const char* newNam
     FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, source.st_mode & 0777U);
     if (!made)
         return false;
-    if (!fillFile(original, source, made) || !made.close()) {
-        const int error = errno;
-        static_cast<void>(m_calls.remove(to, newName, 0));
-        errno = error;
+    if (!fillFile(original, source, made) || !made.close())
         return false;
-    }
     rememberCopy(source, newName);
     return true;
 }

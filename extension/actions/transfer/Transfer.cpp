@@ -53,6 +53,15 @@ Transfer::Transfer(SystemCalls& calls, StagingRecord& record, OpenFolderOf openF
       m_copier(calls, progress, m_result.problems)
 {}
 
+std::string Transfer::firstPlaced() const
+{
+    for (const auto& step : m_journal) {
+        if (const auto* placed = std::get_if<Placed>(&step))
+            return (*placed->targetFolder == "/" ? "" : *placed->targetFolder) + '/' + placed->targetName;
+    }
+    return {};
+}
+
 Result Transfer::run(const Order& order)
 {
     m_isMove = order.isMove;
@@ -169,8 +178,11 @@ void Transfer::transfer(Task task)
     struct stat existing = {};
     if (isInPlace) {
         task.resolution = Resolution::KeepBoth;
-    } else if (m_calls.status(task.target->get(), task.newName.c_str(), existing) == 0 &&
-               !decide(task, existing, true)) {
+    } else if (m_calls.status(task.target->get(), task.newName.c_str(), existing) == 0) {
+        if (!decide(task, existing, true))
+            return;
+    } else if (errno != ENOENT) {
+        fail(task, errno);
         return;
     }
     if (task.resolution == Resolution::Merge)

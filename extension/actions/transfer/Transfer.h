@@ -62,6 +62,8 @@ public:
     /// back. Once.
     [[nodiscard]] Result undo(const MoveToTrash& moveToTrash);
     [[nodiscard]] bool canBeUndone() const { return !m_journal.empty(); }
+    /// The first item that came to the target, by its path there; empty where none did.
+    [[nodiscard]] std::string firstPlaced() const;
 
 private:
     /// An item where it is, and where it goes.

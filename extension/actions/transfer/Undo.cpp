@@ -31,7 +31,7 @@ public:
             return {Resolution::Merge};
         const struct stat& one = conflict.source.status;
         const struct stat& other = conflict.target.status;
-        const bool isSame = S_ISREG(one.st_mode) && S_ISREG(other.st_mode) && one.st_size == other.st_size &&
+        const bool isSame = !S_ISDIR(one.st_mode) && (one.st_mode & S_IFMT) == (other.st_mode & S_IFMT) && one.st_size == other.st_size &&
                             one.st_mtim.tv_sec == other.st_mtim.tv_sec && one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
         return {isSame ? Resolution::Replace : Resolution::KeepBoth};
     }

@@ -10,9 +10,11 @@
 #include <QApplication>
 #include <QWidget>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace MenuExtension {
 
@@ -31,7 +33,36 @@ int failWithoutDisplay()
 
 } // namespace
 
-Outcome performInWindow(const MakeWindow& make)
+namespace {
+
+/// Shows a window and runs until it is closed, where that is all that an action is.
+class WindowRunner : public QObject {
+public:
+    explicit WindowRunner(std::unique_ptr<QWidget> window) : m_window(std::move(window))
+    {
+        m_window->show();
+        m_window->raise();
+        m_window->activateWindow();
+        answer(Outcome::done());
+    }
+
+private:
+    std::unique_ptr<QWidget> m_window;
+};
+
+void endByClosing()
+{
+    const auto shows = [](const QWidget* window) { return window->isVisible(); };
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    if (std::any_of(windows.begin(), windows.end(), shows))
+        QApplication::closeAllWindows();
+    else
+        QCoreApplication::quit();
+}
+
+} // namespace
+
+Outcome performWithToolkit(const MakeRunner& make)
 {
     LinuxDesktop::TerminationSignals terminationSignals;
     LinuxDesktop::SessionBus::keepToolkitFromStartingOne();
@@ -40,18 +71,20 @@ Outcome performInWindow(const MakeWindow& make)
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
     QGuiApplication::setDesktopFileName(
         QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size()));
-    terminationSignals.whenAsked([] { QApplication::closeAllWindows(); });
+    terminationSignals.whenAsked(endByClosing);
 
     LinuxDesktop::SessionBus bus("orvik-menu: there is no session bus");
     const LinuxDesktop::WindowSurroundings surroundings(bus, QCoreApplication::applicationDirPath() +
                                                                  QStringLiteral("/" ORVIK_ACTION_TO_PROGRAMS));
-    const auto window = make();
-    window->show();
-    window->raise();
-    window->activateWindow();
-    answer(Outcome::done());
+    const auto runner = make(bus);
     QApplication::exec();
     return Outcome::done();
+}
+
+Outcome performInWindow(const MakeWindow& make)
+{
+    return performWithToolkit(
+        [&](LinuxDesktop::SessionBus&) { return std::make_unique<WindowRunner>(make()); });
 }
 
 } // namespace MenuExtension

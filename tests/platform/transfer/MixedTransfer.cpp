@@ -26,7 +26,8 @@ std::map<std::string, std::string> contentsIn(const fs::path& folder)
             contents.emplace(entry->path().native().substr(folder.native().size() + 1),
                              "-> " + fs::read_symlink(entry->path()).native());
         else if (entry->is_regular_file())
-            contents.emplace(entry->path().native().substr(folder.native().size() + 1), contentOf(entry->path()));
+            contents.emplace(entry->path().native().substr(folder.native().size() + 1),
+                             shortened(contentOf(entry->path())));
     }
     return contents;
 }
