@@ -44,6 +44,9 @@ class FoldersTestCase(DesktopTestCase):
     def open_tab(self):
         self.hands.click(self.window.find("page tab", "Folders").extents)
         eventually(lambda: self.window.find("push button", "Add Folder…"), "the folders' tab")
+        # The list makes its rows once it has its size.
+        if self.suite.read().get("foldersArray"):
+            settled(lambda: eventually(lambda: self.window.find("list item"), "the rows").extents)
 
     def go_to_another_tab(self):
         self.hands.click(self.window.find("page tab", "Menu Items").extents)
@@ -130,7 +133,7 @@ class Folders(FoldersTestCase):
         self.start()
 
         self.assertEqual(self.rows(), [])
-        self.assertTrue(self.window.find("label", "No folders yet. Add the first one below."))
+        eventually(lambda: self.window.find("label", "No folders yet. Add the first one below."), "the words")
 
     def test_an_added_folder_is_listed_stored_bookmarked_and_told(self):
         folders = [self.make_folder_of(name) for name in ("Projects", "Reports")]
@@ -362,7 +365,7 @@ class Folders(FoldersTestCase):
         for folder, flags in ((folders[0], [0, 0, 7]), (folders[1], [0, 1, 7]), (folders[2], [0, 1, 1])):
             self.hands.click(self.window.find("check box", folder).extents)
             self.assertFolders(folders, flags, BOOKMARKS)
-        self.assertEqual([on for _, on in self.rows()], [False, True, True])
+        self.assertEventuallyEqual(lambda: [on for _, on in self.rows()], [False, True, True])
         self.assertStays(self.suite.bytes())
 
     def test_a_click_on_the_checkbox_makes_no_bookmarks_where_there_were_none(self):

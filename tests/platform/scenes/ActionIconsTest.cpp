@@ -9,13 +9,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace {
 
 QString iconOf(const CatalogueRow& action)
 {
-    return QStringLiteral(ORVIK_ACTION_ICONS "/orvik-menu-") +
+    return QStringLiteral(ORVIK_ACTION_ICONS "/scalable/actions/orvik-menu-") +
            QString::fromStdString(std::string(action.identifier)) + QStringLiteral(".svg");
 }
 
@@ -61,6 +62,25 @@ TEST(ActionIcons, EveryActionHasOneThatIsSeenInLightAndInDarkMenus)
         ASSERT_TRUE(QFile::exists(iconOf(action))) << action.identifier;
         for (const QColor& background : {QColor(Qt::white), QColor(0x2d, 0x2d, 0x2d)})
             EXPECT_GT(visiblePixels(background, iconOf(action)), 96) << action.identifier;
+    }
+}
+
+TEST(ActionIcons, AreThereAsDrawnInTheSizesOfMenus)
+{
+    const std::vector<std::pair<QString, int>> sizes{{QStringLiteral("16x16"), 16}, {QStringLiteral("16x16@2"), 32}};
+    for (const CatalogueRow& action : menuCatalogue) {
+        for (const auto& [folder, pixels] : sizes) {
+            const QImage icon(QStringLiteral(ORVIK_ACTION_ICONS "/%1/actions/orvik-menu-%2.png")
+                                  .arg(folder, QString::fromStdString(std::string(action.identifier))));
+            ASSERT_EQ(icon.size(), QSize(pixels, pixels)) << action.identifier;
+            QImage drawn(icon.size(), QImage::Format_ARGB32_Premultiplied);
+            drawn.fill(Qt::transparent);
+            QPainter painter(&drawn);
+            QSvgRenderer(iconOf(action)).render(&painter);
+            painter.end();
+            EXPECT_EQ(icon.convertToFormat(QImage::Format_ARGB32), drawn.convertToFormat(QImage::Format_ARGB32))
+                << action.identifier;
+        }
     }
 }
 
