@@ -32,7 +32,7 @@ struct Problem {
         NotTransferred,
         /// It was copied, but the original, or a part of it, is still there.
         NotRemoved,
-        /// Another item has its name or its place by now.
+        /// It is not where it was put any more, or the error says why.
         NotUndone,
         /// The words say why.
         NotTrashed,

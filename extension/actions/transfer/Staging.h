@@ -53,6 +53,8 @@ public:
     Staging& operator=(Staging&&) = delete;
 
     [[nodiscard]] int get() const { return m_folder.get(); }
+    /// The folder that it is in.
+    [[nodiscard]] int parent() const { return m_target->get(); }
     [[nodiscard]] dev_t device() const { return m_target->identity.device; }
     /// One that nothing in it has.
     [[nodiscard]] std::string newName() { return std::to_string(++m_names); }

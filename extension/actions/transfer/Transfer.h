@@ -86,6 +86,14 @@ private:
         std::optional<mode_t> finalMode;
     };
 
+    /// What was replaced, on its way back.
+    struct Returning {
+        const Replaced* replaced;
+        /// Its name beside its place; empty where it could not come out.
+        std::string spare;
+        Identity identity;
+    };
+
     [[nodiscard]] bool prepare(const Order& order);
     [[nodiscard]] bool lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t& room);
     [[nodiscard]] SharedFolder folderOf(const std::string& item);
@@ -111,6 +119,9 @@ private:
     void noteChanged(const SharedFolder& folder);
     [[nodiscard]] bool flushChanged();
     void removeEmptied();
+
+    [[nodiscard]] std::vector<Returning> bringOutReplaced(Problems& problems);
+    [[nodiscard]] std::string placeOf(const Placed& placed, std::vector<Returning>& returning) const;
 
     [[nodiscard]] std::optional<std::size_t> stagingFor(const SharedFolder& target);
     void fail(const Task& task, int error);

@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QWidget>
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string>
@@ -31,10 +30,6 @@ int failWithoutDisplay()
     return EXIT_FAILURE;
 }
 
-} // namespace
-
-namespace {
-
 /// Shows a window and runs until it is closed, where that is all that an action is.
 class WindowRunner : public QObject {
 public:
@@ -50,16 +45,6 @@ private:
     std::unique_ptr<QWidget> m_window;
 };
 
-void endByClosing()
-{
-    const auto shows = [](const QWidget* window) { return window->isVisible(); };
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    if (std::any_of(windows.begin(), windows.end(), shows))
-        QApplication::closeAllWindows();
-    else
-        QCoreApplication::quit();
-}
-
 } // namespace
 
 Outcome performWithToolkit(const MakeRunner& make)
@@ -71,7 +56,8 @@ Outcome performWithToolkit(const MakeRunner& make)
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
     QGuiApplication::setDesktopFileName(
         QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size()));
-    terminationSignals.whenAsked(endByClosing);
+    // Which closes the windows first.
+    terminationSignals.whenAsked([] { QCoreApplication::quit(); });
 
     LinuxDesktop::SessionBus bus("orvik-menu: there is no session bus");
     const LinuxDesktop::WindowSurroundings surroundings(bus, QCoreApplication::applicationDirPath() +

@@ -23,8 +23,7 @@ using MakeWindow = std::function<std::unique_ptr<QWidget>()>;
 [[nodiscard]] Outcome performInWindow(const MakeWindow& make);
 
 /// Makes what runs an action that need not show a window, or not at once. It answers the request, and ends the program
-/// by QCoreApplication::quit(), also when it is asked to: its windows are closed then, and the program ends where none
-/// shows. It lives until then.
+/// by QCoreApplication::quit(), as a signal does that asks the program to end. It lives until then.
 using MakeRunner = std::function<std::unique_ptr<QObject>(LinuxDesktop::SessionBus& bus)>;
 
 /// The same as performInWindow() for such an action.

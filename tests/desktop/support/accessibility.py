@@ -14,6 +14,7 @@ _ROOT = "/org/a11y/atspi/accessible/root"
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
 _ACTION = "org.a11y.atspi.Action"
 _COMPONENT = "org.a11y.atspi.Component"
+_TEXT = "org.a11y.atspi.Text"
 _PROPERTIES = "org.freedesktop.DBus.Properties"
 
 _SCREEN_COORDINATES = 0
@@ -76,6 +77,11 @@ class Accessible:
     def extents(self):
         """On the screen, in pixels."""
         return Extents(*self._call(_COMPONENT, "GetExtents", GLib.Variant("(u)", (_SCREEN_COORDINATES,)))[0])
+
+    @property
+    def text(self):
+        """What is written in it, to its end."""
+        return self._call(_TEXT, "GetText", GLib.Variant("(ii)", (0, -1)))[0]
 
     def act(self, action):
         """Performs an action as a screen reader does, by the action's name."""

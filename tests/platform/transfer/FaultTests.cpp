@@ -208,6 +208,20 @@ protected:
 
     [[nodiscard]] static What what() { return std::get<0>(GetParam()) ? What::Move : What::Copy; }
 
+    /// In a process of its own, which a fault kills.
+    template<class Work>
+    void expectKilled(Work work)
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            work();
+            ::_exit(1);
+        }
+        int status = -1;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_EQ(status, 0);
+    }
+
     /// The calls that are made when nothing goes wrong.
     std::vector<Call> callsMade()
     {
@@ -270,21 +284,51 @@ TEST_P(TransferFaults, OfAKillAtEveryCallLeaveEachFileWhole)
         const Fault fault{at, made[at], kill, false};
         SCOPED_TRACE(testing::PrintToString(fault));
         prepare();
-        const pid_t child = ::fork();
-        if (child == 0) {
+        expectKilled([&] {
             FaultyCalls faulty;
             faulty.fault = fault;
             calls = &faulty;
             static_cast<void>(runMixed(what()));
             forget();
-            ::_exit(1);
-        }
-        int status = -1;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        ASSERT_EQ(status, 0);
+        });
         expectNothingLost();
         startAnew();
         expectNothingLost();
+        expectNoLeftovers();
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_P(TransferFaults, OfAKillAtEveryCallOfTheUndoLeaveEachFileWhole)
+{
+    // A copy goes to the trash, which is none of these calls.
+    if (what() == What::Copy)
+        return;
+    FaultyCalls counted;
+    prepare();
+    calls = &counted;
+    static_cast<void>(runMixed(what()));
+    const std::size_t begin = counted.made.size();
+    static_cast<void>(undo());
+    forget();
+    calls = &systemCalls;
+    for (std::size_t at = begin; at < counted.made.size(); ++at) {
+        const Fault fault{at, counted.made[at], kill, false};
+        SCOPED_TRACE(testing::PrintToString(fault));
+        prepare();
+        expectKilled([&] {
+            FaultyCalls faulty;
+            faulty.fault = fault;
+            calls = &faulty;
+            static_cast<void>(runMixed(what()));
+            static_cast<void>(undo());
+            forget();
+        });
+        // What was replaced is somewhere too.
+        expectNothingReplaced();
+        startAnew();
+        expectNothingReplaced();
         expectNoLeftovers();
         if (HasFailure())
             return;

@@ -168,6 +168,23 @@ TEST_P(Transfers, ReplaceAFolderByAFileAndAFileByAFolder)
     EXPECT_EQ(contentOf(target() / "other"), "old");
 }
 
+TEST_P(Transfers, GiveBackOneThatWasReplacedByTheNext)
+{
+    const fs::path one = file(source() / "one/name", "first");
+    const fs::path other = file(source() / "other/name", "second");
+    file(target() / "name", "old");
+    const Tree sourceBefore = treeOf(source(), false);
+    const Tree targetBefore = treeOf(target(), false);
+    answers.always = {Resolution::Replace, true};
+    expectDone(run({one, other}), 2);
+    EXPECT_EQ(contentOf(target() / "name"), "second");
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    forget();
+    EXPECT_EQ(treeOf(source(), false), sourceBefore);
+    EXPECT_EQ(treeOf(target(), false), targetBefore);
+    expectNoLeftovers();
+}
+
 TEST_P(Transfers, ForgetWhatWasReplacedInTheEnd)
 {
     file(target() / "name", "old");
@@ -381,6 +398,33 @@ TEST_F(Moves, ComeBackBesideWhatIsThereByNow)
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
     EXPECT_EQ(contentOf(source() / "item"), "another");
     EXPECT_EQ(contentOf(source() / "item 2"), "moved");
+}
+
+TEST_F(Moves, NeverComeBackInThePlaceOfAnother)
+{
+    // As large and as old, but another.
+    const fs::path item = file(source() / "item", "moved");
+    const auto time = fs::last_write_time(item);
+    run(What::Move, {item});
+    fs::last_write_time(file(item, "other"), time);
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(contentOf(source() / "item"), "other");
+    EXPECT_EQ(contentOf(source() / "item 2"), "moved");
+}
+
+TEST_F(Moves, KeepWhatTheyReplacedWhereItCannotComeBack)
+{
+    const fs::path item = file(source() / "album/name", "new").parent_path();
+    file(target() / "album/name", "old");
+    answers.each = [](const Conflict& conflict) {
+        return Decision{conflict.canMerge ? Resolution::Merge : Resolution::Replace};
+    };
+    EXPECT_EQ(run(What::Move, {item}).done, 1U);
+    fs::rename(target() / "album", target() / "renamed");
+    EXPECT_EQ(kindsOf(undo()), (std::vector{Kind::NotUndone, Kind::NotUndone}));
+    forget();
+    EXPECT_EQ(contentOf(target() / "renamed/name"), "new");
+    EXPECT_EQ(contentOf(target() / "name 2"), "old");
 }
 
 TEST_F(Copies, ThatTheTrashDoesNotTakeStay)

@@ -56,11 +56,13 @@ void DoneNotice::show(const QString& title, const QString& words, bool canBeUndo
         actions << undoAction << tr("Undo");
     if (canBeShown)
         actions << showAction << tr("Show");
+    // What was done can be undone after it was shown too: the notification stays until it is closed.
     const QString application =
         QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size());
     QDBusMessage notify = call(QStringLiteral("Notify"));
     notify << QStringLiteral("Orvik Menu") << m_number << application << title << words.toHtmlEscaped() << actions
-           << QVariantMap{{QStringLiteral("desktop-entry"), application}} << desktopsOwnTime;
+           << QVariantMap{{QStringLiteral("desktop-entry"), application}, {QStringLiteral("resident"), true}}
+           << desktopsOwnTime;
     auto* watcher = new QDBusPendingCallWatcher(m_bus->asyncCall(notify, patience), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* ended) {
         const QDBusPendingReply<uint> reply = *ended;

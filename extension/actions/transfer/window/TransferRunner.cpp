@@ -2,12 +2,15 @@
 
 #include "extension/actions/support/Answer.h"
 #include "extension/actions/support/FileManager.h"
+#include "extension/actions/support/Programs.h"
 #include "extension/actions/transfer/window/TransferWords.h"
 #include "extension/actions/window/PerformInWindow.h"
+#include "platform/URL.h"
 #include "platform/linux/chooser/FileChooserDialog.h"
 #include "platform/linux/system/ParentFolder.h"
 
 #include <QApplication>
+#include <QThreadPool>
 
 #include <chrono>
 #include <utility>
@@ -204,7 +207,13 @@ void TransferRunner::endUndo()
 
 void TransferRunner::showItem()
 {
-    static_cast<void>(FileManager::showItem(m_work.firstPlaced(), m_request.caller));
+    // It may have to be started first.
+    QThreadPool::globalInstance()->start([item = m_work.firstPlaced(), caller = m_request.caller] {
+        if (FileManager::showItem(item, caller) == FileManager::Shown::Nobody) {
+            const auto folder = NS::URL::fileURLWithPath(LinuxDesktop::parentFolder(item)).absoluteString();
+            static_cast<void>(Programs::start({"xdg-open", folder}));
+        }
+    });
 }
 
 void TransferRunner::quitUnlessShown()

@@ -103,7 +103,8 @@ QString problem(bool isMove, const Problem& problem)
                          .arg(item)
                    : tr("%1 was copied, but not all of it could be removed from where it was: %2.").arg(item, why);
     case Kind::NotUndone:
-        return tr("%1 could not be put back, since another item is in its place.").arg(item);
+        return problem.error == 0 ? tr("%1 could not be put back, since it is not where it was put.").arg(item)
+                                  : tr("%1 could not be put back: %2.").arg(item, why);
     case Kind::NotTrashed:
         return tr("%1 could not be put into the trash: %2").arg(item, QString::fromStdString(problem.words));
     }
