@@ -46,6 +46,7 @@ packages_packaging_check=(
 packages_panel=(
   breeze-icon-theme
   fonts-inter
+  libgdk-pixbuf2.0-bin
   libqt6svg6
   qt6-wayland
   xdg-utils

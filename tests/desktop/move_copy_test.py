@@ -1,6 +1,7 @@
 """Moving and copying to a folder: the window, by accessibility and by keyboard, the notification, and the files."""
 
 import os
+import subprocess
 import unittest
 
 from gi.repository import Gio, GLib
@@ -17,6 +18,11 @@ from support.waiting import eventually, throughout
 
 
 class MoveAndCopy(TransferTestCase):
+    def cards(self):
+        """The new item's and that of the one that is there."""
+        return [each for each in self.window.descendants()
+                if each.role != "label" and each.name.startswith(("New ", "Already there "))]
+
     def test_a_move_is_told_of_and_undone_from_the_notification(self):
         self.start()
         self.make("from/one"), self.make("from/two", b"2")
@@ -81,7 +87,7 @@ class MoveAndCopy(TransferTestCase):
         self.start()
         path = self.conflict(COPY)
         self.save_picture("copy-conflict")
-        cards = [each.name for each in self.window.all("panel") if each.name]
+        cards = [card.name for card in self.cards()]
         self.assertRegex(cards[0], r"^New 3 bytes\nChanged .+")
         self.assertRegex(cards[1], r"^Already there 11 bytes\nChanged .+")
         self.assertEqual(eventually(self.window.focused, "a button").name, "Keep Both")
@@ -92,6 +98,18 @@ class MoveAndCopy(TransferTestCase):
         self.action.wait_for_end()
         self.assertEqual(self.contents(self.target), {"name.txt": b"old content"})
         self.assertTrue(os.path.exists(path))
+
+    def test_a_question_about_pictures_shows_what_is_in_them(self):
+        self.start()
+        for folder, colour in (("from", "#ff0000"), ("to", "#0000ff")):
+            path = os.path.join(self.folder(folder), "100% ö.png")
+            subprocess.run(["convert", "-size", "200x200", "xc:" + colour, path], check=True, timeout=60)
+        self.open_window(COPY, os.path.join(self.home.files, "from", "100% ö.png"),
+                         title="There is a file “100% ö.png” in “to” already.")
+        cards = [card.extents for card in self.cards()]
+        for card, colour in zip(cards, (b"\xff\x00\x00", b"\x00\x00\xff")):
+            eventually(lambda card=card, colour=colour: 20 * colour in self.display.picture_of(card),
+                       "the picture to be shown")
 
     def test_a_replaced_file_is_given_back_by_undo(self):
         self.start()
@@ -217,6 +235,10 @@ class MoveAndCopy(TransferTestCase):
             self.assertIn(f"Choose the folder to {prompt.lower()} “one” to.",
                           [label.name for label in chooser.all("label")])
             if action == MOVE:
+                # It opens on the folder that the item is in.
+                self.hands.click(chooser.find("push button", prompt).extents)
+                eventually(lambda: "“one” is in this folder already." in
+                           [label.name for label in chooser.all("label")], "the words why not")
                 self.hands.press("Escape")
                 self.action.wait_for_end()
                 self.assertEqual(self.contents(), {"from/one": b"new"})

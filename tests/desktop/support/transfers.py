@@ -23,6 +23,7 @@ class TransferTestCase(DesktopTestCase):
         super().setUp()
         self.suite.write(menuArrayDic=record(), foldersArray=[self.home.files], foldersArraystate=[1])
         self.target = self.folder("to")
+        os.symlink("/usr/bin/gdk-pixbuf-thumbnailer", os.path.join(self.home.programs, "gdk-pixbuf-thumbnailer"))
         self.addCleanup(self.end_actions)
 
     def start(self, notifications=True):

@@ -20,6 +20,7 @@ const QString undoAction = QStringLiteral("undo");
 const QString showAction = QStringLiteral("show");
 constexpr int desktopsOwnTime = -1;
 constexpr int patience = 5000;
+constexpr int untilNoButton = 300;
 
 QDBusMessage call(const QString& method)
 {
@@ -38,7 +39,7 @@ DoneNotice::DoneNotice(std::optional<QDBusConnection> bus) : m_bus(std::move(bus
 
 DoneNotice::~DoneNotice()
 {
-    if (m_bus && m_number != 0) {
+    if (m_bus && m_isOpen) {
         QDBusMessage close = call(QStringLiteral("CloseNotification"));
         close << m_number;
         m_bus->send(close);
@@ -71,6 +72,7 @@ void DoneNotice::show(const QString& title, const QString& words, bool canBeUndo
             emit notShown();
         else
             m_number = reply.value();
+        m_isOpen = reply.isValid();
     });
 }
 
@@ -88,8 +90,9 @@ void DoneNotice::takeEnd(uint number, uint)
 {
     if (number != m_number)
         return;
-    m_number = 0;
-    emit closed();
+    // Some desktops tell it before they tell which button it was.
+    m_isOpen = false;
+    QTimer::singleShot(untilNoButton, this, &DoneNotice::closed);
 }
 
 } // namespace MenuExtension::Transfers

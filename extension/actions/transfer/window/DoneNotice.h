@@ -25,7 +25,7 @@ signals:
     void notShown();
     void undoAsked();
     void showAsked();
-    /// It is gone, whoever took it away.
+    /// It has been gone for a moment, whoever took it away.
     void closed();
 
 private:
@@ -34,6 +34,7 @@ private:
 
     std::optional<QDBusConnection> m_bus;
     uint m_number = 0;
+    bool m_isOpen = false;
 };
 
 } // namespace MenuExtension::Transfers

@@ -8,6 +8,8 @@ class QLabel;
 
 namespace MenuExtension::Transfers {
 
+class ItemPicture;
+
 /// One of two items of the same name: its picture, size and date.
 class ItemCard : public QWidget {
     Q_OBJECT
@@ -23,7 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QLabel* m_picture;
+    ItemPicture* m_picture;
     QLabel* m_which;
     QLabel* m_facts;
 };

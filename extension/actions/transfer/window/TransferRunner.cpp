@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QThreadPool>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -105,6 +106,7 @@ void TransferRunner::chooseTarget()
     settings.canChooseFiles = false;
     settings.canChooseDirectories = true;
     settings.directory = LinuxDesktop::parentFolder(m_request.paths.front());
+    settings.refusal = [this](const std::string& folder) { return refusalOf(folder); };
     m_chooser = std::make_unique<LinuxDesktop::FileChooserDialog>(std::move(settings));
     connect(m_chooser.get(), &QDialog::accepted, this, [this] { begin(m_chooser->chosen().front()); });
     connect(m_chooser.get(), &QDialog::rejected, this, &TransferRunner::quit);
@@ -113,6 +115,19 @@ void TransferRunner::chooseTarget()
     m_chooser->activateWindow();
     m_isAnswered = true;
     answer(Outcome::done());
+}
+
+/// What can be said by the paths alone; what they lead to is looked at before anything is written.
+QString TransferRunner::refusalOf(const std::string& folder) const
+{
+    for (const std::string& item : m_request.paths) {
+        if ((folder + '/').starts_with(item + '/'))
+            return Words::problem(m_isMove, {Problem::Kind::IntoItself, item});
+    }
+    const auto liesThere = [&](const std::string& item) { return LinuxDesktop::parentFolder(item) == folder; };
+    return m_isMove && std::ranges::all_of(m_request.paths, liesThere)
+               ? Words::problem(true, {Problem::Kind::AlreadyThere, m_request.paths.front()})
+               : QString();
 }
 
 void TransferRunner::begin(const std::string& target)

@@ -28,6 +28,7 @@ public:
 
 private:
     void chooseTarget();
+    [[nodiscard]] QString refusalOf(const std::string& folder) const;
     void begin(const std::string& target);
     void connectWork();
     void connectEnd();

@@ -3,6 +3,7 @@
 #include "extension/actions/transfer/Progress.h"
 #include "extension/actions/transfer/window/ItemCard.h"
 #include "extension/actions/transfer/window/TransferWords.h"
+#include "platform/linux/system/ParentFolder.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -188,7 +189,7 @@ void TransferWindow::ask(const Conflict& conflict)
 {
     const bool isFolder = S_ISDIR(conflict.target.status.st_mode);
     const QString name = Words::name(conflict.target.path);
-    const QString folder = Words::name(conflict.target.path.substr(0, conflict.target.path.rfind('/')));
+    const QString folder = Words::name(LinuxDesktop::parentFolder(conflict.target.path));
     m_question->setText((isFolder ? tr("There is a folder %1 in %2 already.") : tr("There is a file %1 in %2 already."))
                             .arg(name, folder));
     m_coming->show(tr("New"), conflict.source);
