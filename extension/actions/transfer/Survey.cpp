@@ -158,6 +158,7 @@ void Survey::lookAt(int folder, const char* name)
         lookAtFolder(folder, name);
         return;
     }
+    ++m_progress.totalFiles;
     if (S_ISBLK(status.st_mode) || S_ISCHR(status.st_mode))
         return refuse(Problem::Kind::IsDevice, name);
     if (!S_ISREG(status.st_mode))
@@ -166,7 +167,7 @@ void Survey::lookAt(int folder, const char* name)
     if (size > m_target.largestFile())
         return refuse(Problem::Kind::TooLarge, name);
     constexpr std::uint64_t blockOfStatus = 512;
-    m_bytes += size;
+    m_progress.totalBytes += size;
     m_room += m_target.roomFor(std::min(size, static_cast<std::uint64_t>(status.st_blocks) * blockOfStatus));
 }
 

@@ -42,8 +42,8 @@ private:
 /// The folder and those above it, innermost first.
 [[nodiscard]] std::vector<Identity> foldersAbove(SystemCalls& calls, int folder);
 
-/// Counts what an item holds and looks whether the target can take it. What it finds wrong it adds to
-/// `problems`.
+/// Counts what an item holds, which it tells as it goes, and looks whether the target can take it. What it finds wrong
+/// it adds to `problems`.
 class Survey {
 public:
     Survey(SystemCalls& calls, Progress& progress, const Target& target, bool isMove, Problems& problems)
@@ -53,8 +53,8 @@ public:
     /// False where nothing of it is to be transferred.
     [[nodiscard]] bool look(const Folder& folder, const std::string& name);
 
+    /// Folders are some too.
     [[nodiscard]] std::uint64_t files() const { return m_files; }
-    [[nodiscard]] std::uint64_t bytes() const { return m_bytes; }
     /// What they take at the target.
     [[nodiscard]] std::uint64_t room() const { return m_room; }
 
@@ -72,7 +72,6 @@ private:
     std::size_t m_depth = 0;
     bool m_isPossible = true;
     std::uint64_t m_files = 0;
-    std::uint64_t m_bytes = 0;
     std::uint64_t m_room = 0;
 };
 

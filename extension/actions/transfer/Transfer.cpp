@@ -159,8 +159,6 @@ bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t
     struct stat existing = {};
     if (m_calls.status(m_target->folder()->get(), newName.c_str(), existing) != 0)
         room += survey.room() - before;
-    m_progress.totalFiles = survey.files();
-    m_progress.totalBytes = survey.bytes();
     return isPossible;
 }
 

@@ -51,10 +51,11 @@ class TransferTestCase(DesktopTestCase):
         return path
 
     def contents(self, folder=None):
-        """Of every file below a folder, hidden ones too, by their ways from it."""
+        """Of every file below a folder, by their ways from it. What is kept for an undo is left out."""
         folder = folder or self.home.files
         found = {}
-        for place, _, names in os.walk(folder):
+        for place, folders, names in os.walk(folder):
+            folders[:] = [name for name in folders if not name.startswith(".orvik-menu-")]
             for name in names:
                 path = os.path.join(place, name)
                 with open(path, "rb") as file:

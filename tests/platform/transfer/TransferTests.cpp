@@ -47,6 +47,7 @@ TEST_P(Transfers, KeepEverythingOfEveryKindOfItem)
     const Tree before = treeOf(source() / "all");
     expectDone(run({source() / "all"}));
     EXPECT_EQ(treeOf(target() / "all"), before);
+    EXPECT_EQ(progress.files, progress.totalFiles);
     expectAtSource(source() / "all", !isMove());
     struct stat sparse = {};
     ASSERT_EQ(::stat((target() / "all/sparse").c_str(), &sparse), 0);

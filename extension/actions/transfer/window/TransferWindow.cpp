@@ -90,8 +90,8 @@ QWidget* TransferWindow::makeConflictPage()
 {
     auto* page = new QWidget(this);
     m_question = makeHeading(page);
-    m_existing = new ItemCard(page);
     m_coming = new ItemCard(page);
+    m_existing = new ItemCard(page);
     m_forAll = new QCheckBox(tr("Do the same for all the rest"), page);
     auto* cards = new QHBoxLayout;
     cards->setSpacing(14);

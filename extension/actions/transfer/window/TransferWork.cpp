@@ -60,7 +60,8 @@ void TransferWork::start(bool isMove, const std::string& target)
     for (const std::string& path : m_request.paths)
         order.items.push_back({path});
     const auto openFolderOf = [this](const std::string& item) { return openFolderOfItem(m_request, item, O_PATH); };
-    m_transfer = std::make_unique<Transfer>(m_calls, m_record, openFolderOf, m_progress, *this);
+    Asked& asked = *this;
+    m_transfer = std::make_unique<Transfer>(m_calls, m_record, openFolderOf, m_progress, asked);
     run(
         [this, order = std::move(order)] {
             m_record.removeLeftovers();
