@@ -1,6 +1,7 @@
-// Measures how long a copy takes until it is on the disk, against `cp -a` and a flush of the file system: of many small
-// files in one folder, of the same as items of their own, and of one large file. In turns, each target removed and all
-// of it flushed before the next. Arguments: a folder to work in, the number of small files, the large one's MiB, rounds.
+// Measures how long a copy takes until it is on the disk, against `cp -a` and a flush of the file system: of many
+// small files in one folder, of the same as items of their own, and of one large file. In turns, each target removed
+// and all of it flushed before the next. Arguments: a folder to work in, the number of small files, the large one's
+// MiB, rounds.
 #include "extension/actions/transfer/Transfer.h"
 #include "platform/linux/system/ParentFolder.h"
 
@@ -115,12 +116,14 @@ void compare(const char* what, const std::vector<std::string>& items, const std:
     long ignored = 0;
     for (int round = 0; round < rounds; ++round) {
         const auto measureOurs = [&] {
-            ours.push_back(measure(work + "/ours", [&] { copyOurselves(items, work + "/ours"); }, kibibytes));
+            ours.push_back(measure(
+                work + "/ours", [&] { copyOurselves(items, work + "/ours"); }, kibibytes));
         };
         // Neither always finds the caches and the disk as the other has left them.
         if (round % 2 == 0)
             measureOurs();
-        theirs.push_back(measure(work + "/theirs", [&] { copyByCp(items, work + "/theirs"); }, ignored));
+        theirs.push_back(measure(
+            work + "/theirs", [&] { copyByCp(items, work + "/theirs"); }, ignored));
         if (round % 2 == 1)
             measureOurs();
         ratios.push_back(ours.back() / theirs.back());

@@ -70,9 +70,8 @@ bool AttributeCopier::copyExtended(int from, int to)
         const ssize_t size = m_calls.attribute(from, name, m_value.data(), m_value.size());
         if (size < 0 && (errno == ENODATA || isImpossible(errno)))
             continue;
-        if (size < 0 ||
-            (m_calls.setAttribute(to, name, m_value.data(), static_cast<std::size_t>(size)) != 0 &&
-             !isImpossible(errno)))
+        if (size < 0 || (m_calls.setAttribute(to, name, m_value.data(), static_cast<std::size_t>(size)) != 0 &&
+                         !isImpossible(errno)))
             return false;
     }
     return true;

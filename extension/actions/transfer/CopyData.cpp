@@ -27,9 +27,9 @@ void beginWriting(int to, off_t begin, off_t end)
 {
     static_cast<void>(::sync_file_range(to, begin, end - begin, SYNC_FILE_RANGE_WRITE));
     if (begin >= mostUnwritten)
-        static_cast<void>(::sync_file_range(
-            to, begin - mostUnwritten, chunk,
-            SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER));
+        static_cast<void>(
+            ::sync_file_range(to, begin - mostUnwritten, chunk,
+                              SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER));
 }
 
 } // namespace

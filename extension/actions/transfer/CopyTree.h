@@ -29,9 +29,9 @@ public:
 
     void setFlush(Flush flush) { m_flush = flush; }
 
-    /// Copies an item under a new name. What cannot be copied of a folder is noted in the problems and left out. False
-    /// where nothing was made. A folder's copy can be moved by its owner, whatever the folder's permissions: finish()
-    /// gives it those.
+    /// Copies an item under a new name. What cannot be copied of a folder is noted in the problems and left out.
+    /// False where nothing was made. A folder's copy can be moved by its owner, whatever the folder's permissions:
+    /// finish() gives it those.
     [[nodiscard]] bool copy(const Folder& from, const std::string& name, int to, const std::string& newName);
 
     /// The permissions that the last copy gets where it is to stay; nothing where it has them.
@@ -58,7 +58,6 @@ private:
     void rememberCopy(const struct stat& source, const char* newName);
     [[nodiscard]] bool flushed(int file);
     void note(const char* name, int error);
-
 
     struct Copy {
         std::string path;

@@ -26,7 +26,7 @@ enum class Replacing {
 /// Puts an item in the place of another, which is never gone before the new one is there. The old item is then at
 /// `old`, a free name of the same file system.
 [[nodiscard]] Replacing placeInstead(SystemCalls& calls, const Place& item, const Place& target, bool isFolder,
-                                const Place& old);
+                                     const Place& old);
 
 /// Moves an item to the first name made of `target` and a number that nothing has. Gives the name; empty, with errno.
 [[nodiscard]] std::string placeBeside(SystemCalls& calls, const Place& item, const Place& target, bool isFolder,

@@ -195,8 +195,8 @@ std::optional<Staging> Staging::make(SystemCalls& calls, const SharedFolder& tar
 }
 
 Staging::Staging(Staging&& other) noexcept
-    : m_calls(other.m_calls), m_record(other.m_record), m_target(std::move(other.m_target)), m_name(std::move(other.m_name)),
-      m_folder(std::move(other.m_folder)), m_names(other.m_names)
+    : m_calls(other.m_calls), m_record(other.m_record), m_target(std::move(other.m_target)),
+      m_name(std::move(other.m_name)), m_folder(std::move(other.m_folder)), m_names(other.m_names)
 {}
 
 Staging::~Staging()

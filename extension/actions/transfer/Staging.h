@@ -14,13 +14,14 @@ namespace MenuExtension::Transfers {
 class StagingRecord {
 public:
     /// `places` are folders to keep records in, best first; they are made where they are missing.
-    StagingRecord(SystemCalls& calls, std::vector<std::string> places) : m_calls(calls), m_places(std::move(places)) {}
+    StagingRecord(SystemCalls& calls, std::vector<std::string> places) : m_calls(calls), m_places(std::move(places))
+    {}
     ~StagingRecord();
     StagingRecord(const StagingRecord&) = delete;
     StagingRecord& operator=(const StagingRecord&) = delete;
 
-    /// Notes a path before there is a hidden folder at it. Where nothing can be noted the folder is made all the same:
-    /// a full disk must not keep anybody from moving things off it.
+    /// Notes a path before there is a hidden folder at it. Where nothing can be noted the folder is made all the
+    /// same: a full disk must not keep anybody from moving things off it.
     void add(const std::string& path);
 
     /// The record outlives its process: not all that it names could be removed.
@@ -62,7 +63,8 @@ public:
 private:
     Staging(SystemCalls& calls, StagingRecord& record, SharedFolder target, std::string name,
             LinuxDesktop::FileDescriptor folder)
-        : m_calls(calls), m_record(record), m_target(std::move(target)), m_name(std::move(name)), m_folder(std::move(folder))
+        : m_calls(calls), m_record(record), m_target(std::move(target)), m_name(std::move(name)),
+          m_folder(std::move(folder))
     {}
 
     SystemCalls& m_calls;

@@ -27,10 +27,18 @@ constexpr long magicJfs = 0x3153464a;
 constexpr long magicNtfs = 0x7366746e;
 
 /// Those whose flush reaches the disk, which are the ones that this machine writes itself.
-constexpr std::array local{long{EXT4_SUPER_MAGIC},  long{XFS_SUPER_MAGIC},   long{BTRFS_SUPER_MAGIC},
-                           long{F2FS_SUPER_MAGIC},  long{TMPFS_MAGIC},       long{RAMFS_MAGIC},
-                           long{MSDOS_SUPER_MAGIC}, long{NILFS_SUPER_MAGIC}, long{REISERFS_SUPER_MAGIC},
-                           magicBcachefs,           magicExfat,              magicJfs,
+constexpr std::array local{long{EXT4_SUPER_MAGIC},
+                           long{XFS_SUPER_MAGIC},
+                           long{BTRFS_SUPER_MAGIC},
+                           long{F2FS_SUPER_MAGIC},
+                           long{TMPFS_MAGIC},
+                           long{RAMFS_MAGIC},
+                           long{MSDOS_SUPER_MAGIC},
+                           long{NILFS_SUPER_MAGIC},
+                           long{REISERFS_SUPER_MAGIC},
+                           magicBcachefs,
+                           magicExfat,
+                           magicJfs,
                            magicNtfs};
 constexpr std::array sharing{long{BTRFS_SUPER_MAGIC}, long{XFS_SUPER_MAGIC}, magicBcachefs};
 
@@ -116,9 +124,9 @@ std::uint64_t Target::roomFor(std::uint64_t size) const
 bool Target::hasRoomFor(std::uint64_t bytes, std::uint64_t files) const
 {
     // Some have no bound, or do not tell it.
-    const bool fits = m_fileSystem.f_blocks == 0 ||
-                      bytes / static_cast<std::uint64_t>(std::max<long>(m_fileSystem.f_bsize, 1)) <=
-                          (::geteuid() == 0 ? m_fileSystem.f_bfree : m_fileSystem.f_bavail);
+    const bool fits =
+        m_fileSystem.f_blocks == 0 || bytes / static_cast<std::uint64_t>(std::max<long>(m_fileSystem.f_bsize, 1)) <=
+                                          (::geteuid() == 0 ? m_fileSystem.f_bfree : m_fileSystem.f_bavail);
     return fits && (m_fileSystem.f_files == 0 || files <= m_fileSystem.f_ffree);
 }
 

@@ -42,8 +42,8 @@ private:
 /// The folder and those above it, innermost first.
 [[nodiscard]] std::vector<Identity> foldersAbove(SystemCalls& calls, int folder);
 
-/// Counts what an item holds, which it tells as it goes, and looks whether the target can take it. What it finds wrong
-/// it adds to `problems`.
+/// Counts what an item holds, which it tells as it goes, and looks whether the target can take it. What it finds
+/// wrong it adds to `problems`.
 class Survey {
 public:
     Survey(SystemCalls& calls, Progress& progress, const Target& target, bool isMove, Problems& problems)

@@ -284,8 +284,7 @@ void Transfer::stage(Task task)
         return;
     }
     Staging& folder = m_stagings[*staging];
-    const bool flushesLater =
-        m_flushesTogether && folder.device() == m_target->folder()->identity.device;
+    const bool flushesLater = m_flushesTogether && folder.device() == m_target->folder()->identity.device;
     m_copier.setFlush(flushesLater ? TreeCopier::Flush::Later : TreeCopier::Flush::Each);
     const std::string name = folder.newName();
     const bool isMade = m_copier.copy(*task.source, task.name, folder.get(), name);
@@ -384,7 +383,8 @@ void Transfer::drop(const Staged& staged)
     static_cast<void>(removeTree(m_calls, m_stagings[staged.staging].get(), staged.name.c_str()));
 }
 
-bool Transfer::place(Task& task, const Place& item, const std::optional<std::size_t>& staging, const std::string& free)
+bool Transfer::place(Task& task, const Place& item, const std::optional<std::size_t>& staging,
+                     const std::string& free)
 {
     const bool isFolder = S_ISDIR(task.status.st_mode);
     const Place target{task.target->get(), task.newName};
@@ -395,8 +395,8 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
     }
     struct stat existing = {};
     if (task.resolution == Resolution::Replace && staging) {
-        const bool wasFolder = m_calls.status(target.folder, target.name.c_str(), existing) == 0 &&
-                               S_ISDIR(existing.st_mode);
+        const bool wasFolder =
+            m_calls.status(target.folder, target.name.c_str(), existing) == 0 && S_ISDIR(existing.st_mode);
         const Place old{m_stagings[*staging].get(), free};
         const Replacing replacing = placeInstead(m_calls, item, target, isFolder, old);
         if (replacing == Replacing::Replaced)

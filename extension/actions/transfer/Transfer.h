@@ -47,10 +47,10 @@ struct Result {
     bool isCancelled = false;
 };
 
-/// Moves or copies items into a folder. At any moment each file is whole where it was, or whole at the target under its
-/// name there; what is not whole yet is in a hidden folder of the target's. Nothing is taken away from where it was
-/// before it is on the disk at the target. What is replaced is kept until this object's end. One thread, but for the
-/// progress.
+/// Moves or copies items into a folder. At any moment each file is whole where it was, or whole at the target under
+/// its name there; what is not whole yet is in a hidden folder of the target's. Nothing is taken away from where it
+/// was before it is on the disk at the target. What is replaced is kept until this object's end. One thread, but for
+/// the progress.
 class Transfer {
 public:
     /// All must outlive it.

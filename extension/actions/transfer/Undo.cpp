@@ -179,7 +179,8 @@ Result Transfer::undo(const MoveToTrash& moveToTrash)
             (!folder || (!placeNew(m_calls, {folder.get(), item.spare}, {folder.get(), item.replaced->name},
                                    item.replaced->isFolder) &&
                          errno != EEXIST)))
-            result.problems.add({Problem::Kind::NotUndone, pathOf(*item.replaced->folder, item.replaced->name), errno});
+            result.problems.add(
+                {Problem::Kind::NotUndone, pathOf(*item.replaced->folder, item.replaced->name), errno});
     }
     m_journal.clear();
     return result;

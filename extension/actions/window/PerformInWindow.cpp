@@ -69,8 +69,7 @@ Outcome performWithToolkit(const MakeRunner& make)
 
 Outcome performInWindow(const MakeWindow& make)
 {
-    return performWithToolkit(
-        [&](LinuxDesktop::SessionBus&) { return std::make_unique<WindowRunner>(make()); });
+    return performWithToolkit([&](LinuxDesktop::SessionBus&) { return std::make_unique<WindowRunner>(make()); });
 }
 
 } // namespace MenuExtension

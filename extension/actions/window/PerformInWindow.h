@@ -22,8 +22,8 @@ using MakeWindow = std::function<std::unique_ptr<QWidget>()>;
 /// others. Gives a failure where there is no display. Main thread, once, and before any other thread is started.
 [[nodiscard]] Outcome performInWindow(const MakeWindow& make);
 
-/// Makes what runs an action that need not show a window, or not at once. It answers the request, and ends the program
-/// by QCoreApplication::quit(), as a signal does that asks the program to end. It lives until then.
+/// Makes what runs an action that need not show a window, or not at once. It answers the request, and ends the
+/// program by QCoreApplication::quit(), as a signal does that asks the program to end. It lives until then.
 using MakeRunner = std::function<std::unique_ptr<QObject>(LinuxDesktop::SessionBus& bus)>;
 
 /// The same as performInWindow() for such an action.

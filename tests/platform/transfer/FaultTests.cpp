@@ -7,8 +7,8 @@
 #include <tuple>
 #include <unistd.h>
 
-// Every call that a transfer makes fails once, and from then on, with every error that it can give; and the process is
-// killed at every call.
+// Every call that a transfer makes fails once, and from then on, with every error that it can give; and the process
+// is killed at every call.
 
 namespace {
 
@@ -173,7 +173,10 @@ public:
     {
         return fails(Call::SetOwner) ? -1 : SystemCalls::setOwner(folder, name, user, group);
     }
-    int setMode(int file, mode_t mode) override { return fails(Call::SetMode) ? -1 : SystemCalls::setMode(file, mode); }
+    int setMode(int file, mode_t mode) override
+    {
+        return fails(Call::SetMode) ? -1 : SystemCalls::setMode(file, mode);
+    }
     int setTimes(int folder, const char* name, const struct timespec (&times)[2]) override
     {
         return fails(Call::SetTimes) ? -1 : SystemCalls::setTimes(folder, name, times);

@@ -89,7 +89,8 @@ void MixedTransfer::expectNothingLost() const
     }
     for (const auto& [name, content] : m_old) {
         // It may have been replaced by what is whole.
-        const bool isReplaced = m_new.contains(name) && atTarget.contains(name) && atTarget.at(name) == m_new.at(name);
+        const bool isReplaced =
+            m_new.contains(name) && atTarget.contains(name) && atTarget.at(name) == m_new.at(name);
         EXPECT_TRUE(isReplaced || has(atTarget, content) || has(atSource, content)) << name << " has gone";
     }
     for (const auto& contents : {atSource, atTarget}) {

@@ -35,7 +35,8 @@ std::string attributesOf(const fs::path& path)
         const std::string name = names.data() + at;
         std::array<char, 4096> value{};
         const ssize_t size = ::lgetxattr(path.c_str(), name.c_str(), value.data(), value.size());
-        attributes.push_back(name + '=' + std::string(value.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))));
+        attributes.push_back(name + '=' +
+                             std::string(value.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))));
         at += static_cast<ssize_t>(name.size()) + 1;
     }
     std::ranges::sort(attributes);

@@ -32,7 +32,10 @@ protected:
         EXPECT_FALSE(result.isRefused);
         EXPECT_FALSE(result.isCancelled);
     }
-    void expectAtSource(const fs::path& item, bool isThere) { EXPECT_EQ(fs::exists(fs::symlink_status(item)), isThere); }
+    void expectAtSource(const fs::path& item, bool isThere)
+    {
+        EXPECT_EQ(fs::exists(fs::symlink_status(item)), isThere);
+    }
 };
 
 INSTANTIATE_TEST_SUITE_P(Everywhere, Transfers, testing::Combine(testing::Bool(), testing::Bool()),
@@ -208,7 +211,7 @@ TEST_P(Transfers, MergeFolders)
     const Tree sourceBefore = treeOf(source(), false);
     const Tree targetBefore = treeOf(target(), false);
     answers.each = [](const Conflict& conflict) {
-        return conflict.canMerge ? Decision{Resolution::Merge, true}
+        return conflict.canMerge                             ? Decision{Resolution::Merge, true}
                : conflict.source.path.ends_with("deep/both") ? Decision{Resolution::Skip}
                                                              : Decision{Resolution::Replace};
     };

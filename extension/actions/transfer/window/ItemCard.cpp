@@ -37,10 +37,9 @@ ItemCard::ItemCard(QWidget* parent)
 void ItemCard::show(const QString& which, const Conflict::Side& side)
 {
     const QLocale locale;
-    const QString size = S_ISDIR(side.status.st_mode) ? tr("Folder")
-                         : S_ISLNK(side.status.st_mode)
-                             ? tr("Link")
-                             : locale.formattedDataSize(side.status.st_size);
+    const QString size = S_ISDIR(side.status.st_mode)   ? tr("Folder")
+                         : S_ISLNK(side.status.st_mode) ? tr("Link")
+                                                        : locale.formattedDataSize(side.status.st_size);
     const QString date =
         locale.toString(QDateTime::fromSecsSinceEpoch(side.status.st_mtim.tv_sec), QLocale::ShortFormat);
     m_picture->show(side);

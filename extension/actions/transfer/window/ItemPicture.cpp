@@ -32,8 +32,8 @@ QByteArray addressOf(const std::string& path)
     QByteArray address = "file://";
     for (const char character : path) {
         const auto byte = static_cast<unsigned char>(character);
-        const bool isPlain = QByteArrayView("/-._~!$&'()*+,;=:@").contains(character) ||
-                             (byte < 0x80 && std::isalnum(byte) != 0);
+        const bool isPlain =
+            QByteArrayView("/-._~!$&'()*+,;=:@").contains(character) || (byte < 0x80 && std::isalnum(byte) != 0);
         address += isPlain ? QByteArray(1, character) : '%' + QByteArray(1, character).toHex().toUpper();
     }
     return address;
@@ -71,8 +71,8 @@ QIcon iconOf(const Conflict::Side& side)
     LinuxDesktop::FileIcons icons;
     LinuxDesktop::FileEntry entry;
     entry.name = side.path.substr(side.path.rfind('/') + 1);
-    entry.kind = S_ISDIR(side.status.st_mode) ? LinuxDesktop::FileEntry::Kind::Folder
-                                              : LinuxDesktop::FileEntry::Kind::File;
+    entry.kind =
+        S_ISDIR(side.status.st_mode) ? LinuxDesktop::FileEntry::Kind::Folder : LinuxDesktop::FileEntry::Kind::File;
     return icons.iconFor(entry, nameOf(side));
 }
 
@@ -106,7 +106,10 @@ void ItemPicture::show(const Conflict::Side& side)
     const QImage thumbnail = thumbnailOf(side);
     if (!thumbnail.isNull())
         showImage(thumbnail);
-    else if (QMimeDatabase().mimeTypeForFile(nameOf(side), QMimeDatabase::MatchExtension).name().startsWith(u"image/"))
+    else if (QMimeDatabase()
+                 .mimeTypeForFile(nameOf(side), QMimeDatabase::MatchExtension)
+                 .name()
+                 .startsWith(u"image/"))
         makeImage(side);
 }
 
@@ -132,9 +135,8 @@ void ItemPicture::makeImage(const Conflict::Side& side)
             showImage(image);
     });
     QTimer::singleShot(patience, m_maker.get(), &QProcess::kill);
-    m_maker->start(QStringLiteral("gdk-pixbuf-thumbnailer"),
-                   {QStringLiteral("-s"), QString::number(imageExtent),
-                    QString::fromLatin1(addressOf(side.path)), made});
+    m_maker->start(QStringLiteral("gdk-pixbuf-thumbnailer"), {QStringLiteral("-s"), QString::number(imageExtent),
+                                                              QString::fromLatin1(addressOf(side.path)), made});
 }
 
 } // namespace MenuExtension::Transfers

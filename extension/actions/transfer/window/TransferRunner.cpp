@@ -180,7 +180,8 @@ void TransferRunner::end()
         answer(Outcome::failed(problems.join(u' ').left(1000).toStdString()));
         quit();
     } else if (!result.problems.empty()) {
-        m_window.showEnd(result.isRefused ? (m_isMove ? tr("Nothing was moved.") : tr("Nothing was copied.")) : m_words,
+        m_window.showEnd(result.isRefused ? (m_isMove ? tr("Nothing was moved.") : tr("Nothing was copied."))
+                                          : m_words,
                          problems, m_work.canBeUndone(), m_work.canBeUndone());
         showWindow();
     } else if (result.done == 0) {
@@ -216,7 +217,8 @@ void TransferRunner::endUndo()
         quit();
         return;
     }
-    m_window.showEnd(tr("Not everything could be put back."), Words::problems(m_isMove, result.problems), false, false);
+    m_window.showEnd(tr("Not everything could be put back."), Words::problems(m_isMove, result.problems), false,
+                     false);
     showWindow();
 }
 

@@ -166,7 +166,8 @@ void TransferWindow::advance(const Progress& progress)
     const std::uint64_t totalBytes = progress.totalBytes;
     switch (progress.phase.load()) {
     case Progress::Phase::Counting:
-        m_progress->advance(0, 0, tr("Looking at %1 items").arg(locale.toString(static_cast<qulonglong>(totalFiles))));
+        m_progress->advance(0, 0,
+                            tr("Looking at %1 items").arg(locale.toString(static_cast<qulonglong>(totalFiles))));
         return;
     case Progress::Phase::Flushing:
         m_progress->advance(totalBytes, totalBytes, tr("Writing to the disk"));
@@ -174,8 +175,9 @@ void TransferWindow::advance(const Progress& progress)
     case Progress::Phase::Working:
         break;
     }
-    const QString count = tr("%1 of %2").arg(locale.toString(static_cast<qulonglong>(files)),
-                                             locale.toString(static_cast<qulonglong>(totalFiles)));
+    const QString count = tr("%1 of %2")
+                              .arg(locale.toString(static_cast<qulonglong>(files)),
+                                   locale.toString(static_cast<qulonglong>(totalFiles)));
     if (totalBytes > 0)
         m_progress->advance(progress.bytes, totalBytes,
                             tr("%1 · %2 of %3")
@@ -190,8 +192,9 @@ void TransferWindow::ask(const Conflict& conflict)
     const bool isFolder = S_ISDIR(conflict.target.status.st_mode);
     const QString name = Words::name(conflict.target.path);
     const QString folder = Words::name(LinuxDesktop::parentFolder(conflict.target.path));
-    m_question->setText((isFolder ? tr("There is a folder %1 in %2 already.") : tr("There is a file %1 in %2 already."))
-                            .arg(name, folder));
+    m_question->setText(
+        (isFolder ? tr("There is a folder %1 in %2 already.") : tr("There is a file %1 in %2 already."))
+            .arg(name, folder));
     m_coming->show(tr("New"), conflict.source);
     m_existing->show(tr("Already there"), conflict.target);
     m_replace->setVisible(conflict.canReplace);

@@ -58,7 +58,8 @@ QString doing(bool isMove, const std::vector<std::string>& paths, const std::str
 QString done(bool isMove, const std::vector<std::string>& paths, const std::string& target, const Result& result)
 {
     if (result.done == paths.size() && paths.size() == 1)
-        return (isMove ? tr("%1 was moved to %2.") : tr("%1 was copied to %2.")).arg(name(paths.front()), name(target));
+        return (isMove ? tr("%1 was moved to %2.") : tr("%1 was copied to %2."))
+            .arg(name(paths.front()), name(target));
     if (result.done == paths.size())
         return (isMove ? tr("%1 items were moved to %2.") : tr("%1 items were copied to %2."))
             .arg(number(paths.size()), name(target));
