@@ -107,9 +107,15 @@ class MoveAndCopy(TransferTestCase):
         self.open_window(COPY, os.path.join(self.home.files, "from", "100% ö.png"),
                          title="There is a file “100% ö.png” in “to” already.")
         cards = [card.extents for card in self.cards()]
-        for card, colour in zip(cards, (b"\xff\x00\x00", b"\x00\x00\xff")):
-            eventually(lambda card=card, colour=colour: 20 * colour in self.display.picture_of(card),
-                       "the picture to be shown")
+        self.save_picture("copy-pictures")
+        for card, colour in zip(cards, ((255, 0, 0), (0, 0, 255))):
+            eventually(lambda card=card, colour=colour: self.has_line_of(colour, card), "the picture to be shown")
+
+    def has_line_of(self, colour, place):
+        """Whether many pixels of a colour lie side by side there."""
+        picture = self.display.picture_of(place)
+        bytes_each = len(picture) // (3 * place.width * place.height)
+        return 20 * bytes(value for value in colour for _ in range(bytes_each)) in picture
 
     def test_a_replaced_file_is_given_back_by_undo(self):
         self.start()
