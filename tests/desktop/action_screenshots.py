@@ -4,6 +4,7 @@ Usage: action_screenshots.py FOLDER, with ORVIK_PROGRAMS set to the folder of th
 """
 
 import os
+import re
 import subprocess
 import sys
 import unittest
@@ -15,7 +16,7 @@ SCHEMES = {"light": 0, "dark": 1}
 # Until a window that is on view has been painted.
 PAINTING = 0.6
 # Of what is pictured: nothing depends on when it was taken.
-DAYS = {"from": 1_783_000_000, "to": 1_751_000_000}
+DAYS = {"Camera": 1_783_000_000, "Holiday": 1_751_000_000}
 
 
 class ActionScreenshots(TransferTestCase):
@@ -35,26 +36,28 @@ class ActionScreenshots(TransferTestCase):
         return path
 
     def conflict_of_photos(self, scheme):
-        self.photo("to", "Harbour.jpg", "#f7d9a4-#b5562f")
-        self.open_window(COPY, self.photo("from", "Harbour.jpg", "#9fd3f5-#1f5f8b"),
-                         title="There is a file “Harbour.jpg” in “to” already.")
+        self.photo("Holiday", "Harbour.jpg", "#f7d9a4-#b5562f")
+        self.open_window(COPY, self.photo("Camera", "Harbour.jpg", "#9fd3f5-#1f5f8b"), target=self.folder("Holiday"),
+                         title="There is a file “Harbour.jpg” in “Holiday” already.")
         self.picture(f"copy-conflict-{scheme}")
-        self.hands.press("Escape")
-        self.action.wait_for_end()
+        self.leave()
 
     def problems(self, scheme):
-        self.open_window(MOVE, self.target, os.path.join(self.home.files, "from/Harbour.jpg"),
+        self.open_window(MOVE, self.folder("Holiday"), self.make("Camera/Old town.jpg"), target=self.folder("Holiday"),
                          title="Not everything can be done.")
         self.picture(f"move-problems-{scheme}")
-        self.hands.press("Escape")
-        self.action.wait_for_end()
+        self.leave()
 
     def progress(self, scheme):
         for number in range(30_000):
-            self.make(f"from/{number % 30}/{number}", b"")
-        self.open_window(COPY, os.path.join(self.home.files, "from"), title="Copying “from” to “to”")
-        eventually(lambda: self.window.find("progress bar"), "the bar")
+            self.make(f"Letters/{number % 30}/{number}", b"")
+        self.open_window(COPY, os.path.join(self.home.files, "Letters"), target=self.folder("Holiday"),
+                         title="Copying “Letters” to “Holiday”")
+        eventually(lambda: any(re.match("1[0-9],", words) for words in self.labels()), "a third of it to be copied")
         self.picture(f"copy-progress-{scheme}")
+        self.leave()
+
+    def leave(self):
         self.hands.press("Escape")
         self.action.wait_for_end()
 

@@ -44,7 +44,7 @@ void ItemCard::show(const QString& which, const Conflict::Side& side)
         locale.toString(QDateTime::fromSecsSinceEpoch(side.status.st_mtim.tv_sec), QLocale::ShortFormat);
     m_picture->show(side);
     m_which->setText(which);
-    m_facts->setText(tr("%1\nChanged %2").arg(size, date));
+    m_facts->setText(size + u'\n' + date);
     setAccessibleName(which + u' ' + m_facts->text());
 }
 

@@ -23,6 +23,8 @@ namespace MenuExtension::Transfers {
 namespace {
 
 constexpr int initialWidth = 640;
+/// To make a file takes about as long as to copy so much.
+constexpr std::uint64_t bytesOfAFile = std::uint64_t{32} << 10U;
 
 QLabel* makeText(QWidget* parent)
 {
@@ -163,6 +165,7 @@ void TransferWindow::advance(const Progress& progress)
     const QLocale locale;
     const std::uint64_t files = progress.files;
     const std::uint64_t totalFiles = std::max<std::uint64_t>(progress.totalFiles, files);
+    const std::uint64_t bytes = progress.bytes;
     const std::uint64_t totalBytes = progress.totalBytes;
     switch (progress.phase.load()) {
     case Progress::Phase::Counting:
@@ -175,16 +178,14 @@ void TransferWindow::advance(const Progress& progress)
     case Progress::Phase::Working:
         break;
     }
-    const QString count = tr("%1 of %2")
-                              .arg(locale.toString(static_cast<qulonglong>(files)),
-                                   locale.toString(static_cast<qulonglong>(totalFiles)));
+    QString words = tr("%1 of %2")
+                        .arg(locale.toString(static_cast<qulonglong>(files)),
+                             locale.toString(static_cast<qulonglong>(totalFiles)));
     if (totalBytes > 0)
-        m_progress->advance(progress.bytes, totalBytes,
-                            tr("%1 · %2 of %3")
-                                .arg(count, locale.formattedDataSize(static_cast<qint64>(progress.bytes.load())),
-                                     locale.formattedDataSize(static_cast<qint64>(totalBytes))));
-    else
-        m_progress->advance(files, totalFiles, count);
+        words = tr("%1 · %2 of %3")
+                    .arg(words, locale.formattedDataSize(static_cast<qint64>(bytes)),
+                         locale.formattedDataSize(static_cast<qint64>(totalBytes)));
+    m_progress->advance(bytes + files * bytesOfAFile, totalBytes + totalFiles * bytesOfAFile, words);
 }
 
 void TransferWindow::ask(const Conflict& conflict)
