@@ -99,16 +99,6 @@ void MixedTransfer::expectNothingLost() const
     }
 }
 
-void MixedTransfer::expectNothingReplaced() const
-{
-    const auto atSource = contentsIn(source());
-    const auto atTarget = contentsIn(target());
-    for (const auto& contents : {m_new, m_old}) {
-        for (const auto& [name, content] : contents)
-            EXPECT_TRUE(has(atSource, content) || has(atTarget, content)) << name << " has gone";
-    }
-}
-
 void MixedTransfer::expectAllIsBack() const
 {
     EXPECT_EQ(contentsIn(source()), m_new);

@@ -17,8 +17,6 @@ protected:
 
     /// Each file is whole where it was or where it goes, and no other file is to be seen, whole or not.
     void expectNothingLost() const;
-    /// Each file is somewhere where people see it, whatever its name.
-    void expectNothingReplaced() const;
     /// As prepare() has left it.
     void expectAllIsBack() const;
 
