@@ -79,7 +79,7 @@ bool AttributeCopier::copyExtended(int from, int to)
 
 bool AttributeCopier::copyTimes(const struct stat& source, int folder, const char* name)
 {
-    return m_calls.setTimes(folder, name, {source.st_atim, source.st_mtim}) == 0 || isImpossible(errno);
+    return m_calls.setTimes(folder, name, {{source.st_atim, source.st_mtim}}) == 0 || isImpossible(errno);
 }
 
 } // namespace MenuExtension::Transfers

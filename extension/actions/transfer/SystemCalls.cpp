@@ -132,9 +132,10 @@ int SystemCalls::setMode(int file, mode_t mode)
     return ::fchmod(file, mode);
 }
 
-int SystemCalls::setTimes(int folder, const char* name, const struct timespec (&times)[2])
+int SystemCalls::setTimes(int folder, const char* name, const std::array<timespec, 2>& times)
 {
-    return *name == '\0' ? ::futimens(folder, times) : ::utimensat(folder, name, times, AT_SYMLINK_NOFOLLOW);
+    return *name == '\0' ? ::futimens(folder, times.data())
+                         : ::utimensat(folder, name, times.data(), AT_SYMLINK_NOFOLLOW);
 }
 
 ssize_t SystemCalls::listAttributes(int file, char* names, std::size_t size)

@@ -2,6 +2,7 @@
 
 #include "platform/linux/system/FileDescriptor.h"
 
+#include <array>
 #include <cstddef>
 #include <dirent.h>
 #include <sys/stat.h>
@@ -47,7 +48,7 @@ public:
 
     [[nodiscard]] virtual int setOwner(int folder, const char* name, uid_t user, gid_t group);
     [[nodiscard]] virtual int setMode(int file, mode_t mode);
-    [[nodiscard]] virtual int setTimes(int folder, const char* name, const struct timespec (&times)[2]);
+    [[nodiscard]] virtual int setTimes(int folder, const char* name, const std::array<timespec, 2>& times);
     [[nodiscard]] virtual ssize_t listAttributes(int file, char* names, std::size_t size);
     [[nodiscard]] virtual ssize_t attribute(int file, const char* name, void* value, std::size_t size);
     [[nodiscard]] virtual int setAttribute(int file, const char* name, const void* value, std::size_t size);

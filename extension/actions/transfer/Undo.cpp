@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <map>
+#include <ranges>
 #include <string_view>
 #include <unistd.h>
 
@@ -138,14 +139,14 @@ Result Transfer::undo(const MoveToTrash& moveToTrash)
     MovesByFolder moves;
     m_progress.cancelled = false;
     std::vector<Returning> returning = bringOutReplaced(result.problems);
-    for (auto step = m_journal.rbegin(); step != m_journal.rend(); ++step) {
-        if (const auto* emptied = std::get_if<Emptied>(&*step)) {
+    for (const auto& step : std::ranges::reverse_view(m_journal)) {
+        if (const auto* emptied = std::get_if<Emptied>(&step)) {
             // Those above come first, since they were emptied last.
             if (::mkdir(emptied->path.c_str(), emptied->mode) != 0 && errno != EEXIST)
                 result.problems.add({Problem::Kind::NotUndone, emptied->path, errno});
             continue;
         }
-        const auto* placed = std::get_if<Placed>(&*step);
+        const auto* placed = std::get_if<Placed>(&step);
         if (!placed)
             continue;
         const std::string path = placeOf(*placed, returning);

@@ -177,7 +177,7 @@ public:
     {
         return fails(Call::SetMode) ? -1 : SystemCalls::setMode(file, mode);
     }
-    int setTimes(int folder, const char* name, const struct timespec (&times)[2]) override
+    int setTimes(int folder, const char* name, const std::array<timespec, 2>& times) override
     {
         return fails(Call::SetTimes) ? -1 : SystemCalls::setTimes(folder, name, times);
     }
