@@ -7,7 +7,6 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <map>
-#include <ranges>
 #include <string_view>
 #include <unistd.h>
 
@@ -139,7 +138,8 @@ Result Transfer::undo(const MoveToTrash& moveToTrash)
     MovesByFolder moves;
     m_progress.cancelled = false;
     std::vector<Returning> returning = bringOutReplaced(result.problems);
-    for (const auto& step : std::ranges::reverse_view(m_journal)) {
+    for (std::size_t left = m_journal.size(); left > 0; --left) {
+        const auto& step = m_journal[left - 1];
         if (const auto* emptied = std::get_if<Emptied>(&step)) {
             // Those above come first, since they were emptied last.
             if (::mkdir(emptied->path.c_str(), emptied->mode) != 0 && errno != EEXIST)
