@@ -49,6 +49,7 @@ packages_packaging_check=(
 packages_panel=(
   breeze-icon-theme
   fonts-inter
+  libgdk-pixbuf2.0-bin
   libimage-exiftool-perl
   libqt6svg6
   libvips42

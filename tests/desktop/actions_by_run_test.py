@@ -11,6 +11,7 @@ from support.case import DesktopTestCase
 from support.deployment import EXTENSION
 from support.extension import INTERFACE, OBJECT, Companion, processes_of
 from support.hostile_names import NAMES
+from support.notifications import Notifications
 from support.recorder import install_recorder
 from support.suite import record
 from support.waiting import eventually
@@ -165,6 +166,28 @@ class ActionsByRun(DesktopTestCase):
             else:
                 self.assertEqual(self.run_action("add-folders", path), "Failed")
             self.assertEqual(self.suite.read().get("arrCustomFoldersUrls", []), added)
+
+    def goes(self, action):
+        """Has each item go to a folder of a hostile name. Gives where it was and where it is to be."""
+        notifications = Notifications(self)
+        for number, (name, path) in enumerate(self.each(self.make_file)):
+            target = os.path.join(self.folder, b"to", str(number).encode(), name)
+            os.makedirs(target)
+            self.assertIsNone(self.run_action(action, path, target=GLib.Variant("ay", target)))
+            notifications.dismiss(notifications.only())
+            # It stays until then, and nothing else is left.
+            self.assertEqual(os.listdir(target), [name])
+            self.assertEqual(self.contents(os.path.join(target, name)), b"contents")
+            yield path
+        eventually(lambda: not processes_of(action, "HOME=" + self.home.folder), "the actions to end")
+
+    def test_an_item_is_moved_to_a_folder(self):
+        for path in self.goes("move-to-a-folder"):
+            self.assertFalse(os.path.lexists(path))
+
+    def test_an_item_is_copied_to_a_folder(self):
+        for path in self.goes("copy-to-a-folder"):
+            self.assertEqual(self.contents(path), b"contents")
 
     def test_several_items_are_hidden_at_once(self):
         paths = [path for name, path in self.each(self.make_file) if b"\n" not in name]

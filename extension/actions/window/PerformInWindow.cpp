@@ -13,6 +13,7 @@
 #include <array>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace MenuExtension {
 
@@ -29,9 +30,24 @@ int failWithoutDisplay()
     return EXIT_FAILURE;
 }
 
+/// Shows a window and runs until it is closed, where that is all that an action is.
+class WindowRunner : public QObject {
+public:
+    explicit WindowRunner(std::unique_ptr<QWidget> window) : m_window(std::move(window))
+    {
+        m_window->show();
+        m_window->raise();
+        m_window->activateWindow();
+        answer(Outcome::done());
+    }
+
+private:
+    std::unique_ptr<QWidget> m_window;
+};
+
 } // namespace
 
-Outcome performInWindow(const MakeWindow& make)
+Outcome performWithToolkit(const MakeRunner& make)
 {
     LinuxDesktop::TerminationSignals terminationSignals;
     LinuxDesktop::SessionBus::keepToolkitFromStartingOne();
@@ -40,18 +56,20 @@ Outcome performInWindow(const MakeWindow& make)
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
     QGuiApplication::setDesktopFileName(
         QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size()));
-    terminationSignals.whenAsked([] { QApplication::closeAllWindows(); });
+    // Which closes the windows first.
+    terminationSignals.whenAsked([] { QCoreApplication::quit(); });
 
     LinuxDesktop::SessionBus bus("orvik-menu: there is no session bus");
     const LinuxDesktop::WindowSurroundings surroundings(bus, QCoreApplication::applicationDirPath() +
                                                                  QStringLiteral("/" ORVIK_ACTION_TO_PROGRAMS));
-    const auto window = make();
-    window->show();
-    window->raise();
-    window->activateWindow();
-    answer(Outcome::done());
+    const auto runner = make(bus);
     QApplication::exec();
     return Outcome::done();
+}
+
+Outcome performInWindow(const MakeWindow& make)
+{
+    return performWithToolkit([&](LinuxDesktop::SessionBus&) { return std::make_unique<WindowRunner>(make()); });
 }
 
 } // namespace MenuExtension

@@ -17,9 +17,10 @@ from .waiting import eventually
 SUBMENU = "Orvik Menu"
 
 OF_A_FILE = ["Open Terminal", "Open System Preferences", "Copy path to Clipboard", "Send via Mail",
-             "Open New Finder Window", "Hide / Unhide item", "Configure Orvik Menu Settings"]
-OF_SEVERAL = ["Open System Preferences", "Copy path to Clipboard", "Hide / Unhide item",
-              "Configure Orvik Menu Settings"]
+             "Move to a folder", "Copy to a folder", "Open New Finder Window", "Hide / Unhide item",
+             "Configure Orvik Menu Settings"]
+OF_SEVERAL = ["Open System Preferences", "Copy path to Clipboard", "Move to a folder", "Copy to a folder",
+              "Hide / Unhide item", "Configure Orvik Menu Settings"]
 OF_A_BACKGROUND = ["Open Terminal", "Open System Preferences", "Create New Text File", "Copy path to Clipboard",
                    "Open New Finder Window", "Configure Orvik Menu Settings", "Add Folders"]
 

@@ -22,6 +22,9 @@ public:
     [[nodiscard]] explicit operator bool() const { return m_descriptor >= 0; }
     [[nodiscard]] int get() const { return m_descriptor; }
 
+    /// Gives the descriptor away.
+    [[nodiscard]] int release() { return std::exchange(m_descriptor, -1); }
+
     /// False, with errno, when what was written may not have reached the file.
     bool close() { return m_descriptor < 0 || ::close(std::exchange(m_descriptor, -1)) == 0; }
 

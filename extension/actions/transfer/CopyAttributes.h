@@ -1,0 +1,31 @@
+#pragma once
+
+#include "extension/actions/transfer/SystemCalls.h"
+
+#include <vector>
+
+namespace MenuExtension::Transfers {
+
+/// Gives a copy what its original has beside the bytes: owner, extended attributes with the access rights among them,
+/// permissions, times. What the target's file system has no place for, and what the user may not give, is left out.
+/// One thread.
+class AttributeCopier {
+public:
+    explicit AttributeCopier(SystemCalls& calls) : m_calls(calls) {}
+
+    /// `to` is the copy, `made` as it was made. False, with errno.
+    [[nodiscard]] bool copy(int from, const struct stat& source, int to, const struct stat& made);
+    /// The same for what is not opened: a link, a pipe. Of a link what a link can have.
+    [[nodiscard]] bool copyUnopened(const struct stat& source, int folder, const char* name);
+
+private:
+    [[nodiscard]] bool copyOwner(const struct stat& source, int folder, const char* name, mode_t& mode);
+    [[nodiscard]] bool copyExtended(int from, int to);
+    [[nodiscard]] bool copyTimes(const struct stat& source, int folder, const char* name);
+
+    SystemCalls& m_calls;
+    std::vector<char> m_names;
+    std::vector<char> m_value;
+};
+
+} // namespace MenuExtension::Transfers

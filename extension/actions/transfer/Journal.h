@@ -1,0 +1,47 @@
+#pragma once
+
+#include "extension/actions/transfer/Folder.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace MenuExtension::Transfers {
+
+/// Many steps share the path of a folder.
+using SharedPath = std::shared_ptr<const std::string>;
+
+/// An item has come to its place.
+struct Placed {
+    SharedPath sourceFolder;
+    std::string sourceName;
+    SharedPath targetFolder;
+    std::string targetName;
+    /// None where it could not be asked for.
+    Identity identity;
+    bool isFolder = false;
+    /// It is nowhere else any more.
+    bool isMoved = false;
+};
+
+/// An item was replaced, and is kept.
+struct Replaced {
+    SharedPath folder;
+    std::string name;
+    std::size_t staging;
+    std::string keptName;
+    bool isFolder;
+};
+
+/// A folder has gone, since all that was in it was moved into another.
+struct Emptied {
+    std::string path;
+    mode_t mode;
+};
+
+/// What was done, in its order.
+using Journal = std::vector<std::variant<Placed, Replaced, Emptied>>;
+
+} // namespace MenuExtension::Transfers

@@ -1,0 +1,214 @@
+#include "extension/actions/transfer/Survey.h"
+
+#include "extension/actions/transfer/FolderEntries.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <limits>
+#include <linux/magic.h>
+#include <string_view>
+#include <sys/statvfs.h>
+#include <sys/utsname.h>
+#include <unistd.h>
+
+namespace MenuExtension::Transfers {
+
+using LinuxDesktop::FileDescriptor;
+
+namespace {
+
+// Those that the system's headers do not name.
+constexpr long magicBcachefs = 0xca451a4e;
+constexpr long magicExfat = 0x2011bab0;
+constexpr long magicJfs = 0x3153464a;
+constexpr long magicNtfs = 0x7366746e;
+
+/// Those whose flush reaches the disk, which are the ones that this machine writes itself.
+constexpr std::array local{long{EXT4_SUPER_MAGIC},
+                           long{XFS_SUPER_MAGIC},
+                           long{BTRFS_SUPER_MAGIC},
+                           long{F2FS_SUPER_MAGIC},
+                           long{TMPFS_MAGIC},
+                           long{RAMFS_MAGIC},
+                           long{MSDOS_SUPER_MAGIC},
+                           long{NILFS_SUPER_MAGIC},
+                           long{REISERFS_SUPER_MAGIC},
+                           magicBcachefs,
+                           magicExfat,
+                           magicJfs,
+                           magicNtfs};
+constexpr std::array sharing{long{BTRFS_SUPER_MAGIC}, long{XFS_SUPER_MAGIC}, magicBcachefs};
+
+template<std::size_t count>
+bool isOneOf(const std::array<long, count>& magics, long magic)
+{
+    return std::ranges::find(magics, magic) != magics.end();
+}
+
+/// Since Linux 5.8.
+bool flushTellsErrors()
+{
+    static const bool tells = [] {
+        struct utsname system = {};
+        if (::uname(&system) != 0)
+            return false;
+        char* rest = nullptr;
+        const long major = std::strtol(static_cast<const char*>(system.release), &rest, 10);
+        const long minor = *rest == '.' ? std::strtol(rest + 1, nullptr, 10) : 0;
+        return major > 5 || (major == 5 && minor >= 8);
+    }();
+    return tells;
+}
+
+} // namespace
+
+std::vector<Identity> foldersAbove(SystemCalls& calls, int folder)
+{
+    std::vector<Identity> above;
+    struct stat status = {};
+    if (calls.status(folder, "", status) != 0)
+        return above;
+    above.push_back(identityOf(status));
+    FileDescriptor reached;
+    for (int at = folder;;) {
+        FileDescriptor next = calls.open(at, "..", O_PATH | O_DIRECTORY);
+        if (!next || calls.status(next.get(), "", status) != 0 || identityOf(status) == above.back())
+            return above;
+        above.push_back(identityOf(status));
+        reached = std::move(next);
+        at = reached.get();
+    }
+}
+
+std::optional<Target> Target::open(SystemCalls& calls, const std::string& path)
+{
+    Target target;
+    // A person may choose a link.
+    FileDescriptor opened(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    target.m_folder = shareFolder(calls, std::move(opened), path);
+    if (!target.m_folder || calls.fileSystem(target.m_folder->get(), target.m_fileSystem) != 0)
+        return std::nullopt;
+    if ((static_cast<unsigned long>(target.m_fileSystem.f_flags) & ST_RDONLY) != 0) {
+        errno = EROFS;
+        return std::nullopt;
+    }
+    if (::faccessat(target.m_folder->get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
+        return std::nullopt;
+    target.m_above = foldersAbove(calls, target.m_folder->get());
+    return target;
+}
+
+std::size_t Target::longestName() const
+{
+    constexpr std::size_t usual = 255;
+    const auto longest = static_cast<std::size_t>(m_fileSystem.f_namelen);
+    // Some count characters, of which each may have several bytes.
+    return m_fileSystem.f_type == MSDOS_SUPER_MAGIC || longest == 0 ? usual : longest;
+}
+
+std::uint64_t Target::largestFile() const
+{
+    return m_fileSystem.f_type == MSDOS_SUPER_MAGIC ? std::numeric_limits<std::uint32_t>::max()
+                                                    : std::numeric_limits<std::uint64_t>::max();
+}
+
+std::uint64_t Target::roomFor(std::uint64_t size) const
+{
+    const auto block = static_cast<std::uint64_t>(std::max<long>(m_fileSystem.f_bsize, 1));
+    return (size + block - 1) / block * block;
+}
+
+bool Target::hasRoomFor(std::uint64_t bytes, std::uint64_t files) const
+{
+    // Some have no bound, or do not tell it.
+    const bool fits =
+        m_fileSystem.f_blocks == 0 || bytes / static_cast<std::uint64_t>(std::max<long>(m_fileSystem.f_bsize, 1)) <=
+                                          (::geteuid() == 0 ? m_fileSystem.f_bfree : m_fileSystem.f_bavail);
+    return fits && (m_fileSystem.f_files == 0 || files <= m_fileSystem.f_ffree);
+}
+
+bool Target::sharesBytes() const
+{
+    return isOneOf(sharing, m_fileSystem.f_type);
+}
+
+bool Target::canBeFlushedAsAWhole() const
+{
+    return flushTellsErrors() && isOneOf(local, m_fileSystem.f_type);
+}
+
+bool Target::liesIn(const Identity& folder) const
+{
+    return std::ranges::find(m_above, folder) != m_above.end();
+}
+
+bool Survey::look(const Folder& folder, const std::string& name)
+{
+    m_path = folder.path == "/" ? std::string() : folder.path;
+    m_isPossible = true;
+    lookAt(folder.get(), name.c_str());
+    return m_isPossible;
+}
+
+void Survey::lookAt(int folder, const char* name)
+{
+    struct stat status = {};
+    if (m_calls.status(folder, name, status) != 0)
+        return refuse(Problem::Kind::SourceUnusable, name, errno);
+    ++m_files;
+    if (std::string_view(name).size() > m_target.longestName())
+        return refuse(Problem::Kind::NameTooLong, name);
+    if (S_ISDIR(status.st_mode)) {
+        m_room += m_target.roomFor(1);
+        lookAtFolder(folder, name);
+        return;
+    }
+    ++m_progress.totalFiles;
+    if (S_ISBLK(status.st_mode) || S_ISCHR(status.st_mode))
+        return refuse(Problem::Kind::IsDevice, name);
+    if (!S_ISREG(status.st_mode))
+        return;
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    if (size > m_target.largestFile())
+        return refuse(Problem::Kind::TooLarge, name);
+    constexpr std::uint64_t blockOfStatus = 512;
+    m_progress.totalBytes += size;
+    m_room += m_target.roomFor(std::min(size, static_cast<std::uint64_t>(status.st_blocks) * blockOfStatus));
+}
+
+void Survey::lookAtFolder(int folder, const char* name)
+{
+    const FileDescriptor opened = m_calls.open(folder, name, O_RDONLY | O_DIRECTORY);
+    if (!opened)
+        return refuse(Problem::Kind::SourceUnusable, name, errno);
+    const std::size_t length = m_path.size();
+    m_path.append("/").append(name);
+    ++m_depth;
+    FolderEntries entries(m_calls, opened);
+    bool isEmpty = true;
+    while (const char* entry = entries.next()) {
+        if (m_progress.cancelled)
+            break;
+        isEmpty = false;
+        lookAt(opened.get(), entry);
+    }
+    if (entries.error() != 0)
+        refuse(Problem::Kind::SourceUnusable, "", entries.error());
+    if (m_isMove && !isEmpty && ::faccessat(opened.get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
+        refuse(Problem::Kind::CannotLeave, "", errno);
+    --m_depth;
+    m_path.resize(length);
+}
+
+/// What is wrong within a folder does not keep the rest of it; but nothing is moved by halves that is known before.
+void Survey::refuse(Problem::Kind kind, const char* name, int error)
+{
+    if (m_depth == 0 || kind == Problem::Kind::CannotLeave)
+        m_isPossible = false;
+    m_problems.add({kind, *name == '\0' ? m_path : m_path + '/' + name, error});
+}
+
+} // namespace MenuExtension::Transfers

@@ -1,0 +1,190 @@
+#include "extension/actions/transfer/Transfer.h"
+#include "platform/linux/system/ParentFolder.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <map>
+#include <string_view>
+#include <unistd.h>
+
+namespace MenuExtension::Transfers {
+
+using LinuxDesktop::FileDescriptor;
+
+namespace {
+
+FileDescriptor openFolder(const std::string& path)
+{
+    return FileDescriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+}
+
+std::string pathOf(const std::string& folder, const std::string& name)
+{
+    return (folder == "/" ? "" : folder) + '/' + name;
+}
+
+/// Whether two items that are no folders hold the same and were changed at the same time.
+bool areTheSame(const Conflict& conflict)
+{
+    const struct stat& one = conflict.source.status;
+    const struct stat& other = conflict.target.status;
+    if ((one.st_mode & S_IFMT) != (other.st_mode & S_IFMT) || one.st_size != other.st_size ||
+        one.st_mtim.tv_sec != other.st_mtim.tv_sec || one.st_mtim.tv_nsec != other.st_mtim.tv_nsec)
+        return false;
+    if (!S_ISREG(one.st_mode)) {
+        std::error_code error;
+        return !S_ISLNK(one.st_mode) || std::filesystem::read_symlink(conflict.source.path, error) ==
+                                            std::filesystem::read_symlink(conflict.target.path, error);
+    }
+    constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const FileDescriptor first(::open(conflict.source.path.c_str(), flags));
+    const FileDescriptor second(::open(conflict.target.path.c_str(), flags));
+    std::vector<char> bytes(std::size_t{64} << 10U);
+    std::vector<char> others(bytes.size());
+    for (off_t at = 0; at < one.st_size;) {
+        const ssize_t count = ::pread(first.get(), bytes.data(), bytes.size(), at);
+        if (count <= 0 || ::pread(second.get(), others.data(), static_cast<std::size_t>(count), at) != count ||
+            std::memcmp(bytes.data(), others.data(), static_cast<std::size_t>(count)) != 0)
+            return false;
+        at += count;
+    }
+    return true;
+}
+
+/// Nobody is asked: what somebody has made meanwhile is kept, and folders that were moved in part become one again.
+class KeepingBoth : public Asked {
+public:
+    [[nodiscard]] Decision decide(const Conflict& conflict) override
+    {
+        if (conflict.canMerge)
+            return {Resolution::Merge};
+        const bool isSame = !S_ISDIR(conflict.source.status.st_mode) && areTheSame(conflict);
+        return {isSame ? Resolution::Replace : Resolution::KeepBoth};
+    }
+    [[nodiscard]] bool goesOnWithout(const Problems&) override { return true; }
+};
+
+/// Items that go back to one folder.
+using MovesByFolder = std::map<std::string_view, Order>;
+
+std::optional<Identity> identityAt(SystemCalls& calls, const std::string& folder, const std::string& name)
+{
+    const FileDescriptor opened = openFolder(folder);
+    struct stat status = {};
+    if (!opened || calls.status(opened.get(), name.c_str(), status) != 0)
+        return std::nullopt;
+    return identityOf(status);
+}
+
+} // namespace
+
+/// What was replaced comes out first, to a name beside its own: if this is as far as it comes it is there.
+std::vector<Transfer::Returning> Transfer::bringOutReplaced(Problems& problems)
+{
+    std::vector<Returning> returning;
+    for (const auto& step : m_journal) {
+        const auto* replaced = std::get_if<Replaced>(&step);
+        if (!replaced)
+            continue;
+        Returning item{.replaced = replaced, .spare = {}, .identity = {}};
+        const FileDescriptor folder = openFolder(*replaced->folder);
+        const Place kept{m_stagings[replaced->staging].get(), replaced->keptName};
+        if (folder)
+            item.spare = placeBeside(m_calls, kept, {folder.get(), replaced->name}, replaced->isFolder,
+                                     m_target->longestName());
+        if (item.spare.empty()) {
+            problems.add({Problem::Kind::NotUndone, pathOf(*replaced->folder, replaced->name), errno});
+            // Its folder has gone, say. It is wanted all the same.
+            static_cast<void>(placeBeside(m_calls, kept, {m_stagings[replaced->staging].parent(), replaced->name},
+                                          replaced->isFolder, m_target->longestName()));
+        } else {
+            item.identity = identityAt(m_calls, *replaced->folder, item.spare).value_or(Identity());
+        }
+        returning.push_back(std::move(item));
+    }
+    return returning;
+}
+
+/// Where the item is by now; empty where it cannot be found, or has to stay. One that was replaced by a later one is
+/// beside it, and no longer `returning`.
+std::string Transfer::placeOf(const Placed& placed, std::vector<Returning>& returning) const
+{
+    const auto isBeside = [&](const Returning& item) {
+        return !item.spare.empty() && placed.identity != Identity() && item.identity == placed.identity &&
+               *item.replaced->folder == *placed.targetFolder && item.replaced->name == placed.targetName;
+    };
+    if (const auto beside = std::ranges::find_if(returning, isBeside); beside != returning.end()) {
+        std::string path = pathOf(*placed.targetFolder, beside->spare);
+        returning.erase(beside);
+        return path;
+    }
+    const auto isStuck = [&](const Returning& item) {
+        return item.spare.empty() && *item.replaced->folder == *placed.targetFolder &&
+               item.replaced->name == placed.targetName;
+    };
+    const auto identity = identityAt(m_calls, *placed.targetFolder, placed.targetName);
+    const bool isThere = identity && (placed.identity == Identity() || *identity == placed.identity);
+    if (!isThere || std::ranges::any_of(returning, isStuck))
+        return {};
+    return pathOf(*placed.targetFolder, placed.targetName);
+}
+
+Result Transfer::undo(const MoveToTrash& moveToTrash)
+{
+    Result result;
+    MovesByFolder moves;
+    m_progress.cancelled = false;
+    std::vector<Returning> returning = bringOutReplaced(result.problems);
+    for (std::size_t left = m_journal.size(); left > 0; --left) {
+        const auto& step = m_journal[left - 1];
+        if (const auto* emptied = std::get_if<Emptied>(&step)) {
+            // Those above come first, since they were emptied last.
+            if (::mkdir(emptied->path.c_str(), emptied->mode) != 0 && errno != EEXIST)
+                result.problems.add({Problem::Kind::NotUndone, emptied->path, errno});
+            continue;
+        }
+        const auto* placed = std::get_if<Placed>(&step);
+        if (!placed)
+            continue;
+        const std::string path = placeOf(*placed, returning);
+        if (path.empty()) {
+            result.problems.add({Problem::Kind::NotUndone, pathOf(*placed->targetFolder, placed->targetName)});
+        } else if (placed->isMoved || (m_isMove && placed->isFolder)) {
+            Order& order = moves[*placed->sourceFolder];
+            order.isMove = true;
+            order.target = *placed->sourceFolder;
+            order.items.push_back({path, placed->sourceName});
+        } else if (auto words = moveToTrash(path)) {
+            result.problems.add({Problem::Kind::NotTrashed, path, 0, *std::move(words)});
+        } else {
+            ++result.done;
+        }
+    }
+    for (const auto& [folder, order] : moves) {
+        KeepingBoth asked;
+        Transfer back(
+            m_calls, m_record, [](const std::string& item) { return openFolder(LinuxDesktop::parentFolder(item)); },
+            m_progress, asked);
+        const Result moved = back.run(order);
+        result.done += moved.done;
+        for (const Problem& problem : moved.problems.kept())
+            result.problems.add(problem);
+    }
+    for (const Returning& item : returning) {
+        const FileDescriptor folder = openFolder(*item.replaced->folder);
+        // Where its name is taken by now it stays beside what has it.
+        if (!item.spare.empty() &&
+            (!folder || (!placeNew(m_calls, {folder.get(), item.spare}, {folder.get(), item.replaced->name},
+                                   item.replaced->isFolder) &&
+                         errno != EEXIST)))
+            result.problems.add(
+                {Problem::Kind::NotUndone, pathOf(*item.replaced->folder, item.replaced->name), errno});
+    }
+    m_journal.clear();
+    return result;
+}
+
+} // namespace MenuExtension::Transfers

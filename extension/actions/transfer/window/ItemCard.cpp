@@ -1,0 +1,61 @@
+#include "extension/actions/transfer/window/ItemCard.h"
+
+#include "extension/actions/transfer/window/ItemPicture.h"
+
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace MenuExtension::Transfers {
+
+ItemCard::ItemCard(QWidget* parent)
+    : QWidget(parent), m_picture(new ItemPicture(this)), m_which(new QLabel(this)), m_facts(new QLabel(this))
+{
+    QFont bold = m_which->font();
+    bold.setWeight(QFont::DemiBold);
+    m_which->setFont(bold);
+    for (QLabel* label : {m_which, m_facts}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addStretch();
+    texts->addWidget(m_which);
+    texts->addWidget(m_facts);
+    texts->addStretch();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(14, 14, 14, 14);
+    row->setSpacing(14);
+    row->addWidget(m_picture);
+    row->addLayout(texts, 1);
+}
+
+void ItemCard::show(const QString& which, const Conflict::Side& side)
+{
+    const QLocale locale;
+    const QString size = S_ISDIR(side.status.st_mode)   ? tr("Folder")
+                         : S_ISLNK(side.status.st_mode) ? tr("Link")
+                                                        : locale.formattedDataSize(side.status.st_size);
+    const QString date =
+        locale.toString(QDateTime::fromSecsSinceEpoch(side.status.st_mtim.tv_sec), QLocale::ShortFormat);
+    m_picture->show(side);
+    m_which->setText(which);
+    m_facts->setText(size + u'\n' + date);
+    setAccessibleName(which + u' ' + m_facts->text());
+}
+
+void ItemCard::paintEvent(QPaintEvent*)
+{
+    constexpr qreal corner = 8;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(palette().color(QPalette::Base));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+}
+
+} // namespace MenuExtension::Transfers

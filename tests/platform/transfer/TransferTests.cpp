@@ -1,0 +1,767 @@
+#include "TransferTest.h"
+#include "support/Files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/statvfs.h>
+#include <sys/wait.h>
+#include <tuple>
+#include <unistd.h>
+
+namespace {
+
+using namespace MenuExtension::Transfers;
+namespace fs = std::filesystem;
+
+/// Everything that holds for moves and copies, within a file system and between two.
+class Transfers : public TransferTest, public testing::WithParamInterface<std::tuple<bool, bool>> {
+protected:
+    Transfers() : TransferTest(std::get<1>(GetParam()) ? Disks::Two : Disks::One) {}
+
+    [[nodiscard]] static What what() { return isMove() ? What::Move : What::Copy; }
+    [[nodiscard]] static bool isMove() { return std::get<0>(GetParam()); }
+    [[nodiscard]] static bool isBetweenTwo() { return std::get<1>(GetParam()); }
+
+    Result run(const std::vector<fs::path>& items) { return TransferTest::run(what(), items); }
+    /// Nothing is wrong, and so many are done.
+    void expectDone(const Result& result, std::size_t count = 1)
+    {
+        EXPECT_EQ(result.done, count);
+        EXPECT_EQ(kindsOf(result), std::vector<Kind>{});
+        EXPECT_FALSE(result.isRefused);
+        EXPECT_FALSE(result.isCancelled);
+    }
+    void expectAtSource(const fs::path& item, bool isThere)
+    {
+        EXPECT_EQ(fs::exists(fs::symlink_status(item)), isThere);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Everywhere, Transfers, testing::Combine(testing::Bool(), testing::Bool()),
+                         [](const auto& run) {
+                             return std::string(std::get<0>(run.param) ? "Move" : "Copy") +
+                                    (std::get<1>(run.param) ? "BetweenFileSystems" : "WithinAFileSystem");
+                         });
+
+TEST_P(Transfers, KeepEverythingOfEveryKindOfItem)
+{
+    makeEveryKind(source() / "all");
+    const Tree before = treeOf(source() / "all");
+    expectDone(run({source() / "all"}));
+    EXPECT_EQ(treeOf(target() / "all"), before);
+    EXPECT_EQ(progress.files, progress.totalFiles);
+    expectAtSource(source() / "all", !isMove());
+    struct stat sparse = {};
+    ASSERT_EQ(::stat((target() / "all/sparse").c_str(), &sparse), 0);
+    EXPECT_LT(sparse.st_blocks * 512, 1 << 18);
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{"all"});
+    forget();
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, CanBeUndone)
+{
+    makeEveryKind(source() / "all");
+    const fs::path second = file(source() / "second");
+    const Tree before = treeOf(source(), false);
+    expectDone(run({source() / "all", second}), 2);
+    const Result undone = undo();
+    EXPECT_EQ(undone.done, 2U);
+    EXPECT_EQ(kindsOf(undone), std::vector<Kind>{});
+    EXPECT_EQ(treeOf(source(), false), before);
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+    EXPECT_EQ(trashed.size(), isMove() ? 0U : 2U);
+    forget();
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, TakeManyItemsOfSeveralFolders)
+{
+    std::vector<fs::path> items;
+    for (int number = 0; number < 300; ++number)
+        items.push_back(file(source() / std::to_string(number % 7) / std::to_string(number), std::to_string(number)));
+    expectDone(run(items), items.size());
+    EXPECT_EQ(namesIn(target()).size(), items.size());
+    for (const fs::path& item : items) {
+        EXPECT_EQ(contentOf(target() / item.filename()), item.filename());
+        expectAtSource(item, !isMove());
+    }
+    EXPECT_EQ(progress.files, progress.totalFiles);
+    EXPECT_EQ(progress.bytes, progress.totalBytes);
+}
+
+TEST_P(Transfers, LeaveWhatIsSkipped)
+{
+    const fs::path item = file(source() / "name", "new");
+    file(target() / "name", "old");
+    answers.always = {Resolution::Skip};
+    const Result result = run({item});
+    EXPECT_EQ(result.done, 0U);
+    EXPECT_EQ(result.skipped, 1U);
+    EXPECT_EQ(contentOf(target() / "name"), "old");
+    EXPECT_EQ(contentOf(item), "new");
+    ASSERT_EQ(answers.asked.size(), 1U);
+    EXPECT_EQ(answers.asked[0].source.path, item);
+    EXPECT_EQ(answers.asked[0].target.path, target() / "name");
+    EXPECT_EQ(answers.asked[0].source.status.st_size, 3);
+    EXPECT_TRUE(answers.asked[0].canReplace);
+    EXPECT_FALSE(answers.asked[0].canMerge);
+}
+
+TEST_P(Transfers, KeepBothUnderAFreeName)
+{
+    const fs::path item = file(source() / "name.txt", "new");
+    file(target() / "name.txt", "old");
+    file(target() / "name 2.txt", "older");
+    answers.always = {Resolution::KeepBoth};
+    expectDone(run({item}));
+    EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"name 2.txt", "name 3.txt", "name.txt"}));
+    EXPECT_EQ(contentOf(target() / "name 3.txt"), "new");
+    EXPECT_EQ(contentOf(target() / "name.txt"), "old");
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"name 2.txt", "name.txt"}));
+    EXPECT_EQ(contentOf(item), "new");
+}
+
+TEST_P(Transfers, ReplaceAFileAndGiveItBack)
+{
+    const fs::path item = file(source() / "name", "new");
+    file(target() / "name", "old");
+    const Tree before = treeOf(target(), false);
+    answers.always = {Resolution::Replace};
+    expectDone(run({item}));
+    EXPECT_EQ(contentOf(target() / "name"), "new");
+    expectAtSource(item, !isMove());
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    forget();
+    EXPECT_EQ(treeOf(target(), false), before);
+    EXPECT_EQ(contentOf(item), "new");
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, ReplaceAFolderWithAllThatIsInIt)
+{
+    makeEveryKind(source() / "name");
+    const Tree before = treeOf(source() / "name");
+    file(target() / "name/old/file", "old");
+    answers.always = {Resolution::Replace};
+    expectDone(run({source() / "name"}));
+    EXPECT_EQ(treeOf(target() / "name"), before);
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    forget();
+    EXPECT_EQ(contentOf(target() / "name/old/file"), "old");
+    EXPECT_EQ(namesIn(target() / "name"), std::vector<std::string>{"old"});
+    EXPECT_EQ(treeOf(source() / "name", false).size(), before.size());
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, ReplaceAFolderByAFileAndAFileByAFolder)
+{
+    const fs::path one = file(source() / "one", "file");
+    const fs::path other = file(source() / "other/file", "file").parent_path();
+    file(target() / "one/file", "old");
+    file(target() / "other", "old");
+    answers.always = {Resolution::Replace, true};
+    expectDone(run({one, other}), 2);
+    EXPECT_EQ(answers.asked.size(), 1U);
+    EXPECT_EQ(contentOf(target() / "one"), "file");
+    EXPECT_EQ(contentOf(target() / "other/file"), "file");
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(contentOf(target() / "one/file"), "old");
+    EXPECT_EQ(contentOf(target() / "other"), "old");
+}
+
+TEST_P(Transfers, GiveBackOneThatWasReplacedByTheNext)
+{
+    const fs::path one = file(source() / "one/name", "first");
+    const fs::path other = file(source() / "other/name", "second");
+    file(target() / "name", "old");
+    const Tree sourceBefore = treeOf(source(), false);
+    const Tree targetBefore = treeOf(target(), false);
+    answers.always = {Resolution::Replace, true};
+    expectDone(run({one, other}), 2);
+    EXPECT_EQ(contentOf(target() / "name"), "second");
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    forget();
+    EXPECT_EQ(treeOf(source(), false), sourceBefore);
+    EXPECT_EQ(treeOf(target(), false), targetBefore);
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, ForgetWhatWasReplacedInTheEnd)
+{
+    file(target() / "name", "old");
+    answers.always = {Resolution::Replace};
+    expectDone(run({file(source() / "name", "new")}));
+    forget();
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{"name"});
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, MergeFolders)
+{
+    file(source() / "album/new", "new");
+    file(source() / "album/both", "newer");
+    file(source() / "album/deep/er/new", "new");
+    file(source() / "album/deep/both", "newer");
+    file(target() / "album/old", "old");
+    file(target() / "album/both", "old");
+    file(target() / "album/deep/both", "old");
+    const Tree sourceBefore = treeOf(source(), false);
+    const Tree targetBefore = treeOf(target(), false);
+    answers.each = [](const Conflict& conflict) {
+        return conflict.canMerge                             ? Decision{Resolution::Merge, true}
+               : conflict.source.path.ends_with("deep/both") ? Decision{Resolution::Skip}
+                                                             : Decision{Resolution::Replace};
+    };
+    expectDone(run({source() / "album"}));
+    EXPECT_EQ(answers.asked.size(), 3U);
+    EXPECT_EQ(namesIn(target() / "album"), (std::vector<std::string>{"both", "deep", "new", "old"}));
+    EXPECT_EQ(contentOf(target() / "album/both"), "newer");
+    EXPECT_EQ(contentOf(target() / "album/deep/both"), "old");
+    EXPECT_EQ(contentOf(target() / "album/deep/er/new"), "new");
+    // What was skipped is where it was, and so are the folders that it lies in.
+    EXPECT_EQ(contentOf(source() / "album/deep/both"), "newer");
+    expectAtSource(source() / "album/both", !isMove());
+    expectAtSource(source() / "album/deep/er", !isMove());
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    forget();
+    EXPECT_EQ(treeOf(source(), false), sourceBefore);
+    EXPECT_EQ(treeOf(target(), false), targetBefore);
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, MergeFoldersSoThatNothingIsLeft)
+{
+    file(source() / "album/deep/new", "new");
+    file(target() / "album/deep/old", "old");
+    const Tree before = treeOf(source(), false);
+    answers.always = {Resolution::Merge, true};
+    expectDone(run({source() / "album"}));
+    EXPECT_EQ(namesIn(target() / "album/deep"), (std::vector<std::string>{"new", "old"}));
+    expectAtSource(source() / "album", !isMove());
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(treeOf(source(), false), before);
+    EXPECT_EQ(namesIn(target() / "album/deep"), (std::vector<std::string>{"old"}));
+}
+
+TEST_P(Transfers, AskOnceForAllTheRestOfAKind)
+{
+    std::vector<fs::path> items;
+    for (const char* name : {"1", "2", "3"}) {
+        items.push_back(file(source() / name, "new"));
+        file(target() / name, "old");
+    }
+    answers.always = {Resolution::Replace, true};
+    expectDone(run(items), 3);
+    EXPECT_EQ(answers.asked.size(), 1U);
+    for (const char* name : {"1", "2", "3"})
+        EXPECT_EQ(contentOf(target() / name), "new");
+}
+
+TEST_P(Transfers, EndWhereAQuestionIsCancelled)
+{
+    const fs::path one = file(source() / "1", "new");
+    file(target() / "1", "old");
+    const fs::path other = file(source() / "2", "new");
+    const Result result = run({one, other});
+    EXPECT_TRUE(result.isCancelled);
+    EXPECT_EQ(result.done, 0U);
+    EXPECT_EQ(contentOf(target() / "1"), "old");
+    EXPECT_EQ(contentOf(one), "new");
+    EXPECT_EQ(contentOf(other), "new");
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{"1"});
+}
+
+TEST_P(Transfers, ReplaceAnotherNameOfTheSameFile)
+{
+    if (isBetweenTwo())
+        return;
+    const fs::path item = file(source() / "name", "content");
+    fs::create_hard_link(item, target() / "name");
+    answers.always = {Resolution::Replace};
+    expectDone(run({item}));
+    EXPECT_EQ(contentOf(target() / "name"), "content");
+    expectAtSource(item, !isMove());
+}
+
+TEST_P(Transfers, DoNotReplaceTheFolderThatTheItemLiesIn)
+{
+    const fs::path item = file(target() / "name/name", "inner");
+    answers.each = [](const Conflict& conflict) {
+        EXPECT_FALSE(conflict.canReplace);
+        EXPECT_FALSE(conflict.canMerge);
+        return Decision{Resolution::KeepBoth};
+    };
+    expectDone(TransferTest::run(what(), {item}));
+    EXPECT_EQ(answers.asked.size(), 1U);
+    EXPECT_EQ(contentOf(target() / "name 2"), "inner");
+    expectAtSource(item, !isMove());
+}
+
+TEST_P(Transfers, RefuseAFolderIntoItself)
+{
+    const fs::path item = folder(source() / "outer/inner").parent_path();
+    for (const fs::path& to : {item, item / "inner"}) {
+        const Result result = TransferTest::run(what(), {item}, to);
+        EXPECT_TRUE(result.isRefused);
+        EXPECT_EQ(kindsOf(result), std::vector{Kind::IntoItself});
+    }
+    // By another way.
+    fs::create_directory_symlink(item / "inner", target() / "link");
+    EXPECT_EQ(kindsOf(TransferTest::run(what(), {item}, target() / "link")), std::vector{Kind::IntoItself});
+    EXPECT_EQ(treeOf(item).size(), 2U);
+}
+
+TEST_P(Transfers, SayBeforeAnythingIsWrittenWhatCannotBeDone)
+{
+    const fs::path inner = folder(source() / "outer/target");
+    const fs::path good = file(source() / "good");
+    answers.goesOn = false;
+    Result result = TransferTest::run(what(), {source() / "outer", source() / "gone", good}, inner);
+    EXPECT_TRUE(result.isCancelled);
+    EXPECT_EQ(answers.told.size(), 2U);
+    EXPECT_EQ(namesIn(inner), std::vector<std::string>{});
+    expectAtSource(good, true);
+
+    progress.cancelled = false;
+    answers.goesOn = true;
+    result = TransferTest::run(what(), {source() / "outer", source() / "gone", good}, inner);
+    expectDone(result);
+    EXPECT_EQ(namesIn(inner), std::vector<std::string>{"good"});
+}
+
+TEST_P(Transfers, RefuseATargetThatIsNoFolder)
+{
+    const fs::path item = file(source() / "item");
+    for (const fs::path& to : {file(source() / "file"), source() / "gone"}) {
+        const Result result = TransferTest::run(what(), {item}, to);
+        EXPECT_TRUE(result.isRefused);
+        EXPECT_EQ(kindsOf(result), std::vector{Kind::TargetUnusable});
+    }
+}
+
+TEST_P(Transfers, FollowNoLink)
+{
+    const fs::path outside = file(source() / "outside/file", "outside").parent_path();
+    fs::create_directory_symlink(outside, source() / "link");
+    expectDone(run({source() / "link"}));
+    EXPECT_EQ(fs::read_symlink(target() / "link"), outside);
+    EXPECT_EQ(contentOf(outside / "file"), "outside");
+    expectAtSource(source() / "link", !isMove());
+}
+
+TEST_P(Transfers, GoTogetherWithOthersToTheSameFolder)
+{
+    // Two processes with the same names at the same time: nothing is overwritten.
+    const fs::path one = file(source() / "one/name", "one");
+    const fs::path other = file(source() / "other/name", "other");
+    answers.always = {Resolution::KeepBoth};
+    expectDone(run({one, other}), 2);
+    EXPECT_EQ(answers.asked.size(), 1U);
+    EXPECT_EQ(contentOf(target() / "name"), "one");
+    EXPECT_EQ(contentOf(target() / "name 2"), "other");
+}
+
+class Copies : public TransferTest {};
+
+TEST_F(Copies, WithinTheSameFolderHaveAnotherName)
+{
+    const fs::path item = file(source() / "report.tar.gz");
+    const Result result = run(What::Copy, {item}, source());
+    EXPECT_EQ(result.done, 1U);
+    EXPECT_TRUE(answers.asked.empty());
+    EXPECT_EQ(namesIn(source()), (std::vector<std::string>{"report 2.tar.gz", "report.tar.gz"}));
+}
+
+class Moves : public TransferTest {};
+
+TEST_F(Moves, IntoTheSameFolderAreSaidToBeThereAlready)
+{
+    const fs::path item = file(source() / "item");
+    const Result result = run(What::Move, {item}, source());
+    EXPECT_TRUE(result.isRefused);
+    EXPECT_EQ(kindsOf(result), std::vector{Kind::AlreadyThere});
+    EXPECT_EQ(namesIn(source()), std::vector<std::string>{"item"});
+}
+
+TEST_F(Moves, AreNotUndoneWhereAnotherItemHasTheNameByNow)
+{
+    run(What::Move, {file(source() / "item", "moved")});
+    fs::rename(target() / "item", target() / "elsewhere");
+    file(target() / "item", "another");
+    EXPECT_EQ(kindsOf(undo()), std::vector{Kind::NotUndone});
+    EXPECT_EQ(contentOf(target() / "item"), "another");
+}
+
+TEST_F(Moves, ComeBackBesideWhatIsThereByNow)
+{
+    run(What::Move, {file(source() / "item", "moved")});
+    file(source() / "item", "another");
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(contentOf(source() / "item"), "another");
+    EXPECT_EQ(contentOf(source() / "item 2"), "moved");
+}
+
+TEST_F(Moves, NeverComeBackInThePlaceOfAnother)
+{
+    // As large and as old, but another.
+    const fs::path item = file(source() / "item", "moved");
+    const auto time = fs::last_write_time(item);
+    run(What::Move, {item});
+    fs::last_write_time(file(item, "other"), time);
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(contentOf(source() / "item"), "other");
+    EXPECT_EQ(contentOf(source() / "item 2"), "moved");
+}
+
+TEST_F(Moves, KeepWhatTheyReplacedWhereItCannotComeBack)
+{
+    const fs::path item = file(source() / "album/name", "new").parent_path();
+    file(target() / "album/name", "old");
+    answers.each = [](const Conflict& conflict) {
+        return Decision{conflict.canMerge ? Resolution::Merge : Resolution::Replace};
+    };
+    EXPECT_EQ(run(What::Move, {item}).done, 1U);
+    fs::rename(target() / "album", target() / "renamed");
+    EXPECT_EQ(kindsOf(undo()), (std::vector{Kind::NotUndone, Kind::NotUndone}));
+    forget();
+    EXPECT_EQ(contentOf(target() / "renamed/name"), "new");
+    EXPECT_EQ(contentOf(target() / "name 2"), "old");
+}
+
+TEST_F(Copies, ThatTheTrashDoesNotTakeStay)
+{
+    run(What::Copy, {file(source() / "item")});
+    trashTrouble = "no trash here";
+    const Result result = undo();
+    ASSERT_EQ(kindsOf(result), std::vector{Kind::NotTrashed});
+    EXPECT_EQ(result.problems.kept()[0].words, "no trash here");
+    EXPECT_TRUE(fs::exists(target() / "item"));
+}
+
+/// A disk or an item as it is seldom met.
+class UnusualCalls : public SystemCalls {
+public:
+    std::function<void(struct statfs&)> changeFileSystem = [](struct statfs&) {};
+    std::function<void(const std::string&, struct stat&)> changeStatus = [](const std::string&, struct stat&) {};
+    std::function<void()> beforeRead = [] {};
+    bool canExchange = true;
+    bool canRenameNew = true;
+    bool canLink = true;
+
+    int fileSystem(int file, struct statfs& status) override
+    {
+        const int result = SystemCalls::fileSystem(file, status);
+        changeFileSystem(status);
+        return result;
+    }
+    int status(int folder, const char* name, struct stat& status) override
+    {
+        const int result = SystemCalls::status(folder, name, status);
+        if (result == 0)
+            changeStatus(name, status);
+        return result;
+    }
+    ssize_t read(int file, void* bytes, std::size_t count, off_t at) override
+    {
+        beforeRead();
+        return SystemCalls::read(file, bytes, count, at);
+    }
+    int rename(int from, const char* name, int to, const char* newName, unsigned flags) override
+    {
+        if (((flags & RENAME_EXCHANGE) != 0 && !canExchange) || ((flags & RENAME_NOREPLACE) != 0 && !canRenameNew)) {
+            errno = EINVAL;
+            return -1;
+        }
+        return SystemCalls::rename(from, name, to, newName, flags);
+    }
+    int link(int from, const char* name, int to, const char* newName) override
+    {
+        if (!canLink) {
+            errno = EPERM;
+            return -1;
+        }
+        return SystemCalls::link(from, name, to, newName);
+    }
+};
+
+class UnusualTransfers : public Transfers {
+protected:
+    UnusualTransfers() { calls = &unusual; }
+    ~UnusualTransfers() override { forget(); }
+    UnusualCalls unusual;
+};
+
+INSTANTIATE_TEST_SUITE_P(Everywhere, UnusualTransfers, testing::Combine(testing::Bool(), testing::Bool()),
+                         [](const auto& run) {
+                             return std::string(std::get<0>(run.param) ? "Move" : "Copy") +
+                                    (std::get<1>(run.param) ? "BetweenFileSystems" : "WithinAFileSystem");
+                         });
+
+TEST_P(UnusualTransfers, RefuseADiskThatCannotBeWritten)
+{
+    unusual.changeFileSystem = [](struct statfs& status) { status.f_flags |= ST_RDONLY; };
+    const Result result = run({file(source() / "item")});
+    EXPECT_TRUE(result.isRefused);
+    ASSERT_EQ(kindsOf(result), std::vector{Kind::TargetUnusable});
+    EXPECT_EQ(result.problems.kept()[0].error, EROFS);
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+}
+
+TEST_P(UnusualTransfers, RefuseADiskWithoutRoom)
+{
+    unusual.changeFileSystem = [](struct statfs& status) { status.f_bfree = status.f_bavail = 10; };
+    const Result result = run({file(source() / "item", std::string(1 << 20, 'x'))});
+    // A move within a file system takes none.
+    EXPECT_EQ(result.isRefused, !isMove() || isBetweenTwo());
+    if (result.isRefused) {
+        EXPECT_EQ(kindsOf(result), std::vector{Kind::Full});
+    }
+}
+
+TEST_P(UnusualTransfers, SayWhichNamesAreTooLong)
+{
+    unusual.changeFileSystem = [](struct statfs& status) { status.f_namelen = 10; };
+    file(source() / "short/a name that is long");
+    const fs::path item = file(source() / "another long name");
+    answers.goesOn = false;
+    Result result = run({item, source() / "short"});
+    EXPECT_TRUE(result.isCancelled);
+    // A folder of the same file system moves with all that is in it.
+    EXPECT_EQ(answers.told.size(), isMove() && !isBetweenTwo() ? 1U : 2U);
+    EXPECT_EQ(answers.told[0].kind, Kind::NameTooLong);
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+}
+
+TEST_P(UnusualTransfers, SayWhichFilesAreTooLarge)
+{
+    if (isMove() && !isBetweenTwo())
+        return;
+    unusual.changeFileSystem = [](struct statfs& status) { status.f_type = 0x4d44; };
+    const fs::path item = file(source() / "item");
+    ASSERT_EQ(::truncate(item.c_str(), (off_t{4} << 30U) + 1), 0);
+    const Result result = run({item});
+    EXPECT_TRUE(result.isRefused);
+    EXPECT_EQ(kindsOf(result), std::vector{Kind::TooLarge});
+}
+
+TEST_P(UnusualTransfers, ManageWithoutTheNewerKindsOfRenaming)
+{
+    for (const bool canLink : {true, false}) {
+        unusual.canExchange = unusual.canRenameNew = false;
+        unusual.canLink = canLink;
+        makeEveryKind(source() / "all");
+        file(source() / "file", "new");
+        file(source() / "folder/file", "new");
+        file(target() / "file", "old");
+        file(target() / "folder/file", "old");
+        const Tree before = treeOf(target(), false);
+        const Tree sourceBefore = treeOf(source(), false);
+        answers.always = {Resolution::Replace};
+        expectDone(run({source() / "all", source() / "file", source() / "folder"}), 3);
+        EXPECT_EQ(contentOf(target() / "file"), "new");
+        EXPECT_EQ(contentOf(target() / "folder/file"), "new");
+        EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+        forget();
+        EXPECT_EQ(treeOf(target(), false), before);
+        if (canLink) {
+            EXPECT_EQ(treeOf(source(), false), sourceBefore);
+        }
+        expectNoLeftovers();
+        fs::remove_all(source());
+        fs::remove_all(target());
+        fs::create_directory(source());
+        fs::create_directory(target());
+    }
+}
+
+TEST_P(UnusualTransfers, NeitherOverwriteWhatComesMeanwhile)
+{
+    unusual.canRenameNew = false;
+    const fs::path item = file(source() / "item", "new");
+    // Between the first look at the target and the renaming.
+    bool isLate = false;
+    unusual.changeStatus = [&](const std::string& name, struct stat&) {
+        if (!isLate && name == "item" && fs::exists(source() / "item")) {
+            isLate = true;
+            file(target() / "item", "quicker");
+        }
+    };
+    answers.always = {Resolution::KeepBoth};
+    expectDone(run({item}));
+    EXPECT_EQ(contentOf(target() / "item"), "quicker");
+    EXPECT_EQ(contentOf(target() / "item 2"), "new");
+}
+
+class UnusualCopies : public TransferTest {
+protected:
+    UnusualCopies() : TransferTest(Disks::Two) { calls = &unusual; }
+    ~UnusualCopies() override { forget(); }
+    UnusualCalls unusual;
+};
+
+TEST_F(UnusualCopies, OfDevicesAreNotMade)
+{
+    unusual.changeStatus = [](const std::string& name, struct stat& status) {
+        if (name == "device")
+            status.st_mode = S_IFCHR | 0600;
+    };
+    file(source() / "folder/device");
+    file(source() / "folder/file");
+    const Result result = run(What::Copy, {source() / "folder"});
+    EXPECT_EQ(answers.told.size(), 1U);
+    EXPECT_EQ(kindsOf(result), std::vector{Kind::IsDevice});
+    EXPECT_EQ(namesIn(target() / "folder"), std::vector<std::string>{"file"});
+}
+
+TEST_F(UnusualCopies, OfAFileThatKeepsChangingAreNotKept)
+{
+    const fs::path item = file(source() / "folder/changing", "a");
+    file(source() / "folder/other", "b");
+    int changes = 0;
+    unusual.beforeRead = [&] {
+        if (++changes < 100)
+            Files::write(item, std::string(static_cast<std::size_t>(changes), 'x'));
+    };
+    for (const What what : {What::Copy, What::Move}) {
+        changes = 0;
+        const Result result = run(what, {source() / "folder"});
+        EXPECT_EQ(kindsOf(result).front(), Kind::Changed);
+        EXPECT_EQ(namesIn(target() / "folder"), std::vector<std::string>{"other"});
+        EXPECT_TRUE(fs::exists(item));
+        fs::remove_all(target() / "folder");
+    }
+}
+
+TEST_F(UnusualCopies, AreMadeAnewWhereTheFileChangesOnce)
+{
+    const fs::path item = file(source() / "item", "first");
+    bool hasChanged = false;
+    unusual.beforeRead = [&] {
+        if (!std::exchange(hasChanged, true))
+            Files::write(item, "second and longer");
+    };
+    EXPECT_EQ(kindsOf(run(What::Move, {item})), std::vector<Kind>{});
+    EXPECT_EQ(contentOf(target() / "item"), "second and longer");
+    EXPECT_FALSE(fs::exists(item));
+}
+
+TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
+{
+    file(source() / "folder/old", "old");
+    file(source() / "folder/changed", "as it was copied");
+    bool isCopied = false;
+    // What stands in the folder when it is in its place at the target.
+    unusual.changeStatus = [&](const std::string&, struct stat&) {
+        if (!isCopied && fs::exists(target() / "folder")) {
+            isCopied = true;
+            file(source() / "folder/new", "new");
+            Files::write(source() / "folder/changed", "as it is now, longer");
+        }
+    };
+    const Result result = run(What::Move, {source() / "folder"});
+    EXPECT_EQ(kindsOf(result), std::vector{Kind::NotRemoved});
+    EXPECT_EQ(namesIn(source() / "folder"), (std::vector<std::string>{"changed", "new"}));
+    EXPECT_EQ(namesIn(target() / "folder"), (std::vector<std::string>{"changed", "old"}));
+    // And it becomes one again.
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(contentOf(source() / "folder/old"), "old");
+    EXPECT_EQ(contentOf(source() / "folder/changed"), "as it is now, longer");
+    EXPECT_EQ(contentOf(source() / "folder/changed 2"), "as it was copied");
+    EXPECT_FALSE(fs::exists(target() / "folder"));
+}
+
+TEST_F(UnusualCopies, EndSoonWhenTheyAreCancelled)
+{
+    file(source() / "folder/one", Files::noise(700'000));
+    file(source() / "folder/two", Files::noise(700'000));
+    int reads = 0;
+    unusual.beforeRead = [&] {
+        if (++reads == 3)
+            progress.cancelled = true;
+    };
+    const Result result = run(What::Move, {source() / "folder"});
+    EXPECT_TRUE(result.isCancelled);
+    EXPECT_EQ(result.done, 0U);
+    EXPECT_EQ(reads, 3);
+    EXPECT_EQ(namesIn(source() / "folder").size(), 2U);
+    forget();
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+}
+
+TEST_F(UnusualCopies, GoOnWithoutAFileThatCannotBeRead)
+{
+    if (::geteuid() == 0)
+        unusual.changeStatus = [](const std::string& name, struct stat&) { static_cast<void>(name); };
+    file(source() / "folder/one");
+    file(source() / "folder/vanished");
+    bool isGone = false;
+    unusual.changeStatus = [&](const std::string& name, struct stat&) {
+        // After the look that the copy begins with.
+        if (name == "vanished" && progress.phase == Progress::Phase::Working)
+            isGone = fs::remove(source() / "folder/vanished") || isGone;
+    };
+    const Result result = run(What::Move, {source() / "folder"});
+    EXPECT_TRUE(isGone);
+    EXPECT_EQ(kindsOf(result), std::vector{Kind::NotTransferred});
+    EXPECT_EQ(result.problems.kept()[0].path, source() / "folder/vanished");
+    EXPECT_EQ(namesIn(target() / "folder"), std::vector<std::string>{"one"});
+    EXPECT_FALSE(fs::exists(source() / "folder"));
+}
+
+class Leftovers : public TransferTest {};
+
+TEST_F(Leftovers, OfAnotherProcessThatRunsAreLeftAlone)
+{
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+    LinuxDesktop::FileDescriptor reading(ends[0]);
+    LinuxDesktop::FileDescriptor writing(ends[1]);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        StagingRecord record(systemCalls, {records()});
+        const auto target =
+            shareFolder(systemCalls, systemCalls.open(AT_FDCWD, this->target().c_str(), O_RDONLY), this->target());
+        auto staging = Staging::make(systemCalls, target, record);
+        static_cast<void>(::write(writing.get(), "x", 1));
+        ::pause();
+        ::_exit(0);
+    }
+    char byte = 0;
+    ASSERT_EQ(::read(reading.get(), &byte, 1), 1);
+    startAnew();
+    EXPECT_EQ(namesIn(target()).size(), 1U);
+    file(target() / namesIn(target())[0] / "1/file");
+    fs::permissions(target() / namesIn(target())[0] / "1", fs::perms(0500));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    startAnew();
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+    expectNoLeftovers();
+}
+
+TEST_F(Leftovers, AreOnlyWhatTheRecordsNameByTheirPrefix)
+{
+    file(target() / "mine/file");
+    file(records() / "transfer-1", std::string(target() / "mine") + '\0' + "relative" + '\0' + "cut off");
+    file(records() / "other", std::string(target() / "mine") + '\0');
+    startAnew();
+    EXPECT_TRUE(fs::exists(target() / "mine/file"));
+    EXPECT_EQ(namesIn(records()), std::vector<std::string>{"other"});
+}
+
+TEST_F(Leftovers, OnADiskThatIsNotThereAreRememberedUntilItIs)
+{
+    folder(records());
+    Files::write(records() / "transfer-1", (target() / "disk/.orvik-menu-1").native() + '\0');
+    startAnew();
+    EXPECT_EQ(namesIn(records()).size(), 1U);
+    file(target() / "disk/.orvik-menu-1/2/file");
+    startAnew();
+    EXPECT_EQ(namesIn(records()).size(), 0U);
+    EXPECT_EQ(namesIn(target() / "disk"), std::vector<std::string>{});
+}
+
+} // namespace
