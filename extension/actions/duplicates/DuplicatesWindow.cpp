@@ -10,6 +10,7 @@
 #include "extension/actions/window/ProgressRow.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -30,6 +31,8 @@
 #include <mutex>
 
 namespace MenuExtension::Duplicates {
+
+using LinuxDesktop::sizeText;
 
 namespace {
 

@@ -1,10 +1,13 @@
 #include "extension/actions/duplicates/GroupListModel.h"
 
 #include "extension/actions/duplicates/ItemTexts.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <algorithm>
 
 namespace MenuExtension::Duplicates {
+
+using LinuxDesktop::sizeText;
 
 namespace {
 

@@ -2,10 +2,13 @@
 
 #include "extension/actions/duplicates/ItemTexts.h"
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <algorithm>
 
 namespace MenuExtension::Duplicates {
+
+using LinuxDesktop::sizeText;
 
 namespace {
 

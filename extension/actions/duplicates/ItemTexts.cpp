@@ -3,7 +3,6 @@
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
 
@@ -17,14 +16,6 @@ QString nameText(const Item& item)
 QString folderText(const Item& item)
 {
     return LinuxDesktop::fileNameText(LinuxDesktop::parentFolder(item.path));
-}
-
-QString sizeText(std::int64_t bytes)
-{
-    // The locale knows no singular of it.
-    if (bytes == 1)
-        return QCoreApplication::translate("ItemTexts", "1 byte");
-    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
 }
 
 QString dateText(const Item& item)

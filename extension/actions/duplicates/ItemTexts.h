@@ -9,7 +9,6 @@ namespace MenuExtension::Duplicates {
 /// An item's parts as text for people.
 [[nodiscard]] QString nameText(const Item& item);
 [[nodiscard]] QString folderText(const Item& item);
-[[nodiscard]] QString sizeText(std::int64_t bytes);
 [[nodiscard]] QString dateText(const Item& item);
 
 } // namespace MenuExtension::Duplicates

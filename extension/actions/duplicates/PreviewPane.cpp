@@ -1,6 +1,7 @@
 #include "extension/actions/duplicates/PreviewPane.h"
 
 #include "extension/actions/duplicates/ItemTexts.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -14,6 +15,8 @@
 #include <utility>
 
 namespace MenuExtension::Duplicates {
+
+using LinuxDesktop::sizeText;
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include "PictureView.h"
 #include "Texts.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,6 +10,8 @@
 #include <QVBoxLayout>
 
 namespace MenuExtension::Resizing {
+
+using LinuxDesktop::sizeText;
 
 namespace {
 

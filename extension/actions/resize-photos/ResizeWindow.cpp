@@ -7,6 +7,7 @@
 #include "extension/actions/window/ProgressRow.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -22,6 +23,8 @@
 #include <chrono>
 
 namespace MenuExtension::Resizing {
+
+using LinuxDesktop::sizeText;
 
 namespace {
 

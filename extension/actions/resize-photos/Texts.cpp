@@ -1,7 +1,6 @@
 #include "Texts.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 #include <cerrno>
 #include <system_error>
@@ -23,11 +22,6 @@ QString reason(int error)
 }
 
 } // namespace
-
-QString sizeText(std::uint64_t bytes)
-{
-    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
-}
 
 QString sentence(const QString& name, const std::string& end)
 {

@@ -6,7 +6,6 @@
 
 namespace MenuExtension::Resizing {
 
-[[nodiscard]] QString sizeText(std::uint64_t bytes);
 /// A file's name and the end of a sentence that begins with it.
 [[nodiscard]] QString sentence(const QString& name, const std::string& end);
 /// What became of a photo that was not resized, in a sentence that begins with its name.

@@ -20,9 +20,10 @@ OF_A_FILE = ["Open Terminal", "Open System Preferences", "Copy path to Clipboard
              "Move to a folder", "Copy to a folder", "Open New Finder Window", "Hide / Unhide item",
              "Configure Orvik Menu Settings"]
 OF_SEVERAL = ["Open System Preferences", "Copy path to Clipboard", "Move to a folder", "Copy to a folder",
-              "Hide / Unhide item", "Configure Orvik Menu Settings"]
+              "Hide / Unhide item", "Find Duplicate Files", "Find Duplicate Photos", "Configure Orvik Menu Settings"]
 OF_A_BACKGROUND = ["Open Terminal", "Open System Preferences", "Create New Text File", "Copy path to Clipboard",
-                   "Open New Finder Window", "Configure Orvik Menu Settings", "Add Folders"]
+                   "Open New Finder Window", "Find Duplicate Files", "Find Duplicate Photos",
+                   "Configure Orvik Menu Settings", "Add Folders"]
 
 # Left of the text; and the colours that are there without an icon.
 ICON_WIDTH = 24

@@ -87,6 +87,27 @@ TEST_F(PanelStyleFixture, ABarWithoutAnEndIsAPieceThatMoves)
     EXPECT_TRUE(QTest::qWaitFor([&] { return filled() != first; }));
 }
 
+TEST_F(PanelStyleFixture, ABarFillsFromWhereReadingBegins)
+{
+    auto* bar = add<QProgressBar>();
+    bar->setTextVisible(false);
+    show();
+    const auto isFilled = [&](double part) {
+        const QImage image = bar->grab().toImage();
+        return image.pixelColor(static_cast<int>(part * image.width()), image.height() / 2) == highlight;
+    };
+    bar->setValue(0);
+    EXPECT_FALSE(isFilled(0.01));
+    bar->setValue(60);
+    EXPECT_TRUE(isFilled(0.55));
+    EXPECT_FALSE(isFilled(0.65));
+    bar->setLayoutDirection(Qt::RightToLeft);
+    EXPECT_TRUE(isFilled(0.45));
+    EXPECT_FALSE(isFilled(0.35));
+    bar->setValue(100);
+    EXPECT_TRUE(isFilled(0.05));
+}
+
 TEST_F(PanelStyleFixture, TheButtonWithTheFocusIsToldByItsOutline)
 {
     auto* one = add<PushButton>();

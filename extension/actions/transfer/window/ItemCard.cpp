@@ -1,6 +1,7 @@
 #include "extension/actions/transfer/window/ItemCard.h"
 
 #include "extension/actions/transfer/window/ItemPicture.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -37,9 +38,10 @@ ItemCard::ItemCard(QWidget* parent)
 void ItemCard::show(const QString& which, const Conflict::Side& side)
 {
     const QLocale locale;
-    const QString size = S_ISDIR(side.status.st_mode)   ? tr("Folder")
-                         : S_ISLNK(side.status.st_mode) ? tr("Link")
-                                                        : locale.formattedDataSize(side.status.st_size);
+    const QString size = S_ISDIR(side.status.st_mode) ? tr("Folder")
+                         : S_ISLNK(side.status.st_mode)
+                             ? tr("Link")
+                             : LinuxDesktop::sizeText(static_cast<std::uint64_t>(side.status.st_size));
     const QString date =
         locale.toString(QDateTime::fromSecsSinceEpoch(side.status.st_mtim.tv_sec), QLocale::ShortFormat);
     m_picture->show(side);

@@ -4,6 +4,7 @@
 #include "extension/actions/transfer/window/ItemCard.h"
 #include "extension/actions/transfer/window/TransferWords.h"
 #include "platform/linux/system/ParentFolder.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -182,9 +183,7 @@ void TransferWindow::advance(const Progress& progress)
                         .arg(locale.toString(static_cast<qulonglong>(files)),
                              locale.toString(static_cast<qulonglong>(totalFiles)));
     if (totalBytes > 0)
-        words = tr("%1 · %2 of %3")
-                    .arg(words, locale.formattedDataSize(static_cast<qint64>(bytes)),
-                         locale.formattedDataSize(static_cast<qint64>(totalBytes)));
+        words = tr("%1 · %2 of %3").arg(words, LinuxDesktop::sizeText(bytes), LinuxDesktop::sizeText(totalBytes));
     m_progress->advance(bytes + files * bytesOfAFile, totalBytes + totalFiles * bytesOfAFile, words);
 }
 

@@ -1,6 +1,7 @@
 #include "platform/linux/chooser/FolderModel.h"
 
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QDateTime>
 #include <QFont>
@@ -91,12 +92,6 @@ int FolderModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
-QString FolderModel::sizeText(std::int64_t size)
-{
-    // The toolkit knows no singular.
-    return size == 1 ? tr("1 byte") : QLocale().formattedDataSize(size, 1, QLocale::DataSizeSIFormat);
-}
-
 QString FolderModel::cellText(const Row& row, int column) const
 {
     const FileEntry& entry = row.entry;
@@ -105,7 +100,7 @@ QString FolderModel::cellText(const Row& row, int column) const
     if (entry.kind == FileEntry::Kind::BrokenLink)
         return {};
     if (column == Size)
-        return entry.kind == FileEntry::Kind::Folder ? QString() : sizeText(entry.size);
+        return entry.kind == FileEntry::Kind::Folder ? QString() : sizeText(static_cast<std::uint64_t>(entry.size));
     return QLocale().toString(QDateTime::fromSecsSinceEpoch(entry.modified), QLocale::ShortFormat);
 }
 

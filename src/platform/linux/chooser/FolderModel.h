@@ -46,7 +46,6 @@ private:
         QCollatorSortKey key;
     };
 
-    [[nodiscard]] static QString sizeText(std::int64_t size);
     [[nodiscard]] QString cellText(const Row& row, int column) const;
     void sortRows();
 

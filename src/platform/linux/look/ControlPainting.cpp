@@ -11,6 +11,7 @@ namespace {
 
 constexpr qreal smallRadius = 4.0;
 constexpr qreal radius = 6.0;
+constexpr qreal barThickness = 8.0;
 
 /// The painter for smooth shapes, and as it was before afterwards.
 class SmoothPainter {
@@ -172,19 +173,29 @@ void drawMenuHighlight(const QStyleOption& option, QPainter& painter)
     painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 1, -2, -2), smallRadius, smallRadius);
 }
 
-void drawBusyBar(const QStyleOption& option, qreal way, QPainter& painter)
+void drawProgress(const QStyleOptionProgressBar& option, qreal busyWay, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
     const QPalette& palette = option.palette;
-    const QRectF bar(option.rect);
-    const qreal corner = bar.height() / 2.0;
+    const QRectF bar =
+        QRectF(option.rect)
+            .adjusted(0, (option.rect.height() - barThickness) / 2.0, 0, (barThickness - option.rect.height()) / 2.0);
+    const qreal corner = barThickness / 2.0;
+    const auto drawPiece = [&](qreal from, qreal length) {
+        const qreal left = option.direction == Qt::RightToLeft ? bar.width() - from - length : from;
+        painter.drawRoundedRect(QRectF(bar.left() + left, bar.top(), length, barThickness), corner, corner);
+    };
     painter.setBrush(dividingLine(palette));
-    painter.drawRoundedRect(bar, corner, corner);
-    const qreal length = bar.width() / 3.0;
-    const qreal there = 1.0 - std::abs(2.0 * way - 1.0);
+    drawPiece(0, bar.width());
     painter.setBrush(palette.color(QPalette::Highlight));
-    painter.drawRoundedRect(QRectF(bar.left() + there * (bar.width() - length), bar.top(), length, bar.height()),
-                            corner, corner);
+    if (const qreal whole = qreal(option.maximum) - option.minimum; whole > 0) {
+        // Even the first of it is a dot, and not a part of one.
+        if (const qreal done = (option.progress - option.minimum) / whole; done > 0)
+            drawPiece(0, std::max(barThickness, std::min(done, 1.0) * bar.width()));
+    } else {
+        const qreal length = bar.width() / 3.0;
+        drawPiece((1.0 - std::abs(2.0 * busyWay - 1.0)) * (bar.width() - length), length);
+    }
 }
 
 void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter)

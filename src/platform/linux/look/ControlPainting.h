@@ -18,8 +18,8 @@ void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter);
 void drawMenuBar(const QStyleOption& option, QPainter& painter);
 /// Behind a menu's or a menu bar's item that is pointed to.
 void drawMenuHighlight(const QStyleOption& option, QPainter& painter);
-/// A bar of work whose end is not known: a piece of it, which goes to and fro as `way` goes from 0 to 1.
-void drawBusyBar(const QStyleOption& option, qreal way, QPainter& painter);
+/// A bar of work without its words. Where the end is not known a piece goes to and fro as `busyWay` goes from 0 to 1.
+void drawProgress(const QStyleOptionProgressBar& option, qreal busyWay, QPainter& painter);
 void drawScrollHandle(const QStyleOption& option, const QRect& handle, QPainter& painter);
 
 } // namespace LinuxDesktop::ControlPainting

@@ -111,8 +111,8 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
     const auto* menuItem = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     const auto* progress = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
-    if (element == CE_ProgressBar && progress && progress->minimum == progress->maximum) {
-        ControlPainting::drawBusyBar(*progress, busyWay(), *painter);
+    if (element == CE_ProgressBar && progress) {
+        ControlPainting::drawProgress(*progress, busyWay(), *painter);
     } else if (element == CE_TabBarTabShape) {
         ControlPainting::drawTab(*option, *painter);
     } else if (element == CE_TabBarTabLabel && tab) {

@@ -1,10 +1,10 @@
 #include "platform/linux/mailing/PreparingWindow.h"
 
 #include "platform/linux/mailing/MailText.h"
+#include "platform/linux/text/SizeText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
@@ -69,7 +69,7 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
 
 void PreparingWindow::showProgress()
 {
-    m_bytes->setText(QLocale().formattedDataSize(static_cast<qint64>(m_progress.bytes.load())));
+    m_bytes->setText(sizeText(m_progress.bytes.load()));
 }
 
 void PreparingWindow::reject()
