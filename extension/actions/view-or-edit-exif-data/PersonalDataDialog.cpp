@@ -53,10 +53,10 @@ PersonalDataDialog::PersonalDataDialog(const Merged& merged, QWidget* parent) : 
     list->header()->resizeSection(0, 240);
     const bool isAny = !groups.empty();
 
-    auto* const words = new QLabel(
-        isAny ? tr("This is removed for good, unless the original is kept. Title, description, copyright and date stay.")
-              : tr("The photos have no location and no personal data that is known here."),
-        this);
+    auto* const words = new QLabel(isAny ? tr("This is removed for good, unless the original is kept. Title, "
+                                              "description, copyright and date stay.")
+                                         : tr("The photos have no location and no personal data that is known here."),
+                                   this);
     words->setTextFormat(Qt::PlainText);
     words->setWordWrap(true);
     list->setVisible(isAny);
