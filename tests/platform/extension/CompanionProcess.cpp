@@ -42,7 +42,7 @@ QProcess& CompanionTest::start(const QStringList& arguments)
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_configuration.path());
     process.setProcessEnvironment(environment);
     process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-    process.start(QStringLiteral(ORVIK_EXTENSION_PROGRAM), arguments);
+    process.start(m_program, arguments);
     return process;
 }
 

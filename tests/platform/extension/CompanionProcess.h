@@ -54,6 +54,8 @@ protected:
 
     [[nodiscard]] QDBusConnection connection() { return *m_bus->connection(); }
 
+    /// The companion's file.
+    QString m_program = QStringLiteral(ORVIK_EXTENSION_PROGRAM);
     PrivateBus m_daemon;
     QTemporaryDir m_configuration;
 

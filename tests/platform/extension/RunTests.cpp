@@ -231,7 +231,16 @@ TEST_F(Run, FailsWithWordsWhichTheDesktopShowsToo)
 
 TEST_F(Run, FailsWhereTheActionsProgramIsNotThere)
 {
-    EXPECT_EQ(run("resize-photos", {makeFile("in/a")}), "Failed");
+    quit();
+    ASSERT_TRUE(waitUntil([&] { return !nameIsOwned(); }));
+    // Beside a copy of the companion there are no actions.
+    const QString copy = m_files.filePath(QStringLiteral("bin/orvik-menu-extension"));
+    QDir(m_files.path()).mkpath(QStringLiteral("bin"));
+    ASSERT_TRUE(QFile::copy(m_program, copy));
+    m_program = copy;
+    startAndWait();
+    EXPECT_EQ(run("hide-unhide-item", {makeFile("in/a")}), "Failed");
+    EXPECT_EQ(hidden(), "");
 }
 
 TEST_F(Run, TakesAThousandAtOnceAndRefusesWhatIsTooMuch)
