@@ -35,7 +35,7 @@ float meanOf(const std::array<std::int8_t, Size>& values)
 {
     float sum = 0;
     for (const std::int8_t value : values)
-        sum += value;
+        sum += static_cast<float>(value);
     return sum / Size;
 }
 
@@ -48,7 +48,8 @@ Signature signatureOf(const Thumb& thumb)
     for (std::size_t wave = 0; wave < waves; ++wave) {
         for (std::size_t row = 0; row < Thumb::side; ++row) {
             for (std::size_t column = 0; column < Thumb::side; ++column)
-                along[wave][row] += cosines()[wave][column] * thumb.brightness[row * Thumb::side + column];
+                along[wave][row] +=
+                    cosines()[wave][column] * static_cast<float>(thumb.brightness[row * Thumb::side + column]);
         }
     }
     Signature signature;

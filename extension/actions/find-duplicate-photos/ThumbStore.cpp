@@ -6,8 +6,6 @@
 
 namespace MenuExtension::SimilarPhotos {
 
-using LinuxDesktop::FileDescriptor;
-
 namespace {
 
 off_t placeOf(std::uint32_t number)

@@ -20,7 +20,6 @@
 namespace MenuExtension::Exif {
 
 using LinuxDesktop::FileDescriptor;
-using LinuxDesktop::FileStamp;
 
 namespace {
 
@@ -138,7 +137,7 @@ Trouble savePhoto(TagReader& exifTool, const OpenedFile& photo, const Edits& edi
     if (before.trouble)
         return before.trouble;
     std::vector<std::string> arguments = argumentsFor(edits, before.tags);
-    if (const Trouble trouble = obstacle(photo, edits, before.tags); trouble && !edits.empty())
+    if (Trouble trouble = obstacle(photo, edits, before.tags); trouble && !edits.empty())
         return trouble;
     if (arguments.empty())
         return {};
@@ -182,7 +181,7 @@ Trouble savePhoto(TagReader& exifTool, const OpenedFile& photo, const Edits& edi
 void removeLeftovers(const FileDescriptor& folder)
 {
     // Longer than anything is written.
-    constexpr std::time_t longAgo = 15 * 60;
+    constexpr std::time_t longAgo{15 * 60};
     const int opened = ::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     const LinuxDesktop::FolderStream stream(opened < 0 ? nullptr : ::fdopendir(opened));
     const std::time_t now = std::time(nullptr);
