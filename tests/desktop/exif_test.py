@@ -1,81 +1,27 @@
 """View or Edit Exif Data: what photos say, asked for on the bus and driven by keyboard alone."""
 
-import json
 import os
 import shutil
-import subprocess
 import unittest
 
 from gi.repository import GLib
 
 from support.action_window import ask_for_action, run_action, start_companion
 from support.case import DesktopTestCase
+from support.exif_window import ACTION, PHOTOS, TITLE, ExifWindow
 from support.hostile_names import NAMES
 from support.waiting import eventually
 
-ACTION = "view-or-edit-exif-data"
-TITLE = "Exif Data"
-PHOTOS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../platform/exif/photos")
-EXIFTOOL = shutil.which("exiftool")
-# What each person has of the machine.
-_PROGRAM_PATH = "/usr/bin:/bin"
 
-
-class Exif(DesktopTestCase):
+class Exif(ExifWindow, DesktopTestCase):
     def setUp(self):
         super().setUp()
-        os.symlink(EXIFTOOL, os.path.join(self.home.programs, "exiftool"))
-        os.symlink("/usr/bin/env", os.path.join(self.home.programs, "env"))
-        os.symlink("/usr/bin/perl", os.path.join(self.home.programs, "perl"))
+        self.install_exiftool()
         start_companion(self)
-
-    def photo(self, name="photo.jpg", kind="jpg", **tags):
-        path = os.path.join(self.home.files, name)
-        shutil.copy(os.path.join(PHOTOS, "photo." + kind), path)
-        if tags:
-            subprocess.run([EXIFTOOL, "-q", "-overwrite_original", *[f"-{tag}={value}" for tag, value in tags.items()],
-                            path], check=True, env={"PATH": _PROGRAM_PATH, "LANG": "C.UTF-8"})
-        return path
-
-    def tags(self, path):
-        with open(path, "rb") as file:
-            return self.tags_of(file)
-
-    @staticmethod
-    def tags_of(file):
-        output = subprocess.run([EXIFTOOL, "-json", "-n", "-"], check=True, capture_output=True, stdin=file,
-                                env={"PATH": _PROGRAM_PATH, "LANG": "C.UTF-8"}).stdout
-        return json.loads(output)[0]
 
     def open(self, *paths):
         self.action = run_action(self, ACTION, *paths)
         self.window = self.action.active_window(TITLE)
-
-    def cells(self):
-        return [item.name for item in self.window.all("tree item")]
-
-    def labels(self):
-        return [label.name for label in self.window.all("label")]
-
-    def go_to(self, name):
-        self.action.go_to(name, self.window)
-
-    def to_edit_page(self):
-        """From wherever the keyboard is to the form."""
-        tabs = eventually(lambda: self.window.find("page tab list"), "the pages")
-        for _ in range(30):
-            if eventually(self.window.focused, "something to have the keyboard") == tabs:
-                break
-            self.hands.press("shift+Tab")
-        self.hands.press("Right")
-        eventually(lambda: self.window.find("text", "Title").has("enabled"), "the form")
-
-    def save(self):
-        self.go_to("Save")
-        self.hands.press("space")
-
-    def assertTells(self, words):
-        eventually(lambda: words in self.labels(), f"“{words}” among {self.labels()}")
 
     def test_it_shows_the_usual_first_and_everything_after_it(self):
         self.open(self.photo(Title="A hill", Artist="Ada", ISO=400))

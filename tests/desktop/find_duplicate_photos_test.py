@@ -2,11 +2,11 @@
 
 import os
 import struct
-import subprocess
 import unittest
 import zlib
 
 from support.duplicates_window import DuplicatesWindowTestCase
+from support.photos import paint
 from support.waiting import eventually
 
 
@@ -19,16 +19,9 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
         os.makedirs(os.path.dirname(path), exist_ok=True)
         return path
 
-    def paint(self, name, seed, width=480, height=360, modified=None, *, change=()):
-        """A picture that only the seed decides about, changed by ImageMagick's arguments."""
+    def paint(self, name, *arguments, **options):
         path = self.path(name)
-        work = self.path("work.png")
-        subprocess.run(["convert", "-size", "480x360", "-seed", str(seed), "plasma:tomato-steelblue", "-blur", "0x3",
-                        "-resize", f"{width}x{height}!", *change, work], check=True)
-        subprocess.run(["convert", work, b"jpg:" + path if name.endswith("jpg") else b"png:" + path], check=True)
-        os.remove(work)
-        if modified:
-            os.utime(path, (modified, modified))
+        paint(path, *arguments, **options)
         return path
 
     def texts(self):

@@ -7,7 +7,7 @@ import subprocess
 import unittest
 import zlib
 
-from support.action_window import run_action, start_companion
+from support.action_window import ActionDriver, run_action, start_companion
 from support.case import DesktopTestCase
 from support.folders import go_to
 from support.hostile_names import NAMES
@@ -18,7 +18,7 @@ TITLE = "Resize Photos"
 CHOOSER = "Choose"
 
 
-class ResizePhotos(DesktopTestCase):
+class ResizePhotos(ActionDriver, DesktopTestCase):
     def setUp(self):
         super().setUp()
         start_companion(self)
@@ -52,23 +52,8 @@ class ResizePhotos(DesktopTestCase):
         self.action = run_action(self, ACTION, *paths)
         self.window = self.action.active_window(TITLE)
 
-    def labels(self):
-        return [label.name for label in self.window.all("label")]
-
     def assertTells(self, words):
         eventually(lambda: any(words in label for label in self.labels()), f"“{words}” among {self.labels()}")
-
-    def go_to(self, name):
-        self.action.go_to(name, self.window)
-
-    def choose(self, box, *keys):
-        """Chooses in a box that has its first entry. A box is called what is chosen in it."""
-        self.go_to(box)
-        self.hands.press("Home", *keys)
-
-    def press_button(self, name):
-        self.go_to(name)
-        self.hands.press("space")
 
     def test_both_are_side_by_side_with_their_sizes(self):
         path = self.photo(width=2400, height=1800)

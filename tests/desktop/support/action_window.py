@@ -1,4 +1,4 @@
-"""Actions that show a window, started over the bus as a script does."""
+"""Actions that show a window: started over the bus as a script does, or from a menu, and driven by keyboard."""
 
 import os
 import signal
@@ -59,6 +59,43 @@ class ActionWindow:
         if self.is_running():
             os.kill(self.process_id, signal.SIGKILL)
         self.wait_for_end()
+
+
+class ActionDriver:
+    """A test case's part that has an action, and its window once that is on view."""
+
+    def wait_for_action(self, action):
+        """Waits for an action that was chosen in a menu."""
+        def found():
+            # What it starts in its turn is one as well until it becomes another program.
+            processes = processes_of(action, "HOME=" + self.home.folder)
+            return processes if len(processes) == 1 else None
+
+        process, = eventually(found, f"the action “{action}”")
+        self.action = ActionWindow(self, process)
+        self.addCleanup(self.action.kill)
+
+    def wait_for_action_window(self, action, title):
+        self.wait_for_action(action)
+        self.window = self.action.active_window(title)
+
+    def labels(self):
+        return [label.name for label in self.window.all("label")]
+
+    def assertTells(self, words):
+        eventually(lambda: words in self.labels(), f"the words “{words}”")
+
+    def go_to(self, name):
+        self.action.go_to(name, self.window)
+
+    def choose(self, box, *keys):
+        """Chooses in a box that has its first entry. A box is called what is chosen in it."""
+        self.go_to(box)
+        self.hands.press("Home", *keys)
+
+    def press_button(self, name):
+        self.go_to(name)
+        self.hands.press("space")
 
 
 def start_companion(case):
