@@ -2,6 +2,7 @@
 
 #include "platform/linux/system/Command.h"
 #include "platform/linux/system/FileDescriptor.h"
+#include "platform/linux/system/Pipe.h"
 
 #include <algorithm>
 #include <array>
@@ -15,6 +16,8 @@
 namespace MenuExtension {
 
 using LinuxDesktop::FileDescriptor;
+using LinuxDesktop::makePipe;
+using LinuxDesktop::Pipe;
 namespace Command = LinuxDesktop::Command;
 
 namespace {
@@ -24,20 +27,6 @@ constexpr std::size_t mostAtOnce = 16;
 constexpr std::size_t mostWaiting = 1024;
 /// Of an answer. What is longer is no sentence for a person.
 constexpr std::size_t longestAnswer = std::size_t{16} << 10U;
-
-struct Pipe {
-    FileDescriptor reading;
-    FileDescriptor writing;
-};
-
-/// Neither end waits, and neither is another program's. Without descriptors, an empty one.
-Pipe makePipe()
-{
-    std::array<int, 2> ends{-1, -1};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
-        return {};
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-}
 
 void doNotWaitFor(const FileDescriptor& end)
 {

@@ -51,8 +51,8 @@ TEST(Targets, AreNotWhatIsNoPlainPath)
 
 TEST(Targets, OfTheSameNameAreToldApartByTheFoldersAbove)
 {
-    EXPECT_EQ(titles({"/work/plans", "/home/plans", "/plans", "/other"}),
-              (Texts{"plans (work)", "plans (home)", "plans (/)", "other"}));
+    EXPECT_EQ(titles({"/projects/plans", "/home/plans", "/plans", "/other"}),
+              (Texts{"plans (projects)", "plans (home)", "plans (/)", "other"}));
     EXPECT_EQ(titles({"/a/x/plans", "/b/x/plans"}), (Texts{"plans (a/x)", "plans (b/x)"}));
     EXPECT_EQ(titles({"/a/x/plans", "/b/x/plans", "/c/plans"}), (Texts{"plans (a/x)", "plans (b/x)", "plans (c)"}));
     EXPECT_EQ(titles({"/x/plans", "/a/x/plans"}), (Texts{"plans (/x)", "plans (a/x)"}));

@@ -1,10 +1,10 @@
 #include "extensions/ExtensionsWindow.h"
 
-#include "extensions/Card.h"
 #include "extensions/ExtensionRow.h"
 #include "extensions/FileManagerSection.h"
 #include "extensions/LackingActionsSection.h"
 #include "extensions/StatusLine.h"
+#include "platform/linux/look/Card.h"
 
 #include <QEvent>
 #include <QKeySequence>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "extensions/Card.h"
 #include "extensions/FileManagersControl.h"
+#include "platform/linux/look/Card.h"
 
 #include <QLabel>
 #include <QWidget>

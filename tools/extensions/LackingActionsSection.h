@@ -1,7 +1,7 @@
 #pragma once
 
-#include "extensions/Card.h"
 #include "extensions/LackingActions.h"
+#include "platform/linux/look/Card.h"
 
 #include <QTimer>
 #include <QWidget>

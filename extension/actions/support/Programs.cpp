@@ -1,6 +1,7 @@
 #include "extension/actions/support/Programs.h"
 
 #include "platform/linux/system/Command.h"
+#include "platform/linux/system/Pipe.h"
 
 #include <algorithm>
 #include <array>
@@ -87,15 +88,13 @@ bool run(const CommandLine& command)
 
 std::optional<std::string> outputOf(const CommandLine& command)
 {
-    std::array<int, 2> ends{};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
+    LinuxDesktop::Pipe pipe = LinuxDesktop::makePipe();
+    if (!pipe.reading)
         return std::nullopt;
-    const FileDescriptor reading(ends[0]);
-    FileDescriptor writing(ends[1]);
-    auto process = started(command, Command::environment(), {.output = writing.get()});
-    writing.close();
+    auto process = started(command, Command::environment(), {.output = pipe.writing.get()});
+    pipe.writing.close();
     const FileDescriptor timer = readableAfter(untilItEnds);
-    auto text = process ? readAll(reading, timer) : std::nullopt;
+    auto text = process ? readAll(pipe.reading, timer) : std::nullopt;
     if (!text || process->wait(timer) != 0)
         return std::nullopt;
     text->resize(text->find_last_not_of('\n') + 1);

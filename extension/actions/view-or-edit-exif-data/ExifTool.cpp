@@ -1,5 +1,7 @@
 #include "ExifTool.h"
 
+#include "platform/linux/system/Pipe.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -18,19 +20,6 @@ namespace {
 constexpr const char* program = "exiftool";
 /// How soon a wish to stop is seen.
 constexpr std::chrono::milliseconds glance{50};
-
-struct Pipe {
-    FileDescriptor reading;
-    FileDescriptor writing;
-};
-
-Pipe makePipe()
-{
-    std::array<int, 2> ends{-1, -1};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
-        return {};
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-}
 
 /// What there is. False at the end.
 bool readSome(const FileDescriptor& source, std::string& text)

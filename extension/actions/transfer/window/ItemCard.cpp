@@ -7,13 +7,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace MenuExtension::Transfers {
 
 ItemCard::ItemCard(QWidget* parent)
-    : QWidget(parent), m_picture(new ItemPicture(this)), m_which(new QLabel(this)), m_facts(new QLabel(this))
+    : Card(parent), m_picture(new ItemPicture(this)), m_which(new QLabel(this)), m_facts(new QLabel(this))
 {
     QFont bold = m_which->font();
     bold.setWeight(QFont::DemiBold);
@@ -48,16 +47,6 @@ void ItemCard::show(const QString& which, const Conflict::Side& side)
     m_which->setText(which);
     m_facts->setText(size + u'\n' + date);
     setAccessibleName(which + u' ' + m_facts->text());
-}
-
-void ItemCard::paintEvent(QPaintEvent*)
-{
-    constexpr qreal corner = 8;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(palette().color(QPalette::Base));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
 }
 
 } // namespace MenuExtension::Transfers

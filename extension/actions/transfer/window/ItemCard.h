@@ -1,8 +1,7 @@
 #pragma once
 
 #include "extension/actions/transfer/Conflict.h"
-
-#include <QWidget>
+#include "platform/linux/look/Card.h"
 
 class QLabel;
 
@@ -11,7 +10,7 @@ namespace MenuExtension::Transfers {
 class ItemPicture;
 
 /// One of two items of the same name: its picture, size and date.
-class ItemCard : public QWidget {
+class ItemCard : public LinuxDesktop::Card {
     Q_OBJECT
 
 public:
@@ -20,9 +19,6 @@ public:
     /// `which` says which of the two it is.
     void show(const QString& which, const Conflict::Side& side);
     using QWidget::show;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     ItemPicture* m_picture;

@@ -1,22 +1,21 @@
 #pragma once
 
-#include <QWidget>
+#include "platform/linux/look/Card.h"
 
 namespace LinuxDesktop {
 
 /// A card of a grid: a sheet with the widgets of its scene. Assistive programs know it and its buttons by the title
 /// that it shows. Main thread.
-class CardWidget : public QWidget {
+class CardWidget : public Card {
     Q_OBJECT
     /// The name of the label with the card's title. It lies in the same scene.
     Q_PROPERTY(QString titleLabel MEMBER m_titleLabel)
 
 public:
-    using QWidget::QWidget;
+    using Card::Card;
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     void tellTitle(const QString& title);

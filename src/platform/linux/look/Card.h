@@ -2,9 +2,9 @@
 
 #include <QWidget>
 
-namespace ExtensionsTool {
+namespace LinuxDesktop {
 
-/// A raised area with round corners that holds a list's rows.
+/// A sheet with round corners, for what belongs together. Main thread.
 class Card : public QWidget {
     Q_OBJECT
 
@@ -15,4 +15,4 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-} // namespace ExtensionsTool
+} // namespace LinuxDesktop
