@@ -181,7 +181,8 @@ Trouble savePhoto(TagReader& exifTool, const OpenedFile& photo, const Edits& edi
 void removeLeftovers(const FileDescriptor& folder)
 {
     // Longer than anything is written.
-    constexpr std::time_t longAgo{15 * 60};
+    constexpr std::time_t minutes = 60;
+    constexpr std::time_t longAgo = 15 * minutes;
     const int opened = ::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     const LinuxDesktop::FolderStream stream(opened < 0 ? nullptr : ::fdopendir(opened));
     const std::time_t now = std::time(nullptr);
