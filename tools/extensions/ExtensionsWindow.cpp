@@ -29,7 +29,7 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
     auto* introduction = makeText(QStringLiteral("Extensions bring Orvik Menu into other programs."), this);
     introduction->setForegroundRole(QPalette::PlaceholderText);
 
-    auto* card = new Card(this);
+    auto* card = new LinuxDesktop::Card(this);
     auto* rows = new QVBoxLayout(card);
     rows->setContentsMargins(0, 0, 0, 0);
     for (ExtensionControl* control : controls)

@@ -26,7 +26,7 @@ private:
 
     FileManagersControl& m_control;
     QLabel* m_heading;
-    Card* m_card;
+    LinuxDesktop::Card* m_card;
 };
 
 } // namespace ExtensionsTool

@@ -65,7 +65,7 @@ void LackingActionsSection::show(const std::vector<LackingAction>& lacking)
     setVisible(!lacking.empty());
     if (lacking.empty())
         return;
-    m_card = new Card(this);
+    m_card = new LinuxDesktop::Card(this);
     auto* const rows = new QVBoxLayout(m_card);
     rows->setContentsMargins(0, 4, 0, 4);
     rows->setSpacing(0);

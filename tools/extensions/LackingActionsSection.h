@@ -25,7 +25,7 @@ private:
 
     const std::string m_programs;
     std::vector<LackingAction> m_shown;
-    Card* m_card = nullptr;
+    LinuxDesktop::Card* m_card = nullptr;
     QTimer m_next;
 };
 
