@@ -14,7 +14,9 @@ namespace {
 constexpr unsigned mostThreads = 4;
 /// What one thread takes at once: little at first, so that there is something to see.
 constexpr std::size_t firstShare = 2;
-constexpr std::size_t laterShare = 24;
+constexpr std::size_t readAtOnce = 24;
+/// Each needs room for a copy of the photo for as long.
+constexpr std::size_t savedAtOnce = 8;
 
 /// Calls `work` with a reader of the thread's own and the first and last index of each share.
 void share(std::size_t count, std::size_t mostAtOnce, const std::stop_token& stop,
@@ -38,10 +40,24 @@ void share(std::size_t count, std::size_t mostAtOnce, const std::stop_token& sto
     take();
 }
 
-Trouble cannotBeOpened()
-{
-    return {.kind = Trouble::Kind::CannotBeOpened, .error = errno};
-}
+/// The photos of a share; of those that cannot be opened it is told why.
+struct Opened {
+    Opened(const Request& request, const std::vector<std::string>& paths, std::size_t begin, std::size_t end,
+           const TakeTrouble& take)
+    {
+        for (std::size_t index = begin; index < end; ++index) {
+            if (auto photo = openWithFolder(request, paths[index])) {
+                photos.push_back(*std::move(photo));
+                indices.push_back(index);
+            } else {
+                take(index, {.kind = Trouble::Kind::CannotBeOpened, .error = errno});
+            }
+        }
+    }
+
+    std::vector<OpenedFile> photos;
+    std::vector<std::size_t> indices;
+};
 
 } // namespace
 
@@ -53,28 +69,22 @@ void readPhotos(const Request& request, const std::vector<std::string>& paths, c
         const std::lock_guard lock(mutex);
         take(index, std::move(reading));
     };
-    share(paths.size(), laterShare, stop, [&](TagReader& exifTool, std::size_t begin, std::size_t end) {
-        std::vector<OpenedFile> photos;
+    share(paths.size(), readAtOnce, stop, [&](TagReader& exifTool, std::size_t begin, std::size_t end) {
+        const Opened opened(request, paths, begin, end, [&](std::size_t index, Trouble trouble) {
+            report(index, {.trouble = std::move(trouble)});
+        });
+        if (opened.photos.empty())
+            return;
         std::vector<int> files;
         std::vector<std::string> names;
-        std::vector<std::size_t> indices;
-        for (std::size_t index = begin; index < end; ++index) {
-            auto photo = openWithFolder(request, paths[index]);
-            if (!photo) {
-                report(index, {.trouble = cannotBeOpened()});
-                continue;
-            }
-            files.push_back(photo->file.get());
-            names.push_back(photo->name);
-            indices.push_back(index);
-            photos.push_back(*std::move(photo));
+        for (const OpenedFile& photo : opened.photos) {
+            files.push_back(photo.file.get());
+            names.push_back(photo.name);
         }
-        if (files.empty())
-            return;
         auto readings = exifTool.read(files, names, stop);
         for (std::size_t place = 0; place < readings.size(); ++place) {
             if (readings[place].trouble.kind != Trouble::Kind::Cancelled)
-                report(indices[place], std::move(readings[place]));
+                report(opened.indices[place], std::move(readings[place]));
         }
     });
 }
@@ -83,11 +93,15 @@ void savePhotos(const Request& request, const std::vector<std::string>& paths, c
                 const SaveOptions& options, const TakeTrouble& take, const std::stop_token& stop)
 {
     std::mutex mutex;
-    share(paths.size(), 1, stop, [&](TagReader& exifTool, std::size_t index, std::size_t) {
-        const auto photo = openWithFolder(request, paths[index]);
-        Trouble trouble = photo ? savePhoto(exifTool, *photo, edits, options, stop) : cannotBeOpened();
+    const auto report = [&](std::size_t index, Trouble trouble) {
         const std::lock_guard lock(mutex);
         take(index, std::move(trouble));
+    };
+    share(paths.size(), savedAtOnce, stop, [&](TagReader& exifTool, std::size_t begin, std::size_t end) {
+        const Opened opened(request, paths, begin, end, report);
+        auto troubles = savePhotos(exifTool, opened.photos, edits, options, stop);
+        for (std::size_t place = 0; place < troubles.size(); ++place)
+            report(opened.indices[place], std::move(troubles[place]));
     });
 }
 

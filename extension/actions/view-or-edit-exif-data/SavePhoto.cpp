@@ -10,12 +10,15 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <deque>
 #include <fcntl.h>
+#include <optional>
+#include <set>
 #include <string_view>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
+#include <utility>
 
 namespace MenuExtension::Exif {
 
@@ -97,23 +100,6 @@ bool keepOriginal(const OpenedFile& photo, const struct stat& status)
             errno == EEXIST);
 }
 
-/// Whether the new file may take the photo's place.
-Trouble check(TagReader& exifTool, const OpenedFile& photo, int made, const Edits& edits, const Tags& before,
-              const std::stop_token& stop)
-{
-    ByteSource ofPhoto(photo.file.get());
-    ByteSource ofMade(made);
-    const auto isSame = haveSameImage(ofPhoto, ofMade);
-    if (!isSame.value_or(false))
-        return {.kind = isSame ? Trouble::Kind::PictureDiffers : Trouble::Kind::CannotBeChecked};
-    const Reading after = exifTool.read(made, photo.name, stop);
-    if (after.trouble)
-        return after.trouble;
-    if (!areMade(edits, before, after.tags))
-        return {.kind = Trouble::Kind::EditsNotKept};
-    return {};
-}
-
 /// What can be known before anything is written.
 Trouble obstacle(const OpenedFile& photo, const Edits& edits, const Tags& tags)
 {
@@ -128,61 +114,172 @@ Trouble obstacle(const OpenedFile& photo, const Edits& edits, const Tags& tags)
     return {};
 }
 
+/// A photo on its way: what is to take its place, until it has.
+class Save {
+public:
+    Save(const OpenedFile& photo, Reading before)
+        : m_photo(photo), m_before(std::move(before.tags)), m_trouble(std::move(before.trouble))
+    {}
+
+    [[nodiscard]] const OpenedFile& photo() const { return m_photo; }
+    [[nodiscard]] const Trouble& trouble() const { return m_trouble; }
+    [[nodiscard]] int made() const { return m_made.get(); }
+    /// Whether there is something to go on with.
+    [[nodiscard]] bool isOnItsWay() const { return m_made && !m_trouble; }
+
+    /// Makes the new file beside the photo.
+    void write(TagReader& exifTool, const Edits& edits, const std::stop_token& stop)
+    {
+        if (m_trouble)
+            return;
+        std::vector<std::string> arguments = argumentsFor(edits, m_before);
+        if (!edits.empty())
+            m_trouble = obstacle(m_photo, edits, m_before);
+        if (m_trouble || arguments.empty())
+            return;
+        // The file's own name may say that it is of another kind.
+        const std::string* const kind = m_before.find("File:FileTypeExtension");
+        m_temporary.emplace(m_photo.folder, kind ? extensionOf('.' + *kind) : extensionOf(m_photo.name));
+        // What ExifTool would say of it is no word for a person.
+        if (::faccessat(m_photo.folder.get(), ".", W_OK, AT_EACCESS) != 0) {
+            m_trouble = cannotBeSaved();
+            return;
+        }
+        m_trouble =
+            exifTool.write(m_photo.file.get(), m_temporary->name(), m_temporary->path(), std::move(arguments), stop);
+        if (m_trouble)
+            return;
+        m_made = FileDescriptor(
+            ::openat(m_photo.folder.get(), m_temporary->name().c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
+        if (!m_made)
+            m_trouble = cannotBeSaved();
+    }
+
+    /// Whether it may take the photo's place: `after` is what it says.
+    void check(const Edits& edits, const Reading& after)
+    {
+        ByteSource ofPhoto(m_photo.file.get());
+        ByteSource ofMade(m_made.get());
+        const auto isSame = haveSameImage(ofPhoto, ofMade);
+        if (!isSame.value_or(false))
+            m_trouble = {.kind = isSame ? Trouble::Kind::PictureDiffers : Trouble::Kind::CannotBeChecked};
+        else if (after.trouble)
+            m_trouble = after.trouble;
+        else if (!areMade(edits, m_before, after.tags))
+            m_trouble = {.kind = Trouble::Kind::EditsNotKept};
+    }
+
+    /// Gives it what the photo has besides its content, and has the disk begin with it.
+    void finish(const SaveOptions& options)
+    {
+        if (::fstat(m_photo.file.get(), &m_status) != 0 ||
+            !copyAttributes(m_photo.file.get(), m_made.get(), m_status)) {
+            m_trouble = cannotBeSaved();
+            return;
+        }
+        const std::array<timespec, 2> times{m_status.st_atim, m_status.st_mtim};
+        if (options.keepsTime && ::futimens(m_made.get(), times.data()) != 0)
+            m_trouble = cannotBeSaved();
+        static_cast<void>(::sync_file_range(m_made.get(), 0, 0, SYNC_FILE_RANGE_WRITE));
+    }
+
+    void flush()
+    {
+        if (::fsync(m_made.get()) != 0)
+            m_trouble = cannotBeSaved();
+    }
+
+    void place(const SaveOptions& options, const std::stop_token& stop)
+    {
+        if (stop.stop_requested())
+            m_trouble = {.kind = Trouble::Kind::Cancelled};
+        else if (!m_photo.isUnchanged())
+            m_trouble = {.kind = Trouble::Kind::Changed};
+        else if (options.keepsOriginal && !keepOriginal(m_photo, m_status))
+            m_trouble = {.kind = Trouble::Kind::OriginalCannotBeKept, .error = errno};
+        else if (::renameat(m_photo.folder.get(), m_temporary->name().c_str(), m_photo.folder.get(),
+                            m_photo.name.c_str()) != 0)
+            m_trouble = cannotBeSaved();
+    }
+
+    /// Makes the new name durable; `flushed` are the folders of which that has been done.
+    void keep(std::set<std::pair<dev_t, ino_t>>& flushed)
+    {
+        struct stat status = {};
+        if (::fstat(m_photo.folder.get(), &status) == 0 && flushed.contains({status.st_dev, status.st_ino}))
+            return;
+        if (syncFolder(m_photo.folder))
+            flushed.emplace(status.st_dev, status.st_ino);
+        else
+            m_trouble = cannotBeSaved();
+    }
+
+private:
+    const OpenedFile& m_photo;
+    Tags m_before;
+    Trouble m_trouble;
+    std::optional<TemporaryName> m_temporary;
+    FileDescriptor m_made;
+    struct stat m_status = {};
+};
+
 } // namespace
 
-Trouble savePhoto(TagReader& exifTool, const OpenedFile& photo, const Edits& edits, const SaveOptions& options,
-                  const std::stop_token& stop)
+std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile> photos, const Edits& edits,
+                                const SaveOptions& options, const std::stop_token& stop)
 {
-    const Reading before = exifTool.read(photo.file.get(), photo.name, stop);
-    if (before.trouble)
-        return before.trouble;
-    std::vector<std::string> arguments = argumentsFor(edits, before.tags);
-    if (Trouble trouble = obstacle(photo, edits, before.tags); trouble && !edits.empty())
-        return trouble;
-    if (arguments.empty())
-        return {};
+    std::vector<int> files;
+    std::vector<std::string> names;
+    for (const OpenedFile& photo : photos) {
+        files.push_back(photo.file.get());
+        names.push_back(photo.name);
+    }
+    std::vector<Reading> readings = exifTool.read(files, names, stop);
+    std::deque<Save> saves;
+    for (std::size_t index = 0; index < photos.size(); ++index)
+        saves.emplace_back(photos[index], std::move(readings[index])).write(exifTool, edits, stop);
 
-    // The file's own name may say that it is of another kind.
-    const std::string* const kind = before.tags.find("File:FileTypeExtension");
-    const TemporaryName temporary(photo.folder, kind ? extensionOf('.' + *kind) : extensionOf(photo.name));
-    // What ExifTool would say of it is no word for a person.
-    if (::faccessat(photo.folder.get(), ".", W_OK, AT_EACCESS) != 0)
-        return cannotBeSaved();
-    if (Trouble trouble =
-            exifTool.write(photo.file.get(), temporary.name(), temporary.path(), std::move(arguments), stop))
-        return trouble;
-    const FileDescriptor made(
-        ::openat(photo.folder.get(), temporary.name().c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
-    if (!made)
-        return cannotBeSaved();
-    if (Trouble trouble = check(exifTool, photo, made.get(), edits, before.tags, stop))
-        return trouble;
-
-    struct stat status = {};
-    if (::fstat(photo.file.get(), &status) != 0 || !copyAttributes(photo.file.get(), made.get(), status))
-        return cannotBeSaved();
-    const std::array<timespec, 2> times{status.st_atim, status.st_mtim};
-    if (options.keepsTime && ::futimens(made.get(), times.data()) != 0)
-        return cannotBeSaved();
-    if (::fsync(made.get()) != 0)
-        return cannotBeSaved();
-    if (stop.stop_requested())
-        return {.kind = Trouble::Kind::Cancelled};
-    if (!photo.isUnchanged())
-        return {.kind = Trouble::Kind::Changed};
-    if (options.keepsOriginal && !keepOriginal(photo, status))
-        return {.kind = Trouble::Kind::OriginalCannotBeKept, .error = errno};
-    if (::renameat(photo.folder.get(), temporary.name().c_str(), photo.folder.get(), photo.name.c_str()) != 0 ||
-        !syncFolder(photo.folder))
-        return cannotBeSaved();
-    return {};
+    const auto onTheirWay = [&] {
+        std::vector<Save*> those;
+        for (Save& save : saves) {
+            if (save.isOnItsWay())
+                those.push_back(&save);
+        }
+        return those;
+    };
+    const auto written = onTheirWay();
+    files.clear();
+    names.clear();
+    for (const Save* save : written) {
+        files.push_back(save->made());
+        names.push_back(save->photo().name);
+    }
+    readings = exifTool.read(files, names, stop);
+    for (std::size_t index = 0; index < written.size(); ++index) {
+        written[index]->check(edits, readings[index]);
+        if (written[index]->isOnItsWay())
+            written[index]->finish(options);
+    }
+    // One after the other: what the disk does for the first serves the others.
+    for (Save* save : onTheirWay())
+        save->flush();
+    for (Save* save : onTheirWay())
+        save->place(options, stop);
+    std::set<std::pair<dev_t, ino_t>> flushed;
+    std::vector<Trouble> troubles;
+    for (Save& save : saves) {
+        if (save.isOnItsWay())
+            save.keep(flushed);
+        troubles.push_back(save.trouble());
+    }
+    return troubles;
 }
 
 void removeLeftovers(const FileDescriptor& folder)
 {
     // Longer than anything is written.
-    constexpr std::time_t minutes = 60;
-    constexpr std::time_t longAgo = 15 * minutes;
+    constexpr std::time_t hours = 3600;
+    constexpr std::time_t longAgo = 2 * hours;
     const int opened = ::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     const LinuxDesktop::FolderStream stream(opened < 0 ? nullptr : ::fdopendir(opened));
     const std::time_t now = std::time(nullptr);

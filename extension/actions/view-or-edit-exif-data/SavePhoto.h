@@ -13,12 +13,13 @@ struct SaveOptions {
     bool keepsTime = false;
 };
 
-/// Makes edits in a photo's file: writes a file beside it, checks that it says what it is to say and that the picture
-/// is the same byte by byte, flushes it and lets it take the place in one step, with the permissions and the extended
-/// attributes. Whatever fails or ends on the way, the photo stays as it was. What is to be made already is left
-/// alone.
-[[nodiscard]] Trouble savePhoto(TagReader& exifTool, const OpenedFile& photo, const Edits& edits,
-                                const SaveOptions& options, const std::stop_token& stop);
+/// Makes edits in photos' files: writes a file beside each, checks that it says what it is to say and that the
+/// picture is the same byte by byte, flushes it and lets it take the place in one step, with the permissions and the
+/// extended attributes. Whatever fails or ends on the way, the photo stays as it was. What is to be made already is
+/// left alone. Several at once are flushed together.
+[[nodiscard]] std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile> photos,
+                                              const Edits& edits, const SaveOptions& options,
+                                              const std::stop_token& stop);
 
 /// Removes what programs that were killed left in a folder long ago.
 void removeLeftovers(const LinuxDesktop::FileDescriptor& folder);

@@ -79,6 +79,8 @@ Reading TagReader::read(int file, const std::string& name, const std::stop_token
 std::vector<Reading> TagReader::read(std::span<const int> files, std::span<const std::string> names,
                                      const std::stop_token& stop)
 {
+    if (files.empty())
+        return {};
     std::vector<std::string> arguments{"-json", "-G0:1", "-a", "-c", "%+.6f", "--System:all", "-q", "-q"};
     std::vector<Link> links;
     std::map<std::string, std::size_t> places;

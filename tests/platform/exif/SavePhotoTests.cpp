@@ -339,7 +339,7 @@ TEST_F(SavePhotoTest, AFileThatChangesMeanwhileIsNotReplaced)
     ASSERT_TRUE(opened);
     Files::write(path, Files::read(path) + "x");
     TagReader reader;
-    EXPECT_EQ(savePhoto(reader, *opened, everything(), {}, {}).kind, Kind::Changed);
+    EXPECT_EQ(savePhotos(reader, {&*opened, 1}, everything(), {}, {}).front().kind, Kind::Changed);
     EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
 }
 
@@ -348,7 +348,7 @@ TEST_F(SavePhotoTest, LeftoversOfLongAgoGoAndOthersStay)
     const std::string old = ".orvik-exif-0123456789abcdef.jpg";
     Files::write(listed() / old, "x");
     Files::write(listed() / ".orvik-exif-fedcba9876543210.jpg", "x");
-    fs::last_write_time(listed() / old, fs::file_time_type::clock::now() - 1h);
+    fs::last_write_time(listed() / old, fs::file_time_type::clock::now() - 3h);
     const auto opened = openWithFolder(request(), photo("jpg"));
     ASSERT_TRUE(opened);
     removeLeftovers(opened->folder);
