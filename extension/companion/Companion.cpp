@@ -180,6 +180,8 @@ void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Fi
     if (!refusal && !m_runner.hasRoom())
         refusal = Refusal{Refusal::Kind::Failed, "Too much is asked for at once."};
     if (refusal) {
+        if (!call.isAnswerAwaited || refusal->kind == Refusal::Kind::Failed)
+            m_notices.tell(titleOf(call.action), refusal->words);
         finished(refusal);
         return;
     }

@@ -112,6 +112,7 @@ std::string errorName(Refusal::Kind kind)
 
 std::optional<Refusal> parse(sd_bus_message& message, RunCall& call)
 {
+    call.isAnswerAwaited = sd_bus_message_get_expect_reply(&message) != 0;
     const char* action = nullptr;
     if (sd_bus_message_read_basic(&message, SD_BUS_TYPE_STRING, &action) <= 0)
         return badArguments("Orvik Menu was asked for something in a way that it does not understand.");

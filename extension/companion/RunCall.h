@@ -18,6 +18,8 @@ struct RunCall {
     ActionRequest request;
     /// Brings what opens to the front; empty where none was given.
     std::string activationToken;
+    /// Whether the caller is there for the answer; otherwise only the desktop can tell a person what went wrong.
+    bool isAnswerAwaited = true;
 };
 
 /// Why a call is not done, or came to nothing.

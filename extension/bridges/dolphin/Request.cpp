@@ -66,7 +66,7 @@ void callCompanion(const Choice& choice, const Clicked& clicked, const QDBusConn
     call.setAutoStartService(false);
     call << QString::fromStdString(choice.action) << pathsOf(clicked) << options;
     // Nobody waits: the companion tells the user itself what it could not do.
-    static_cast<void>(bus.asyncCall(call));
+    bus.send(call);
 }
 
 /// Calls `use` once with what lets another program's window come to the front; with nothing where there is no such

@@ -64,14 +64,20 @@ protected:
         return path(name);
     }
 
-    [[nodiscard]] QDBusPendingCall ask(const char* action, const QByteArrayList& paths,
-                                       const QVariantMap& options = {})
+    [[nodiscard]] static QDBusMessage callOf(const char* action, const QByteArrayList& paths,
+                                             const QVariantMap& options = {})
     {
         auto call = QDBusMessage::createMethodCall(
             QString::fromUtf8(Deployment::extensionIdentifier.data(), Deployment::extensionIdentifier.size()),
             companionPath(), interface, QStringLiteral("Run"));
         call << QString::fromLatin1(action) << QVariant::fromValue(paths) << options;
-        return connection().asyncCall(call, 60'000);
+        return call;
+    }
+
+    [[nodiscard]] QDBusPendingCall ask(const char* action, const QByteArrayList& paths,
+                                       const QVariantMap& options = {})
+    {
+        return connection().asyncCall(callOf(action, paths, options), 60'000);
     }
 
     /// The last part of the error's name; "done" where there is none.
@@ -227,6 +233,16 @@ TEST_F(Run, FailsWithWordsWhichTheDesktopShowsToo)
     EXPECT_EQ(run("hide-unhide-item", {path("in/other")}), "Failed");
     ASSERT_TRUE(waitUntil([&] { return desktop.shown().size() == 3; }));
     EXPECT_TRUE(desktop.shown()[2].startsWith(QStringLiteral("0 Hide")));
+}
+
+TEST_F(Run, TellsOnTheDesktopWhatNobodyWaitsFor)
+{
+    NotificationsStandIn desktop(m_daemon.address());
+    EXPECT_EQ(run("hide-unhide-item", {path("out/a")}), "OutOfScope");
+    connection().send(callOf("hide-unhide-item", {path("out/b")}));
+    ASSERT_TRUE(waitUntil([&] { return desktop.shown().size() == 1; }));
+    EXPECT_TRUE(desktop.shown()[0].startsWith(QStringLiteral("0 Hide")));
+    EXPECT_TRUE(desktop.shown()[0].contains(QStringLiteral("\"b\""))) << desktop.shown()[0].toStdString();
 }
 
 TEST_F(Run, FailsWhereTheActionsProgramIsNotThere)
