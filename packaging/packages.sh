@@ -11,6 +11,7 @@ packages_build=(
   libarchive-dev
   libexpat1-dev
   libglib2.0-dev
+  libjpeg-dev
   ninja-build
   nlohmann-json3-dev
   qt6-base-dev

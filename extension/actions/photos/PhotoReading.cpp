@@ -1,5 +1,7 @@
 #include "extension/actions/photos/PhotoReading.h"
 
+#include "extension/actions/photos/SmallJpeg.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -9,11 +11,18 @@ namespace MenuExtension::Photos {
 
 namespace {
 
+constexpr const char* jpegReader = "VipsForeignLoadJpeg";
 /// The classes of the library that read the formats which photos come in.
 constexpr std::array readers{
-    "VipsForeignLoadJpeg", "VipsForeignLoadPng",  "VipsForeignLoadWebp",
-    "VipsForeignLoadTiff", "VipsForeignLoadHeif", "VipsForeignLoadNsgif",
-    "VipsForeignLoadJp2k", "VipsForeignLoadJxl",  "VipsForeignLoadPpm",
+    jpegReader,
+    "VipsForeignLoadPng",
+    "VipsForeignLoadWebp",
+    "VipsForeignLoadTiff",
+    "VipsForeignLoadHeif",
+    "VipsForeignLoadNsgif",
+    "VipsForeignLoadJp2k",
+    "VipsForeignLoadJxl",
+    "VipsForeignLoadPpm",
 };
 
 /// The library names a reader that is blocked too.
@@ -40,6 +49,30 @@ Image after(const Image& image, Step step)
     return image && step(image.get(), &result) == 0 ? Image(result) : nullptr;
 }
 
+/// A JPEG picture the quick way; nothing where that is none.
+Image readQuickly(const OpenedPhoto& photo, int longest)
+{
+    std::size_t length = 0;
+    const void* const bytes = vips_source_map(photo.source.get(), &length);
+    if (!bytes)
+        return nullptr;
+    const Image small = readSmallJpeg({static_cast<const unsigned char*>(bytes), length}, longest);
+    if (!small)
+        return nullptr;
+    vips_image_set_int(small.get(), VIPS_META_ORIENTATION, vips_image_get_orientation(photo.header.get()));
+    return after(small, [longest](VipsImage* in, VipsImage** out) {
+        return vips_thumbnail_image(in, out, longest, "height", longest, "size", VIPS_SIZE_DOWN, nullptr);
+    });
+}
+
+Image readThumbnail(const OpenedPhoto& photo, int longest)
+{
+    VipsImage* read = nullptr;
+    vips_thumbnail_source(photo.source.get(), &read, longest, "height", longest, "size", VIPS_SIZE_DOWN,
+                          "option_string", "fail_on=truncated", nullptr);
+    return Image(read);
+}
+
 } // namespace
 
 void prepareReading()
@@ -64,6 +97,7 @@ std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
         vips_error_clear();
         return otherKind();
     }
+    photo.isJpeg = std::string_view(reader).starts_with(jpegReader);
     photo.header.reset(vips_image_new_from_source(photo.source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr));
     if (!photo.header) {
         vips_error_clear();
@@ -81,10 +115,9 @@ std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
 
 std::variant<Image, Unreadable> readSmall(const OpenedPhoto& photo, int longest)
 {
-    VipsImage* read = nullptr;
-    vips_thumbnail_source(photo.source.get(), &read, longest, "height", longest, "size", VIPS_SIZE_DOWN,
-                          "option_string", "fail_on=truncated", nullptr);
-    Image image(read);
+    Image image = photo.isJpeg ? readQuickly(photo, longest) : nullptr;
+    if (!image)
+        image = readThumbnail(photo, longest);
     image = after(image, [](VipsImage* in, VipsImage** out) {
         return vips_colourspace(in, out, VIPS_INTERPRETATION_sRGB, nullptr);
     });

@@ -30,6 +30,7 @@ struct OpenedPhoto {
     /// As it is shown, turned as the file says.
     int width = 0;
     int height = 0;
+    bool isJpeg = false;
 };
 
 /// Makes this process one that reads the formats of photos with as little memory as they take, and no others: what

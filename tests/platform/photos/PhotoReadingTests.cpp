@@ -107,11 +107,14 @@ TEST_F(PhotoReadingTest, APictureIsTurnedAsItsFileSays)
     const auto image = twoColors(80, 60);
     constexpr int quarterTurn = 6;
     vips_image_set_int(image.get(), VIPS_META_ORIENTATION, quarterTurn);
-    const Read picture = read(write(image.get(), "turned.jpg"), 40);
-    ASSERT_TRUE(picture.small) << picture.why;
-    EXPECT_EQ(picture.width, 60);
-    EXPECT_EQ(picture.height, 80);
-    EXPECT_GT(picture.at(15, 4)[0], 200) << "what was at the left is at the top";
+    for (const std::string ending : {"jpg", "tif"}) {
+        const Read picture = read(write(image.get(), "turned." + ending), 40);
+        ASSERT_TRUE(picture.small) << picture.why;
+        EXPECT_EQ(picture.width, 60);
+        EXPECT_EQ(picture.height, 80);
+        EXPECT_EQ(vips_image_get_height(picture.small.get()), 40);
+        EXPECT_GT(picture.at(15, 4)[0], 200) << "what was at the left is at the top";
+    }
 }
 
 TEST_F(PhotoReadingTest, SmallPicturesAreNotMadeLarger)
