@@ -121,6 +121,16 @@ bool hasDeepBands(VipsImage* header)
     return vips_image_get_format(header) != VIPS_FORMAT_UCHAR;
 }
 
+/// The library's reader of HEIF frees the profile with the picture that it has read, whatever else refers to it.
+void ownProfile(VipsImage* image)
+{
+    const void* profile = nullptr;
+    std::size_t length = 0;
+    if (vips_image_get_typeof(image, VIPS_META_ICC_NAME) != 0 &&
+        vips_image_get_blob(image, VIPS_META_ICC_NAME, &profile, &length) == 0)
+        vips_image_set_blob_copy(image, VIPS_META_ICC_NAME, profile, length);
+}
+
 /// The stored picture in that size, in memory. As it is stored: it is turned when it is shown.
 Image scaled(const Photos::OpenedPhoto& photo, std::uint32_t width, std::uint32_t height)
 {
@@ -149,7 +159,10 @@ Image scaled(const Photos::OpenedPhoto& photo, std::uint32_t width, std::uint32_
         VIPS_UNREF(flat);
     }
     const Image lazy(made);
-    return Image(lazy ? vips_image_copy_memory(lazy.get()) : nullptr);
+    Image whole(lazy ? vips_image_copy_memory(lazy.get()) : nullptr);
+    if (whole)
+        ownProfile(whole.get());
+    return whole;
 }
 
 Refused damaged()
