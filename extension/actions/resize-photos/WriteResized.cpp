@@ -121,14 +121,15 @@ bool hasDeepBands(VipsImage* header)
     return vips_image_get_format(header) != VIPS_FORMAT_UCHAR;
 }
 
-/// The library's reader of HEIF frees the profile with the picture that it has read, whatever else refers to it.
-void ownProfile(VipsImage* image)
+/// The library's reader of HEIF frees what was beside the picture with its own one, whatever else refers to it.
+void ownMetadata(VipsImage* image)
 {
-    const void* profile = nullptr;
-    std::size_t length = 0;
-    if (vips_image_get_typeof(image, VIPS_META_ICC_NAME) != 0 &&
-        vips_image_get_blob(image, VIPS_META_ICC_NAME, &profile, &length) == 0)
-        vips_image_set_blob_copy(image, VIPS_META_ICC_NAME, profile, length);
+    for (const char* name : {VIPS_META_ICC_NAME, VIPS_META_EXIF_NAME, VIPS_META_XMP_NAME, VIPS_META_IPTC_NAME}) {
+        const void* bytes = nullptr;
+        std::size_t length = 0;
+        if (vips_image_get_typeof(image, name) != 0 && vips_image_get_blob(image, name, &bytes, &length) == 0)
+            vips_image_set_blob_copy(image, name, bytes, length);
+    }
 }
 
 /// The stored picture in that size, in memory. As it is stored: it is turned when it is shown.
@@ -161,7 +162,7 @@ Image scaled(const Photos::OpenedPhoto& photo, std::uint32_t width, std::uint32_
     const Image lazy(made);
     Image whole(lazy ? vips_image_copy_memory(lazy.get()) : nullptr);
     if (whole)
-        ownProfile(whole.get());
+        ownMetadata(whole.get());
     return whole;
 }
 
