@@ -81,7 +81,7 @@ TEST(Worker, IsWaitedForNoLongerThanPatienceLasts)
 }
 
 // A sanitizer takes more memory than any limit.
-#if !ORVIK_SANITIZED
+#ifndef ORVIK_SANITIZED
 TEST(Worker, TakesNoMoreMemoryThanItMay)
 {
     Worker worker(program, {.memory = std::uint64_t{1} << 30U});
