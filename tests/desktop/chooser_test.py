@@ -129,6 +129,11 @@ class Chooser(DesktopTestCase):
         self.assertEqual(places[-1], ("File System", "/"))
         self.assertNotIn("/no/such/thing", [path for _, path in places])
 
+        camera = os.path.join(self.home.files, "Camera")
+        os.mkdir(camera)
+        mounts.mount_for(self.panel.process_id, camera)
+        eventually(lambda: ("Camera", camera) in self.places(), "the camera among the places")
+
     def test_the_last_folder_is_a_place_and_the_size_stays(self):
         projects = os.path.join(self.home.files, "Projects")
         os.makedirs(os.path.join(projects, "a"))

@@ -104,6 +104,10 @@ void FileChooserDialog::build()
     setObjectName(u"fileChooser"_s);
     setWindowTitle(m_settings.prompt);
 
+    const QSize wanted = m_memory.size.isValid() ? m_memory.size.expandedTo(smallestSize) : QSize(760, 520);
+    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+    m_firstSize = size();
+
     m_message = new QLabel(m_settings.message, this);
     m_message->setObjectName(u"messageLabel"_s);
     setUpText(*m_message);
@@ -124,7 +128,7 @@ void FileChooserDialog::build()
         m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     panes->setStretchFactor(0, 0);
     panes->setStretchFactor(1, 1);
-    const int placesWidth = m_places->fontMetrics().averageCharWidth() * 24;
+    const int placesWidth = std::min(m_places->fontMetrics().averageCharWidth() * 24, width() * 3 / 10);
     panes->setSizes({placesWidth, 4 * placesWidth});
 
     m_notice = new QLabel(this);
@@ -150,9 +154,6 @@ void FileChooserDialog::build()
     layout->addWidget(panes, 1);
     layout->addWidget(m_notice);
     layout->addLayout(buttonRow);
-    const QSize wanted = m_memory.size.isValid() ? m_memory.size.expandedTo(smallestSize) : QSize(760, 520);
-    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
-    m_firstSize = size();
 
     m_watch = new FolderWatch(this);
     m_refreshTimer = new QTimer(this);
