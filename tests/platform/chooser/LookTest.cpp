@@ -93,6 +93,25 @@ TEST(Look, IconsAreDrawnInOneStyleAtEveryScale)
     }
 }
 
+TEST(Look, ToolButtonsAreDrawnInOneStyleAtEveryScale)
+{
+    const BreezeIcons icons;
+    ModalState modal;
+    FileChooser chooser(modal);
+    chooser.setCanChooseDirectories(true);
+    runChooser(chooser, [](const ShownChooser& shown) {
+        for (const auto* button : shown.dialog().findChildren<QToolButton*>()) {
+            if (button->text().isEmpty())
+                continue;
+            const auto plain = colorAt(1.0, button->icon());
+            for (const qreal scale : {1.25, 1.5, 2.0})
+                EXPECT_LT(difference(plain, colorAt(scale, button->icon())), 4.0)
+                    << button->objectName().toStdString() << " at " << scale;
+        }
+        shown.cancel();
+    });
+}
+
 TEST(Look, ALinkIsToldByASignOnItsIconAndNotByItsLetters)
 {
     const BreezeIcons icons;

@@ -3,6 +3,8 @@
 
 #include "platform/linux/chooser/ChooserMemory.h"
 
+#include <QScreen>
+
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -57,13 +58,23 @@ struct Tool {
     QStyle::StandardPixmap fallback;
 };
 
+/// Icon themes draw an icon in outlines for small sizes, in full for large ones, and fractions of a scale take now
+/// the one, now the other. The outlines, with pixels for any scale, are one style.
+QIcon outlinesOf(const QIcon& icon)
+{
+    constexpr qreal finestScale = 3.0;
+    QPixmap outlines = icon.pixmap(toolIconSize, finestScale);
+    outlines.setDevicePixelRatio(1.0);
+    return outlines;
+}
+
 QToolButton* toolButton(const Tool& tool, QWidget* parent)
 {
     auto* button = new QToolButton(parent);
     button->setObjectName(QLatin1String(tool.objectName));
     button->setText(tool.title);
     button->setToolTip(u"%1 (%2)"_s.arg(tool.title, tool.keys));
-    button->setIcon(QIcon::fromTheme(tool.iconName, parent->style()->standardIcon(tool.fallback)));
+    button->setIcon(outlinesOf(QIcon::fromTheme(tool.iconName, parent->style()->standardIcon(tool.fallback))));
     button->setIconSize(toolIconSize);
     button->setMinimumSize(toolExtent, toolExtent);
     button->setAutoRaise(true);
