@@ -145,7 +145,7 @@ class Keyboard(DesktopTestCase):
             self.hands.press("Up")
             self.assertEventuallyEqual(lambda: self.described(window.focused()), ("check box", title))
 
-    def test_the_chooser_is_walked_both_ways(self):
+    def test_the_chooser_is_walked_both_ways_and_shows_where_the_keyboard_is(self):
         self.suite.write_request(self.home.make_file("Report.pdf"))
         window = self.start_panel().chooser()
         self.assertEqual(window.focused().name, "Files")
@@ -153,8 +153,9 @@ class Keyboard(DesktopTestCase):
         walk = self.assertWalksBothWays(window)
 
         self.assertCountEqual(walk, [("push button", "Up"), ("push button", "Home"), ("text", "Location"),
-                                     ("list", "Places"), ("tree", "Files"), ("push button", "Cancel"),
-                                     ("push button", CHOOSER)])
+                                     ("push button", "New Folder"), ("list", "Places"), ("tree", "Files"),
+                                     ("push button", "Cancel"), ("push button", CHOOSER)])
+        self.assertFocusIsVisible(window)
 
     def test_the_question_before_a_removal_is_walked_both_ways(self):
         self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])

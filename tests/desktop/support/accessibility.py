@@ -55,6 +55,10 @@ class Accessible:
         return self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Name")))[0]
 
     @property
+    def description(self):
+        return self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Description")))[0]
+
+    @property
     def role(self):
         return self._call(_ACCESSIBLE, "GetRoleName")[0]
 

@@ -1,8 +1,11 @@
 #include "ShownChooser.h"
 #include "TemporaryFolder.h"
 
+#include "platform/linux/chooser/ModifiedText.h"
+
 #include <QAccessible>
 #include <QApplication>
+#include <QFileInfo>
 #include <QSet>
 
 #include <gtest/gtest.h>
@@ -18,6 +21,13 @@ namespace {
 QString accessibleName(QWidget& widget)
 {
     return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+}
+
+/// How it is said when the item was changed.
+QString changed(const std::string& path)
+{
+    const QDateTime when = QFileInfo(QString::fromStdString(path)).lastModified();
+    return LinuxDesktop::modifiedText(when, QDateTime::currentDateTime(), QLocale());
 }
 
 struct Accessibility : testing::Test {
@@ -79,14 +89,90 @@ TEST_F(Accessibility, TabReachesEveryControlBothWaysAndEachHasAName)
 TEST_F(Accessibility, ARowIsNamedAsItsFileAndTellsItsKind)
 {
     folder.link("link", "file");
-    runChooser(chooser, [](const ShownChooser& shown) {
+    runChooser(chooser, [&](const ShownChooser& shown) {
         QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&shown.list());
         ASSERT_TRUE(list->tableInterface());
         EXPECT_EQ(list->tableInterface()->rowCount(), 2);
         QAccessibleInterface* cell = list->tableInterface()->cellAt(1, 0);
         ASSERT_TRUE(cell);
         EXPECT_EQ(cell->text(QAccessible::Name), u"link"_s);
-        EXPECT_EQ(cell->text(QAccessible::Description), u"Link to a file"_s);
+        EXPECT_EQ(cell->text(QAccessible::Description),
+                  u"Link to a file, 0 bytes, %1"_s.arg(changed(folder.path("file"))));
+        shown.cancel();
+    });
+}
+
+TEST_F(Accessibility, ARowTellsItsNameItsKindItsSizeAndItsDateInThatOrder)
+{
+    folder.file("Report.pdf", 1'500'000);
+    folder.file("file", 1);
+    folder.folder("sub");
+    runChooser(chooser, [&](const ShownChooser& shown) {
+        QAccessibleTableInterface* rows = QAccessible::queryAccessibleInterface(&shown.list())->tableInterface();
+        const auto said = [&](int row) {
+            QAccessibleInterface* cell = rows->cellAt(row, 0);
+            return cell->text(QAccessible::Name) + u" | "_s + cell->text(QAccessible::Description);
+        };
+        EXPECT_EQ(said(0), u"sub | Folder, %1"_s.arg(changed(folder.path("sub"))));
+        EXPECT_EQ(said(1), u"file | File, 1 byte, %1"_s.arg(changed(folder.path("file"))));
+        EXPECT_EQ(said(2), u"Report.pdf | PDF document, 1.5 MB, %1"_s.arg(changed(folder.path("Report.pdf"))));
+        shown.cancel();
+    });
+}
+
+TEST_F(Accessibility, TheArrowKeysReachEveryRowAlsoThoseThatCannotBeChosen)
+{
+    folder.link("broken", "/nowhere/at/all");
+    folder.folder("sub");
+    chooser.setCanChooseFiles(false);
+    chooser.setCanChooseDirectories(true);
+    chooser.setDirectoryURL(NS::URL::fileURLWithPath(folder.path("none")));
+    runChooser(chooser, [](const ShownChooser& shown) {
+        const auto current = [&] { return shown.list().currentIndex().data().toString(); };
+        QStringList reached;
+        for (int step = 0; step < 3; ++step) {
+            shown.key(Qt::Key_Down);
+            reached.push_back(current());
+        }
+        EXPECT_EQ(reached, (QStringList{u"sub"_s, u"broken"_s, u"file"_s}));
+        EXPECT_TRUE(shown.selected().isNull());
+        shown.key(Qt::Key_Return);
+        EXPECT_EQ(shown.notice().text(), u"“file” is a file. Only folders can be chosen here."_s);
+        shown.key(Qt::Key_Up);
+        shown.key(Qt::Key_Return);
+        EXPECT_EQ(shown.notice().text(), u"“broken” leads to something that is not there."_s);
+        shown.key(Qt::Key_Up);
+        EXPECT_EQ(shown.selected(), u"sub"_s);
+        EXPECT_FALSE(shown.notice().isVisible());
+        shown.key(Qt::Key_Return);
+    });
+    ASSERT_TRUE(chooser.URL());
+    EXPECT_EQ(chooser.URL()->path(), folder.path("sub"));
+}
+
+TEST_F(Accessibility, EnterChoosesAFolderThatWasGoneToAndHasFilesAlone)
+{
+    folder.folder("sub");
+    folder.file("sub/inside");
+    chooser.setCanChooseFiles(false);
+    chooser.setCanChooseDirectories(true);
+    chooser.setDirectoryURL(NS::URL::fileURLWithPath(folder.path("none")));
+    runChooser(chooser, [](const ShownChooser& shown) {
+        shown.doubleClick(u"sub"_s);
+        EXPECT_EQ(shown.list().currentIndex().data().toString(), u"inside"_s);
+        shown.key(Qt::Key_Return);
+    });
+    ASSERT_TRUE(chooser.URL());
+    EXPECT_EQ(chooser.URL()->path(), folder.path("sub"));
+}
+
+TEST_F(Accessibility, APlaceTellsItsPath)
+{
+    runChooser(chooser, [](const ShownChooser& shown) {
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&shown.places());
+        QAccessibleInterface* last = list->child(list->childCount() - 1);
+        EXPECT_EQ(last->text(QAccessible::Name), u"File System"_s);
+        EXPECT_EQ(last->text(QAccessible::Description), u"/"_s);
         shown.cancel();
     });
 }

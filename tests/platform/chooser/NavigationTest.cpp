@@ -1,6 +1,7 @@
 #include "ShownChooser.h"
 #include "TemporaryFolder.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QToolButton>
 
@@ -189,6 +190,26 @@ TEST_F(Navigation, TypingSelectsTheNextNameThatStartsSo)
     });
 }
 
+TEST_F(Navigation, TypingFindsTheFirstNameOfAFolderToo)
+{
+    folder.folder("alpine");
+    run([&](const ShownChooser& shown) {
+        shown.type(u"a"_s);
+        EXPECT_EQ(shown.selected(), u"alpha"_s);
+    });
+}
+
+TEST_F(Navigation, AFolderThatIsGoneIntoShowsWhereTheKeyboardIs)
+{
+    run([&](const ShownChooser& shown) {
+        shown.doubleClick(u"alpha"_s);
+        EXPECT_EQ(shown.list().currentIndex().data().toString(), u"deep"_s);
+        EXPECT_TRUE(shown.selected().isNull());
+        shown.key(Qt::Key_Home);
+        EXPECT_EQ(shown.selected(), u"deep"_s);
+    });
+}
+
 TEST_F(Navigation, AHeaderClickAndItsKeysSort)
 {
     run([&](const ShownChooser& shown) {
@@ -228,4 +249,51 @@ TEST_F(Navigation, AnEmptyFolderSaysSo)
         shown.doubleClick(u"beta"_s);
         EXPECT_EQ(shown.listWords().text(), u"This folder is empty."_s);
     });
+}
+
+TEST_F(Navigation, ASlashOrATildeTypedInTheListStartsAPath)
+{
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder.path().c_str());
+    run([&](const ShownChooser& shown) {
+        shown.type(u"/"_s);
+        EXPECT_TRUE(shown.pathField().hasFocus());
+        EXPECT_EQ(shown.pathField().text(), u"/"_s);
+        shown.dialog().activateWindow();
+        shown.list().setFocus();
+        shown.type(u"~"_s);
+        EXPECT_TRUE(shown.pathField().hasFocus());
+        EXPECT_EQ(shown.pathField().text(), u"~"_s);
+        shown.type(u"/al"_s);
+        shown.key(Qt::Key_Tab);
+        EXPECT_EQ(shown.pathField().text(), u"~/alpha/"_s);
+        shown.key(Qt::Key_Return);
+        EXPECT_EQ(shown.pathField().text(), at("alpha"));
+        EXPECT_TRUE(shown.list().hasFocus());
+    });
+    qputenv("HOME", home);
+}
+
+TEST_F(Navigation, ASlashStartsAPathInAnEmptyFolderToo)
+{
+    run([&](const ShownChooser& shown) {
+        shown.doubleClick(u"beta"_s);
+        shown.type(u"/"_s);
+        EXPECT_TRUE(shown.pathField().hasFocus());
+        EXPECT_EQ(shown.pathField().text(), u"/"_s);
+    });
+}
+
+TEST_F(Navigation, WhereTextRunsFromTheRightTheArrowKeysDoToo)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    run([&](const ShownChooser& shown) {
+        shown.click(u"alpha"_s);
+        shown.key(Qt::Key_Left);
+        EXPECT_EQ(shown.pathField().text(), at("alpha"));
+        shown.key(Qt::Key_Right);
+        EXPECT_EQ(shown.pathField().text(), atTop());
+        EXPECT_EQ(shown.pathField().layoutDirection(), Qt::LeftToRight);
+    });
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }

@@ -53,6 +53,14 @@ void ShownChooser::doubleClick(const QString& name) const
     QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, at);
 }
 
+void ShownChooser::goToPlace(const QString& title) const
+{
+    const QList<QListWidgetItem*> found = places().findItems(title, Qt::MatchExactly);
+    ASSERT_EQ(found.size(), 1) << title.toStdString();
+    places().scrollToItem(found.front());
+    QTest::mouseClick(places().viewport(), Qt::LeftButton, {}, places().visualItemRect(found.front()).center());
+}
+
 void ShownChooser::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const
 {
     QTest::keyClick(m_dialog.windowHandle(), key, modifiers);

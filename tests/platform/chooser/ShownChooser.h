@@ -2,6 +2,7 @@
 
 #include "platform/linux/chooser/FileChooser.h"
 
+#include <QAbstractButton>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 #include <QPushButton>
 #include <QStringList>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeView>
 
 #include <functional>
@@ -35,6 +37,7 @@ public:
     [[nodiscard]] QLabel& message() const { return part<QLabel>("messageLabel"); }
     [[nodiscard]] QLabel& notice() const { return part<QLabel>("noticeLabel"); }
     [[nodiscard]] QLabel& listWords() const { return part<QLabel>("listWords"); }
+    [[nodiscard]] QToolButton& tool(const char* name) const { return part<QToolButton>(name); }
 
     /// The names as shown, from the top.
     [[nodiscard]] QStringList names() const;
@@ -45,7 +48,9 @@ public:
 
     void click(const QString& name) const;
     void doubleClick(const QString& name) const;
-    void press(QPushButton& button) const { QTest::mouseClick(&button, Qt::LeftButton); }
+    /// A click on the place of that title.
+    void goToPlace(const QString& title) const;
+    void press(QAbstractButton& button) const { QTest::mouseClick(&button, Qt::LeftButton); }
     /// A key, to where the keyboard focus is.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void type(const QString& text) const;

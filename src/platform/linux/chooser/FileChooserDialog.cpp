@@ -4,15 +4,21 @@
 #include "platform/linux/chooser/FilePath.h"
 #include "platform/linux/chooser/FolderWatch.h"
 #include "platform/linux/chooser/LocationField.h"
+#include "platform/linux/chooser/NewFolderDialog.h"
 #include "platform/linux/chooser/PlacesList.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -26,6 +32,7 @@
 #include <cerrno>
 #include <chrono>
 #include <system_error>
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -38,12 +45,38 @@ constexpr std::chrono::milliseconds refreshDelay = 150ms;
 /// A refresh may take this part of the time at most, however fast a large folder changes.
 constexpr int refreshShare = 5;
 
-QToolButton* toolButton(const QString& title, const QString& keys, const QIcon& icon, QWidget* parent)
+constexpr std::chrono::milliseconds awaitInterval = 200ms;
+constexpr QSize smallestSize(320, 240);
+constexpr QSize toolIconSize(22, 22);
+constexpr int toolExtent = 36;
+
+struct Tool {
+    const char* objectName;
+    QString title;
+    QString keys;
+    QString iconName;
+    QStyle::StandardPixmap fallback;
+};
+
+/// Icon themes draw an icon in outlines for small sizes, in full for large ones, and fractions of a scale take now
+/// the one, now the other. The outlines, with pixels for any scale, are one style.
+QIcon outlinesOf(const QIcon& icon)
+{
+    constexpr qreal finestScale = 3.0;
+    QPixmap outlines = icon.pixmap(toolIconSize, finestScale);
+    outlines.setDevicePixelRatio(1.0);
+    return outlines;
+}
+
+QToolButton* toolButton(const Tool& tool, QWidget* parent)
 {
     auto* button = new QToolButton(parent);
-    button->setText(title);
-    button->setToolTip(u"%1 (%2)"_s.arg(title, keys));
-    button->setIcon(icon);
+    button->setObjectName(QLatin1String(tool.objectName));
+    button->setText(tool.title);
+    button->setToolTip(u"%1 (%2)"_s.arg(tool.title, tool.keys));
+    button->setIcon(outlinesOf(QIcon::fromTheme(tool.iconName, parent->style()->standardIcon(tool.fallback))));
+    button->setIconSize(toolIconSize);
+    button->setMinimumSize(toolExtent, toolExtent);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
     return button;
@@ -72,8 +105,8 @@ FileChooserDialog::FileChooserDialog(FileChooserSettings settings, QWidget* pare
 {
     build();
     connectParts();
+    connectKeys();
     openAtStart();
-    m_firstFolder = m_folder;
     m_list->setFocus();
 }
 
@@ -82,41 +115,31 @@ void FileChooserDialog::build()
     setObjectName(u"fileChooser"_s);
     setWindowTitle(m_settings.prompt);
 
+    const QSize wanted = m_memory.size.isValid() ? m_memory.size.expandedTo(smallestSize) : QSize(760, 520);
+    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+    m_firstSize = size();
+
     m_message = new QLabel(m_settings.message, this);
     m_message->setObjectName(u"messageLabel"_s);
     setUpText(*m_message);
     m_message->setVisible(!m_settings.message.isEmpty());
 
-    auto* upButton = toolButton(u"Up"_s, u"Alt+Up"_s, style()->standardIcon(QStyle::SP_FileDialogToParent), this);
-    upButton->setObjectName(u"upButton"_s);
-    connect(upButton, &QToolButton::clicked, this, &FileChooserDialog::goUp);
-    m_upButton = upButton;
-    auto* homeButton = toolButton(u"Home"_s, u"Alt+Home"_s, style()->standardIcon(QStyle::SP_DirHomeIcon), this);
-    homeButton->setObjectName(u"homeButton"_s);
-    connect(homeButton, &QToolButton::clicked, this, [this] { goTo(homeFolder()); });
-    m_location = new LocationField(m_settings.hiddenFiles, this);
-    m_location->setObjectName(u"pathField"_s);
-    m_location->setAccessibleName(u"Location"_s);
-    m_location->setToolTip(u"Location (Ctrl+L)"_s);
-    auto* pathRow = new QHBoxLayout;
-    pathRow->addWidget(upButton);
-    pathRow->addWidget(homeButton);
-    pathRow->addWidget(m_location);
+    auto* pathRow = makePathRow();
 
     auto* panes = new QSplitter(this);
     panes->setChildrenCollapsible(false);
-    m_places = new PlacesList(panes);
+    m_places = new PlacesList(m_memory.folder, panes);
     m_places->setObjectName(u"placesList"_s);
     m_places->setAccessibleName(u"Places"_s);
     m_list = new FileList(panes);
     m_list->setObjectName(u"fileList"_s);
     m_list->setAccessibleName(u"Files"_s);
-    m_list->setFilesEnabled(m_settings.canChooseFiles);
+    m_list->setFilesSelectable(m_settings.canChooseFiles);
     if (m_settings.allowsMultipleSelection)
         m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     panes->setStretchFactor(0, 0);
     panes->setStretchFactor(1, 1);
-    const int placesWidth = m_places->fontMetrics().averageCharWidth() * 24;
+    const int placesWidth = std::min(m_places->fontMetrics().averageCharWidth() * 24, width() * 3 / 10);
     panes->setSizes({placesWidth, 4 * placesWidth});
 
     m_notice = new QLabel(this);
@@ -142,12 +165,48 @@ void FileChooserDialog::build()
     layout->addWidget(panes, 1);
     layout->addWidget(m_notice);
     layout->addLayout(buttonRow);
-    resize(QSize(760, 520).boundedTo(screen()->availableSize() * 9 / 10));
 
     m_watch = new FolderWatch(this);
     m_refreshTimer = new QTimer(this);
     m_refreshTimer->setSingleShot(true);
     m_refreshTimer->setInterval(refreshDelay);
+    m_awaitTimer = new QTimer(this);
+    m_awaitTimer->setSingleShot(true);
+    m_awaitTimer->setInterval(awaitInterval);
+}
+
+QHBoxLayout* FileChooserDialog::makePathRow()
+{
+    const bool leftToRight = isLeftToRight();
+    const auto back = leftToRight ? u"go-previous"_s : u"go-next"_s;
+    const auto forward = leftToRight ? u"go-next"_s : u"go-previous"_s;
+    m_backButton = toolButton({"backButton", tr("Back"), u"Alt+Left"_s, back, QStyle::SP_ArrowBack}, this);
+    connect(m_backButton, &QToolButton::clicked, this, [this] { retrace(Trail::Back); });
+    m_forwardButton =
+        toolButton({"forwardButton", tr("Forward"), u"Alt+Right"_s, forward, QStyle::SP_ArrowForward}, this);
+    connect(m_forwardButton, &QToolButton::clicked, this, [this] { retrace(Trail::Forward); });
+    m_upButton = toolButton({"upButton", tr("Up"), u"Alt+Up"_s, u"go-up"_s, QStyle::SP_FileDialogToParent}, this);
+    connect(m_upButton, &QToolButton::clicked, this, &FileChooserDialog::goUp);
+    auto* homeButton =
+        toolButton({"homeButton", tr("Home"), u"Alt+Home"_s, u"go-home"_s, QStyle::SP_DirHomeIcon}, this);
+    connect(homeButton, &QToolButton::clicked, this, [this] { goTo(homeFolder()); });
+    m_location = new LocationField(m_settings.hiddenFiles, *m_settings.kinds, this);
+    m_location->setObjectName(u"pathField"_s);
+    m_location->setAccessibleName(tr("Location"));
+    m_location->setToolTip(tr("Location (Ctrl+L)"));
+    auto* newButton = toolButton(
+        {"newFolderButton", tr("New Folder"), u"Ctrl+Shift+N"_s, u"folder-new"_s, QStyle::SP_FileDialogNewFolder},
+        this);
+    connect(newButton, &QToolButton::clicked, this, &FileChooserDialog::makeFolder);
+    newButton->setVisible(m_settings.canChooseDirectories);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    for (QWidget* part : {static_cast<QWidget*>(m_backButton), static_cast<QWidget*>(m_forwardButton),
+                          static_cast<QWidget*>(m_upButton), static_cast<QWidget*>(homeButton),
+                          static_cast<QWidget*>(m_location), static_cast<QWidget*>(newButton)})
+        row->addWidget(part);
+    return row;
 }
 
 void FileChooserDialog::connectParts()
@@ -168,9 +227,21 @@ void FileChooserDialog::connectParts()
     connect(m_list, &FileList::entered, this, &FileChooserDialog::enterEntry);
     connect(m_list, &FileList::confirmed, this, &FileChooserDialog::confirmByKey);
     connect(m_list, &FileList::upRequested, this, &FileChooserDialog::goUp);
+    connect(m_list, &FileList::pathStarted, m_location, &LocationField::startPath);
+    connect(m_list, &FileList::customContextMenuRequested, this, &FileChooserDialog::showMenu);
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_confirmButton, &QPushButton::clicked, this, &FileChooserDialog::confirmByButton);
 
+    connect(m_refreshTimer, &QTimer::timeout, this, &FileChooserDialog::refresh);
+    connect(m_awaitTimer, &QTimer::timeout, this, [this] { std::exchange(m_awaited, {})(); });
+    connect(m_watch, &FolderWatch::changed, this, [this] {
+        if (!m_refreshTimer->isActive())
+            m_refreshTimer->start();
+    });
+}
+
+void FileChooserDialog::connectKeys()
+{
     const auto shortcut = [this](Qt::Key key, Qt::KeyboardModifiers modifiers, auto&& action) {
         auto* keys = new QShortcut(QKeySequence(QKeyCombination(modifiers, key)), this);
         connect(keys, &QShortcut::activated, this, std::forward<decltype(action)>(action));
@@ -179,31 +250,111 @@ void FileChooserDialog::connectParts()
         m_location->setFocus(Qt::ShortcutFocusReason);
         m_location->selectAll();
     });
+    shortcut(Qt::Key_Left, Qt::AltModifier, [this] { retrace(Trail::Back); });
+    shortcut(Qt::Key_Right, Qt::AltModifier, [this] { retrace(Trail::Forward); });
     shortcut(Qt::Key_Up, Qt::AltModifier, [this] { goUp(); });
     shortcut(Qt::Key_Home, Qt::AltModifier, [this] { goTo(homeFolder()); });
+    shortcut(Qt::Key_H, Qt::ControlModifier, [this] { toggleHiddenFiles(); });
+    shortcut(Qt::Key_Period, Qt::AltModifier, [this] { toggleHiddenFiles(); });
+    if (m_settings.canChooseDirectories)
+        shortcut(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier, [this] { makeFolder(); });
     shortcut(Qt::Key_F5, Qt::NoModifier, [this] { refresh(); });
-
-    connect(m_refreshTimer, &QTimer::timeout, this, &FileChooserDialog::refresh);
-    connect(m_watch, &FolderWatch::changed, this, [this] {
-        if (!m_refreshTimer->isActive())
-            m_refreshTimer->start();
-    });
 }
 
 void FileChooserDialog::openAtStart()
 {
-    if (!m_settings.directory) {
-        showFolder(nearestFolder(homeFolder()));
-        return;
-    }
-    const std::string path = normalizedPath(*m_settings.directory);
-    const bool showInParent = isFolder(path) ? m_settings.canChooseDirectories && path != "/" : exists(path);
-    if (showInParent) {
+    const bool isAsked = m_settings.directory.has_value();
+    const bool isRemembered =
+        !isAsked && !m_memory.folder.empty() && answers(m_memory.folder) && isFolder(m_memory.folder);
+    const std::string path = isAsked        ? normalizedPath(*m_settings.directory)
+                             : isRemembered ? m_memory.folder
+                                            : homeFolder();
+    if (!answers(path)) {
+        showFolder("/");
+        await(path, [this] { openAtStart(); });
+    } else if (const bool isFolderHere = isFolder(path);
+               isAsked && (isFolderHere ? m_settings.canChooseDirectories && path != "/" : exists(path))) {
         m_revealed = path;
         showFolder(parentFolder(path), fileName(path));
     } else {
         showFolder(nearestFolder(path));
     }
+    m_firstFolder = m_folder;
+}
+
+void FileChooserDialog::done(int result)
+{
+    m_awaitTimer->stop();
+    remember(result);
+    QDialog::done(result);
+}
+
+void FileChooserDialog::remember(int result) const
+{
+    ChooserMemory memory = m_memory;
+    if (size() != m_firstSize && !isMaximized())
+        memory.size = size();
+    if (result == Accepted && m_chosen.front() != m_folder)
+        memory.folder = parentFolder(m_chosen.front());
+    else if (result == Accepted)
+        memory.folder = m_folder;
+    if (memory != m_memory)
+        memory.keep();
+}
+
+bool FileChooserDialog::answers(const std::string& path)
+{
+    return m_settings.kinds->knownKindOf(path).has_value();
+}
+
+/// Until something else is gone to, or typed.
+void FileChooserDialog::await(const std::string& path, std::function<void()> then)
+{
+    // Said once, not each time that it is asked anew.
+    if (const QString words = tr("Waiting for “%1” to answer…").arg(fileNameText(path)); m_notice->text() != words)
+        notice(words);
+    m_awaited = std::move(then);
+    m_awaitTimer->start();
+}
+
+void FileChooserDialog::visit(const std::string& folder, const std::string& selected, Trail trail)
+{
+    if (!answers(folder)) {
+        await(folder, [this, folder, selected, trail] { visit(folder, selected, trail); });
+        return;
+    }
+    if (trail == Trail::New && folder != m_folder) {
+        m_back.push_back(m_folder);
+        m_forward.clear();
+    } else if (trail != Trail::New) {
+        auto& from = trail == Trail::Back ? m_back : m_forward;
+        auto& onto = trail == Trail::Back ? m_forward : m_back;
+        from.pop_back();
+        if (!isFolder(folder)) {
+            updateTrail();
+            notice(tr("“%1” cannot be found.").arg(fileNameText(folder)));
+            return;
+        }
+        onto.push_back(m_folder);
+    }
+    showFolder(folder, selected);
+}
+
+void FileChooserDialog::retrace(Trail trail)
+{
+    const std::vector<std::string>& from = trail == Trail::Back ? m_back : m_forward;
+    if (from.empty())
+        return;
+    const std::string folder = from.back();
+    const bool cameFromHere = m_folder != "/" && parentFolder(m_folder) == folder;
+    visit(folder, cameFromHere ? fileName(m_folder) : std::string(), trail);
+}
+
+void FileChooserDialog::updateTrail()
+{
+    m_backButton->setEnabled(!m_back.empty());
+    m_forwardButton->setEnabled(!m_forward.empty());
+    m_upButton->setEnabled(m_folder != "/");
 }
 
 void FileChooserDialog::showFolder(const std::string& folder, const std::string& selected)
@@ -215,7 +366,7 @@ void FileChooserDialog::showFolder(const std::string& folder, const std::string&
     m_list->showListing(readShownFolder(), selected);
     m_location->setFolder(folder);
     m_places->setFolder(folder);
-    m_upButton->setEnabled(folder != "/");
+    updateTrail();
     m_selectionVanished = false;
     notice({});
     updateConfirmButton();
@@ -230,6 +381,14 @@ FolderListing FileChooserDialog::readShownFolder() const
 void FileChooserDialog::refresh()
 {
     m_refreshTimer->stop();
+    if (!answers(m_folder)) {
+        await(m_folder, [this] {
+            if (answers(m_folder))
+                notice({});
+            refresh();
+        });
+        return;
+    }
     if (!isFolder(m_folder) && lookupError(m_folder) == 0) {
         const std::string gone = m_folder;
         showFolder(nearestFolder(m_folder));
@@ -256,13 +415,15 @@ void FileChooserDialog::tellVanished(const std::string& name)
 void FileChooserDialog::goUp()
 {
     if (m_folder != "/")
-        showFolder(parentFolder(m_folder), fileName(m_folder));
+        visit(parentFolder(m_folder), fileName(m_folder));
 }
 
 void FileChooserDialog::goTo(const std::string& path)
 {
-    if (isFolder(path)) {
-        showFolder(path);
+    if (!answers(path)) {
+        await(path, [this, path] { goTo(path); });
+    } else if (isFolder(path)) {
+        visit(path);
         m_list->setFocus();
     } else if (exists(path)) {
         choose({path});
@@ -284,7 +445,59 @@ void FileChooserDialog::openEntry(const FileEntry& entry)
 void FileChooserDialog::enterEntry(const FileEntry& entry)
 {
     if (entry.kind == FileEntry::Kind::Folder)
-        showFolder(pathInFolder(m_folder, entry.name));
+        visit(pathInFolder(m_folder, entry.name));
+}
+
+void FileChooserDialog::toggleHiddenFiles()
+{
+    const bool areListed = m_settings.hiddenFiles == HiddenFiles::Listed;
+    m_settings.hiddenFiles = areListed ? HiddenFiles::Left : HiddenFiles::Listed;
+    m_location->setHiddenFiles(m_settings.hiddenFiles);
+    if (!answers(m_folder)) {
+        refresh();
+        return;
+    }
+    // What is selected and hidden now was not lost.
+    static_cast<void>(m_list->refreshListing(readShownFolder()));
+    m_selectionVanished = false;
+    notice(areListed ? tr("Hidden files are not shown.") : tr("Hidden files are shown."));
+    updateConfirmButton();
+}
+
+void FileChooserDialog::makeFolder()
+{
+    auto* dialog = new NewFolderDialog(m_folder, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &NewFolderDialog::made, this, [this](const std::string& name) {
+        refresh();
+        m_list->select(name);
+        m_list->setFocus();
+    });
+    dialog->open();
+}
+
+void FileChooserDialog::showMenu(const QPoint& at)
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const std::vector<FileEntry> selected = m_list->selectedEntries();
+    if (selected.size() == 1) {
+        const FileEntry& entry = selected.front();
+        if (entry.kind == FileEntry::Kind::Folder)
+            menu->addAction(tr("Open"), this, [this, entry] { enterEntry(entry); });
+        menu->addAction(tr("Copy Location"), this, [path = pathInFolder(m_folder, entry.name)] {
+            QGuiApplication::clipboard()->setText(QString::fromStdString(path));
+        });
+        menu->addSeparator();
+    }
+    // The keys are the window's; the menu only says them.
+    if (m_settings.canChooseDirectories)
+        menu->addAction(tr("New Folder…") + u"\tCtrl+Shift+N"_s, this, &FileChooserDialog::makeFolder);
+    QAction* hidden =
+        menu->addAction(tr("Show Hidden Files") + u"\tCtrl+H"_s, this, &FileChooserDialog::toggleHiddenFiles);
+    hidden->setCheckable(true);
+    hidden->setChecked(m_settings.hiddenFiles == HiddenFiles::Listed);
+    menu->popup(m_list->viewport()->mapToGlobal(at));
 }
 
 bool FileChooserDialog::canChoose(const FileEntry& entry) const
@@ -309,7 +522,11 @@ void FileChooserDialog::updateConfirmButton()
 void FileChooserDialog::confirmByKey()
 {
     const std::vector<FileEntry> selected = m_list->selectedEntries();
-    if (selected.size() == 1 && !canChoose(selected.front()))
+    if (const std::optional<FileEntry> reached = m_list->unselectableEntry(); reached && selected.empty())
+        notice(reached->kind == FileEntry::Kind::File
+                   ? tr("“%1” is a file. Only folders can be chosen here.").arg(fileNameText(reached->name))
+                   : tr("“%1” leads to something that is not there.").arg(fileNameText(reached->name)));
+    else if (selected.size() == 1 && !canChoose(selected.front()))
         enterEntry(selected.front());
     else if (selected.empty() && canConfirm() && m_folder == m_firstFolder)
         // A key too many must not choose all that the chooser opens in.
@@ -325,7 +542,7 @@ void FileChooserDialog::confirmByButton()
         return confirm();
     // What was typed last is meant, not what the list shows.
     const std::string typed = m_location->path();
-    if (mayBeChosen(typed))
+    if (answers(typed) && mayBeChosen(typed))
         choose({typed});
     else
         goTo(typed);
@@ -350,6 +567,12 @@ bool FileChooserDialog::mayBeChosen(const std::string& path) const
 
 void FileChooserDialog::choose(std::vector<std::string> paths)
 {
+    for (const std::string& path : paths) {
+        if (!answers(path)) {
+            notice(tr("“%1” does not answer. It may be on a network share that is gone.").arg(fileNameText(path)));
+            return;
+        }
+    }
     const auto unusable =
         std::ranges::find_if_not(paths, [this](const std::string& path) { return mayBeChosen(path); });
     if (unusable == paths.end()) {
@@ -381,6 +604,7 @@ void FileChooserDialog::refuse(const std::string& path)
 
 void FileChooserDialog::notice(const QString& words)
 {
+    m_awaitTimer->stop();
     m_notice->setText(words);
     m_notice->setVisible(!words.isEmpty());
     if (words.isEmpty())

@@ -1,18 +1,25 @@
 #pragma once
 
+#include "platform/linux/chooser/ChooserMemory.h"
+#include "platform/linux/chooser/FileKinds.h"
 #include "platform/linux/chooser/FolderListing.h"
 
 #include <QDialog>
 #include <QString>
 
+#include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+class QHBoxLayout;
 class QLabel;
+class QPoint;
 class QPushButton;
 class QTimer;
+class QToolButton;
 
 namespace LinuxDesktop {
 
@@ -32,9 +39,13 @@ struct FileChooserSettings {
     bool canChooseDirectories = false;
     bool allowsMultipleSelection = false;
     HiddenFiles hiddenFiles = HiddenFiles::Left;
-    /// Where it opens; see NS::OpenPanel::setDirectoryURL. The home folder when not set.
+    /// Where it opens; see NS::OpenPanel::setDirectoryURL. When not set, the folder that was chosen from last, or the
+    /// home folder.
     std::optional<std::string> directory;
     Refusal refusal = [](const std::string&) { return QString(); };
+    /// Asked before a folder is gone to. It waits long enough for a disk to wake up.
+    std::shared_ptr<FileKinds> kinds =
+        std::make_shared<FileKinds>(recallFileKind, lookUpFileKind, std::chrono::seconds(1));
 };
 
 /// The window that files are chosen in. Accepted, it has chosen at least one item. Main thread.
@@ -47,14 +58,26 @@ public:
     /// The chosen items' paths, once accepted.
     [[nodiscard]] const std::vector<std::string>& chosen() const { return m_chosen; }
 
+    void done(int result) override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void build();
-    void connectParts();
-    void openAtStart();
+    enum class Trail { New, Back, Forward };
 
+    void build();
+    QHBoxLayout* makePathRow();
+    void connectParts();
+    void connectKeys();
+    void openAtStart();
+    void remember(int result) const;
+
+    [[nodiscard]] bool answers(const std::string& path);
+    void await(const std::string& path, std::function<void()> then);
+    void visit(const std::string& folder, const std::string& selected = {}, Trail trail = Trail::New);
+    void retrace(Trail trail);
+    void updateTrail();
     void showFolder(const std::string& folder, const std::string& selected = {});
     void goUp();
     void goTo(const std::string& path);
@@ -63,6 +86,9 @@ private:
     [[nodiscard]] FolderListing readShownFolder() const;
     void refresh();
     void tellVanished(const std::string& name);
+    void toggleHiddenFiles();
+    void makeFolder();
+    void showMenu(const QPoint& at);
 
     [[nodiscard]] bool canChoose(const FileEntry& entry) const;
     [[nodiscard]] bool canConfirm() const;
@@ -80,7 +106,14 @@ private:
     std::string m_firstFolder;
     std::string m_revealed;
     std::vector<std::string> m_chosen;
+    /// The folders that were shown before, and those that were gone back from; the nearest at the end.
+    std::vector<std::string> m_back;
+    std::vector<std::string> m_forward;
     bool m_selectionVanished = false;
+    const ChooserMemory m_memory = ChooserMemory::recall();
+    QSize m_firstSize;
+    /// What to do once a folder answers.
+    std::function<void()> m_awaited;
 
     QLabel* m_message;
     LocationField* m_location;
@@ -89,9 +122,12 @@ private:
     QLabel* m_notice;
     QPushButton* m_cancelButton;
     QPushButton* m_confirmButton;
-    QWidget* m_upButton;
+    QToolButton* m_backButton;
+    QToolButton* m_forwardButton;
+    QToolButton* m_upButton;
     FolderWatch* m_watch;
     QTimer* m_refreshTimer;
+    QTimer* m_awaitTimer;
 };
 
 } // namespace LinuxDesktop

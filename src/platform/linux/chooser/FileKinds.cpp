@@ -89,13 +89,13 @@ FileKinds::~FileKinds()
     m_shared->changed.notify_all();
 }
 
-FileKind FileKinds::kindOf(const std::string& path)
+std::optional<FileKind> FileKinds::knownKindOf(const std::string& path)
 {
     if (const auto known = m_recall(path))
-        return *known;
+        return known;
     std::unique_lock lock(m_shared->mutex);
     if (m_shared->asked)
-        return FileKind::Folder;
+        return std::nullopt;
     if (!m_started) {
         std::thread([shared = m_shared] { shared->answerQuestions(); }).detach();
         m_started = true;
@@ -104,7 +104,7 @@ FileKind FileKinds::kindOf(const std::string& path)
     m_shared->answer.reset();
     m_shared->changed.notify_all();
     m_shared->changed.wait_for(lock, m_patience, [this] { return m_shared->answer.has_value(); });
-    return m_shared->answer.value_or(FileKind::Folder);
+    return m_shared->answer;
 }
 
 } // namespace LinuxDesktop

@@ -32,8 +32,10 @@ public:
     FileKinds(const FileKinds&) = delete;
     FileKinds& operator=(const FileKinds&) = delete;
 
-    /// A folder where no answer came in time, and, without a wait, as long as an earlier answer is outstanding.
-    [[nodiscard]] FileKind kindOf(const std::string& path);
+    /// Nothing where no answer came in time, and, without a wait, as long as an earlier answer is outstanding.
+    [[nodiscard]] std::optional<FileKind> knownKindOf(const std::string& path);
+    /// The same, with a folder for nothing.
+    [[nodiscard]] FileKind kindOf(const std::string& path) { return knownKindOf(path).value_or(FileKind::Folder); }
 
 private:
     struct Shared;

@@ -1,5 +1,7 @@
 #include "platform/linux/chooser/FileList.h"
 
+#include "platform/linux/chooser/ModifiedText.h"
+#include "platform/linux/chooser/RowDelegate.h"
 #include "platform/linux/chooser/SoftSelection.h"
 
 #include <QDateTime>
@@ -8,10 +10,12 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
@@ -25,7 +29,10 @@ QString wordsFor(const FolderListing& listing)
 {
     switch (listing.error) {
     case 0:
-        return listing.entries.empty() ? u"This folder is empty."_s : QString();
+        if (!listing.entries.empty())
+            return {};
+        return listing.hidden == 0 ? u"This folder is empty."_s
+                                   : FileList::tr("All that is in this folder is hidden. Ctrl+H shows it.");
     case EACCES:
     case EPERM:
         return u"You do not have permission to see what is in this folder."_s;
@@ -48,6 +55,9 @@ FileList::FileList(QWidget* parent)
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideMiddle);
+    setIconSize(rowIconSize);
+    setItemDelegate(new RowDelegate(this));
+    setContextMenuPolicy(Qt::CustomContextMenu);
     setSortingEnabled(true);
     sortByColumn(FolderModel::Name, Qt::AscendingOrder);
     sizeColumns();
@@ -85,14 +95,28 @@ void FileList::sizeColumns()
     const auto widthFor = [this](const QString& text) {
         return fontMetrics().horizontalAdvance(text) + 4 * fontMetrics().averageCharWidth();
     };
-    const QDateTime longDate(QDate(2000, 12, 30), QTime(22, 58));
+    // The widest of what a date may read.
+    const QDateTime when(QDate(2000, 12, 30), QTime(22, 58));
+    const QLocale locale;
+    m_sizeWidth = widthFor(u"1000.0 MB"_s);
+    m_modifiedWidth =
+        std::max({widthFor(modifiedText(when, when, locale)), widthFor(modifiedText(when, when.addDays(1), locale)),
+                  widthFor(modifiedText(when, when.addDays(2), locale))});
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(FolderModel::Name, QHeaderView::Stretch);
     header()->setSectionResizeMode(FolderModel::Size, QHeaderView::Interactive);
     header()->setSectionResizeMode(FolderModel::Modified, QHeaderView::Interactive);
     header()->setMinimumSectionSize(widthFor(u"Mod"_s));
-    header()->resizeSection(FolderModel::Size, widthFor(u"1000.0 MB"_s));
-    header()->resizeSection(FolderModel::Modified, widthFor(QLocale().toString(longDate, QLocale::ShortFormat)));
+    header()->resizeSection(FolderModel::Size, m_sizeWidth);
+    header()->resizeSection(FolderModel::Modified, m_modifiedWidth);
+}
+
+void FileList::showColumnsThatFit()
+{
+    const int nameWidth = fontMetrics().averageCharWidth() * 30;
+    const auto fits = [&](int others) { return viewport()->width() >= nameWidth + others; };
+    setColumnHidden(FolderModel::Modified, !fits(m_modifiedWidth));
+    setColumnHidden(FolderModel::Size, !fits(m_modifiedWidth + m_sizeWidth));
 }
 
 void FileList::setListing(FolderListing listing)
@@ -107,9 +131,13 @@ void FileList::showListing(FolderListing listing, const std::string& selected)
     setListing(std::move(listing));
     clearSelection();
     setCurrentIndex({});
+    m_currentIsMeant = false;
     scrollToTop();
     if (select(selected))
         scrollTo(currentIndex(), PositionAtCenter);
+    else if (hasFocus())
+        // As focus would: it is seen, and read by a screen reader.
+        selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
 }
 
 std::vector<std::string> FileList::refreshListing(FolderListing listing)
@@ -154,28 +182,50 @@ bool FileList::select(const std::string& name)
     return true;
 }
 
+std::optional<FileEntry> FileList::unselectableEntry() const
+{
+    const QModelIndex current = currentIndex();
+    if (!m_currentIsMeant || !current.isValid() || (current.flags() & Qt::ItemIsSelectable))
+        return std::nullopt;
+    return m_model->entry(current.row());
+}
+
 void FileList::keyPressEvent(QKeyEvent* event)
 {
     const QModelIndex current = currentIndex();
     const bool down = event->key() == Qt::Key_Down;
+    const bool leadsToCurrent =
+        down || event->key() == Qt::Key_Up || (event->key() == Qt::Key_Home && current.row() == 0);
+    const bool leftToRight = isLeftToRight();
+    const Qt::Key outKey = leftToRight ? Qt::Key_Left : Qt::Key_Right;
+    const Qt::Key inKey = leftToRight ? Qt::Key_Right : Qt::Key_Left;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit confirmed();
-    } else if (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Left) {
+    } else if (event->key() == Qt::Key_Backspace || event->key() == outKey) {
         emit upRequested();
-    } else if (event->key() == Qt::Key_Right || (down && event->modifiers() == Qt::AltModifier)) {
+    } else if (event->key() == inKey || (down && event->modifiers() == Qt::AltModifier)) {
         if (selectionModel()->isSelected(current))
             emit entered(FileEntry(m_model->entry(current.row())));
-    } else if ((down || event->key() == Qt::Key_Up) && current.isValid() && !selectionModel()->hasSelection()) {
-        // Focus alone makes a row current; the first arrow key takes that row, not the one after it.
+    } else if (leadsToCurrent && (current.flags() & Qt::ItemIsSelectable) && !selectionModel()->hasSelection()) {
+        // Focus alone makes a row current; the first key takes that row, not the one after it.
         setCurrentIndex(current);
         selectionModel()->select(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     } else {
         QTreeView::keyPressEvent(event);
+        m_currentIsMeant = m_currentIsMeant || currentIndex() != current;
     }
 }
 
 void FileList::keyboardSearch(const QString& search)
 {
+    // No name has a slash in it, and "~" is how paths to one's own files start.
+    if (search == u'/' || search == u'~') {
+        emit pathStarted(search);
+        return;
+    }
+    // The search starts after the current row, which nobody has gone to yet.
+    if (!m_currentIsMeant && !selectionModel()->hasSelection())
+        selectionModel()->clearCurrentIndex();
     // The search is in the current cell's column, which a click chose.
     if (currentIndex().column() > FolderModel::Name)
         selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(FolderModel::Name),
@@ -189,11 +239,32 @@ void FileList::initViewItemOption(QStyleOptionViewItem* option) const
     softenSelection(*this, *option);
 }
 
+void FileList::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    // Else the current row shows the focus.
+    if (!hasFocus() || currentIndex().isValid())
+        return;
+    QPainter painter(viewport());
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.state |= QStyle::State_KeyboardFocusChange;
+    option.rect = viewport()->rect().adjusted(1, 1, -1, -1);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
 void FileList::mousePressEvent(QMouseEvent* event)
 {
     QTreeView::mousePressEvent(event);
-    if (!indexAt(event->position().toPoint()).isValid())
+    m_currentIsMeant = indexAt(event->position().toPoint()).isValid();
+    if (!m_currentIsMeant)
         clearSelection();
+}
+
+void FileList::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    showColumnsThatFit();
 }
 
 void FileList::showEvent(QShowEvent* event)

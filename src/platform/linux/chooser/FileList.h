@@ -4,6 +4,7 @@
 
 #include <QTreeView>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,8 +19,8 @@ class FileList : public QTreeView {
 public:
     explicit FileList(QWidget* parent = nullptr);
 
-    /// Files that are not enabled are listed, but cannot be selected.
-    void setFilesEnabled(bool enabled) { m_model->setFilesEnabled(enabled); }
+    /// Files that are not selectable are listed and can be reached all the same.
+    void setFilesSelectable(bool selectable) { m_model->setFilesSelectable(selectable); }
     /// Shows a folder's items from the top with `selected` selected and in sight, where it is among them.
     void showListing(FolderListing listing, const std::string& selected);
     /// Shows the same folder's items anew; what is selected stays so and the list stays where it is scrolled to.
@@ -27,34 +28,46 @@ public:
     std::vector<std::string> refreshListing(FolderListing listing);
 
     [[nodiscard]] std::vector<FileEntry> selectedEntries() const;
+    /// The item that the user went to and that cannot be selected.
+    [[nodiscard]] std::optional<FileEntry> unselectableEntry() const;
+    /// Selects the item of that name, if it is there.
+    bool select(const std::string& name);
 
 signals:
     /// Not for a refresh, which selects the same again.
     void selectionEdited();
     /// A double click on the item.
     void opened(const FileEntry& entry);
-    /// Right or Alt+Down on the item.
+    /// Right, where the text runs that way, or Alt+Down on the item.
     void entered(const FileEntry& entry);
     /// Enter.
     void confirmed();
     /// Backspace or Left.
     void upRequested();
+    /// The user typed what no name starts with but a path.
+    void pathStarted(const QString& text);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& search) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void setListing(FolderListing listing);
-    bool select(const std::string& name);
     void sizeColumns();
+    void showColumnsThatFit();
 
     FolderModel* m_model;
     QLabel* m_words;
     bool m_refreshing = false;
+    /// Whether the user went to the current row. Focus alone makes a row current too.
+    bool m_currentIsMeant = false;
+    int m_sizeWidth = 0;
+    int m_modifiedWidth = 0;
 };
 
 } // namespace LinuxDesktop

@@ -1,12 +1,17 @@
 #include "platform/linux/chooser/FolderListing.h"
 
+#include "platform/linux/chooser/FilePath.h"
 #include "platform/linux/system/FolderStream.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <fcntl.h>
 #include <optional>
 #include <string_view>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace LinuxDesktop {
 
@@ -18,6 +23,35 @@ std::optional<struct stat> statusOf(int folder, const char* name, int flags)
     if (::fstatat(folder, name, &status, flags | AT_NO_AUTOMOUNT) != 0)
         return {};
     return status;
+}
+
+std::string linkTarget(int folder, const char* name)
+{
+    std::array<char, PATH_MAX> target = {};
+    const ssize_t length = ::readlinkat(folder, name, target.data(), target.size());
+    return length < 0 ? std::string() : std::string(target.data(), static_cast<std::size_t>(length));
+}
+
+/// Whether to look at the item is to ask a network share. One inside a share answers if the folder did.
+bool asksShare(const std::string& folder, int descriptor, const dirent& item, const std::vector<Mount>& mounts)
+{
+    std::string path = pathInFolder(folder, item.d_name);
+    if (item.d_type == DT_LNK) {
+        const std::string target = linkTarget(descriptor, item.d_name);
+        path = normalizedPath(target.starts_with('/') ? target : pathInFolder(folder, target));
+    }
+    const Mount* share = networkShareOf(path, mounts);
+    return share && share != networkShareOf(folder, mounts);
+}
+
+FileEntry entryByName(const dirent& item)
+{
+    FileEntry entry;
+    entry.name = item.d_name;
+    entry.isLink = item.d_type == DT_LNK;
+    // What a share is mounted on is a folder, and what a link leads to there most likely.
+    entry.kind = item.d_type == DT_REG ? FileEntry::Kind::File : FileEntry::Kind::Folder;
+    return entry;
 }
 
 FileEntry entryFor(int folder, const dirent& item)
@@ -51,7 +85,8 @@ FileEntry entryFor(int folder, const dirent& item)
 
 } // namespace
 
-FolderListing readFolder(const std::string& folder, HiddenFiles hidden, const std::string& revealed)
+FolderListing readFolder(const std::string& folder, HiddenFiles hidden, const std::string& revealed,
+                         const std::vector<Mount>& mounts)
 {
     FolderListing listing;
     const FolderStream stream = openFolder(folder);
@@ -60,6 +95,7 @@ FolderListing readFolder(const std::string& folder, HiddenFiles hidden, const st
         return listing;
     }
     const int descriptor = ::dirfd(stream.get());
+    const bool anyShare = std::ranges::any_of(mounts, &Mount::isNetwork);
     for (;;) {
         errno = 0;
         const dirent* item = ::readdir(stream.get());
@@ -70,9 +106,12 @@ FolderListing readFolder(const std::string& folder, HiddenFiles hidden, const st
         const std::string_view name = item->d_name;
         if (name == "." || name == "..")
             continue;
-        if (name.starts_with('.') && hidden == HiddenFiles::Left && name != revealed)
+        if (name.starts_with('.') && hidden == HiddenFiles::Left && name != revealed) {
+            ++listing.hidden;
             continue;
-        listing.entries.push_back(entryFor(descriptor, *item));
+        }
+        const bool asks = anyShare && asksShare(folder, descriptor, *item, mounts);
+        listing.entries.push_back(asks ? entryByName(*item) : entryFor(descriptor, *item));
     }
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/linux/chooser/Mounts.h"
+
+#include <cstddef>
 #include <cstdint>
 #include <ctime>
 #include <string>
@@ -14,8 +17,8 @@ struct FileEntry {
     std::string name; // bytes
     Kind kind = Kind::File;
     bool isLink = false;
-    std::int64_t size = 0; // bytes; of files only
-    std::time_t modified = 0;
+    std::int64_t size = 0;    // bytes; of files only
+    std::time_t modified = 0; // 0 where it is not known
 
     friend bool operator==(const FileEntry&, const FileEntry&) = default;
 };
@@ -23,13 +26,16 @@ struct FileEntry {
 /// What a folder holds, in no order.
 struct FolderListing {
     std::vector<FileEntry> entries;
-    int error = 0; // errno's value where the folder could not be read to its end
+    std::size_t hidden = 0; // how many were left out
+    int error = 0;          // errno's value where the folder could not be read to its end
 };
 
 enum class HiddenFiles { Left, Listed };
 
-/// Reads the folder once. `revealed` is listed even if it is hidden. Any thread.
+/// Reads the folder once. `revealed` is listed even if it is hidden. What the folder has of network shares is listed
+/// by name alone, since a server that is gone would hold up all others. Any thread.
 [[nodiscard]] FolderListing readFolder(const std::string& folder, HiddenFiles hidden,
-                                       const std::string& revealed = {});
+                                       const std::string& revealed = {},
+                                       const std::vector<Mount>& mounts = LinuxDesktop::mounts());
 
 } // namespace LinuxDesktop

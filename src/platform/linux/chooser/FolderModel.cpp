@@ -1,10 +1,10 @@
 #include "platform/linux/chooser/FolderModel.h"
 
+#include "platform/linux/chooser/ModifiedText.h"
 #include "platform/linux/text/FileNameText.h"
 #include "platform/linux/text/SizeText.h"
 
 #include <QDateTime>
-#include <QFont>
 #include <QLocale>
 
 #include <algorithm>
@@ -30,19 +30,6 @@ QVariant alignment(int column)
 {
     const Qt::Alignment sideways = column == FolderModel::Name ? Qt::AlignLeft : Qt::AlignRight;
     return (sideways | Qt::AlignVCenter).toInt();
-}
-
-QString kindText(const FileEntry& entry)
-{
-    switch (entry.kind) {
-    case FileEntry::Kind::Folder:
-        return entry.isLink ? u"Link to a folder"_s : u"Folder"_s;
-    case FileEntry::Kind::File:
-        return entry.isLink ? u"Link to a file"_s : u"File"_s;
-    case FileEntry::Kind::BrokenLink:
-        break;
-    }
-    return u"Link to something that is not there"_s;
 }
 
 } // namespace
@@ -101,7 +88,41 @@ QString FolderModel::cellText(const Row& row, int column) const
         return {};
     if (column == Size)
         return entry.kind == FileEntry::Kind::Folder ? QString() : sizeText(static_cast<std::uint64_t>(entry.size));
-    return QLocale().toString(QDateTime::fromSecsSinceEpoch(entry.modified), QLocale::ShortFormat);
+    return entry.modified == 0
+               ? QString()
+               : modifiedText(QDateTime::fromSecsSinceEpoch(entry.modified), QDateTime::currentDateTime(), QLocale());
+}
+
+QString FolderModel::kindText(const Row& row) const
+{
+    switch (row.entry.kind) {
+    case FileEntry::Kind::Folder:
+        return row.entry.isLink ? tr("Link to a folder") : tr("Folder");
+    case FileEntry::Kind::File: {
+        if (row.entry.isLink)
+            return tr("Link to a file");
+        const QString kind = m_icons.kindName(row.text);
+        return kind.isEmpty() ? tr("File") : kind;
+    }
+    case FileEntry::Kind::BrokenLink:
+        break;
+    }
+    return tr("Link to something that is not there");
+}
+
+QString FolderModel::description(const Row& row) const
+{
+    QStringList parts = {kindText(row), cellText(row, Size), cellText(row, Modified)};
+    parts.removeAll(QString());
+    return parts.join(tr(", ", "between a file's kind, size and date"));
+}
+
+QString FolderModel::tooltip(const Row& row, int column) const
+{
+    if (column == Modified && row.entry.modified != 0)
+        return exactModifiedText(QDateTime::fromSecsSinceEpoch(row.entry.modified), QLocale());
+    // Marked as rich text, so that a name with angle brackets is not taken for it.
+    return column == Name ? u"<qt>"_s + row.text.toHtmlEscaped() + u"</qt>"_s : QString();
 }
 
 QVariant FolderModel::data(const QModelIndex& index, int role) const
@@ -115,15 +136,9 @@ QVariant FolderModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         return index.column() == Name ? QVariant(m_icons.iconFor(row.entry, row.text)) : QVariant();
     case Qt::ToolTipRole:
-        // Marked as rich text, so that a name with angle brackets is not taken for it.
-        return index.column() == Name ? QVariant(u"<qt>"_s + row.text.toHtmlEscaped() + u"</qt>"_s) : QVariant();
+        return tooltip(row, index.column());
     case Qt::AccessibleDescriptionRole:
-        return index.column() == Name ? QVariant(kindText(row.entry)) : QVariant();
-    case Qt::FontRole: {
-        QFont font;
-        font.setItalic(row.entry.isLink);
-        return row.entry.isLink ? QVariant(font) : QVariant();
-    }
+        return index.column() == Name ? QVariant(description(row)) : QVariant();
     case Qt::TextAlignmentRole:
         return alignment(index.column());
     default:
@@ -153,10 +168,12 @@ Qt::ItemFlags FolderModel::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
+    // Rows that cannot be selected are enabled, so that the arrow keys reach them and a screen reader reads them.
+    const Qt::ItemFlags reached = Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
     const FileEntry::Kind kind = entry(index.row()).kind;
-    if (kind == FileEntry::Kind::BrokenLink || (kind == FileEntry::Kind::File && !m_filesEnabled))
-        return Qt::ItemNeverHasChildren;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (kind == FileEntry::Kind::BrokenLink || (kind == FileEntry::Kind::File && !m_filesSelectable))
+        return reached;
+    return reached | Qt::ItemIsSelectable;
 }
 
 void FolderModel::sort(int column, Qt::SortOrder order)

@@ -25,7 +25,7 @@ public:
     explicit FolderModel(QObject* parent = nullptr);
 
     /// Before there are items.
-    void setFilesEnabled(bool enabled) { m_filesEnabled = enabled; }
+    void setFilesSelectable(bool selectable) { m_filesSelectable = selectable; }
     /// Shows these items. Does nothing when it shows just these already.
     void setEntries(std::vector<FileEntry> entries);
     [[nodiscard]] const FileEntry& entry(int row) const { return m_rows[static_cast<std::size_t>(row)].entry; }
@@ -47,12 +47,16 @@ private:
     };
 
     [[nodiscard]] QString cellText(const Row& row, int column) const;
+    [[nodiscard]] QString kindText(const Row& row) const;
+    /// What the row says after its name, for screen readers.
+    [[nodiscard]] QString description(const Row& row) const;
+    [[nodiscard]] QString tooltip(const Row& row, int column) const;
     void sortRows();
 
     std::vector<Row> m_rows;
     QCollator m_collator;
     mutable FileIcons m_icons;
-    bool m_filesEnabled = true;
+    bool m_filesSelectable = true;
     int m_sortColumn = Name;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };

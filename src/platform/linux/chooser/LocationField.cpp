@@ -1,5 +1,7 @@
 #include "platform/linux/chooser/LocationField.h"
 
+#include "platform/linux/chooser/FilePath.h"
+#include "platform/linux/chooser/Mounts.h"
 #include "platform/linux/chooser/TypedPath.h"
 #include "platform/linux/text/FileNameText.h"
 
@@ -10,9 +12,13 @@
 
 namespace LinuxDesktop {
 
-LocationField::LocationField(HiddenFiles hidden, QWidget* parent)
-    : QLineEdit(parent), m_hidden(hidden), m_proposals(new QStringListModel(this))
+using namespace Qt::StringLiterals;
+
+LocationField::LocationField(HiddenFiles hidden, FileKinds& kinds, QWidget* parent)
+    : QLineEdit(parent), m_hidden(hidden), m_kinds(kinds), m_proposals(new QStringListModel(this))
 {
+    // Paths run that way in every language.
+    setLayoutDirection(Qt::LeftToRight);
     auto* completer = new QCompleter(m_proposals, this);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(completer);
@@ -33,9 +39,42 @@ bool LocationField::isEdited() const
     return text() != fileNameText(m_folder);
 }
 
+void LocationField::setHiddenFiles(HiddenFiles hidden)
+{
+    m_hidden = hidden;
+    m_proposalsFolder.reset();
+}
+
+void LocationField::startPath(const QString& start)
+{
+    setFocus(Qt::ShortcutFocusReason);
+    selectAll();
+    QKeyEvent typed(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, start);
+    QLineEdit::keyPressEvent(&typed);
+}
+
 std::string LocationField::path() const
 {
-    return pathFromTypedText(text(), m_folder);
+    return pathOf(text()).value_or(literalPath(text()));
+}
+
+std::string LocationField::literalPath(const QString& typed) const
+{
+    const bool isHome = typed == u'~' || typed.startsWith(u"~/"_s);
+    const std::string path = (isHome ? typed.sliced(1) : typed).toStdString();
+    if (isHome)
+        return normalizedPath(homeFolder() + path);
+    return normalizedPath(path.starts_with('/') ? path : pathInFolder(m_folder, path));
+}
+
+std::optional<std::string> LocationField::pathOf(const QString& typed) const
+{
+    // To find the name that reads like a text its folder is read, which a share whose server is gone never ends.
+    const std::vector<Mount> mounted = mounts();
+    const Mount* share = networkShareOf(literalPath(typed), mounted);
+    if (share && !m_kinds.knownKindOf(share->folder))
+        return std::nullopt;
+    return pathFromTypedText(typed, m_folder);
 }
 
 bool LocationField::event(QEvent* event)
@@ -72,7 +111,9 @@ void LocationField::propose()
     m_proposalsFolder = folderText;
 
     QStringList proposals;
-    for (const FileEntry& entry : readFolder(pathFromTypedText(folderText, m_folder), m_hidden).entries) {
+    const std::optional<std::string> folder = pathOf(folderText);
+    const FolderListing listing = folder ? readFolder(*folder, m_hidden) : FolderListing();
+    for (const FileEntry& entry : listing.entries) {
         QString proposal = folderText + fileNameText(entry.name);
         if (entry.kind == FileEntry::Kind::Folder)
             proposal += u'/';

@@ -1,15 +1,18 @@
 #include "platform/linux/chooser/PlacesList.h"
 
+#include "platform/linux/chooser/Bookmarks.h"
+#include "platform/linux/chooser/FileIcons.h"
 #include "platform/linux/chooser/FilePath.h"
 #include "platform/linux/chooser/SoftSelection.h"
+#include "platform/linux/text/FileNameText.h"
 
 #include <QFile>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QStandardPaths>
-#include <QStyle>
 
 #include <array>
+#include <fcntl.h>
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -26,53 +29,80 @@ std::string folderOf(const QListWidgetItem& item)
 
 } // namespace
 
-PlacesList::PlacesList(QWidget* parent) : QListWidget(parent)
+PlacesList::PlacesList(std::string lastFolder, QWidget* parent)
+    : QListWidget(parent), m_lastFolder(std::move(lastFolder)),
+      m_mountTable(::open("/proc/self/mounts", O_RDONLY | O_CLOEXEC))
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
-    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    setIconSize(QSize(iconSize, iconSize));
+    setIconSize(rowIconSize);
+    fill();
+    connect(this, &QListWidget::itemClicked, this, &PlacesList::choose);
+    if (!m_mountTable)
+        return;
+    // The kernel tells of a change as an exceptional condition.
+    m_mountNotifier = std::make_unique<QSocketNotifier>(m_mountTable.get(), QSocketNotifier::Exception);
+    connect(m_mountNotifier.get(), &QSocketNotifier::activated, this, [this] {
+        const std::string shown = m_shown;
+        fill();
+        setFolder(shown);
+    });
+}
 
+void PlacesList::fill()
+{
+    clear();
+    m_mounts = mounts();
     struct UserFolder {
         QStandardPaths::StandardLocation location;
         QString title;
         QString iconName;
     };
     const std::array userFolders = {
-        UserFolder{QStandardPaths::DesktopLocation, u"Desktop"_s, u"user-desktop"_s},
-        UserFolder{QStandardPaths::DocumentsLocation, u"Documents"_s, u"folder-documents"_s},
-        UserFolder{QStandardPaths::DownloadLocation, u"Downloads"_s, u"folder-download"_s},
-        UserFolder{QStandardPaths::PicturesLocation, u"Pictures"_s, u"folder-pictures"_s},
-        UserFolder{QStandardPaths::MusicLocation, u"Music"_s, u"folder-music"_s},
-        UserFolder{QStandardPaths::MoviesLocation, u"Videos"_s, u"folder-videos"_s},
+        UserFolder{QStandardPaths::DesktopLocation, tr("Desktop"), u"user-desktop"_s},
+        UserFolder{QStandardPaths::DocumentsLocation, tr("Documents"), u"folder-documents"_s},
+        UserFolder{QStandardPaths::DownloadLocation, tr("Downloads"), u"folder-download"_s},
+        UserFolder{QStandardPaths::PicturesLocation, tr("Pictures"), u"folder-pictures"_s},
+        UserFolder{QStandardPaths::MusicLocation, tr("Music"), u"folder-music"_s},
+        UserFolder{QStandardPaths::MoviesLocation, tr("Videos"), u"folder-videos"_s},
     };
-    addPlace(u"Home"_s, u"user-home"_s, homeFolder());
+    addPlace({tr("Home"), {u"user-home"_s}, homeFolder()});
     for (const UserFolder& place : userFolders) {
         const QByteArray folder = QFile::encodeName(QStandardPaths::writableLocation(place.location));
-        addPlace(place.title, place.iconName, normalizedPath(folder.toStdString()));
+        addPlace({place.title, {place.iconName}, normalizedPath(folder.toStdString())});
     }
-    addPlace(u"File System"_s, u"drive-harddisk"_s, "/");
-
-    connect(this, &QListWidget::itemClicked, this, &PlacesList::choose);
+    if (!m_lastFolder.empty() && m_lastFolder != "/")
+        addPlace({tr("%1 (last used)").arg(fileNameText(fileName(m_lastFolder))),
+                  {u"folder-recent"_s, u"document-open-recent"_s},
+                  m_lastFolder});
+    for (const Place& bookmark : bookmarks())
+        addPlace(bookmark);
+    for (const Place& volume : volumesOf(m_mounts, homeFolder()))
+        addPlace(volume);
+    addPlace({tr("File System"), {u"drive-harddisk"_s}, "/"});
 }
 
-void PlacesList::addPlace(const QString& title, const QString& iconName, const std::string& folder)
+void PlacesList::addPlace(const Place& place)
 {
     // A user folder that is not set up is the home folder.
     for (int i = 0; i < count(); ++i) {
-        if (folderOf(*item(i)) == folder)
+        if (folderOf(*item(i)) == place.folder)
             return;
     }
-    if (!isFolder(folder))
+    // A share is shown without being asked whether it is there.
+    if (!networkShareOf(place.folder, m_mounts) && m_kinds.kindOf(place.folder) != FileKind::Folder)
         return;
-    const QIcon icon =
-        QIcon::fromTheme(iconName, QIcon::fromTheme(u"folder"_s, style()->standardIcon(QStyle::SP_DirIcon)));
-    auto* place = new QListWidgetItem(icon, title, this);
-    place->setData(FolderRole, QByteArray::fromStdString(folder));
+    auto* row = new QListWidgetItem(FileIcons::themed(place.icons + QStringList{u"folder"_s}, QStyle::SP_DirIcon),
+                                    place.title, this);
+    row->setData(FolderRole, QByteArray::fromStdString(place.folder));
+    const QString path = fileNameText(place.folder);
+    row->setToolTip(u"<qt>"_s + path.toHtmlEscaped() + u"</qt>"_s);
+    row->setData(Qt::AccessibleDescriptionRole, path);
 }
 
 void PlacesList::setFolder(const std::string& folder)
 {
+    m_shown = folder;
     for (int i = 0; i < count(); ++i) {
         if (folderOf(*item(i)) == folder) {
             setCurrentRow(i);

@@ -1,17 +1,26 @@
 #pragma once
 
-#include <QListWidget>
+#include "platform/linux/chooser/FileKinds.h"
+#include "platform/linux/chooser/Mounts.h"
+#include "platform/linux/chooser/Place.h"
+#include "platform/linux/system/FileDescriptor.h"
 
+#include <QListWidget>
+#include <QSocketNotifier>
+
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace LinuxDesktop {
 
-/// The user's own folders and the file system's root, as far as they exist. Main thread.
+/// The user's own folders, the folder of last time, bookmarks, mounted volumes and the file system's root, as far as
+/// they exist. Those whose file system does not answer are shown. Follows what is mounted. Main thread.
 class PlacesList : public QListWidget {
     Q_OBJECT
 
 public:
-    explicit PlacesList(QWidget* parent = nullptr);
+    explicit PlacesList(std::string lastFolder, QWidget* parent = nullptr);
 
     /// Highlights the place that is this folder, or none.
     void setFolder(const std::string& folder);
@@ -25,8 +34,17 @@ protected:
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
 private:
-    void addPlace(const QString& title, const QString& iconName, const std::string& folder);
+    void fill();
+    void addPlace(const Place& place);
     void choose(const QListWidgetItem* item);
+
+    const std::string m_lastFolder;
+    std::string m_shown;
+    FileKinds m_kinds;
+    std::vector<Mount> m_mounts;
+    FileDescriptor m_mountTable;
+    /// Goes before what it watches does.
+    std::unique_ptr<QSocketNotifier> m_mountNotifier;
 };
 
 } // namespace LinuxDesktop
