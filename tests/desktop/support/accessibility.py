@@ -22,7 +22,11 @@ _SCREEN_COORDINATES = 0
 _NULL = "/org/a11y/atspi/null"
 
 # Bits of the state set, by the protocol's numbers.
-_STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "selected": 23, "showing": 25}
+_STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "selectable": 22, "selected": 23,
+           "showing": 25}
+
+# Kinds of relation, by the protocol's numbers.
+_RELATIONS = {"label for": 1, "labelled by": 2, "controller for": 3, "controlled by": 4}
 
 # What lies in a control and is no control itself.
 _ITEMS = {"list item", "page tab", "tree item"}
@@ -37,6 +41,14 @@ class Accessible:
         self._connection = connection
         self._name = name
         self._path = path
+
+    @property
+    def bus_name(self):
+        return self._name
+
+    def at(self, path):
+        """Another object of the same program."""
+        return Accessible(self._connection, self._name, path)
 
     def __repr__(self):
         return f"<{self._name}{self._path}>"
@@ -53,6 +65,32 @@ class Accessible:
     @property
     def name(self):
         return self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Name")))[0]
+
+    @property
+    def path(self):
+        """What it is called by events."""
+        return self._path
+
+    @property
+    def description(self):
+        return self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Description")))[0]
+
+    @property
+    def parent(self):
+        name, path = self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Parent")))[0]
+        return Accessible(self._connection, name, path)
+
+    @property
+    def index(self):
+        """Its position in its parent, from 0."""
+        return self._call(_ACCESSIBLE, "GetIndexInParent")[0]
+
+    def related(self, *kinds):
+        """The objects that it has one of the relations to, or any."""
+        numbers = [_RELATIONS[kind] for kind in kinds]
+        return [Accessible(self._connection, name, path)
+                for number, targets in self._call(_ACCESSIBLE, "GetRelationSet")[0]
+                if not kinds or number in numbers for name, path in targets]
 
     @property
     def role(self):
@@ -118,7 +156,11 @@ class Accessible:
 
 def application(address, process_id):
     """The root of a process's tree. LookupError as long as the process has none."""
-    connection = _connection_to(address)
+    return application_of(_connection_to(address), process_id)
+
+
+def application_of(connection, process_id):
+    """The same, over a connection of one's own."""
     for name, path in call(connection, _REGISTRY, _ROOT, _ACCESSIBLE, "GetChildren")[0]:
         owner = call_bus(connection, "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
         if owner == process_id:

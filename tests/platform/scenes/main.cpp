@@ -1,4 +1,5 @@
-#include "platform/linux/scenes/Accessibility.h"
+#include "platform/linux/accessibility/Accessibility.h"
+#include "platform/linux/scenes/ListAccessibility.h"
 
 #include <QApplication>
 
@@ -12,5 +13,6 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     LinuxDesktop::installAccessibility();
+    LinuxDesktop::installListAccessibility();
     return RUN_ALL_TESTS();
 }
