@@ -31,6 +31,9 @@ _RELATIONS = {"label for": 1, "labelled by": 2, "controller for": 3, "controlled
 # What lies in a control and is no control itself.
 _ITEMS = {"list item", "page tab", "tree item"}
 
+# What only tells.
+_TEXTS = {"heading", "label", "paragraph"}
+
 Extents = namedtuple("Extents", "x y width height")
 
 
@@ -137,6 +140,10 @@ class Accessible:
 
     def all(self, role):
         return [found for found in self.descendants() if found.role == role]
+
+    def texts(self):
+        """What is written below it, in the order in which it is read."""
+        return [found.name for found in self.descendants() if found.role in _TEXTS and found.name]
 
     def find(self, role, name=None):
         """The first object of the role, and of the name where one is given; LookupError where there is none."""
