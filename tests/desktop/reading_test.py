@@ -23,7 +23,8 @@ ENABLED = "Orvik Menu Extension is enabled"
 
 class ReadingTestCase(DesktopTestCase):
     def assertReadsWell(self, window):
-        found = settled(lambda: faults(window))
+        # What goes while it is read is read anew.
+        found, = settled(lambda: eventually(lambda: (faults(window),), "the window to be read"))
         self.assertEqual(found, [], "\n".join(["", *outline(window)]))
 
     def listen(self, program):

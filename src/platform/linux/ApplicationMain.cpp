@@ -3,7 +3,7 @@
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/program/LastWords.h"
 #include "platform/linux/program/Program.h"
-#include "platform/linux/scenes/ListAccessibility.h"
+#include "platform/linux/scenes/Accessibility.h"
 #include "platform/linux/scenes/TabPages.h"
 #include "settings/Deployment.h"
 
@@ -77,7 +77,7 @@ void destroyWindows()
 int runPanel(Program& program, const NS::ClassTable& classes)
 {
     QApplication::setQuitOnLastWindowClosed(false);
-    installListAccessibility();
+    installAccessibility();
     LinuxPlatform platform(classes, Program::resources(), program.bus(), program.name());
     NS::installPlatform(&platform);
     startProblemWindowWhenFatal();

@@ -1,5 +1,5 @@
 #include "platform/linux/accessibility/Accessibility.h"
-#include "platform/linux/scenes/ListAccessibility.h"
+#include "platform/linux/scenes/Accessibility.h"
 
 #include <QApplication>
 
@@ -12,7 +12,7 @@ int main(int argc, char** argv)
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    LinuxDesktop::installAccessibleContainers();
     LinuxDesktop::installAccessibility();
-    LinuxDesktop::installListAccessibility();
     return RUN_ALL_TESTS();
 }

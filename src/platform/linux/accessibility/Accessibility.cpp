@@ -47,7 +47,7 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 
 } // namespace
 
-void installAccessibility()
+void installAccessibleContainers()
 {
     QAccessible::installFactory(makeInterface);
 }

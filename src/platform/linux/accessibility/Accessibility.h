@@ -11,7 +11,7 @@ namespace LinuxDesktop {
 // What assistive programs are told of widgets beside what the toolkit tells. Main thread.
 
 /// Makes containers groups, windows frames, and tells which tab is selected. Call it once there is an application.
-void installAccessibility();
+void installAccessibleContainers();
 
 /// Says what a widget is where its class does not: a heading, an alert, a list. NoRole is decoration, which is not
 /// told of. A group and an alert are named by the first heading right in them.

@@ -1,5 +1,6 @@
 #include "platform/linux/chooser/FileChooserDialog.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/chooser/FileList.h"
 #include "platform/linux/chooser/FilePath.h"
 #include "platform/linux/chooser/FolderWatch.h"
@@ -8,7 +9,6 @@
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
 
-#include <QAccessible>
 #include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -86,6 +86,7 @@ void FileChooserDialog::build()
     m_message->setObjectName(u"messageLabel"_s);
     setUpText(*m_message);
     m_message->setVisible(!m_settings.message.isEmpty());
+    tieWords(*m_message, *this);
 
     auto* upButton = toolButton(u"Up"_s, u"Alt+Up"_s, style()->standardIcon(QStyle::SP_FileDialogToParent), this);
     upButton->setObjectName(u"upButton"_s);
@@ -123,6 +124,7 @@ void FileChooserDialog::build()
     m_notice->setObjectName(u"noticeLabel"_s);
     setUpText(*m_notice);
     m_notice->hide();
+    tieWords(*m_notice, *this);
 
     m_cancelButton = new QPushButton(u"Cancel"_s, this);
     m_cancelButton->setObjectName(u"cancelButton"_s);
@@ -383,10 +385,8 @@ void FileChooserDialog::notice(const QString& words)
 {
     m_notice->setText(words);
     m_notice->setVisible(!words.isEmpty());
-    if (words.isEmpty())
-        return;
-    QAccessibleEvent alert(m_notice, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    describeByWords(*this);
+    announce(*this, words);
 }
 
 void FileChooserDialog::keyPressEvent(QKeyEvent* event)

@@ -91,7 +91,7 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     if (program.m_name.ownedByAnother())
         return program.activateOther();
 
-    installAccessibility();
+    installAccessibleContainers();
     const WindowSurroundings surroundings(program.m_bus, QCoreApplication::applicationDirPath());
     program.whenAskedToEnd([] { QCoreApplication::quit(); });
     // A process that is ending is not the one to be activated.

@@ -1,4 +1,4 @@
-#include "platform/linux/scenes/ListAccessibility.h"
+#include "platform/linux/scenes/Accessibility.h"
 
 #include "platform/linux/accessibility/AccessibleGroup.h"
 #include "platform/linux/scenes/RowList.h"
@@ -65,7 +65,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 
 } // namespace
 
-void installListAccessibility()
+void installAccessibility()
 {
     QAccessible::installFactory(makeInterface);
 }
