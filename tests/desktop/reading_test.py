@@ -275,6 +275,7 @@ class Changes(ReadingTestCase):
         self.window.find("check box").act("Toggle")
         eventually(lambda: f"Orvik Menu Extension: {RUNNING}" in listener.announced(), "the start to be announced")
         self.assertEqual(listener.empty_name_changes(), [])
+        self.assertEqual(listener.announced(), ["Orvik Menu Extension: Starting…", f"Orvik Menu Extension: {RUNNING}"])
         companion.kill(signal.SIGKILL)
         words = "Orvik Menu Extension: It is set to start at log-in, but it is not running."
         eventually(lambda: words in listener.announced(), "the end to be announced")

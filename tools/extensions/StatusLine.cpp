@@ -5,6 +5,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace ExtensionsTool {
 
 QLabel* makeText(const QString& text, QWidget* parent)
@@ -55,9 +57,15 @@ void StatusLine::tell(StatusDot::Tone tone, const QString& words)
     m_words->setText(words);
     if (QWidget* subject = LinuxDesktop::subjectOf(*m_words))
         LinuxDesktop::describeByWords(*subject);
-    const QAccessibleInterface* group = QAccessible::queryAccessibleInterface(parentWidget());
-    if (group && !before.isEmpty())
-        LinuxDesktop::announce(*this, tr("%1: %2").arg(group->text(QAccessible::Name), words));
+    if (!before.isEmpty() && !std::exchange(m_announces, true))
+        QMetaObject::invokeMethod(this, &StatusLine::announceWords, Qt::QueuedConnection);
+}
+
+void StatusLine::announceWords()
+{
+    m_announces = false;
+    if (const QAccessibleInterface* group = QAccessible::queryAccessibleInterface(parentWidget()))
+        LinuxDesktop::announce(*this, tr("%1: %2").arg(group->text(QAccessible::Name), m_words->text()));
 }
 
 } // namespace ExtensionsTool

@@ -22,12 +22,16 @@ public:
 
     /// Has the words describe a control, or the group, to assistive programs.
     void setSubject(QWidget& subject);
-    /// Words that take the place of others are said to those who do not see them, after the name of the group.
+    /// Words that take the place of others are said to those who do not see them, after the name of the group; of
+    /// several at once the last.
     void tell(StatusDot::Tone tone, const QString& words);
 
 private:
+    void announceWords();
+
     StatusDot* m_dot;
     QLabel* m_words;
+    bool m_announces = false;
 };
 
 } // namespace ExtensionsTool

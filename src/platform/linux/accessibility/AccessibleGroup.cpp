@@ -73,6 +73,17 @@ QAccessible::Role AccessibleGroup::role() const
     return role == QAccessible::Grouping && widget()->isWindow() ? QAccessible::Window : role;
 }
 
+QAccessible::State AccessibleGroup::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    // Then that one has the keyboard.
+    if (widget()->focusProxy()) {
+        state.focusable = false;
+        state.focused = false;
+    }
+    return state;
+}
+
 QList<QPair<QAccessibleInterface*, QAccessible::Relation>>
 AccessibleGroup::relations(QAccessible::Relation match) const
 {

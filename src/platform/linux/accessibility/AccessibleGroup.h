@@ -19,6 +19,7 @@ public:
     int indexOfChild(const QAccessibleInterface* child) const override;
     QString text(QAccessible::Text text) const override;
     QAccessible::Role role() const override;
+    QAccessible::State state() const override;
     QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(QAccessible::Relation match) const override;
 
     /// The heading that gives the group its name; null for none.
