@@ -57,7 +57,8 @@ void StatusLine::tell(StatusDot::Tone tone, const QString& words)
     m_words->setText(words);
     if (QWidget* subject = LinuxDesktop::subjectOf(*m_words))
         LinuxDesktop::describeByWords(*subject);
-    if (!before.isEmpty() && !std::exchange(m_announces, true))
+    // What comes into sight is no news.
+    if (isVisible() && !before.isEmpty() && !std::exchange(m_announces, true))
         QMetaObject::invokeMethod(this, &StatusLine::announceWords, Qt::QueuedConnection);
 }
 
