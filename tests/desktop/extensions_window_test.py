@@ -51,7 +51,7 @@ class ExtensionsWindow(DesktopTestCase):
         return self.window.find("check box", TITLE)
 
     def texts(self):
-        return [label.name for label in self.window.all("label")]
+        return self.window.texts()
 
     def companion(self):
         """The process that owns the companion's name; 0 for none."""
@@ -312,14 +312,10 @@ class Row:
     """A file manager in the list."""
 
     def __init__(self, window, name):
-        for group in window.all("filler"):
-            if name in (child.name for child in group.children if child.role == "label"):
-                self._group = group
-                return
-        raise LookupError(f"no {name} in the list")
+        self._group = window.find("panel", name)
 
     def texts(self):
-        return [label.name for label in self._group.all("label")]
+        return self._group.texts()
 
     def label(self, text):
         return self._group.find("label", text)

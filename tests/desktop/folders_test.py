@@ -71,13 +71,13 @@ class FoldersTestCase(DesktopTestCase):
         """The alert's window, which has the main window's title."""
         def find():
             for window in self.panel.windows():
-                if window.role in ("dialog", "alert") and window.name == message:
+                if window.role == "alert message" and window.name == message:
                     return window
             raise LookupError(message)
         return eventually(find, f"the alert “{message}”")
 
     def noAlert(self):
-        return all(window.role not in ("dialog", "alert") for window in self.panel.windows())
+        return all(window.role != "alert message" for window in self.panel.windows())
 
     def bookmarks(self, number):
         """The bookmarks in the file, once there are so many. They are all different."""

@@ -59,7 +59,7 @@ class MailFailures(DesktopTestCase):
             raise LookupError([window.name for window in self.panel.windows()])
 
         window = eventually(find, "the alert")
-        return window, [label.name for label in window.all("label") if label.name]
+        return window, window.texts()
 
     def assertNothingIsLeft(self):
         eventually(lambda: os.listdir(self.home.runtime) == [], "the archive to go")

@@ -19,8 +19,8 @@ from support.suite import as_text
 from support.waiting import eventually, throughout
 
 SWITCH = "ORVIK_MENU_NO_PROBLEM_WINDOW"
-TITLE = "Orvik Menu"
 STOPPED = "Orvik Menu had to stop"
+SETTINGS = "The settings of Orvik Menu"
 WRONG = "The list that says which folders are active does not match the list of folders."
 REMEDY = "A folder without an entry of its own becomes active. A copy of the settings as they are now is kept."
 CURE = "Repair Settings mends this. " + REMEDY
@@ -51,19 +51,20 @@ class Problem(DesktopTestCase):
     def problem_process(self):
         return self.process_of(APPLICATION + ".problem")
 
-    def active_window(self, name, title):
-        """The window of whoever owns a name on the bus, once it has the keyboard."""
+    def active_window(self, name, *titles):
+        """The window of whoever owns a name on the bus, once it has the keyboard; one of several names."""
         def find():
             root = accessibility.application(self.bus.accessibility_address, self.process_of(name))
-            return next((window for window in root.children if window.name == title and window.has("active")), None)
+            return next((window for window in root.children if window.name in titles and window.has("active")), None)
 
-        return eventually(find, f"the window “{title}” of {name}")
+        return eventually(find, f"the window “{titles}” of {name}")
 
     def problem_window(self):
-        return self.active_window(APPLICATION + ".problem", TITLE)
+        # An alert, which is called by what it tells.
+        return self.active_window(APPLICATION + ".problem", STOPPED, SETTINGS)
 
     def texts(self, window):
-        return [label.name for label in window.all("label") if label.name]
+        return window.texts()
 
     def store_what_does_not_match(self):
         self.suite.write(foldersArray=FOLDERS, foldersArraystate=[0])
@@ -99,7 +100,7 @@ class Problem(DesktopTestCase):
         self.stop_panel()
 
         window = self.problem_window()
-        self.assertEqual(window.role, "dialog")
+        self.assertEqual(window.role, "alert message")
         texts = self.texts(window)
         self.assertIn(STOPPED, texts)
         self.assertIn("What it said: foldersArraystate has no row 1", texts)

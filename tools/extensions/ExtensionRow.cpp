@@ -1,5 +1,7 @@
 #include "extensions/ExtensionRow.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -19,19 +21,25 @@ StatusDot::Tone toneOf(const ExtensionStatus& status)
 } // namespace
 
 ExtensionRow::ExtensionRow(ExtensionControl& control, const QIcon& icon, QWidget* parent)
-    : QWidget(parent), m_control(control), m_state(new StatusLine(this)), m_switch(new Switch(this))
+    : QWidget(parent), m_control(control)
 {
     const Extension& extension = control.extension();
     auto* picture = new QLabel(this);
     picture->setPixmap(icon.pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
-    auto* title = makeText(extension.title, this);
+    LinuxDesktop::setAccessibleRole(*picture, QAccessible::NoRole);
+    auto* title = makeHeading(extension.title, this);
     QFont font = title->font();
     font.setPointSizeF(font.pointSizeF() * 1.1);
     font.setWeight(QFont::DemiBold);
     title->setFont(font);
     auto* explanation = makeText(extension.explanation, this);
     explanation->setForegroundRole(QPalette::PlaceholderText);
+    // Made in the order in which they are read.
+    m_state = new StatusLine(this);
+    m_switch = new Switch(this);
     m_switch->setAccessibleName(extension.title);
+    LinuxDesktop::tieWords(*explanation, *m_switch);
+    m_state->setSubject(*m_switch);
     layOut(picture, title, explanation);
 
     connect(m_switch, &Switch::asked, &m_control, [this](bool on) {
@@ -67,12 +75,9 @@ void ExtensionRow::layOut(QLabel* picture, QLabel* title, QLabel* explanation)
 void ExtensionRow::showStatus()
 {
     const ExtensionStatus& status = m_control.status();
-    const QString words = inWords(status);
-    m_state->tell(toneOf(status), words);
+    m_state->tell(toneOf(status), inWords(status));
     m_switch->setOn(isOn(status));
     m_switch->setEnabled(status.hasBus);
-    // Who hears the switch rather than sees the row is told the whole of it.
-    m_switch->setAccessibleDescription(m_control.extension().explanation + u' ' + words);
 }
 
 } // namespace ExtensionsTool

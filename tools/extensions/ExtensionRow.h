@@ -23,8 +23,8 @@ private:
     void showStatus();
 
     ExtensionControl& m_control;
-    StatusLine* m_state;
-    Switch* m_switch;
+    StatusLine* m_state = nullptr;
+    Switch* m_switch = nullptr;
 };
 
 } // namespace ExtensionsTool

@@ -4,6 +4,7 @@
 #include "extensions/FileManagerSection.h"
 #include "extensions/LackingActionsSection.h"
 #include "extensions/StatusLine.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/look/Card.h"
 
 #include <QEvent>
@@ -30,6 +31,7 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
     introduction->setForegroundRole(QPalette::PlaceholderText);
 
     auto* card = new LinuxDesktop::Card(this);
+    LinuxDesktop::tieWords(*introduction, *card);
     auto* rows = new QVBoxLayout(card);
     rows->setContentsMargins(0, 0, 0, 0);
     for (ExtensionControl* control : controls)

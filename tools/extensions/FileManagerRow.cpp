@@ -1,5 +1,7 @@
 #include "extensions/FileManagerRow.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -20,12 +22,15 @@ StatusDot::Tone toneOf(const FileManagerStatus& status)
 } // namespace
 
 FileManagerRow::FileManagerRow(FileManagersControl& control, std::size_t index, QWidget* parent)
-    : QWidget(parent), m_control(control), m_index(index), m_state(new StatusLine(this)),
-      m_restart(new QPushButton(QStringLiteral("Restart"), this))
+    : QWidget(parent), m_control(control), m_index(index)
 {
     const QString name = nameOf(MenuExtension::fileManagers.at(index));
+    // Made in the order in which they are read.
+    auto* title = makeHeading(name, this);
+    m_state = new StatusLine(this);
+    m_state->setSubject(*this);
+    m_restart = new QPushButton(QStringLiteral("Restart"), this);
     m_restart->setAccessibleName(QStringLiteral("Restart %1").arg(name));
-    auto* title = makeText(name, this);
     QFont font = title->font();
     font.setWeight(QFont::DemiBold);
     title->setFont(font);
@@ -61,7 +66,7 @@ void FileManagerRow::showStatus()
     if (!offers)
         m_restart->clearFocus();
     m_restart->setVisible(offers);
-    m_restart->setAccessibleDescription(words);
+    LinuxDesktop::setAccessibleDescription(*m_restart, words);
     setVisible(isInstalled(status));
 }
 

@@ -23,8 +23,8 @@ private:
 
     FileManagersControl& m_control;
     const std::size_t m_index;
-    StatusLine* m_state;
-    QPushButton* m_restart;
+    StatusLine* m_state = nullptr;
+    QPushButton* m_restart = nullptr;
 };
 
 } // namespace ExtensionsTool

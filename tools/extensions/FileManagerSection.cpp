@@ -10,7 +10,7 @@ namespace ExtensionsTool {
 using MenuExtension::fileManagers;
 
 FileManagerSection::FileManagerSection(FileManagersControl& control, QWidget* parent)
-    : QWidget(parent), m_control(control), m_heading(makeText({}, this)), m_card(new LinuxDesktop::Card(this))
+    : QWidget(parent), m_control(control), m_heading(makeHeading({}, this)), m_card(new LinuxDesktop::Card(this))
 {
     m_heading->setForegroundRole(QPalette::PlaceholderText);
     auto* rows = new QVBoxLayout(m_card);

@@ -16,11 +16,12 @@ constexpr std::chrono::seconds pause{2};
 QWidget* makeRow(const LackingAction& action, QWidget* parent)
 {
     auto* const row = new QWidget(parent);
-    auto* const title = makeText(action.title, row);
+    auto* const title = makeHeading(action.title, row);
     QFont font = title->font();
     font.setWeight(QFont::DemiBold);
     title->setFont(font);
     auto* const state = new StatusLine(row);
+    state->setSubject(*row);
     state->tell(StatusDot::Tone::Attention, inWords(action));
     auto* const texts = new QVBoxLayout(row);
     texts->setContentsMargins(16, 12, 16, 12);
@@ -38,7 +39,7 @@ LackingActionsSection::LackingActionsSection(std::string programs, QWidget* pare
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
-    auto* const heading = makeText(QStringLiteral("Actions that are in no menu:"), this);
+    auto* const heading = makeHeading(QStringLiteral("Actions that are in no menu:"), this);
     heading->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(heading);
     setVisible(false);

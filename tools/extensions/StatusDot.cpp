@@ -1,5 +1,7 @@
 #include "extensions/StatusDot.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QPainter>
 
 namespace ExtensionsTool {
@@ -13,6 +15,7 @@ constexpr int extent = 9;
 StatusDot::StatusDot(QWidget* parent) : QWidget(parent)
 {
     setFixedSize(extent, extent);
+    LinuxDesktop::setAccessibleRole(*this, QAccessible::NoRole);
 }
 
 void StatusDot::setTone(Tone tone)

@@ -1,5 +1,6 @@
 #include "problem/ProblemWindow.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/store/Store.h"
 #include "repair/RepairDomain.h"
 #include "settings/Deployment.h"
@@ -80,23 +81,29 @@ QString headingFor(const QString& words)
 
 } // namespace
 
-ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon)
-    : m_panel(panel), m_mends(findMends()), m_trouble(new QLabel(this))
+ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon) : m_panel(panel), m_mends(findMends())
 {
     setWindowTitle(QStringLiteral("Orvik Menu"));
     auto* picture = new QLabel(this);
+    LinuxDesktop::setAccessibleRole(*this, QAccessible::AlertMessage);
+    LinuxDesktop::setAccessibleRole(*picture, QAccessible::NoRole);
     picture->setPixmap(icon.pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
     auto* heading = new QLabel(headingFor(panel.words()), this);
+    LinuxDesktop::setAccessibleRole(*heading, QAccessible::Heading);
     QFont font = heading->font();
     font.setPointSizeF(font.pointSizeF() * 1.25);
     font.setWeight(QFont::DemiBold);
     heading->setFont(font);
-    auto* quotation = new QLabel(quotationOf(panel.words()), this);
+    // Made in the order in which they are read.
     auto* reason = new QLabel(reasonFor(m_mends, panel.words()), this);
     auto* advice = new QLabel(adviceFor(m_mends, panel.words()), this);
     advice->setForegroundRole(QPalette::PlaceholderText);
-    for (QLabel* text : {quotation, reason, advice, m_trouble})
+    auto* quotation = new QLabel(quotationOf(panel.words()), this);
+    m_trouble = new QLabel(this);
+    for (QLabel* text : {reason, advice, quotation, m_trouble}) {
         text->setHidden(text->text().isEmpty());
+        LinuxDesktop::tieWords(*text, *this);
+    }
 
     auto* close = new QPushButton(QStringLiteral("Close"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -112,9 +119,6 @@ ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon)
     layOut(picture, {heading, reason, advice, quotation, m_trouble}, buttons);
     buttons.back()->setDefault(true);
     buttons.back()->setFocus();
-    // What is read out when the window comes.
-    setAccessibleDescription(heading->text() + QStringLiteral(". ") +
-                             QStringList{reason->text(), advice->text(), quotation->text()}.join(u' ').simplified());
 }
 
 void ProblemWindow::layOut(QLabel* picture, const std::vector<QLabel*>& texts,
@@ -190,7 +194,8 @@ void ProblemWindow::tell(const QString& trouble)
 {
     m_trouble->setText(trouble);
     m_trouble->show();
-    setAccessibleDescription(trouble);
+    LinuxDesktop::describeByWords(*this);
+    LinuxDesktop::announce(*this, trouble);
 }
 
 } // namespace ProblemTool

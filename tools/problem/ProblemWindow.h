@@ -29,7 +29,7 @@ private:
 
     const StoppedPanel& m_panel;
     const std::vector<Mend> m_mends;
-    QLabel* m_trouble;
+    QLabel* m_trouble = nullptr;
     std::vector<QPushButton*> m_remedies;
 };
 

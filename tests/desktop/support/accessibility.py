@@ -22,10 +22,17 @@ _SCREEN_COORDINATES = 0
 _NULL = "/org/a11y/atspi/null"
 
 # Bits of the state set, by the protocol's numbers.
-_STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "selected": 23, "showing": 25}
+_STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "selectable": 22, "selected": 23,
+           "showing": 25}
+
+# Kinds of relation, by the protocol's numbers.
+_RELATIONS = {"label for": 1, "labelled by": 2, "controller for": 3, "controlled by": 4}
 
 # What lies in a control and is no control itself.
 _ITEMS = {"list item", "page tab", "tree item"}
+
+# What only tells.
+_TEXTS = {"heading", "label", "paragraph"}
 
 Extents = namedtuple("Extents", "x y width height")
 
@@ -37,6 +44,14 @@ class Accessible:
         self._connection = connection
         self._name = name
         self._path = path
+
+    @property
+    def bus_name(self):
+        return self._name
+
+    def at(self, path):
+        """Another object of the same program."""
+        return Accessible(self._connection, self._name, path)
 
     def __repr__(self):
         return f"<{self._name}{self._path}>"
@@ -55,8 +70,30 @@ class Accessible:
         return self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Name")))[0]
 
     @property
+    def path(self):
+        """What it is called by events."""
+        return self._path
+
+    @property
     def description(self):
         return self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Description")))[0]
+
+    @property
+    def parent(self):
+        name, path = self._call(_PROPERTIES, "Get", GLib.Variant("(ss)", (_ACCESSIBLE, "Parent")))[0]
+        return Accessible(self._connection, name, path)
+
+    @property
+    def index(self):
+        """Its position in its parent, from 0."""
+        return self._call(_ACCESSIBLE, "GetIndexInParent")[0]
+
+    def related(self, *kinds):
+        """The objects that it has one of the relations to, or any."""
+        numbers = [_RELATIONS[kind] for kind in kinds]
+        return [Accessible(self._connection, name, path)
+                for number, targets in self._call(_ACCESSIBLE, "GetRelationSet")[0]
+                if not kinds or number in numbers for name, path in targets]
 
     @property
     def role(self):
@@ -104,6 +141,10 @@ class Accessible:
     def all(self, role):
         return [found for found in self.descendants() if found.role == role]
 
+    def texts(self):
+        """What is written below it, in the order in which it is read."""
+        return [found.name for found in self.descendants() if found.role in _TEXTS and found.name]
+
     def find(self, role, name=None):
         """The first object of the role, and of the name where one is given; LookupError where there is none."""
         for found in self.descendants():
@@ -122,7 +163,11 @@ class Accessible:
 
 def application(address, process_id):
     """The root of a process's tree. LookupError as long as the process has none."""
-    connection = _connection_to(address)
+    return application_of(_connection_to(address), process_id)
+
+
+def application_of(connection, process_id):
+    """The same, over a connection of one's own."""
     for name, path in call(connection, _REGISTRY, _ROOT, _ACCESSIBLE, "GetChildren")[0]:
         owner = call_bus(connection, "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
         if owner == process_id:

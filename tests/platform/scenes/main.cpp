@@ -1,3 +1,4 @@
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/scenes/Accessibility.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@ int main(int argc, char** argv)
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    LinuxDesktop::installAccessibleContainers();
     LinuxDesktop::installAccessibility();
     return RUN_ALL_TESTS();
 }

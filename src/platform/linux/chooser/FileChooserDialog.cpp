@@ -1,5 +1,6 @@
 #include "platform/linux/chooser/FileChooserDialog.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/chooser/FileList.h"
 #include "platform/linux/chooser/FilePath.h"
 #include "platform/linux/chooser/FolderWatch.h"
@@ -9,7 +10,6 @@
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -123,6 +123,7 @@ void FileChooserDialog::build()
     m_message->setObjectName(u"messageLabel"_s);
     setUpText(*m_message);
     m_message->setVisible(!m_settings.message.isEmpty());
+    tieWords(*m_message, *this);
 
     auto* pathRow = makePathRow();
 
@@ -146,6 +147,7 @@ void FileChooserDialog::build()
     m_notice->setObjectName(u"noticeLabel"_s);
     setUpText(*m_notice);
     m_notice->hide();
+    tieWords(*m_notice, *this);
 
     m_cancelButton = new QPushButton(u"Cancel"_s, this);
     m_cancelButton->setObjectName(u"cancelButton"_s);
@@ -607,10 +609,8 @@ void FileChooserDialog::notice(const QString& words)
     m_awaitTimer->stop();
     m_notice->setText(words);
     m_notice->setVisible(!words.isEmpty());
-    if (words.isEmpty())
-        return;
-    QAccessibleEvent alert(m_notice, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    describeByWords(*this);
+    announce(*this, words);
 }
 
 void FileChooserDialog::keyPressEvent(QKeyEvent* event)

@@ -1,5 +1,6 @@
 #include "platform/linux/program/Program.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/bus/ActivationToken.h"
 #include "platform/linux/program/DisplayConnection.h"
 #include "platform/linux/program/Resources.h"
@@ -90,6 +91,7 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     if (program.m_name.ownedByAnother())
         return program.activateOther();
 
+    installAccessibleContainers();
     const WindowSurroundings surroundings(program.m_bus, QCoreApplication::applicationDirPath());
     program.whenAskedToEnd([] { QCoreApplication::quit(); });
     // A process that is ending is not the one to be activated.

@@ -1,11 +1,11 @@
 #include "platform/linux/scenes/Accessibility.h"
 
-#include "platform/linux/scenes/CardWidget.h"
-#include "platform/linux/scenes/CollectionGrid.h"
+#include "platform/linux/accessibility/AccessibleGroup.h"
 #include "platform/linux/scenes/RowList.h"
 #include "platform/linux/scenes/RowWidget.h"
 
-#include <QAccessibleWidget>
+#include <QAbstractButton>
+#include <QLabel>
 
 namespace LinuxDesktop {
 
@@ -13,25 +13,12 @@ namespace {
 
 /// A list whose children are its rows in sight, or its words where it has none, without the widgets that only carry
 /// them.
-class AccessibleRowList : public QAccessibleWidget {
+class AccessibleRowList : public AccessibleGroup {
 public:
-    explicit AccessibleRowList(RowList& list) : QAccessibleWidget(&list, QAccessible::List) {}
+    explicit AccessibleRowList(RowList& list) : AccessibleGroup(list, QAccessible::List) {}
 
-    int childCount() const override { return static_cast<int>(parts().size()); }
-
-    QAccessibleInterface* child(int index) const override
-    {
-        const auto shown = parts();
-        return index >= 0 && index < shown.size() ? QAccessible::queryAccessibleInterface(shown.at(index)) : nullptr;
-    }
-
-    int indexOfChild(const QAccessibleInterface* child) const override
-    {
-        return child ? static_cast<int>(parts().indexOf(qobject_cast<QWidget*>(child->object()))) : -1;
-    }
-
-private:
-    QList<QWidget*> parts() const
+protected:
+    QList<QWidget*> parts() const override
     {
         const auto& list = *static_cast<RowList*>(widget());
         QList<QWidget*> parts;
@@ -43,24 +30,27 @@ private:
     }
 };
 
-class AccessibleRow : public QAccessibleWidget {
+/// A row has its controls alone, which have its title in their names.
+class AccessibleRow : public AccessibleGroup {
 public:
-    explicit AccessibleRow(RowWidget& row) : QAccessibleWidget(&row, QAccessible::ListItem) {}
-
-    QAccessibleInterface* parent() const override
-    {
-        // The row's widget lies in the list's viewport.
-        QWidget* viewport = widget()->parentWidget();
-        return viewport ? QAccessible::queryAccessibleInterface(viewport->parentWidget()) : nullptr;
-    }
+    explicit AccessibleRow(RowWidget& row) : AccessibleGroup(row, QAccessible::ListItem) {}
 
     QAccessible::State state() const override
     {
-        QAccessible::State state = QAccessibleWidget::state();
+        QAccessible::State state = AccessibleGroup::state();
         const std::optional<bool> selected = static_cast<const RowWidget*>(widget())->isSelected();
         state.selectable = selected.has_value();
         state.selected = selected.value_or(false);
         return state;
+    }
+
+protected:
+    QList<QWidget*> parts() const override
+    {
+        QList<QWidget*> parts;
+        for (QAbstractButton* control : static_cast<const RowWidget*>(widget())->controls())
+            parts.append(control);
+        return parts;
     }
 };
 
@@ -70,8 +60,6 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
         return new AccessibleRowList(*list);
     if (auto* row = qobject_cast<RowWidget*>(object))
         return new AccessibleRow(*row);
-    if (qobject_cast<CollectionGrid*>(object) || qobject_cast<CardWidget*>(object))
-        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     return nullptr;
 }
 

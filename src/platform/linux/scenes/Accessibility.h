@@ -2,8 +2,7 @@
 
 namespace LinuxDesktop {
 
-/// Tells assistive programs what our own widgets are: a list and its rows, a grid and its cards. Call once, before
-/// the first window.
+/// Tells assistive programs what a list and its rows are. Call once, before the first window.
 void installAccessibility();
 
 } // namespace LinuxDesktop

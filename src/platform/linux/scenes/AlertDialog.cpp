@@ -1,5 +1,7 @@
 #include "platform/linux/scenes/AlertDialog.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -36,6 +38,10 @@ AlertDialog::AlertDialog()
 {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     m_icon->setFixedSize(iconExtent, iconExtent);
+    setAccessibleRole(*this, QAccessible::AlertMessage);
+    setAccessibleRole(*m_icon, QAccessible::NoRole);
+    setAccessibleRole(*m_message, QAccessible::Heading);
+    tieWords(*m_information, *this);
 
     auto* texts = new QVBoxLayout;
     texts->setSpacing(8);
@@ -65,13 +71,12 @@ void AlertDialog::setIcon(const QString& iconName)
 void AlertDialog::setMessage(const QString& text)
 {
     showText(*m_message, text);
-    setAccessibleName(text);
 }
 
 void AlertDialog::setInformation(const QString& text)
 {
     showText(*m_information, text);
-    setAccessibleDescription(text);
+    describeByWords(*this);
     // The message is a headline where more is said below it.
     QFont font = m_message->font();
     font.setBold(!text.isEmpty());

@@ -12,7 +12,7 @@ class CardWidget : public Card {
     Q_PROPERTY(QString titleLabel MEMBER m_titleLabel)
 
 public:
-    using Card::Card;
+    explicit CardWidget(QWidget* parent = nullptr);
 
 protected:
     void showEvent(QShowEvent* event) override;

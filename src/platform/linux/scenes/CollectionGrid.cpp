@@ -1,6 +1,7 @@
 #include "platform/linux/scenes/CollectionGrid.h"
 
 #include "platform/FatalError.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/scenes/WidgetScene.h"
 
 #include <QAbstractButton>
@@ -46,6 +47,7 @@ CollectionGrid::CollectionGrid(QWidget* parent) : QWidget(parent)
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    setAccessibleRole(*this, QAccessible::List);
 }
 
 CollectionGrid::~CollectionGrid()

@@ -1,5 +1,6 @@
 #include "platform/linux/scenes/ImageWidget.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/scenes/ImageStore.h"
 
 #include <QPainter>
@@ -7,6 +8,11 @@
 #include <algorithm>
 
 namespace LinuxDesktop {
+
+ImageWidget::ImageWidget(QWidget* parent) : QWidget(parent)
+{
+    setAccessibleRole(*this, QAccessible::NoRole);
+}
 
 void ImageWidget::setImage(const std::optional<NS::Image>& image)
 {

@@ -16,7 +16,7 @@ class ImageWidget : public QWidget, public NS::ImageView {
     Q_PROPERTY(QString imageName MEMBER m_name)
 
 public:
-    using QWidget::QWidget;
+    explicit ImageWidget(QWidget* parent = nullptr);
 
     /// Where the pictures are drawn; must outlive the widget.
     void setStore(ImageStore& store) { m_store = &store; }

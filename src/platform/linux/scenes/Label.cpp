@@ -1,5 +1,6 @@
 #include "platform/linux/scenes/Label.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/text/FileNameText.h"
 
 #include <QApplication>
@@ -67,17 +68,41 @@ void Label::setTextStyle(const QString& style)
     font.setWeight(found->weight);
     setFont(font);
     setForegroundRole(found->role);
+    if (found->weight > QFont::Normal)
+        setAccessibleRole(*this, QAccessible::Heading);
 }
 
 void Label::setStringValue(std::string_view text)
 {
+    const QString before = this->text();
     setText(m_isFileName ? fileNameText(text) : QString::fromUtf8(text));
+    if (this->text() != before) {
+        if (QWidget* subject = subjectOf(*this))
+            describeByWords(*subject);
+        if (m_isAnnounced)
+            announce(*this, this->text());
+    }
     emit textChanged(QString::fromUtf8(text));
 }
 
 void Label::setToolTip(std::string_view text)
 {
     m_toolTip = fileNameText(text);
+    emit toolTipChanged(m_toolTip);
+}
+
+void Label::showEvent(QShowEvent* event)
+{
+    QLabel::showEvent(event);
+    QWidget* subject = m_subject.isEmpty() || subjectOf(*this) ? nullptr : this;
+    // Once the scene is whole.
+    while (subject && subject->objectName() != m_subject) {
+        QWidget* scene = subject->parentWidget();
+        auto* found = scene ? scene->findChild<QWidget*>(m_subject) : nullptr;
+        subject = found ? found : scene;
+    }
+    if (subject)
+        tieWords(*this, *subject);
 }
 
 QSize Label::minimumSizeHint() const

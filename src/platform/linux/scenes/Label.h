@@ -14,6 +14,10 @@ class Label : public QLabel, public NS::TextField {
     Q_PROPERTY(bool fileName MEMBER m_isFileName)
     /// "title", "heading" or "secondary"; any other is plain text.
     Q_PROPERTY(QString textStyle READ textStyle WRITE setTextStyle)
+    /// What it is about, by the name of a widget of the same scene, which assistive programs are told of it.
+    Q_PROPERTY(QString subject MEMBER m_subject)
+    /// Whether a change is said to those who do not see it.
+    Q_PROPERTY(bool announced MEMBER m_isAnnounced)
 
 public:
     explicit Label(QWidget* parent = nullptr);
@@ -28,9 +32,11 @@ public:
 
 signals:
     void textChanged(const QString& text);
+    void toolTipChanged(const QString& text);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
 
     /// Whether the text has more than its room.
@@ -40,6 +46,8 @@ protected:
 private:
     QString m_textStyle;
     QString m_toolTip;
+    QString m_subject;
+    bool m_isAnnounced = false;
     bool m_isFileName = false;
 };
 

@@ -1,5 +1,7 @@
 #include "platform/linux/scenes/Paragraph.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -8,6 +10,7 @@ namespace LinuxDesktop {
 Paragraph::Paragraph(QWidget* parent) : Label(parent)
 {
     setWordWrap(true);
+    setAccessibleRole(*this, QAccessible::Paragraph);
 }
 
 bool Paragraph::isCut() const

@@ -1,5 +1,6 @@
 #include "platform/linux/scenes/RowList.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/scenes/RowWidget.h"
 
 #include <QApplication>
@@ -35,6 +36,7 @@ RowList::RowList(QWidget* parent) : QAbstractScrollArea(parent), m_emptyLabel(ne
     m_emptyLabel->setWordWrap(true);
     m_emptyLabel->setTextFormat(Qt::PlainText);
     m_emptyLabel->hide();
+    tieWords(*m_emptyLabel, *this);
 }
 
 RowList::~RowList() = default;
@@ -72,6 +74,7 @@ void RowList::reloadData()
     m_loaded = true;
     m_rowCount = m_dataSource ? static_cast<int>(m_dataSource->numberOfRowsInTableView(*this)) : 0;
     m_emptyLabel->setVisible(m_rowCount == 0);
+    describeByWords(*this);
     m_selectedRow = std::min(m_selectedRow, m_rowCount - 1);
     updateScrollRange();
     layOutRows(Refill::AllRows);

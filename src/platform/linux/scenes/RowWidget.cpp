@@ -1,5 +1,6 @@
 #include "platform/linux/scenes/RowWidget.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/look/ThemeColors.h"
 #include "platform/linux/scenes/Label.h"
 
@@ -28,9 +29,14 @@ void RowWidget::prepare()
     }
     if (auto* title = findChild<Label*>()) {
         connect(title, &Label::textChanged, this, [this](const QString& text) {
-            setAccessibleName(text);
+            LinuxDesktop::setAccessibleName(*this, text);
             for (QAbstractButton* control : m_controls)
-                control->setAccessibleName(control->text().isEmpty() ? text : tr("%1 %2").arg(control->text(), text));
+                LinuxDesktop::setAccessibleName(
+                    *control, control->text().isEmpty() ? text : tr("%1 %2").arg(control->text(), text));
+        });
+        connect(title, &Label::toolTipChanged, this, [this](const QString& text) {
+            for (QAbstractButton* control : m_controls)
+                LinuxDesktop::setAccessibleDescription(*control, text);
         });
     }
     setCurrent(false);

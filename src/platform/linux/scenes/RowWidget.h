@@ -23,7 +23,8 @@ public:
     [[nodiscard]] NS::TableCellView* cell() const { return m_cell.get(); }
 
     /// Call once the row's widgets exist and those that its list does not use are hidden: finds the controls, and
-    /// gives each the row's title as its accessible name from now on, after the text that it shows.
+    /// gives each the row's title as its accessible name from now on, after the text that it shows, and the title's
+    /// tool tip as its description.
     void prepare();
     /// The row's controls from left to right.
     [[nodiscard]] const QList<QAbstractButton*>& controls() const { return m_controls; }

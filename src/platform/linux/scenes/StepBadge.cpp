@@ -1,5 +1,7 @@
 #include "platform/linux/scenes/StepBadge.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QEvent>
 #include <QPainter>
 
@@ -14,6 +16,7 @@ constexpr int extent = 32;
 StepBadge::StepBadge(QWidget* parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccessibleRole(*this, QAccessible::StaticText);
 }
 
 QSize StepBadge::sizeHint() const
@@ -31,19 +34,24 @@ void StepBadge::showEvent(QShowEvent* event)
     if (m_button)
         m_button->installEventFilter(this);
     tellState();
+    if (m_button)
+        tieWords(*this, *m_button);
 }
 
 bool StepBadge::eventFilter(QObject*, QEvent* event)
 {
-    if (event->type() == QEvent::EnabledChange)
+    if (event->type() == QEvent::EnabledChange) {
         tellState();
+        describeByWords(*m_button);
+        announce(*this, accessibleName());
+    }
     return false;
 }
 
 void StepBadge::tellState()
 {
     const bool done = m_button && !m_button->isEnabled();
-    setAccessibleName(tr(done ? "Step %1, done" : "Step %1, to do").arg(m_number));
+    LinuxDesktop::setAccessibleName(*this, tr(done ? "Step %1, done" : "Step %1, to do").arg(m_number));
     update();
 }
 

@@ -3,7 +3,9 @@
 #include "platform/FatalError.h"
 #include "platform/linux/scenes/WidgetScene.h"
 
+#include <QAccessible>
 #include <QShowEvent>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 namespace LinuxDesktop {
@@ -14,6 +16,25 @@ TabPages::TabPages(QWidget* parent) : QTabWidget(parent)
         if (isVisible())
             loadCurrentPage();
     });
+    tabBar()->setAccessibleName(tr("Pages"));
+    tabBar()->installEventFilter(this);
+}
+
+bool TabPages::eventFilter(QObject* watched, QEvent* event)
+{
+    // The toolkit tells that the bar has the keyboard, in which a tab has it.
+    if (watched == tabBar() && event->type() == QEvent::FocusIn)
+        QMetaObject::invokeMethod(this, &TabPages::tellFocusedTab, Qt::QueuedConnection);
+    return QTabWidget::eventFilter(watched, event);
+}
+
+void TabPages::tellFocusedTab()
+{
+    if (!tabBar()->hasFocus())
+        return;
+    QAccessibleEvent focus(tabBar(), QAccessible::Focus);
+    focus.setChild(currentIndex());
+    QAccessible::updateAccessibility(&focus);
 }
 
 void TabPages::selectTabViewItemAtIndex(int index)

@@ -27,9 +27,11 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void loadCurrentPage();
+    void tellFocusedTab();
 
     Loader m_loader;
     std::vector<std::shared_ptr<NS::ViewController>> m_screens;
