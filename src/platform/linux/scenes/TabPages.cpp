@@ -3,8 +3,11 @@
 #include "platform/FatalError.h"
 #include "platform/linux/scenes/WidgetScene.h"
 
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -14,6 +17,11 @@ TabPages::TabPages(QWidget* parent) : QTabWidget(parent)
         if (isVisible())
             loadCurrentPage();
     });
+    for (const auto& [keys, step] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
+        auto* shortcut = new QShortcut(Qt::ControlModifier | keys, this);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, step = step] { setCurrentIndex((currentIndex() + step + count()) % count()); });
+    }
 }
 
 void TabPages::selectTabViewItemAtIndex(int index)
