@@ -1,6 +1,7 @@
 #include "platform/linux/program/Program.h"
 
 #include "platform/linux/bus/ActivationToken.h"
+#include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/program/DisplayConnection.h"
 #include "platform/linux/program/Resources.h"
 #include "platform/linux/program/TerminationSignals.h"
@@ -119,10 +120,14 @@ void Program::whenAskedToEnd(std::function<void()> asked)
 
 int Program::show(QWidget& window)
 {
-    m_name.whenActivated([&window] { bringToFront(window); });
+    m_name.whenActivated([&window] {
+        QWidget* panel = QApplication::activeModalWidget();
+        bringToFront(panel ? *panel : window);
+    });
     // Another process may have become the program since this one looked.
     if (m_name.claim() == ApplicationName::Claim::OwnedByAnother)
         return activateOther();
+    fitToScreen(window);
     bringToFront(window);
     return QApplication::exec();
 }
@@ -137,6 +142,9 @@ int Program::activateOther()
 
 void bringToFront(QWidget& window)
 {
+    // A sheet is on view with its window only.
+    if (const QWidget* parent = window.parentWidget(); parent && parent->window()->isMinimized())
+        parent->window()->showNormal();
     if (window.isMinimized())
         window.showNormal();
     else

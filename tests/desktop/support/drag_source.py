@@ -1,0 +1,29 @@
+"""A window of another program that has something to drag, as file managers offer it: a program of its own.
+
+Usage: drag_source.py ADDRESS...
+"""
+
+import sys
+
+import gi
+
+gi.require_version("Gtk", "3.0")
+# pylint: disable-next=wrong-import-position
+from gi.repository import Gdk, Gtk
+
+SIZE = 80
+
+
+def main():
+    handle = Gtk.EventBox()
+    handle.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [], Gdk.DragAction.COPY | Gdk.DragAction.MOVE)
+    handle.drag_source_add_uri_targets()
+    handle.connect("drag-data-get", lambda widget, context, data, info, time: data.set_uris(sys.argv[1:]))
+    window = Gtk.Window(default_width=SIZE, default_height=SIZE)
+    window.add(handle)
+    window.show_all()
+    Gtk.main()
+
+
+if __name__ == "__main__":
+    main()
