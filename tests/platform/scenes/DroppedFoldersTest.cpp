@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace {
@@ -27,6 +28,9 @@ protected:
         window.resize(300, 200);
         window.show();
     }
+
+    // The toolkit cannot remove what has a name that is no text.
+    ~DroppedFoldersTest() override { std::filesystem::remove_all(files.path().toStdString()); }
 
     std::string makeFolder(const QByteArray& name)
     {
@@ -65,6 +69,7 @@ protected:
     }
     bool drop(const QMimeData& data)
     {
+        enter(data);
         QDropEvent event({20, 20}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(list.viewport(), &event);
         const bool accepted = event.isAccepted();

@@ -427,7 +427,7 @@ TEST_F(RowListFixture, ARowThatHasTheKeyboardItselfShowsIt)
     show(2);
     RowWidget* row = list.rowsInSight().at(1);
     const QImage without = row->grab().toImage();
-    row->setFocus();
+    row->setFocus(Qt::TabFocusReason);
     EXPECT_NE(row->grab().toImage(), without);
 }
 

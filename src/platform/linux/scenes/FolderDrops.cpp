@@ -35,6 +35,8 @@ protected:
         QPainter painter(this);
         QStyleOptionFocusRect ring;
         ring.initFrom(this);
+        // Styles show a focus to those only who use the keyboard.
+        ring.state |= QStyle::State_KeyboardFocusChange;
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
     }
 };

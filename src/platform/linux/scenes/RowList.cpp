@@ -414,8 +414,8 @@ void RowList::mousePressEvent(QMouseEvent* event)
 
 void RowList::keyPressEvent(QKeyEvent* event)
 {
-    if (m_rowCount == 0 || !hasFocus() || !handleKey(*event, 0))
-        QAbstractScrollArea::keyPressEvent(event);
+    // Those that a row leaves alone come by here, and would scroll it away.
+    event->setAccepted(m_rowCount > 0 && hasFocus() && handleKey(*event, 0));
 }
 
 void RowList::focusInEvent(QFocusEvent* event)
