@@ -5,11 +5,16 @@
 
 namespace LinuxDesktop {
 
-void fitToScreen(QWidget& window)
+QSize roomOnScreen(const QWidget& window)
 {
     // What a window manager's frame takes, which is not known before the window shows.
     constexpr QSize frame(16, 48);
-    const QSize room = window.screen()->availableSize() - frame;
+    return window.screen()->availableSize() - frame;
+}
+
+void fitToScreen(QWidget& window)
+{
+    const QSize room = roomOnScreen(window);
     window.setMinimumSize(window.minimumSize().boundedTo(room));
     window.resize(window.size().boundedTo(room));
 }

@@ -290,7 +290,13 @@ void RowList::moveTo(int row, qsizetype control, Qt::FocusReason reason)
 
 bool RowList::handleKey(const QKeyEvent& pressed, qsizetype control)
 {
-    const std::optional<int> row = rowThatKeyLeadsTo(pressed);
+    std::optional<int> row = rowThatKeyLeadsTo(pressed);
+    // Who goes elsewhere has found what was typed.
+    if (row)
+        m_typeAhead = {};
+    else
+        row =
+            m_typeAhead.find(pressed, m_currentRow, m_rowCount, [this](int number) { return typedTitleOf(number); });
     if (row) {
         moveTo(*row, control);
         selectRow(m_currentRow);
@@ -302,8 +308,7 @@ bool RowList::handleKey(const QKeyEvent& pressed, qsizetype control)
 std::optional<int> RowList::rowThatKeyLeadsTo(const QKeyEvent& pressed)
 {
     const int page = std::max(1, viewport()->height() / std::max(rowHeight(), 1) - 1);
-    const bool isPlain = (pressed.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    switch (isPlain ? pressed.key() : int{Qt::Key_unknown}) {
+    switch (pressed.key()) {
     case Qt::Key_Up:
         return m_currentRow - 1;
     case Qt::Key_Down:
@@ -317,7 +322,7 @@ std::optional<int> RowList::rowThatKeyLeadsTo(const QKeyEvent& pressed)
     case Qt::Key_End:
         return m_rowCount - 1;
     default:
-        return m_typeAhead.find(pressed, m_currentRow, m_rowCount, [this](int row) { return typedTitleOf(row); });
+        return std::nullopt;
     }
 }
 
