@@ -114,6 +114,7 @@ class SmallScreen(WindowSizeTestCase):
         self.panel.active_window("Extensions")
 
         self.assertOnTheScreen()
+        self.save_picture("extensions-small-screen")
 
     def assertOnTheScreen(self):
         for window in self.windows.of_process(self.panel.process_id):

@@ -25,6 +25,8 @@ FileManagerRow::FileManagerRow(FileManagersControl& control, std::size_t index, 
 {
     const QString name = nameOf(MenuExtension::fileManagers.at(index));
     m_restart->setAccessibleName(QStringLiteral("Restart %1").arg(name));
+    // Enter presses it as well.
+    m_restart->setAutoDefault(true);
     auto* title = makeText(name, this);
     QFont font = title->font();
     font.setWeight(QFont::DemiBold);
