@@ -63,8 +63,8 @@ class Silent : public NS::ViewController {
 public:
     void connect(NS::Connections& connections) override
     {
-        for (const char* action : {"btnAddItems:", "btnremoveitem:", "btnopenSystemPrefrences:", "showiconinmenu:", "showinSubmenu:", "btnfacebook:",
-                                   "btntwitter:", "btnweb:", "btnRateusClciked:"})
+        for (const char* action : {"btnAddItems:", "btnremoveitem:", "btnopenSystemPrefrences:", "showiconinmenu:",
+                                   "showinSubmenu:", "btnfacebook:", "btntwitter:", "btnweb:", "btnRateusClciked:"})
             connections.action(action, [](NS::Control&) {});
     }
 };
