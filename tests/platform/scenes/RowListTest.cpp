@@ -448,6 +448,17 @@ TEST_F(RowListFixture, TypedLettersLeadToARowOutOfSight)
     EXPECT_FALSE(states.at(0));
 }
 
+TEST_F(RowListFixture, WhoGoesElsewhereBeginsAnewToType)
+{
+    show(30);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    for (const char letter : std::string_view("row 2"))
+        QTest::keyClick(QApplication::focusWidget(), letter);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), 'r');
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 4"));
+}
+
 TEST_F(RowListFixture, AnEmptyListSaysSoInWords)
 {
     show(0);
