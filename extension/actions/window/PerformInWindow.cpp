@@ -36,7 +36,7 @@ class WindowRunner : public QObject {
 public:
     explicit WindowRunner(std::unique_ptr<QWidget> window) : m_window(std::move(window))
     {
-        fitToScreen(*m_window);
+        LinuxDesktop::fitToScreen(*m_window);
         m_window->show();
         m_window->raise();
         m_window->activateWindow();
