@@ -87,6 +87,7 @@ packages_style=(
 packages_tests_desktop=(
   at-spi2-core
   dbus-x11
+  gir1.2-gtk-3.0
   libglib2.0-bin
   nemo
   python3-dbus

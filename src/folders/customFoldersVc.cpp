@@ -52,14 +52,19 @@ NS::TableCellView* customFoldersVc::tableView_viewForTableColumn_row(NS::TableVi
     auto* cell = dynamic_cast<tblcell*>(tableView.makeViewWithIdentifier_owner("tblcell", nullptr));
     if (!cell)
         return nullptr;
-    requireRow(row);
-    const NS::URL url = NS::URL::fileURLWithPath(arrCustomFolders[static_cast<std::size_t>(row)]);
+    const NS::URL url = urlAt(row);
     cell->lbltitle->setStringValue(url.lastPathComponent());
     cell->lbltitle->setToolTip(url.path());
     cell->imgview->setImage(NS::platform().sharedWorkspace().iconForFile(url.path()));
     cell->btnDelete->setTag(row);
     cell->btnDelete->setAction([this](NS::Control& sender) { brnDeleteClickedWithSender(sender); });
     return cell;
+}
+
+std::string customFoldersVc::tableView_typeSelectStringForTableColumn_row(NS::TableView&, const NS::TableColumn*,
+                                                                          std::ptrdiff_t row)
+{
+    return urlAt(row).lastPathComponent();
 }
 
 void customFoldersVc::brnDeleteClickedWithSender(NS::Control& sender)
@@ -69,6 +74,12 @@ void customFoldersVc::brnDeleteClickedWithSender(NS::Control& sender)
     if (sharedDefaults)
         store(arrCustomFolders, *sharedDefaults, Settings::arrCustomFoldersUrls.key);
     tblview->reloadData();
+}
+
+NS::URL customFoldersVc::urlAt(std::ptrdiff_t row) const
+{
+    requireRow(row);
+    return NS::URL::fileURLWithPath(arrCustomFolders[static_cast<std::size_t>(row)]);
 }
 
 void customFoldersVc::requireRow(std::ptrdiff_t row) const

@@ -3,6 +3,7 @@
 #include "platform/Control.h"
 #include "platform/Outlet.h"
 #include "platform/TableView.h"
+#include "platform/URL.h"
 #include "platform/UserDefaults.h"
 #include "platform/ViewController.h"
 
@@ -25,6 +26,9 @@ public:
     std::ptrdiff_t numberOfRowsInTableView(NS::TableView& tableView) override;
     NS::TableCellView* tableView_viewForTableColumn_row(NS::TableView& tableView, const NS::TableColumn* tableColumn,
                                                         std::ptrdiff_t row) override;
+    std::string tableView_typeSelectStringForTableColumn_row(NS::TableView& tableView,
+                                                             const NS::TableColumn* tableColumn,
+                                                             std::ptrdiff_t row) override;
     /// Deletes the entry that the sender's tag names, without a question. Another tag is fatal.
     void brnDeleteClickedWithSender(NS::Control& sender);
 
@@ -34,5 +38,6 @@ public:
     std::vector<std::string> arrCustomFolders;
 
 private:
+    [[nodiscard]] NS::URL urlAt(std::ptrdiff_t row) const;
     void requireRow(std::ptrdiff_t row) const;
 };

@@ -9,6 +9,7 @@
 #include "ui/FolderPanel.h"
 #include "ui/tblcell.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -58,10 +59,23 @@ void foldersArrvc::addChosenFolder(const NS::OpenPanel& panel)
     const auto url = panel.URL();
     if (!url)
         NS::fatalError("the panel was confirmed without a folder");
-    if (folders.add(*url) == MonitoredFolders::Added::AlreadyPresent)
-        alertFolderAlreadyAdded();
-    else
+    addFolders({*url});
+}
+
+void foldersArrvc::addFolders(const std::vector<NS::URL>& urls)
+{
+    const auto present = std::ranges::count_if(
+        urls, [&](const NS::URL& url) { return folders.add(url) == MonitoredFolders::Added::AlreadyPresent; });
+    if (present < std::ssize(urls))
         tblview->reloadData();
+    if (present > 0)
+        alertFolderAlreadyAdded();
+}
+
+void foldersArrvc::tableView_acceptDrop(NS::TableView&, const std::vector<NS::URL>& dropped)
+{
+    NS::print(listed(dropped));
+    addFolders(dropped);
 }
 
 void foldersArrvc::btnremoveitem(NS::Control&)
@@ -130,6 +144,12 @@ NS::TableCellView* foldersArrvc::tableView_viewForTableColumn_row(NS::TableView&
     cell->checkbox->setTag(row);
     cell->checkbox->setAction([this](NS::Control& sender) { checkboxActionWithSender(sender); });
     return cell;
+}
+
+std::string foldersArrvc::tableView_typeSelectStringForTableColumn_row(NS::TableView&, const NS::TableColumn*,
+                                                                       std::ptrdiff_t row)
+{
+    return NS::URL::fileURLWithPath(folders.pathAt(row)).lastPathComponent();
 }
 
 void foldersArrvc::checkboxActionWithSender(NS::Control& sender)

@@ -10,6 +10,7 @@
 #include "platform/ViewController.h"
 
 #include <memory>
+#include <vector>
 
 class ControllerRegistry;
 
@@ -35,9 +36,13 @@ public:
     void OKalert();
     void Cancelalert();
     std::ptrdiff_t numberOfRowsInTableView(NS::TableView& tableView) override;
+    void tableView_acceptDrop(NS::TableView& tableView, const std::vector<NS::URL>& dropped) override;
     void alertFolderAlreadyAdded();
     NS::TableCellView* tableView_viewForTableColumn_row(NS::TableView& tableView, const NS::TableColumn* tableColumn,
                                                         std::ptrdiff_t row) override;
+    std::string tableView_typeSelectStringForTableColumn_row(NS::TableView& tableView,
+                                                             const NS::TableColumn* tableColumn,
+                                                             std::ptrdiff_t row) override;
     /// Flips the flag of the row that the sender's tag names.
     void checkboxActionWithSender(NS::Control& sender);
 
@@ -50,6 +55,7 @@ public:
 
 private:
     void addChosenFolder(const NS::OpenPanel& panel);
+    void addFolders(const std::vector<NS::URL>& urls);
     void endAlert();
     [[nodiscard]] const NS::Outlet<NS::Window>& mainWindow();
 

@@ -52,6 +52,12 @@ NS::TableCellView* ViewController::tableView_viewForTableColumn_row(NS::TableVie
     return cell;
 }
 
+std::string ViewController::tableView_typeSelectStringForTableColumn_row(NS::TableView&, const NS::TableColumn*,
+                                                                         std::ptrdiff_t row)
+{
+    return menuItemTitle(itemAt(row));
+}
+
 void ViewController::checkboxActionWithSender(NS::Control& sender)
 {
     toggleMenuItem(itemAt(sender.tag()));

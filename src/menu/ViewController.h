@@ -27,6 +27,9 @@ public:
     std::ptrdiff_t numberOfRowsInTableView(NS::TableView& tableView) override;
     NS::TableCellView* tableView_viewForTableColumn_row(NS::TableView& tableView, const NS::TableColumn* tableColumn,
                                                         std::ptrdiff_t row) override;
+    std::string tableView_typeSelectStringForTableColumn_row(NS::TableView& tableView,
+                                                             const NS::TableColumn* tableColumn,
+                                                             std::ptrdiff_t row) override;
 
     /// Flips the stored state of the row that the sender's tag names. Another tag is fatal.
     void checkboxActionWithSender(NS::Control& sender);

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "platform/TableCellView.h"
+#include "platform/URL.h"
 
 #include <cstddef>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace NS {
 
@@ -12,12 +15,15 @@ class TableView;
 /// A column of a table; the tables of this program have one each.
 class TableColumn;
 
-/// Says how many rows a table has.
+/// Says how many rows a table has, and takes what is dropped on it.
 class TableViewDataSource {
 public:
     virtual ~TableViewDataSource() = default;
 
     [[nodiscard]] virtual std::ptrdiff_t numberOfRowsInTableView(TableView& tableView) = 0;
+    /// Folders were dropped on a table whose scene lets it take some: one at least, as ChosenPaths::Storable has
+    /// them.
+    virtual void tableView_acceptDrop(TableView& /*tableView*/, const std::vector<URL>& /*folders*/) {}
 };
 
 /// Makes a table's row views.
@@ -28,6 +34,13 @@ public:
     /// A view got from makeViewWithIdentifier_owner and filled for the row, or nothing for an empty row.
     [[nodiscard]] virtual TableCellView*
     tableView_viewForTableColumn_row(TableView& tableView, const TableColumn* tableColumn, std::ptrdiff_t row) = 0;
+    /// What typing letters finds the row by; empty for a row that is not found so.
+    [[nodiscard]] virtual std::string tableView_typeSelectStringForTableColumn_row(TableView& /*tableView*/,
+                                                                                   const TableColumn* /*tableColumn*/,
+                                                                                   std::ptrdiff_t /*row*/)
+    {
+        return {};
+    }
 };
 
 /// A list. Its scene connects it to its data source and delegate; it asks them for the rows in sight. Main thread.

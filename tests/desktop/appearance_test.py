@@ -4,11 +4,15 @@ import os
 import subprocess
 import unittest
 
+from gi.repository import GLib
+
+from support import portal
 from support.accessibility import Extents
 from support.case import DesktopTestCase
 from support.folders import CHOOSER
-from support.waiting import eventually
+from support.waiting import eventually, throughout
 
+A_MOMENT = 0.5
 NO_PREFERENCE, DARK, LIGHT = range(3)
 
 
@@ -75,6 +79,84 @@ class ColorScheme(AppearanceTestCase):
         self.wait_for_dark(window)
         self.prefer_color_scheme(NO_PREFERENCE)
         self.wait_for_light(window)
+
+
+class Contrast(AppearanceTestCase):
+    def backgrounds(self, window):
+        """The colours of the pixels along the window's lower edge, and of a heap of others."""
+        at = window.extents
+        row = at._replace(y=at.y + at.height - 4, height=1)
+        pixels = self.display.picture_of(row)
+        return {pixels[index:index + 3] for index in range(0, len(pixels), 3)}
+
+    def test_a_wish_for_high_contrast_is_followed_at_once_in_light_and_in_dark(self):
+        self.start_portal()
+        window = self.start_panel().main_window()
+        for color_scheme, name, behind in ((LIGHT, "light", b"\xff\xff\xff"), (DARK, "dark", b"\0\0\0")):
+            with self.subTest(color_scheme=name):
+                self.prefer_color_scheme(color_scheme)
+                eventually(lambda: behind not in self.backgrounds(window), "the usual colours")
+                self.prefer(portal.CONTRAST, GLib.Variant("u", 1))
+                eventually(lambda: behind in self.backgrounds(window), "high contrast")
+                self.save_picture("menu-items-high-contrast-" + name)
+                self.prefer(portal.CONTRAST, GLib.Variant("u", 0))
+                eventually(lambda: behind not in self.backgrounds(window), "the usual colours again")
+
+    def test_the_wish_is_known_from_the_first_window_on(self):
+        self.start_portal(DARK)
+        self.prefer(portal.CONTRAST, GLib.Variant("u", 1))
+        window = self.start_panel().main_window()
+
+        eventually(lambda: b"\0\0\0" in self.backgrounds(window), "high contrast")
+
+
+class ReducedMotion(AppearanceTestCase):
+    def start_what_moves(self):
+        """A window with a bar that goes to and fro for long."""
+        folder = os.path.join(self.home.files, "Photos")
+        os.mkdir(folder)
+        # It takes no room, but it has to be read.
+        with open(os.path.join(folder, "huge"), "wb") as file:
+            file.truncate(400 << 30)
+        self.suite.write_request(folder)
+        panel = self.start_panel()
+        panel.chooser()
+        self.hands.press("Return")
+
+        def bar():
+            return next(window.find("progress bar") for window in panel.windows()
+                        if window.name.startswith("Preparing"))
+
+        self.panel = panel
+        return eventually(lambda: self.found(bar), "the bar").extents
+
+    @staticmethod
+    def found(look):
+        try:
+            return look()
+        except StopIteration as nothing:
+            raise LookupError("nothing yet") from nothing
+
+    def stands_still(self, where):
+        pictures = set()
+        for _ in range(4):
+            pictures.add(self.display.picture_of(where))
+        return len(pictures) == 1
+
+    def test_a_wish_for_reduced_motion_is_followed_at_once(self):
+        self.start_portal()
+        bar = self.start_what_moves()
+        eventually(lambda: not self.stands_still(bar), "the bar to move")
+        for setting, still, moving in ((portal.REDUCED_MOTION, GLib.Variant("u", 1), GLib.Variant("u", 0)),
+                                       (portal.ENABLE_ANIMATIONS, GLib.Variant("b", False), GLib.Variant("b", True))):
+            with self.subTest(setting=setting):
+                self.prefer(setting, still)
+                eventually(lambda: self.stands_still(bar), "the bar to stand still")
+                throughout(lambda: self.stands_still(bar), "the bar stands still", A_MOMENT)
+                self.prefer(setting, moving)
+                eventually(lambda: not self.stands_still(bar), "the bar to move again")
+        self.hands.press("Escape")
+        eventually(lambda: not self.panel.windows(), "the window to go")
 
 
 class TwiceTheDensity(AppearanceTestCase):

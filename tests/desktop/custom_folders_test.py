@@ -80,6 +80,20 @@ class CustomFolders(DesktopTestCase):
         self.hands.click(self.window.find("push button", "Delete three").extents)
         self.assertStored(arrCustomFoldersUrls=["/two"], theirs=True, menuArrayDic=record())
 
+    def test_after_a_deletion_the_keyboard_is_on_the_row_that_follows_and_not_on_its_button(self):
+        self.suite.write(arrCustomFoldersUrls=["/one", "/two", "/three"])
+        self.start()
+        self.hands.press("Tab", "Tab")
+        eventually(lambda: self.window.focused().name == "Delete one", "the button to have the keyboard")
+        self.hands.press("Return")
+        self.assertEventuallyEqual(self.rows, ["two", "three"])
+        focused = eventually(self.window.focused, "something to have the keyboard")
+        self.assertEqual((focused.role, focused.name), ("list item", "two"))
+        self.save_picture("custom-folders-deleted")
+        self.hands.press("Return", "space")
+
+        throughout(lambda: self.rows() == ["two", "three"], "the others stay", A_MOMENT)
+
     def test_a_double_click_deletes_one_entry(self):
         self.suite.write(arrCustomFoldersUrls=["/one", "/two", "/three"])
         self.start()

@@ -3,12 +3,14 @@
 import os
 import signal
 import subprocess
+import sys
 import urllib.parse
 import unicodedata
 import unittest
 
 from gi.repository import GLib
 
+from support import drag_source, processes
 from support.broadcasts import Broadcasts
 from support.buses import call
 from support.case import DesktopTestCase
@@ -298,6 +300,24 @@ class Folders(FoldersTestCase):
                 self.assertEqual(self.rows(), [(folder, True)])
                 self.panel.close()
 
+    def test_removing_is_off_without_a_selection(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b")]
+        self.store(folders, [1, 1], BOOKMARKS)
+        self.start()
+        remove = self.window.find("push button", "Remove Folder…")
+        self.assertFalse(remove.has("enabled"))
+        self.select(folders[0])
+        self.assertTrue(remove.has("enabled"))
+        self.hands.click(self.ask_to_remove().find("push button", "OK").extents)
+        self.assertEventuallyEqual(self.rows, [(folders[1], True)])
+        eventually(lambda: self.window.focused().name == folders[1], "the row that follows to have the keyboard")
+        self.assertTrue(remove.has("enabled"))
+        self.hands.press("Delete")
+        self.alert(QUESTION)
+        self.hands.press("Return")
+        self.assertEventuallyEqual(self.rows, [])
+        eventually(lambda: not remove.has("enabled"), "the button to be off")
+
     def test_removing_with_nothing_selected_asks_nothing(self):
         folder = self.make_folder_of("a")
         self.store([folder], [1], BOOKMARKS)
@@ -531,6 +551,93 @@ class Publishing(FoldersTestCase):
         # It would have been seen.
         self.remove(folders[0])
         self.assertEventuallyEqual(self.broadcasts.sets, [[self.address("b")]])
+
+
+class Drops(FoldersTestCase):
+    """Folders that are dragged from another program."""
+
+    def drag_here(self, *addresses):
+        """Drags what has these addresses over the list, lets it go there, and closes the other program."""
+        source = processes.start([sys.executable, "-B", drag_source.__file__, *addresses], env=self.environment)
+        self.addCleanup(processes.end, source)
+        window = eventually(lambda: self.windows.of_process(source.pid), "the window to drag from")[0]
+        own, = self.windows.of_process(self.panel.process_id)
+        self.hands.place(own, 0, 0)
+        self.hands.place(window, 900, 700)
+        start = settled(lambda: self.windows.place(window))
+        target = settled(lambda: self.window.find("list", "Folders").extents)
+
+        # Nothing of what is dragged is to be seen there.
+        def edge():
+            return self.display.picture_of(target._replace(height=4))
+
+        without = settled(edge)
+        self.hands.press_button(start)
+        # Between them there is a way, as a person's hand makes it.
+        for step in range(10):
+            self.hands.move_to(start._replace(x=start.x - 20 * step))
+
+        def is_shown_to_be_taken():
+            for way in (6, 0):
+                self.hands.move_to(target._replace(x=target.x + way))
+            return edge() != without
+
+        eventually(is_shown_to_be_taken, "the list to show that it takes it")
+        self.save_picture("folders-drag")
+        self.hands.let_button_go()
+        eventually(lambda: edge() == without, "the list to show that it was let go")
+        processes.end(source)
+
+    @staticmethod
+    def address(path):
+        return "file://" + urllib.parse.quote(path)
+
+    def test_dropped_folders_take_the_way_of_chosen_ones(self):
+        folders = [self.make_folder_of(name) for name in ("Projects", "Reports ä")]
+        self.start()
+        self.accept_console_lines()
+        self.drag_here(*map(self.address, folders))
+
+        self.assertEventuallyEqual(self.rows, [(folder, True) for folder in folders])
+        self.assertFolders(folders, [1, 1], self.bookmarks(2))
+        told = "[" + ", ".join(map(self.address, folders)) + "]\n"
+        self.assertEventuallyEqual(self.panel.standard_output, told.encode())
+        self.assertTrue(self.noAlert())
+
+    def test_a_folder_that_is_listed_gives_the_notice_and_the_others_are_added(self):
+        folders = [self.make_folder_of(name) for name in ("a", "b")]
+        self.store(folders[:1], [0], BOOKMARKS)
+        self.start()
+        self.accept_console_lines()
+        self.drag_here(*map(self.address, folders))
+
+        self.alert(DUPLICATE)
+        self.hands.press("Return")
+        eventually(self.noAlert, "the notice to go")
+        self.assertEqual(self.rows(), [(folders[0], False), (folders[1], True)])
+
+    def test_what_is_no_folder_here_is_refused_in_words(self):
+        file = self.home.make_file("Report.pdf")
+        odd = self.home.folder.encode() + b"/caf\xe9"
+        os.mkdir(odd)
+        self.start()
+        before = self.suite.bytes()
+        refusals = {
+            self.address(file): f"“{file}” cannot be added: it is not a folder.",
+            "sftp://elsewhere/home": "“sftp://elsewhere/home” cannot be added: it is not a folder of this computer.",
+            "file://" + urllib.parse.quote(odd): "cannot be stored as text",
+        }
+        for address, words in refusals.items():
+            with self.subTest(address=address):
+                self.drag_here(address)
+
+                alert = eventually(lambda: next((window for window in self.panel.windows() if words in window.name), None),
+                                   "the words")
+                self.save_picture("folders-drop-refused")
+                self.hands.click(alert.find("push button", "OK").extents)
+                eventually(self.noAlert, "the alert to go")
+                self.assertEqual(self.rows(), [])
+                self.assertStays(before)
 
 
 class Names(FoldersTestCase):

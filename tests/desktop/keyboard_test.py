@@ -71,7 +71,7 @@ class Keyboard(DesktopTestCase):
                         ("check box", "Group the menu items in a submenu")],
             "About": [("push button", "Web Site"), ("push button", "Twitter"), ("push button", "Facebook"),
                       ("push button", "Rate Orvik Menu")],
-            "Custom Folders": [("push button", "Delete Projects")],
+            "Custom Folders": [("list item", "Projects"), ("push button", "Delete Projects")],
         }
         panel = self.start_panel()
         window = panel.main_window()
@@ -176,11 +176,11 @@ class Keyboard(DesktopTestCase):
         self.suite.write(foldersArray=["/home", "/opt", "/srv"], foldersArraystate=[1, 1, 1],
                          arrCustomFoldersUrls=["/home", "/opt", "/srv"])
         window = self.start_panel().main_window()
-        for tab, names in (("Folders", ["/home", "/opt", "/srv"]),
-                           ("Custom Folders", ["Delete home", "Delete opt", "Delete srv"])):
-            with self.subTest(tab=tab):
+        for tab, role, names in (("Folders", "check box", ["/home", "/opt", "/srv"]),
+                                 ("Custom Folders", "list item", ["home", "opt", "srv"]),
+                                 ("Custom Folders", "push button", ["Delete home", "Delete opt", "Delete srv"])):
+            with self.subTest(tab=tab, role=role):
                 self.hands.click(window.find("page tab", tab).extents)
-                role = "check box" if tab == "Folders" else "push button"
                 eventually(lambda: self.has_control(window, role, names[-1]), f"the tab “{tab}”")
                 while window.focused().name != names[0]:
                     last = window.focused()
@@ -190,6 +190,40 @@ class Keyboard(DesktopTestCase):
                     for name in order:
                         self.hands.press(key)
                         self.assertEventuallyEqual(lambda: self.described(window.focused()), (role, name))
+
+    def test_ctrl_and_the_page_keys_go_from_tab_to_tab_wherever_the_keyboard_is(self):
+        window = self.start_panel().main_window()
+        while window.focused().role != "check box":
+            last = window.focused()
+            self.hands.press("Tab")
+            eventually(lambda: window.focused() != last, "Tab to lead on")
+        for keys, control in (("ctrl+Next", ("push button", "Add Folder…")),
+                              ("ctrl+Next", ("push button", "Open Extensions…")),
+                              ("ctrl+Prior", ("push button", "Add Folder…")),
+                              ("ctrl+Prior", ("check box", "Open Terminal")),
+                              ("ctrl+Prior", ("list", "Custom folders"))):
+            self.hands.press(keys)
+            eventually(lambda: self.has_control(window, *control), f"{keys} to show “{control[1]}”")
+
+    def test_f1_shows_the_about_page(self):
+        window = self.start_panel().main_window()
+        self.hands.press("F1")
+
+        eventually(lambda: self.has_control(window, "push button", "Web Site"), "the About page")
+
+    def test_enter_presses_the_button_that_has_the_keyboard(self):
+        panel = self.start_panel()
+        window = panel.main_window()
+        self.hands.press("ctrl+Next")
+        eventually(lambda: self.has_control(window, "push button", "Add Folder…"), "the folders")
+        while window.focused().name != "Add Folder…":
+            last = window.focused()
+            self.hands.press("Tab")
+            eventually(lambda: window.focused() != last, "Tab to lead on")
+        self.hands.press("Return")
+
+        panel.active_window("Grant Access")
+        self.hands.press("Escape")
 
     def test_the_arrow_keys_lead_through_the_showcase_and_back(self):
         panel = self.start_panel()

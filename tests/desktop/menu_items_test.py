@@ -52,6 +52,27 @@ class MenuItems(DesktopTestCase):
         self.hands.click(self.box("Set as Wallpaper").extents)
         self.assertSwitchedOff(15)
 
+    def test_a_click_anywhere_on_a_row_switches_it(self):
+        self.start()
+        row = self.window.find("list item", "Set as Wallpaper").extents
+
+        self.hands.click(row)
+        self.assertSwitchedOff(2)
+        self.hands.double_click(row)
+        self.assertSwitchedOff(2)
+        self.hands.click(row._replace(width=8))
+        self.assertSwitchedOff()
+
+    def test_typed_letters_lead_to_a_row(self):
+        self.start()
+        self.go_to_list()
+
+        self.hands.type("send")
+        self.assertEventuallyEqual(lambda: self.window.focused().name, "Send via Mail")
+        # A space at once would be one of the words.
+        self.hands.press("Down", "Up", "space")
+        self.assertSwitchedOff(5)
+
     def test_the_space_bar_switches_the_row_that_the_arrow_keys_went_to(self):
         self.start()
         self.go_to_list()

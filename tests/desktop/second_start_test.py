@@ -85,6 +85,51 @@ class SecondStart(DesktopTestCase):
         self.first.chooser()
         self.assertEqual(len(self.first.windows()), 2)
 
+    def open_folders(self):
+        window = self.first.main_window()
+        self.hands.click(window.find("page tab", "Folders").extents)
+        return eventually(lambda: window.find("push button", "Add Folder…"), "the folders") and window
+
+    def cover(self):
+        """Another program's window takes the keyboard."""
+        # A panel without a bus is any other program to the first one.
+        cover = self.start_panel(without=["DBUS_SESSION_BUS_ADDRESS"])
+        self.wait_for_window(cover, MAIN_WINDOW)
+        cover.complaints()
+
+    def assertSheetIsInFrontAndEndsByEscape(self, window, find):
+        for hide in (self.cover, lambda: self.hands.iconify(self.first_window)):
+            hide()
+            self.start_second()
+            eventually(lambda: find().has("active"), "the sheet to have the keyboard")
+            self.assertFalse(self.windows.is_iconified(self.first_window))
+            self.assertIn(self.windows.active(), self.windows.of_process(self.first.process_id))
+            self.assertNotEqual(self.windows.active(), self.first_window)
+        self.hands.press("Escape")
+        eventually(lambda: len(self.first.windows()) == 1, "the sheet to go")
+        eventually(lambda: window.has("active"), "the window to have the keyboard")
+        self.hands.press("ctrl+q")
+        self.assertEqual(self.first.wait_for_end(), 0)
+
+    def test_a_chooser_that_blocks_its_window_is_brought_forward(self):
+        self.start_first()
+        window = self.open_folders()
+        self.hands.click(window.find("push button", "Add Folder…").extents)
+        self.first.active_window("Grant Access")
+
+        self.assertSheetIsInFrontAndEndsByEscape(window, lambda: self.first.window("Grant Access"))
+
+    def test_an_alert_is_brought_forward(self):
+        self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
+        self.start_first()
+        window = self.open_folders()
+        self.hands.click(eventually(lambda: window.find("list item", "/srv"), "the row").extents)
+        self.hands.press("Delete")
+        question = "Remove selected folder?"
+        self.first.active_window(question)
+
+        self.assertSheetIsInFrontAndEndsByEscape(window, lambda: self.first.window(question))
+
     def test_a_killed_panel_does_not_keep_the_next_from_starting(self):
         self.start_first()
         self.first.send(signal.SIGKILL)

@@ -61,6 +61,12 @@ const std::string readStored = R"(suite#1.objectForKey("arrCustomFoldersUrls"))"
 const std::string reload = "customFoldersVc.tblview.reloadData";
 const std::string makeRowView = R"(customFoldersVc.tblview.makeViewWithIdentifier("tblcell"))";
 
+TEST_F(CustomFoldersScreen, AFolderIsFoundByTypingItsName)
+{
+    openWith({"/home/pat/Projects/"});
+    EXPECT_EQ(screen->tableView_typeSelectStringForTableColumn_row(table(), nullptr, 0), "Projects");
+}
+
 // Making the screen.
 
 TEST_F(CustomFoldersScreen, BeginsEmptyWithAHandleOfItsOwn)

@@ -318,6 +318,42 @@ TEST_F(FoldersScreen, EveryChosenFolderIsPrintedAndTheFirstIsAdded)
     expectStored({"/b"}, {1});
 }
 
+TEST_F(FoldersScreen, DroppedFoldersArePrintedAndAddedAsChosenOnesAre)
+{
+    openWith({"/a"}, {0});
+    testing::internal::CaptureStdout();
+
+    screen->tableView_acceptDrop(table(), {NS::URL::fileURLWithPath("/c"), NS::URL::fileURLWithPath("/b")});
+
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "[file:///c, file:///b]\n");
+    expectStored({"/a", "/c", "/b"}, {0, 1, 1});
+    EXPECT_EQ(table().rowCount(), 3U);
+    EXPECT_EQ(platform.calls.startingWith(reload).size(), 1U);
+    EXPECT_EQ(runBookmarks->size(), 2U);
+    EXPECT_TRUE(platform.calls.startingWith("alert#").empty());
+}
+
+TEST_F(FoldersScreen, OfDroppedFoldersThoseThatAreListedBringOneNotice)
+{
+    openWith({"/a", "/b"}, {0, 1});
+    testing::internal::CaptureStdout();
+
+    screen->tableView_acceptDrop(
+        table(), {NS::URL::fileURLWithPath("/a"), NS::URL::fileURLWithPath("/c"), NS::URL::fileURLWithPath("/b")});
+
+    testing::internal::GetCapturedStdout();
+    expectStored({"/a", "/b", "/c"}, {0, 1, 1});
+    EXPECT_EQ(table().rowCount(), 3U);
+    EXPECT_EQ(platform.calls.startingWith("alert#3.beginSheet").size(), 1U);
+    EXPECT_TRUE(platform.calls.startingWith("alert#4").empty());
+}
+
+TEST_F(FoldersScreen, AFolderIsFoundByTypingItsName)
+{
+    openWith({"/home/pat/Projects"}, {1});
+    EXPECT_EQ(screen->tableView_typeSelectStringForTableColumn_row(table(), nullptr, 0), "Projects");
+}
+
 TEST_F(FoldersScreen, AFailedBookmarkIsToldAfterTheChosenFolderAndTheFolderIsShown)
 {
     platform.bookmarks = {{"/a", NS::Error{"no such folder"}}};

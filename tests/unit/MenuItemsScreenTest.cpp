@@ -56,6 +56,12 @@ protected:
 
 const Lines menuWrite{R"(suite#1.setObject_forKey("menuArrayDic"))", "suite#1.synchronize"};
 
+TEST_F(MenuItemsScreen, AnActionIsFoundByTypingItsTitle)
+{
+    openWith({item("Send via Mail", true)});
+    EXPECT_EQ(screen->tableView_typeSelectStringForTableColumn_row(table(), nullptr, 0), "Send via Mail");
+}
+
 // Making the screen.
 
 TEST_F(MenuItemsScreen, BeginsWithTheCatalogueAndEmptyWorkingCopies)

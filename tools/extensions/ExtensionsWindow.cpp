@@ -6,12 +6,16 @@
 #include "extensions/StatusLine.h"
 #include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/look/Card.h"
+#include "platform/linux/look/FitToScreen.h"
 
 #include <QEvent>
 #include <QKeySequence>
 #include <QLabel>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ExtensionsTool {
 
@@ -27,24 +31,36 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
 {
     setWindowTitle(QStringLiteral("Extensions"));
 
-    auto* introduction = makeText(QStringLiteral("Extensions bring Orvik Menu into other programs."), this);
+    auto* pane = new QScrollArea(this);
+    pane->setFrameShape(QFrame::NoFrame);
+    pane->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    pane->setWidgetResizable(true);
+    pane->setFocusPolicy(Qt::NoFocus);
+    pane->viewport()->setBackgroundRole(QPalette::Window);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins({});
+    whole->addWidget(pane);
+    m_content = new QWidget;
+    pane->setWidget(m_content);
+
+    auto* introduction = makeText(QStringLiteral("Extensions bring Orvik Menu into other programs."), m_content);
     introduction->setForegroundRole(QPalette::PlaceholderText);
 
-    auto* card = new LinuxDesktop::Card(this);
+    auto* card = new LinuxDesktop::Card(m_content);
     LinuxDesktop::tieWords(*introduction, *card);
     auto* rows = new QVBoxLayout(card);
     rows->setContentsMargins(0, 0, 0, 0);
     for (ExtensionControl* control : controls)
         rows->addWidget(new ExtensionRow(*control, icon, card));
 
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(m_content);
     layout->setContentsMargins(20, 18, 20, 20);
     layout->setSpacing(14);
     layout->addWidget(introduction);
     layout->addWidget(card);
     layout->addSpacing(6);
-    layout->addWidget(new FileManagerSection(fileManagers, this));
-    layout->addWidget(new LackingActionsSection(actions, this));
+    layout->addWidget(new FileManagerSection(fileManagers, m_content));
+    layout->addWidget(new LackingActionsSection(actions, m_content));
     layout->addStretch(1);
 
     for (const auto& keys :
@@ -52,16 +68,16 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
         connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
 
     setMinimumWidth(narrowest);
+    m_content->installEventFilter(this);
     resize(initialWidth, layout->totalHeightForWidth(initialWidth));
 }
 
-bool ExtensionsWindow::event(QEvent* event)
+bool ExtensionsWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool handled = QWidget::event(event);
     // Texts have changed.
     if (event->type() == QEvent::LayoutRequest)
         makeRoomForTexts();
-    return handled;
+    return QWidget::eventFilter(watched, event);
 }
 
 void ExtensionsWindow::resizeEvent(QResizeEvent* event)
@@ -70,10 +86,12 @@ void ExtensionsWindow::resizeEvent(QResizeEvent* event)
     makeRoomForTexts();
 }
 
-/// Windows do not keep to the height that wrapped texts have at a width by themselves.
+/// Windows do not keep to the height that wrapped texts have at a width by themselves. What the screen has no room
+/// for is scrolled to.
 void ExtensionsWindow::makeRoomForTexts()
 {
-    setMinimumHeight(layout()->totalHeightForWidth(width()));
+    const int height = m_content->layout()->totalHeightForWidth(width());
+    setMinimumHeight(std::min(height, LinuxDesktop::roomOnScreen(*this).height()));
 }
 
 } // namespace ExtensionsTool

@@ -21,11 +21,13 @@ public:
                      const std::string& actions, const QIcon& icon);
 
 protected:
-    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeRoomForTexts();
+
+    QWidget* m_content;
 };
 
 } // namespace ExtensionsTool

@@ -31,6 +31,8 @@ FileManagerRow::FileManagerRow(FileManagersControl& control, std::size_t index, 
     m_state->setSubject(*this);
     m_restart = new QPushButton(QStringLiteral("Restart"), this);
     m_restart->setAccessibleName(QStringLiteral("Restart %1").arg(name));
+    // Enter presses it as well.
+    m_restart->setAutoDefault(true);
     QFont font = title->font();
     font.setWeight(QFont::DemiBold);
     title->setFont(font);

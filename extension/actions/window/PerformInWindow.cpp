@@ -2,6 +2,7 @@
 
 #include "extension/actions/support/Answer.h"
 #include "platform/linux/bus/SessionBus.h"
+#include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/program/DisplayConnection.h"
 #include "platform/linux/program/TerminationSignals.h"
 #include "platform/linux/program/WindowSurroundings.h"
@@ -35,6 +36,7 @@ class WindowRunner : public QObject {
 public:
     explicit WindowRunner(std::unique_ptr<QWidget> window) : m_window(std::move(window))
     {
+        LinuxDesktop::fitToScreen(*m_window);
         m_window->show();
         m_window->raise();
         m_window->activateWindow();

@@ -3,6 +3,7 @@
 #include "platform/linux/bus/ApplicationName.h"
 #include "platform/linux/program/Program.h"
 #include "platform/linux/scenes/MainWindow.h"
+#include "platform/linux/scenes/ModalBlock.h"
 
 #include <QApplication>
 #include <QWidget>
@@ -34,13 +35,14 @@ bool DesktopApplication::setActivationPolicy(NS::ActivationPolicy policy)
 
 void DesktopApplication::activateIgnoringOtherApps(bool)
 {
-    // A modal panel is in front of the windows it blocks, which are all of them; a sheet follows its own.
+    // A modal panel is in front of the windows it blocks, which are all of them; a sheet is in front of its own.
     QWidget* front = QApplication::activeModalWidget();
     if (!front || front->windowModality() != Qt::ApplicationModal)
         front = MainWindow::front();
     if (!front)
         return;
-    bringToFront(*front);
+    QWidget* panel = panelInFrontOf(*front);
+    bringToFront(panel ? *panel : *front);
 }
 
 void DesktopApplication::terminate()

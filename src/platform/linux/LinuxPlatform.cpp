@@ -95,7 +95,7 @@ NS::UserDefaults& LinuxPlatform::standardUserDefaults()
 
 std::shared_ptr<NS::Storyboard> LinuxPlatform::storyboardWithName_bundle(std::string_view, NS::Bundle&)
 {
-    return std::make_shared<WidgetStoryboard>(m_classes, m_images, m_responders);
+    return std::make_shared<WidgetStoryboard>(m_classes, m_images, m_responders, refusalOfUnstorable);
 }
 
 std::unique_ptr<NS::OpenPanel> LinuxPlatform::makeOpenPanel(NS::ChosenPaths paths)

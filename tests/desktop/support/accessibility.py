@@ -155,7 +155,8 @@ class Accessible:
     def focused(self):
         """The control that has the keyboard; LookupError where none has."""
         # A current item says that it has the keyboard even while its list has not. Outer ones come first.
-        found = [each for each in self.descendants("focused") if each.role not in _ITEMS]
+        said = list(self.descendants("focused"))
+        found = [each for each in said if each.role not in _ITEMS] or [each for each in said if each.role == "list item"]
         if not found:
             raise LookupError("nothing has the keyboard")
         return found[-1]

@@ -125,8 +125,12 @@ class DesktopTestCase(unittest.TestCase):
 
     def prefer_color_scheme(self, color_scheme):
         """Changes the person's wish for light or dark at the portal."""
-        call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "PreferColorScheme",
-             GLib.Variant("(u)", (color_scheme,)))
+        self.prefer(portal.COLOR_SCHEME, GLib.Variant("u", color_scheme))
+
+    def prefer(self, setting, value):
+        """Changes a wish of the person's at the portal: one of its settings, to a variant."""
+        call(self.bus.connection, portal.NAME, portal.PATH, portal.TESTING, "Prefer",
+             GLib.Variant("(ssv)", (*setting, value)))
 
     def answer_openings(self, answer):
         """What the portal answers to addresses: 0 for opened, 1 for a person's no, 2 for a failure."""

@@ -1,4 +1,4 @@
-"""A stand-in for the desktop's portal, a program of its own: mail, and the wish for light or dark.
+"""A stand-in for the desktop's portal, a program of its own: mail, and the wishes for the look.
 
 Usage: portal.py FOLDER [COLOR-SCHEME]
 
@@ -28,14 +28,17 @@ TESTING = "com.orvikstudio.Testing"
 # The answer of a portal that hangs.
 SILENCE = 99
 
-_COLOR_SCHEME = ("org.freedesktop.appearance", "color-scheme")
+COLOR_SCHEME = ("org.freedesktop.appearance", "color-scheme")
+CONTRAST = ("org.freedesktop.appearance", "contrast")
+REDUCED_MOTION = ("org.freedesktop.appearance", "reduced-motion")
+ENABLE_ANIMATIONS = ("org.gnome.desktop.interface", "enable-animations")
 
 
 class Portal(dbus.service.Object):
     def __init__(self, bus, folder, color_scheme):
         super().__init__(bus, PATH)
         self._folder = folder
-        self._color_scheme = color_scheme
+        self._settings = {COLOR_SCHEME: dbus.UInt32(color_scheme)}
         self._messages = 0
         self._answer = 0
         self._mail_answer = 0
@@ -83,11 +86,12 @@ class Portal(dbus.service.Object):
 
     @dbus.service.method(_SETTINGS, in_signature="ss", out_signature="v")
     def Read(self, group, key):
-        if (group, key) != _COLOR_SCHEME:
+        if (group, key) not in self._settings:
             raise dbus.exceptions.DBusException("no such setting",
                                                 name="org.freedesktop.portal.Error.NotFound")
         # The portal's answer is a variant in a variant.
-        return dbus.UInt32(self._color_scheme, variant_level=1)
+        value = self._settings[group, key]
+        return type(value)(value, variant_level=2)
 
     @dbus.service.signal(_SETTINGS, signature="ssv")
     def SettingChanged(self, group, key, value):
@@ -112,10 +116,11 @@ class Portal(dbus.service.Object):
     def Opened(self):
         return self._opened
 
-    @dbus.service.method(TESTING, in_signature="u")
-    def PreferColorScheme(self, color_scheme):
-        self._color_scheme = color_scheme
-        self.SettingChanged(*_COLOR_SCHEME, color_scheme)
+    @dbus.service.method(TESTING, in_signature="ssv")
+    def Prefer(self, group, key, value):
+        """What a person sets in the desktop's settings."""
+        self._settings[group, key] = value
+        self.SettingChanged(group, key, value)
 
 
 def main():

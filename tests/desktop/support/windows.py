@@ -42,6 +42,14 @@ class Hands:
         """Moves the pointer to the middle of `extents`."""
         self._xdotool("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2)
 
+    def press_button(self, extents):
+        """The first button goes down in the middle of `extents` and stays so."""
+        self.move_to(extents)
+        self._xdotool("mousedown", 1)
+
+    def let_button_go(self):
+        self._xdotool("mouseup", 1)
+
     def scroll_down(self, extents, times):
         """Turns the wheel over the middle of `extents`."""
         self.move_to(extents)

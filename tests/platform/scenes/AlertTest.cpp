@@ -2,6 +2,7 @@
 
 #include "platform/linux/scenes/AlertDialog.h"
 #include "platform/linux/scenes/MainWindow.h"
+#include "platform/linux/scenes/ModalBlock.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -43,6 +44,22 @@ TEST_F(AlertTest, ASheetIsAttachedToItsWindowAndBlocksItAlone)
     EXPECT_EQ(dialog().parentWidget(), &window);
     EXPECT_EQ(dialog().windowModality(), Qt::WindowModal);
     EXPECT_FALSE(modalState.active());
+}
+
+TEST_F(AlertTest, ASheetHasTheKeyboardInThePlaceOfItsWindowAndWhatBlocksItInThePlaceOfBoth)
+{
+    EXPECT_EQ(panelInFrontOf(window), nullptr);
+    alert->beginSheetModalForWindow(window);
+    EXPECT_EQ(panelInFrontOf(window), &dialog());
+    EXPECT_EQ(panelInFrontOf(dialog()), nullptr);
+    MainWindow other;
+    other.show();
+    EXPECT_EQ(panelInFrontOf(other), nullptr);
+    QDialog panel;
+    panel.setWindowModality(Qt::ApplicationModal);
+    panel.show();
+    EXPECT_EQ(panelInFrontOf(window), &panel);
+    EXPECT_EQ(panelInFrontOf(other), &panel);
 }
 
 TEST_F(AlertTest, AButtonDismissesTheSheet)

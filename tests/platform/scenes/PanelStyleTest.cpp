@@ -87,6 +87,22 @@ TEST_F(PanelStyleFixture, ABarWithoutAnEndIsAPieceThatMoves)
     EXPECT_TRUE(QTest::qWaitFor([&] { return filled() != first; }));
 }
 
+TEST_F(PanelStyleFixture, NothingMovesByItselfWhereMotionIsReduced)
+{
+    auto* bar = add<QProgressBar>();
+    bar->setRange(0, 0);
+    bar->setTextVisible(false);
+    show();
+    EXPECT_GT(style.styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, bar, nullptr), 0);
+    style.setMotion(Motion::Reduced);
+    EXPECT_EQ(style.styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, bar, nullptr), 0);
+    const QImage first = bar->grab().toImage();
+    QTest::qWait(100);
+    EXPECT_EQ(bar->grab().toImage(), first);
+    style.setMotion(Motion::Full);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar->grab().toImage() != first; }));
+}
+
 TEST_F(PanelStyleFixture, ABarFillsFromWhereReadingBegins)
 {
     auto* bar = add<QProgressBar>();

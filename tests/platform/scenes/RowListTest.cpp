@@ -1,4 +1,5 @@
 #include "platform/linux/scenes/RowList.h"
+#include "platform/linux/look/PanelStyle.h"
 #include "platform/linux/scenes/CheckBox.h"
 #include "platform/linux/scenes/ImageWidget.h"
 #include "platform/linux/scenes/Label.h"
@@ -18,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -73,6 +75,11 @@ protected:
             return nullptr;
         cell->lbltitle->setStringValue("Row " + std::to_string(row));
         const bool on = states.at(static_cast<std::size_t>(row));
+        cell->btnDelete->setTag(row);
+        cell->btnDelete->setAction([this](NS::Control& sender) {
+            states.erase(states.begin() + sender.tag());
+            list.reloadData();
+        });
         cell->checkbox->setState(on ? NS::ControlState::On : NS::ControlState::Off);
         cell->checkbox->setTag(row);
         cell->checkbox->setAction([this](NS::Control& sender) {
@@ -81,6 +88,12 @@ protected:
             list.reloadData();
         });
         return cell;
+    }
+
+    std::string tableView_typeSelectStringForTableColumn_row(NS::TableView&, const NS::TableColumn*,
+                                                             std::ptrdiff_t row) override
+    {
+        return "Row " + std::to_string(row);
     }
 
     void show(int rows, int height = 300)
@@ -337,6 +350,113 @@ TEST_F(RowListFixture, TheSelectionStaysAtTheEndWhenTheLastRowGoes)
     states.clear();
     list.reloadData();
     EXPECT_EQ(list.selectedRow(), -1);
+}
+
+TEST_F(RowListFixture, AClickAnywhereOnARowSwitchesItsCheckboxWhereNoRowCanBeSelected)
+{
+    show(3);
+    RowWidget* row = list.rowsInSight().at(1);
+    const QPoint beside(2, 2);
+    QTest::mouseClick(row, Qt::LeftButton, {}, beside);
+    EXPECT_EQ(states, (std::vector{false, true, false}));
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 1"));
+    // Twice at once is off and on again.
+    QTest::mouseClick(row, Qt::LeftButton, {}, beside);
+    QMouseEvent second(QEvent::MouseButtonDblClick, beside, row->mapToGlobal(beside), Qt::LeftButton, Qt::LeftButton,
+                       {});
+    QApplication::sendEvent(row, &second);
+    QTest::mouseRelease(row, Qt::LeftButton, {}, beside);
+    EXPECT_EQ(states, (std::vector{false, true, false}));
+    auto* title = row->findChild<QLabel*>();
+    QTest::mouseClick(title, Qt::LeftButton, {}, title->rect().center());
+    EXPECT_EQ(states, (std::vector{false, false, false}));
+}
+
+TEST_F(RowListFixture, ARowIsNotSwitchedByAnotherButtonOrByAPressThatIsLetGoBesideIt)
+{
+    show(3);
+    RowWidget* row = list.rowsInSight().at(1);
+    QTest::mouseClick(row, Qt::RightButton, {}, QPoint(2, 2));
+    QTest::mousePress(row, Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_TRUE(boxOf(QStringLiteral("Row 1"))->isDown());
+    QTest::mouseRelease(row, Qt::LeftButton, {}, QPoint(2, -4));
+    EXPECT_EQ(states, (std::vector{false, false, false}));
+    EXPECT_FALSE(boxOf(QStringLiteral("Row 1"))->isDown());
+}
+
+TEST_F(RowListFixture, WhereRowsCanBeSelectedAClickSelectsAndSwitchesNothing)
+{
+    list.setProperty("selectable", true);
+    show(3);
+    QTest::mouseClick(list.rowsInSight().at(1), Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(list.selectedRow(), 1);
+    EXPECT_EQ(states, (std::vector{false, false, false}));
+}
+
+TEST_F(RowListFixture, AfterADeletionTheKeyboardIsOnTheRowThatFollowsAndNotOnItsButton)
+{
+    list.setProperty("hiddenInRows", QStringLiteral("checkbox"));
+    show(3);
+    auto* button = list.rowsInSight().at(1)->findChild<PushButton*>();
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+    ASSERT_EQ(states.size(), 2U);
+    EXPECT_EQ(QApplication::focusWidget(), list.rowsInSight().at(1));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(states.size(), 2U);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), list.rowsInSight().at(1)->findChild<PushButton*>());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    ASSERT_EQ(states.size(), 1U);
+    EXPECT_EQ(QApplication::focusWidget(), list.rowsInSight().at(0));
+}
+
+TEST_F(RowListFixture, AfterTheDeletionOfTheSelectedRowTheKeyboardIsOnTheRowThatFollows)
+{
+    list.setProperty("selectable", true);
+    show(3);
+    QTest::mouseClick(list.rowsInSight().at(1), Qt::LeftButton, {}, QPoint(2, 2));
+    after.setFocus();
+    states.pop_back();
+    list.reloadData();
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 1"));
+}
+
+TEST_F(RowListFixture, ARowThatHasTheKeyboardItselfShowsIt)
+{
+    list.setProperty("hiddenInRows", QStringLiteral("checkbox"));
+    show(2);
+    PanelStyle style;
+    RowWidget* row = list.rowsInSight().at(1);
+    row->setStyle(&style);
+    const QImage without = row->grab().toImage();
+    row->setFocus(Qt::TabFocusReason);
+    EXPECT_NE(row->grab().toImage(), without);
+    row->setStyle(nullptr);
+}
+
+TEST_F(RowListFixture, TypedLettersLeadToARowOutOfSight)
+{
+    show(300);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    for (const char letter : std::string_view("row 2"))
+        QTest::keyClick(QApplication::focusWidget(), letter);
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 2"));
+    QTest::keyClick(QApplication::focusWidget(), '7');
+    QTest::keyClick(QApplication::focusWidget(), '1');
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 271"));
+    EXPECT_FALSE(states.at(0));
+}
+
+TEST_F(RowListFixture, WhoGoesElsewhereBeginsAnewToType)
+{
+    show(30);
+    boxOf(QStringLiteral("Row 0"))->setFocus();
+    for (const char letter : std::string_view("row 2"))
+        QTest::keyClick(QApplication::focusWidget(), letter);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), 'r');
+    EXPECT_EQ(focusedTitle(), QStringLiteral("Row 4"));
 }
 
 TEST_F(RowListFixture, AnEmptyListSaysSoInWords)

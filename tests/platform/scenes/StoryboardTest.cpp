@@ -4,6 +4,7 @@
 #include "platform/linux/scenes/ImageStore.h"
 #include "platform/linux/scenes/Label.h"
 #include "platform/linux/scenes/MainWindow.h"
+#include "platform/linux/scenes/PushButton.h"
 #include "platform/linux/scenes/RowList.h"
 #include "platform/linux/scenes/RowWidget.h"
 #include "platform/linux/scenes/SceneConnections.h"
@@ -55,6 +56,17 @@ public:
 
 private:
     int& m_loads;
+};
+
+/// A screen that answers every action by nothing.
+class Silent : public NS::ViewController {
+public:
+    void connect(NS::Connections& connections) override
+    {
+        for (const char* action : {"btnAddItems:", "btnremoveitem:", "btnopenSystemPrefrences:", "showiconinmenu:",
+                                   "showinSubmenu:", "btnfacebook:", "btntwitter:", "btnweb:", "btnRateusClciked:"})
+            connections.action(action, [](NS::Control&) {});
+    }
 };
 
 class StoryboardFixture : public testing::Test {
@@ -160,6 +172,53 @@ TEST_F(StoryboardFixture, AScreenIsMadeWhenItsTabIsFirstShownAndOnlyThen)
     WidgetScene::rootOf(*window).hide();
     window->showWindow();
     EXPECT_EQ(screenLoads, 1);
+}
+
+TEST_F(StoryboardFixture, CtrlAndThePageKeysGoFromTabToTabRoundAndRound)
+{
+    const auto tabs = make<NS::TabViewController>("tabviewcontroller");
+    QWidget& root = WidgetScene::rootOf(*tabs);
+    auto* pages = root.findChild<TabPages*>();
+    for (const char* scene : {"foldersArrvc", "genraltabvc", "aboutVc", "customFoldersVc"})
+        classes.controllers[scene] = [] { return std::make_shared<Silent>(); };
+    root.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&root));
+    QTest::keyClick(&root, Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(pages->currentIndex(), 4);
+    QTest::keyClick(&root, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(pages->currentIndex(), 0);
+    QTest::keyClick(&root, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(pages->currentIndex(), 1);
+}
+
+TEST_F(StoryboardFixture, RemovingAFolderIsOffAsLongAsNoneIsSelectedAndTheKeyboardStaysNear)
+{
+    classes.controllers["foldersArrvc"] = [] { return std::make_shared<Silent>(); };
+    const auto folders = make<Silent>("foldersArrvc");
+    QWidget& root = WidgetScene::rootOf(*folders);
+    root.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&root));
+    auto* list = root.findChild<RowList*>();
+    auto* remove = root.findChild<PushButton*>(QStringLiteral("btnRemove"));
+    EXPECT_FALSE(remove->isEnabled());
+    emit list->selectionChanged(true);
+    EXPECT_TRUE(remove->isEnabled());
+    remove->setFocus();
+    emit list->selectionChanged(false);
+    EXPECT_FALSE(remove->isEnabled());
+    EXPECT_EQ(root.focusWidget(), root.findChild<PushButton*>(QStringLiteral("btnAdd")));
+}
+
+TEST_F(StoryboardFixture, EnterPressesTheButtonThatHasTheKeyboard)
+{
+    PushButton button;
+    int pressed = 0;
+    button.setAction([&](NS::Control&) { ++pressed; });
+    button.show();
+    QTest::keyClick(&button, Qt::Key_Return);
+    QTest::keyClick(&button, Qt::Key_Enter);
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_EQ(pressed, 3);
 }
 
 TEST_F(StoryboardFixture, SelectingATabThatDoesNotExistIsFatal)

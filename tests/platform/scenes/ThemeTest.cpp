@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -28,15 +29,17 @@ double contrast(const QColor& one, const QColor& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-class Theme : public testing::TestWithParam<ColorScheme> {
+class Theme : public testing::TestWithParam<std::tuple<ColorScheme, Contrast>> {
 protected:
     void expectContrast(const char* what, const QColor& one, const QColor& other) const
     {
-        EXPECT_GE(contrast(one, other), 4.5)
+        EXPECT_GE(contrast(one, other), required)
             << what << ": " << one.name().toStdString() << " on " << other.name().toStdString();
     }
 
-    QPalette palette = themePalette(GetParam());
+    QPalette palette = themePalette(std::get<ColorScheme>(GetParam()), std::get<Contrast>(GetParam()));
+    const bool isHigh = std::get<Contrast>(GetParam()) == Contrast::High;
+    const double required = isHigh ? 7.0 : 4.5;
 };
 
 TEST_P(Theme, EveryTextStandsOutFromWhatIsBehindIt)
@@ -52,6 +55,8 @@ TEST_P(Theme, EveryTextStandsOutFromWhatIsBehindIt)
         expectContrast("secondary text in a card", color(QPalette::PlaceholderText), color(QPalette::Base));
         expectContrast("a tool tip", color(QPalette::ToolTipText), color(QPalette::ToolTipBase));
         expectContrast("a link on the window", color(QPalette::Link), color(QPalette::Window));
+        expectContrast("a visited link on the window", color(QPalette::LinkVisited), color(QPalette::Window));
+        expectContrast("a selected text", color(QPalette::HighlightedText), color(QPalette::Highlight));
     }
 }
 
@@ -82,8 +87,20 @@ TEST_P(Theme, EveryControlStandsOutFromWhatIsBehindIt)
     expectContrast("a check mark, a selected text", color(QPalette::HighlightedText), color(QPalette::Highlight));
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, Theme, testing::Values(ColorScheme::Light, ColorScheme::Dark), [](const auto& tested) {
-    return std::string(tested.param == ColorScheme::Light ? "Light" : "Dark");
-});
+TEST_P(Theme, LinesThatOnlyDivideAreSeenWhereContrastIsHigh)
+{
+    EXPECT_EQ(isHighContrast(palette), isHigh);
+    for (const QPalette::ColorRole behind : {QPalette::Window, QPalette::Base})
+        EXPECT_EQ(contrast(dividingLine(palette), palette.color(behind)) >= 4.5, isHigh);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, Theme,
+                         testing::Combine(testing::Values(ColorScheme::Light, ColorScheme::Dark),
+                                          testing::Values(Contrast::Normal, Contrast::High)),
+                         [](const auto& tested) {
+                             const bool isLight = std::get<ColorScheme>(tested.param) == ColorScheme::Light;
+                             const bool isHigh = std::get<Contrast>(tested.param) == Contrast::High;
+                             return std::string(isLight ? "Light" : "Dark") + (isHigh ? "WithHighContrast" : "");
+                         });
 
 } // namespace

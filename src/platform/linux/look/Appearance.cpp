@@ -20,13 +20,15 @@ bool iconThemeIsOurs()
 
 } // namespace
 
-void applyAppearance(ColorScheme scheme)
+void applyAppearance(ColorScheme scheme, Contrast contrast, Motion motion)
 {
     // Fusion is what runs where no desktop has brought a style.
     if (QApplication::style()->name() == QLatin1String("fusion"))
         QApplication::setStyle(new PanelStyle);
-    if (qobject_cast<PanelStyle*>(QApplication::style()))
-        QApplication::setPalette(themePalette(scheme));
+    if (auto* style = qobject_cast<PanelStyle*>(QApplication::style())) {
+        style->setMotion(motion);
+        QApplication::setPalette(themePalette(scheme, contrast));
+    }
     if (qEnvironmentVariableIsEmpty("XDG_CURRENT_DESKTOP")) {
         QFont font(QStringList{QStringLiteral("Inter"), QStringLiteral("Sans Serif")});
         font.setPointSizeF(10.0);

@@ -135,6 +135,13 @@ void drawFrame(const QStyleOption& option, QPainter& painter, bool filled)
     painter.drawRoundedRect(outlineOf(option.rect, 1.0), corner, corner);
 }
 
+void drawOutline(const QStyleOption& option, const QRect& part, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    painter.setPen(QPen(controlOutline(option.palette), 1.0));
+    painter.drawRoundedRect(outlineOf(part, 1.0), smallRadius, smallRadius);
+}
+
 void drawFocus(const QStyleOption& option, QPainter& painter)
 {
     const SmoothPainter smooth(painter);

@@ -12,6 +12,8 @@ void drawTab(const QStyleOption& option, QPainter& painter);
 void drawLineEdit(const QStyleOption& option, QPainter& painter);
 /// The frame around a list or a group of controls; `filled` with the base colour.
 void drawFrame(const QStyleOption& option, QPainter& painter, bool filled);
+/// The outline of a part of a control.
+void drawOutline(const QStyleOption& option, const QRect& part, QPainter& painter);
 void drawFocus(const QStyleOption& option, QPainter& painter);
 /// Behind the title of a list's column.
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter);

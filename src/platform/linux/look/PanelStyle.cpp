@@ -98,6 +98,13 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         break;
     case PE_PanelScrollAreaCorner:
         break;
+    case PE_FrameMenu:
+        // The base style's is a shade darker than the window, which on black is nothing.
+        if (isHighContrast(option->palette))
+            ControlPainting::drawFrame(*option, *painter, false);
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        break;
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -112,7 +119,8 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
     const auto* menuItem = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     const auto* progress = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
     if (element == CE_ProgressBar && progress) {
-        ControlPainting::drawProgress(*progress, busyWay(), *painter);
+        // A quarter of the way to and fro is the middle.
+        ControlPainting::drawProgress(*progress, m_motion == Motion::Full ? busyWay() : 0.25, *painter);
     } else if (element == CE_TabBarTabShape) {
         ControlPainting::drawTab(*option, *painter);
     } else if (element == CE_TabBarTabLabel && tab) {
@@ -180,11 +188,25 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control != CC_ScrollBar || !bar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (isHighContrast(option->palette))
+            outlineParts(control, *option, *painter, widget);
         return;
     }
     painter->fillRect(bar->rect, bar->palette.color(grooveRole(widget)));
     if (const QRect handle = scrollHandle(*bar); handle.isValid())
         ControlPainting::drawScrollHandle(*bar, handle, *painter);
+}
+
+/// What the base style outlines with a shade of the window only.
+void PanelStyle::outlineParts(ComplexControl control, const QStyleOptionComplex& option, QPainter& painter,
+                              const QWidget* widget) const
+{
+    if (control == CC_ComboBox) {
+        ControlPainting::drawOutline(option, option.rect, painter);
+    } else if (control == CC_Slider) {
+        for (const SubControl part : {SC_SliderGroove, SC_SliderHandle})
+            ControlPainting::drawOutline(option, subControlRect(control, &option, part, widget), painter);
+    }
 }
 
 QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
@@ -279,6 +301,14 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* returned) const
+{
+    if (hint == SH_Widget_Animation_Duration && m_motion == Motion::Reduced)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 } // namespace LinuxDesktop

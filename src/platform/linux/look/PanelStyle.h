@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/look/Appearance.h"
+
 #include <QProxyStyle>
 
 namespace LinuxDesktop {
@@ -11,6 +13,9 @@ class PanelStyle : public QProxyStyle {
 
 public:
     PanelStyle();
+
+    /// Where motion is reduced nothing moves by itself, and the hint for an animation's duration is 0.
+    void setMotion(Motion motion) { m_motion = motion; }
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
@@ -26,6 +31,14 @@ public:
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+                  QStyleHintReturn* returned = nullptr) const override;
+
+private:
+    void outlineParts(ComplexControl control, const QStyleOptionComplex& option, QPainter& painter,
+                      const QWidget* widget) const;
+
+    Motion m_motion = Motion::Full;
 };
 
 } // namespace LinuxDesktop

@@ -1,6 +1,7 @@
 #include "platform/linux/look/ThemeColors.h"
 
 #include <array>
+#include <cstdlib>
 
 namespace LinuxDesktop {
 
@@ -37,13 +38,38 @@ constexpr std::array colors{
     RoleColor{QPalette::ToolTipText, 0xfff4f5f7, 0xfff4f5f7, 0xfff4f5f7, 0xfff4f5f7},
 };
 
+/// The same with nothing between black and white that a text or a line would have to be made out against. What is
+/// disabled is told by its grey, which can still be read.
+constexpr std::array highContrastColors{
+    RoleColor{QPalette::Window, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000},
+    RoleColor{QPalette::WindowText, 0xff000000, 0xffffffff, 0xff4d4d4d, 0xffb3b3b3},
+    RoleColor{QPalette::Base, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000},
+    RoleColor{QPalette::AlternateBase, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000},
+    RoleColor{QPalette::Text, 0xff000000, 0xffffffff, 0xff4d4d4d, 0xffb3b3b3},
+    RoleColor{QPalette::PlaceholderText, 0xff333333, 0xffd6d6d6, 0xff4d4d4d, 0xffb3b3b3},
+    RoleColor{QPalette::Button, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000},
+    RoleColor{QPalette::ButtonText, 0xff000000, 0xffffffff, 0xff4d4d4d, 0xffb3b3b3},
+    RoleColor{QPalette::BrightText, 0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff},
+    RoleColor{QPalette::Light, 0xffffffff, 0xff8c8c8c, 0xffffffff, 0xff8c8c8c},
+    RoleColor{QPalette::Midlight, 0xffe0e0e0, 0xff666666, 0xffe0e0e0, 0xff666666},
+    RoleColor{QPalette::Mid, 0xff595959, 0xffb3b3b3, 0xff595959, 0xffb3b3b3},
+    RoleColor{QPalette::Dark, 0xff404040, 0xff404040, 0xff404040, 0xff404040},
+    RoleColor{QPalette::Shadow, 0xff000000, 0xff000000, 0xff000000, 0xff000000},
+    RoleColor{QPalette::Highlight, 0xff00379e, 0xff8fc1ff, 0xff9aa7bd, 0xff3f4d60},
+    RoleColor{QPalette::HighlightedText, 0xffffffff, 0xff000000, 0xff000000, 0xffffffff},
+    RoleColor{QPalette::Link, 0xff00379e, 0xff9ecbff, 0xff4d4d4d, 0xffb3b3b3},
+    RoleColor{QPalette::LinkVisited, 0xff551a8b, 0xffd9b8ff, 0xff4d4d4d, 0xffb3b3b3},
+    RoleColor{QPalette::ToolTipBase, 0xff000000, 0xffffffff, 0xff000000, 0xffffffff},
+    RoleColor{QPalette::ToolTipText, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000},
+};
+
 } // namespace
 
-QPalette themePalette(ColorScheme scheme)
+QPalette themePalette(ColorScheme scheme, Contrast contrast)
 {
     const bool dark = scheme == ColorScheme::Dark;
     QPalette palette;
-    for (const RoleColor& color : colors) {
+    for (const RoleColor& color : contrast == Contrast::High ? highContrastColors : colors) {
         palette.setColor(QPalette::All, color.role, QColor::fromRgb(dark ? color.dark : color.light));
         palette.setColor(QPalette::Disabled, color.role,
                          QColor::fromRgb(dark ? color.darkDisabled : color.lightDisabled));
@@ -51,14 +77,23 @@ QPalette themePalette(ColorScheme scheme)
     return palette;
 }
 
+bool isHighContrast(const QPalette& palette)
+{
+    constexpr int nearlyAll = 240;
+    return std::abs(qGray(palette.color(QPalette::Active, QPalette::WindowText).rgb()) -
+                    qGray(palette.color(QPalette::Active, QPalette::Window).rgb())) >= nearlyAll;
+}
+
 QColor controlOutline(const QPalette& palette)
 {
-    return mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.64F);
+    return mixed(palette.color(QPalette::Base), palette.color(QPalette::Text),
+                 isHighContrast(palette) ? 1.0F : 0.64F);
 }
 
 QColor dividingLine(const QPalette& palette)
 {
-    return mixed(palette.color(QPalette::Window), palette.color(QPalette::Text), 0.16F);
+    return mixed(palette.color(QPalette::Window), palette.color(QPalette::Text),
+                 isHighContrast(palette) ? 0.6F : 0.16F);
 }
 
 QColor mixed(const QColor& one, const QColor& other, float share)

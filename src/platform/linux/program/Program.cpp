@@ -2,6 +2,7 @@
 
 #include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/bus/ActivationToken.h"
+#include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/program/DisplayConnection.h"
 #include "platform/linux/program/Resources.h"
 #include "platform/linux/program/TerminationSignals.h"
@@ -121,10 +122,14 @@ void Program::whenAskedToEnd(std::function<void()> asked)
 
 int Program::show(QWidget& window)
 {
-    m_name.whenActivated([&window] { bringToFront(window); });
+    m_name.whenActivated([&window] {
+        QWidget* panel = QApplication::activeModalWidget();
+        bringToFront(panel ? *panel : window);
+    });
     // Another process may have become the program since this one looked.
     if (m_name.claim() == ApplicationName::Claim::OwnedByAnother)
         return activateOther();
+    fitToScreen(window);
     bringToFront(window);
     return QApplication::exec();
 }
@@ -139,6 +144,9 @@ int Program::activateOther()
 
 void bringToFront(QWidget& window)
 {
+    // A sheet is on view with its window only.
+    if (const QWidget* parent = window.parentWidget(); parent && parent->window()->isMinimized())
+        parent->window()->showNormal();
     if (window.isMinimized())
         window.showNormal();
     else

@@ -42,8 +42,8 @@ public:
 
     /// Runs a program from its arguments to its exit status: 0; 1 where there is no display or the running process
     /// does not answer; 2 for an argument that is neither --help, --version, the program's own nor the toolkit's.
-    /// `main` is called where none runs yet. Its windows look as the desktop wishes, and follow its wish for dark or
-    /// light.
+    /// `main` is called where none runs yet. Its windows look as the desktop wishes, and follow its wishes for
+    /// colours, contrast and motion.
     static int run(const ProgramDescription& description, int argc, char** argv, const Main& main);
 
     /// The folder of the installed files.
@@ -59,8 +59,8 @@ public:
     /// What a signal that asks the process to end does. At first it quits.
     void whenAskedToEnd(std::function<void()> asked);
 
-    /// A `main` in one line: shows the window, brings it to the front when the program is started again, and ends
-    /// when it is closed.
+    /// A `main` in one line: shows the window, brings it or the panel that blocks it to the front when the
+    /// program is started again, and ends when it is closed.
     int show(QWidget& window);
 
 private:
@@ -75,7 +75,7 @@ private:
     ApplicationName m_name;
 };
 
-/// Shows the window in front of the others, also where it is minimised.
+/// Shows the window in front of the others, also where it or the one that it is attached to is minimised.
 void bringToFront(QWidget& window);
 
 } // namespace LinuxDesktop

@@ -11,7 +11,11 @@
 namespace LinuxDesktop {
 
 WindowSurroundings::WindowSurroundings(SessionBus& bus, const QString& programs)
-    : m_colorScheme(bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); })
+    : m_appearance(bus, [](const AppearanceWishes& wishes) {
+          applyAppearance(wishes.dark ? ColorScheme::Dark : ColorScheme::Light,
+                          wishes.highContrast ? Contrast::High : Contrast::Normal,
+                          wishes.reducedMotion || wishes.noAnimations ? Motion::Reduced : Motion::Full);
+      })
 {
     applyAppearance(ColorScheme::Light);
     // It is drawn in many sizes, which can wait until the window shows.

@@ -1,11 +1,14 @@
 #include "platform/linux/scenes/MainWindow.h"
 
+#include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/scenes/WidgetScene.h"
+#include "platform/linux/scenes/WindowSizes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QScreen>
+#include <QWindow>
 
 namespace LinuxDesktop {
 
@@ -41,20 +44,30 @@ void MainWindow::setContentViewController(std::shared_ptr<NS::ViewController> co
     m_content = std::move(controller);
 }
 
-/// A window as its scene has it may be larger than the screen.
-void MainWindow::fitToScreen()
+MainWindow::~MainWindow()
 {
-    // What a window manager's frame takes, which is not known before the window shows.
-    constexpr QSize frame(16, 48);
-    const QSize room = screen()->availableSize() - frame;
-    setMinimumSize(minimumSize().boundedTo(room));
-    resize(size().boundedTo(room));
+    const QSize left = isMaximized() || isFullScreen() ? normalGeometry().size() : size();
+    if (screen() && m_openedSize.isValid() && left.isValid() && left != m_openedSize)
+        WindowSizes::remember(objectName(), *screen(), left);
+}
+
+void MainWindow::takeSize()
+{
+    resize(WindowSizes::remembered(objectName(), *screen()).value_or(m_designedSize));
+    fitToScreen(*this);
+    m_openedSize = size();
 }
 
 void MainWindow::makeKeyAndOrderFront()
 {
-    if (!testAttribute(Qt::WA_WState_Created))
-        fitToScreen();
+    if (!testAttribute(Qt::WA_WState_Created)) {
+        m_designedSize = size();
+        takeSize();
+        create();
+        // It is the window manager who chooses the screen, and a person who moves the window later on.
+        const auto placed = connect(windowHandle(), &QWindow::screenChanged, this, &MainWindow::takeSize);
+        connect(windowHandle(), &QWindow::activeChanged, this, [placed] { disconnect(placed); });
+    }
     if (isMinimized())
         showNormal();
     else

@@ -6,12 +6,14 @@
 
 namespace LinuxDesktop {
 
-/// A window of a scene. Main thread.
+/// A window of a scene. It opens as large as it was left on the screen that it opens on, and no larger than that.
+/// Main thread.
 class MainWindow : public QMainWindow, public NS::Window {
     Q_OBJECT
 
 public:
     using QMainWindow::QMainWindow;
+    ~MainWindow() override;
 
     /// The delegate must outlive the window; null for none.
     void setDelegate(NS::WindowDelegate* delegate) { m_delegate = delegate; }
@@ -28,11 +30,15 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void fitToScreen();
+    void takeSize();
     void noteInFront();
 
     NS::WindowDelegate* m_delegate = nullptr;
     std::shared_ptr<NS::ViewController> m_content;
+    /// As its scene has it.
+    QSize m_designedSize;
+    /// As it was opened; none before that.
+    QSize m_openedSize;
 };
 
 } // namespace LinuxDesktop

@@ -6,6 +6,8 @@ namespace LinuxDesktop {
 
 PushButton::PushButton(QWidget* parent) : ButtonWidget(parent)
 {
+    // Enter presses the button that has the keyboard.
+    setAutoDefault(true);
     connect(this, &QPushButton::clicked, this, [this] {
         if (!isBlockedByPanel(*this))
             sendAction();

@@ -72,15 +72,20 @@ QSize RowList::sizeHint() const
 void RowList::reloadData()
 {
     m_loaded = true;
+    const QWidget* focused = window()->focusWidget();
+    const bool hadFocus = focused && (focused == this || isAncestorOf(focused));
+    const int rowsBefore = m_rowCount;
     m_rowCount = m_dataSource ? static_cast<int>(m_dataSource->numberOfRowsInTableView(*this)) : 0;
     m_emptyLabel->setVisible(m_rowCount == 0);
     describeByWords(*this);
-    m_selectedRow = std::min(m_selectedRow, m_rowCount - 1);
+    setSelectedRow(std::min(m_selectedRow, m_rowCount - 1));
     updateScrollRange();
     layOutRows(Refill::AllRows);
     setCurrentRow(m_currentRow);
-    // The row that had the focus has gone, and another is current in its place.
-    if (window()->focusWidget() == this && m_rows.contains(m_currentRow))
+    // The row that had the focus or was selected may have gone, and another is current in its place. The keyboard is
+    // on that row then, and not on a button of it.
+    const bool lostRow = m_rowCount < rowsBefore || window()->focusWidget() == this;
+    if (lostRow && (hadFocus || m_selectedRow >= 0) && m_rows.contains(m_currentRow))
         moveTo(m_currentRow, 0, Qt::OtherFocusReason);
 }
 
@@ -115,10 +120,10 @@ RowWidget* RowList::newRow(std::string_view identifier)
     row->installEventFilter(this);
     // Rows come into being after the rest of the window, and are walked through where the list stands.
     QWidget* before = this;
-    for (QWidget* control : row->controls()) {
-        control->installEventFilter(this);
-        QWidget::setTabOrder(before, control);
-        before = control;
+    for (QWidget* stop : row->stops()) {
+        stop->installEventFilter(this);
+        QWidget::setTabOrder(before, stop);
+        before = stop;
     }
     return row;
 }
@@ -252,9 +257,15 @@ void RowList::selectRow(int row)
 {
     if (!m_selectable || row == m_selectedRow)
         return;
-    m_selectedRow = row;
+    setSelectedRow(row);
     for (const auto& [shownRow, widget] : m_rows)
         showState(*widget, shownRow);
+}
+
+void RowList::setSelectedRow(int row)
+{
+    if (std::exchange(m_selectedRow, row) != row)
+        emit selectionChanged(row >= 0);
 }
 
 void RowList::showState(RowWidget& widget, int row) const
@@ -274,37 +285,55 @@ void RowList::moveTo(int row, qsizetype control, Qt::FocusReason reason)
     else if (top + height > verticalScrollBar()->value() + viewport()->height())
         verticalScrollBar()->setValue(top + height - viewport()->height());
     const auto shown = m_rows.find(m_currentRow);
-    if (shown == m_rows.end() || shown->second->controls().isEmpty())
+    if (shown == m_rows.end())
         return;
-    const QList<QAbstractButton*>& controls = shown->second->controls();
-    controls.at(std::clamp<qsizetype>(control, 0, controls.size() - 1))->setFocus(reason);
+    const QList<QWidget*>& stops = shown->second->stops();
+    stops.at(std::clamp<qsizetype>(control, 0, stops.size() - 1))->setFocus(reason);
 }
 
-bool RowList::handleKey(int key, qsizetype control)
+bool RowList::handleKey(const QKeyEvent& pressed, qsizetype control)
+{
+    std::optional<int> row = rowThatKeyLeadsTo(pressed);
+    // Who goes elsewhere has found what was typed.
+    if (row)
+        m_typeAhead = {};
+    else
+        row =
+            m_typeAhead.find(pressed, m_currentRow, m_rowCount, [this](int number) { return typedTitleOf(number); });
+    if (row) {
+        moveTo(*row, control);
+        selectRow(m_currentRow);
+    }
+    return row.has_value();
+}
+
+/// It may lie before the first row or after the last.
+std::optional<int> RowList::rowThatKeyLeadsTo(const QKeyEvent& pressed)
 {
     const int page = std::max(1, viewport()->height() / std::max(rowHeight(), 1) - 1);
-    switch (key) {
+    switch (pressed.key()) {
     case Qt::Key_Up:
-        moveTo(m_currentRow - 1, control);
-        return true;
+        return m_currentRow - 1;
     case Qt::Key_Down:
-        moveTo(m_currentRow + 1, control);
-        return true;
+        return m_currentRow + 1;
     case Qt::Key_PageUp:
-        moveTo(m_currentRow - page, control);
-        return true;
+        return m_currentRow - page;
     case Qt::Key_PageDown:
-        moveTo(m_currentRow + page, control);
-        return true;
+        return m_currentRow + page;
     case Qt::Key_Home:
-        moveTo(0, control);
-        return true;
+        return 0;
     case Qt::Key_End:
-        moveTo(m_rowCount - 1, control);
-        return true;
+        return m_rowCount - 1;
     default:
-        return false;
+        return std::nullopt;
     }
+}
+
+QString RowList::typedTitleOf(int row)
+{
+    return m_delegate
+               ? QString::fromStdString(m_delegate->tableView_typeSelectStringForTableColumn_row(*this, nullptr, row))
+               : QString();
 }
 
 /// Whether a row that gets the focus is selected.
@@ -314,39 +343,72 @@ bool RowList::selects(const QFocusEvent& event) const
     return isByPerson(event) || (m_selectedRow >= 0 && event.reason() == Qt::OtherFocusReason);
 }
 
+/// Whatever way the user came to a row, it is the current one from then on.
+void RowList::comeToRow(int row, const QEvent& event)
+{
+    setCurrentRow(row);
+    // A window that is come back to selects nothing by itself.
+    if (event.type() != QEvent::FocusIn || selects(static_cast<const QFocusEvent&>(event)))
+        selectRow(row);
+}
+
+/// What the pointer does on a row beside its controls. Whether that is all that becomes of it.
+bool RowList::handlePointer(RowWidget& row, const QMouseEvent& event)
+{
+    QAbstractButton* const box = m_selectable ? nullptr : row.checkBox();
+    if (event.type() == QEvent::MouseButtonRelease) {
+        if (!box || m_pressedRow < 0 || event.button() != Qt::LeftButton)
+            return false;
+        box->setDown(false);
+        const bool isOnItStill = m_pressedRow == rowOf(row) && row.rect().contains(event.position().toPoint());
+        m_pressedRow = -1;
+        if (isOnItStill)
+            box->click();
+        return true;
+    }
+    row.stops().front()->setFocus(Qt::MouseFocusReason);
+    if (box && event.button() == Qt::LeftButton) {
+        m_pressedRow = rowOf(row);
+        box->setDown(true);
+    }
+    // Not to be taken for a click below the rows.
+    return true;
+}
+
 bool RowList::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        const auto* pressed = static_cast<QKeyEvent*>(event);
-        const auto shown = m_rows.find(m_currentRow);
-        if (shown != m_rows.end()) {
-            const qsizetype control = shown->second->controls().indexOf(static_cast<QWidget*>(watched));
-            if (control >= 0 && handleKey(pressed->key(), control)) {
-                selectRow(m_currentRow);
-                return true;
-            }
-        }
-    } else if (event->type() == QEvent::MouseButtonDblClick && qobject_cast<QPushButton*>(watched)) {
+    auto* row = qobject_cast<RowWidget*>(watched);
+    const bool isBeside = row;
+    if (!row && watched->parent())
+        row = qobject_cast<RowWidget*>(watched->parent());
+    const int number = row ? rowOf(*row) : -1;
+    if (number < 0)
+        return QAbstractScrollArea::eventFilter(watched, event);
+
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        // One that its control leaves alone comes by once more on its way up.
+        if (auto* stop = static_cast<QWidget*>(watched);
+            stop->hasFocus() && handleKey(*static_cast<QKeyEvent*>(event), row->stops().indexOf(stop)))
+            return true;
+        break;
+    case QEvent::MouseButtonDblClick:
         // Pressing a row's button may take the row away, and then the second press would be for the row below.
-        return true;
-    } else if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress) {
-        // Whatever way the user came to a row, it is the current one from then on.
-        auto* pressed = qobject_cast<RowWidget*>(watched);
-        auto* row = pressed;
-        if (!row && watched->parent())
-            row = qobject_cast<RowWidget*>(watched->parent());
-        const int number = row ? rowOf(*row) : -1;
-        if (number >= 0) {
-            setCurrentRow(number);
-            // A window that is come back to selects nothing by itself.
-            if (event->type() == QEvent::MouseButtonPress || selects(*static_cast<QFocusEvent*>(event)))
-                selectRow(number);
-            if (pressed && m_selectable && !row->controls().isEmpty())
-                row->controls().front()->setFocus(Qt::MouseFocusReason);
-            // Not to be taken for a click below the rows.
-            if (pressed && event->type() == QEvent::MouseButtonPress)
-                return true;
-        }
+        if (qobject_cast<QPushButton*>(watched))
+            return true;
+        [[fallthrough]];
+    case QEvent::MouseButtonPress:
+        comeToRow(number, *event);
+        [[fallthrough]];
+    case QEvent::MouseButtonRelease:
+        if (isBeside && handlePointer(*row, *static_cast<QMouseEvent*>(event)))
+            return true;
+        break;
+    case QEvent::FocusIn:
+        comeToRow(number, *event);
+        break;
+    default:
+        break;
     }
     return QAbstractScrollArea::eventFilter(watched, event);
 }
@@ -360,10 +422,8 @@ void RowList::mousePressEvent(QMouseEvent* event)
 
 void RowList::keyPressEvent(QKeyEvent* event)
 {
-    if (m_rowCount > 0 && handleKey(event->key(), 0))
-        selectRow(m_currentRow);
-    else
-        QAbstractScrollArea::keyPressEvent(event);
+    // Those that a row leaves alone come by here, and would scroll it away.
+    event->setAccepted(m_rowCount > 0 && hasFocus() && handleKey(*event, 0));
 }
 
 void RowList::focusInEvent(QFocusEvent* event)

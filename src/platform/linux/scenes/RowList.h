@@ -1,12 +1,14 @@
 #pragma once
 
 #include "platform/TableView.h"
+#include "platform/linux/scenes/TypeAhead.h"
 
 #include <QAbstractScrollArea>
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -17,7 +19,8 @@ class RowWidget;
 
 /// A list of a scene. It has row views for the rows in sight alone and uses those that leave sight again, so that
 /// a long list costs what a short one does. One row is current: Tab reaches its controls, the arrow keys, Home,
-/// End and the page keys move it. Main thread.
+/// End, the page keys and the first letters of a title move it. Where no row can be selected, a click on a row is one
+/// on its checkbox. Main thread.
 class RowList : public QAbstractScrollArea, public NS::TableView {
     Q_OBJECT
     /// What an empty list says.
@@ -51,6 +54,10 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
+signals:
+    /// Another row is selected, or none.
+    void selectionChanged(bool isSelected);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -72,10 +79,15 @@ private:
     void updateScrollRange();
     void setCurrentRow(int row);
     void selectRow(int row);
+    void setSelectedRow(int row);
     [[nodiscard]] bool selects(const QFocusEvent& event) const;
+    void comeToRow(int row, const QEvent& event);
+    bool handlePointer(RowWidget& row, const QMouseEvent& event);
     void showState(RowWidget& widget, int row) const;
     void moveTo(int row, qsizetype control, Qt::FocusReason reason = Qt::TabFocusReason);
-    bool handleKey(int key, qsizetype control);
+    bool handleKey(const QKeyEvent& pressed, qsizetype control);
+    [[nodiscard]] std::optional<int> rowThatKeyLeadsTo(const QKeyEvent& pressed);
+    [[nodiscard]] QString typedTitleOf(int row);
     [[nodiscard]] int rowHeight();
     [[nodiscard]] int rowOf(const RowWidget& widget) const;
 
@@ -91,6 +103,9 @@ private:
     int m_currentRow = 0;
     bool m_selectable = false;
     int m_selectedRow = -1;
+    /// The one that the pointer's button went down on; -1 for none.
+    int m_pressedRow = -1;
+    TypeAhead m_typeAhead;
     std::map<int, RowWidget*> m_rows;
     std::vector<RowWidget*> m_spareRows;
     /// Row views handed out while a row is being filled.

@@ -5,8 +5,11 @@
 #include "platform/linux/scenes/Label.h"
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 
 namespace LinuxDesktop {
 
@@ -23,19 +26,24 @@ RowWidget::RowWidget(QWidget* parent) : QWidget(parent)
 
 void RowWidget::prepare()
 {
-    for (auto* button : findChildren<QAbstractButton*>()) {
-        if (!button->isHidden())
-            m_controls.append(button);
+    QList<QAbstractButton*> controls = findChildren<QAbstractButton*>();
+    controls.removeIf([](const QAbstractButton* button) { return button->isHidden(); });
+    for (QAbstractButton* control : controls) {
+        m_stops.append(control);
+        if (!m_checkBox)
+            m_checkBox = qobject_cast<QCheckBox*>(control);
     }
+    if (!m_checkBox)
+        m_stops.prepend(this);
     if (auto* title = findChild<Label*>()) {
-        connect(title, &Label::textChanged, this, [this](const QString& text) {
+        connect(title, &Label::textChanged, this, [this, controls](const QString& text) {
             LinuxDesktop::setAccessibleName(*this, text);
-            for (QAbstractButton* control : m_controls)
+            for (QAbstractButton* control : controls)
                 LinuxDesktop::setAccessibleName(
                     *control, control->text().isEmpty() ? text : tr("%1 %2").arg(control->text(), text));
         });
-        connect(title, &Label::toolTipChanged, this, [this](const QString& text) {
-            for (QAbstractButton* control : m_controls)
+        connect(title, &Label::toolTipChanged, this, [controls](const QString& text) {
+            for (QAbstractButton* control : controls)
                 LinuxDesktop::setAccessibleDescription(*control, text);
         });
     }
@@ -45,8 +53,8 @@ void RowWidget::prepare()
 void RowWidget::setCurrent(bool current)
 {
     m_current = current;
-    for (QAbstractButton* control : m_controls)
-        control->setFocusPolicy(current ? Qt::StrongFocus : Qt::ClickFocus);
+    for (QWidget* stop : m_stops)
+        stop->setFocusPolicy(current ? Qt::StrongFocus : Qt::ClickFocus);
     update();
 }
 
@@ -79,6 +87,12 @@ void RowWidget::paintEvent(QPaintEvent*)
         painter.fillRect(rect(), tint);
     }
     painter.fillRect(QRect(0, height() - 1, width(), 1), dividingLine(palette()));
+    if (hasFocus()) {
+        QStyleOptionFocusRect ring;
+        ring.initFrom(this);
+        ring.rect.adjust(1, 1, -1, -2);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
+    }
 }
 
 } // namespace LinuxDesktop

@@ -26,10 +26,13 @@ public:
     /// gives each the row's title as its accessible name from now on, after the text that it shows, and the title's
     /// tool tip as its description.
     void prepare();
-    /// The row's controls from left to right.
-    [[nodiscard]] const QList<QAbstractButton*>& controls() const { return m_controls; }
+    /// What the keyboard stops at in the row, in its order: its controls, and before them the row itself where it has
+    /// no checkbox, so that nobody who comes to it is on a button that does something at once.
+    [[nodiscard]] const QList<QWidget*>& stops() const { return m_stops; }
+    /// What switches the row on and off; null where nothing does.
+    [[nodiscard]] QAbstractButton* checkBox() const { return m_checkBox; }
 
-    /// The row that the keyboard is on: its controls alone are reached with Tab.
+    /// The row that the keyboard is on: its stops alone are reached with Tab.
     void setCurrent(bool current);
     [[nodiscard]] bool isCurrent() const { return m_current; }
 
@@ -42,7 +45,8 @@ protected:
 
 private:
     std::unique_ptr<NS::TableCellView> m_cell;
-    QList<QAbstractButton*> m_controls;
+    QList<QWidget*> m_stops;
+    QAbstractButton* m_checkBox = nullptr;
     bool m_current = false;
     std::optional<bool> m_selected;
 };

@@ -4,9 +4,12 @@
 #include "platform/linux/scenes/WidgetScene.h"
 
 #include <QAccessible>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QTabBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -16,6 +19,11 @@ TabPages::TabPages(QWidget* parent) : QTabWidget(parent)
         if (isVisible())
             loadCurrentPage();
     });
+    for (const auto& [keys, step] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
+        auto* shortcut = new QShortcut(Qt::ControlModifier | keys, this);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, step = step] { setCurrentIndex((currentIndex() + step + count()) % count()); });
+    }
     tabBar()->setAccessibleName(tr("Pages"));
     tabBar()->installEventFilter(this);
 }

@@ -12,7 +12,7 @@
 namespace LinuxDesktop {
 
 /// The tabs of a scene. A page names its screen's scene in its property "scene"; the screen is made when the page
-/// is first shown. Main thread.
+/// is first shown. Ctrl+PageUp and Ctrl+PageDown go from one to the next, round and round. Main thread.
 class TabPages : public QTabWidget, public NS::TabView {
     Q_OBJECT
 

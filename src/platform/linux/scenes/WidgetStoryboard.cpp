@@ -5,6 +5,7 @@
 #include "platform/TableView.h"
 #include "platform/WindowController.h"
 #include "platform/linux/scenes/CollectionGrid.h"
+#include "platform/linux/scenes/FolderDrops.h"
 #include "platform/linux/scenes/ImageWidget.h"
 #include "platform/linux/scenes/MainWindow.h"
 #include "platform/linux/scenes/PushButton.h"
@@ -25,6 +26,24 @@ T makeObject(const NS::ClassTable::Makers<T>& makers, std::string_view className
     if (maker == makers.end())
         NS::fatalError("there is no class \"" + std::string(className) + "\" to run a scene");
     return maker->second();
+}
+
+/// A button may name, in the property "selectionOf", the list that something has to be selected in.
+void enableWithSelection(PushButton& button, const QWidget& root)
+{
+    const QString name = button.property("selectionOf").toString();
+    if (name.isEmpty())
+        return;
+    const auto* list = root.findChild<RowList*>(name);
+    if (!list)
+        NS::fatalError("a button is for the selection of a list that does not exist");
+    button.setEnabled(false);
+    QObject::connect(list, &RowList::selectionChanged, &button, [&button](bool isSelected) {
+        // The keyboard stays near the button, where the toolkit would lead it on to the window's first control.
+        if (!isSelected && button.window()->focusWidget() == &button)
+            button.previousInFocusChain()->setFocus(Qt::OtherFocusReason);
+        button.setEnabled(isSelected);
+    });
 }
 
 } // namespace
@@ -67,7 +86,15 @@ void WidgetStoryboard::furnish(QWidget& root, NS::Controller& controller)
         list->setRowMaker([this](std::string_view identifier) { return makeRow(identifier); });
         list->setDataSource(dynamic_cast<NS::TableViewDataSource*>(&controller));
         list->setDelegate(dynamic_cast<NS::TableViewDelegate*>(&controller));
+        auto* source = dynamic_cast<NS::TableViewDataSource*>(&controller);
+        if (source && list->property("takesFolders").toBool()) {
+            new FolderDrops(*list, m_refusal, [list, source](const std::vector<NS::URL>& folders) {
+                source->tableView_acceptDrop(*list, folders);
+            });
+        }
     }
+    for (auto* button : root.findChildren<PushButton*>())
+        enableWithSelection(*button, root);
     for (auto* grid : root.findChildren<CollectionGrid*>()) {
         grid->setItemMaker([this](std::string_view identifier) {
             return std::dynamic_pointer_cast<NS::CollectionViewItem>(instantiateControllerWithIdentifier(identifier));

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/linux/scenes/DroppedFolders.h"
+
+#include <QAbstractScrollArea>
+
+namespace LinuxDesktop {
+
+/// Has a list take folders that are dropped on it, as long as no panel is in front of its window. What else is
+/// dropped is refused in an alert. Belongs to the list. Main thread.
+class FolderDrops : public QObject {
+    Q_OBJECT
+
+public:
+    /// `taken` gets the folders of a drop, one at least, and those only that may be used.
+    FolderDrops(QAbstractScrollArea& list, PathRefusal refusal,
+                std::function<void(const std::vector<NS::URL>&)> taken);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void take(const QByteArray& addresses);
+    void tell(const QStringList& refusals);
+
+    QAbstractScrollArea& m_list;
+    QWidget* m_frame;
+    PathRefusal m_refusal;
+    std::function<void(const std::vector<NS::URL>&)> m_taken;
+};
+
+} // namespace LinuxDesktop
