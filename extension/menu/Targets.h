@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/LocalizedString.h"
+
 #include <cstddef>
 #include <span>
 #include <string>
@@ -23,8 +25,9 @@ struct Target {
 inline constexpr std::size_t mostTargets = 100;
 
 /// What asks for a folder that is not among them.
-inline constexpr const char* chooseFolderTitle = "Choose Folder…";
-inline constexpr const char* chooseFolderDescription = "Asks for another folder";
+inline constexpr const char* chooseFolderTitle = NS::LocalizableString("Menu", "Choose Folder…").data();
+inline constexpr const char* chooseFolderDescription =
+    NS::LocalizableString("Menu", "Asks for another folder").data();
 
 /// In the icon theme, of each of them.
 inline constexpr const char* targetIcon = "folder";

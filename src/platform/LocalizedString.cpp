@@ -1,6 +1,7 @@
 #include "platform/LocalizedString.h"
 
 #include <atomic>
+#include <cerrno>
 #include <cstddef>
 
 namespace NS {
@@ -20,7 +21,12 @@ std::string LocalizedString(std::string_view table, std::string_view text)
 {
     const Localizer localizer = installed;
     // Catalogues keep what they say of themselves under the empty text.
-    return localizer && !text.empty() ? localizer(table, text) : std::string(text);
+    if (!localizer || text.empty())
+        return std::string(text);
+    const int error = errno;
+    std::string localized = localizer(table, text);
+    errno = error;
+    return localized;
 }
 
 std::string stringWithFormat(std::string_view format, std::initializer_list<std::string_view> arguments)

@@ -8,7 +8,7 @@ namespace NS {
 
 /// The text in the user's language, as the table of a catalogue has it; the text itself in English, and where no
 /// catalogue has it. Both are literals where a text is not marked by LocalizableString(), since the catalogues are
-/// made of what the source says. Any thread.
+/// made of what the source says. Leaves errno alone. Any thread.
 [[nodiscard]] std::string LocalizedString(std::string_view table, std::string_view text);
 
 /// Marks a text that stays English where it is kept, and is given to LocalizedString() where it is shown.

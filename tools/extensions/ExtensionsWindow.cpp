@@ -24,9 +24,9 @@ constexpr int initialWidth = 620;
 ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& controls, FileManagersControl& fileManagers,
                                    const std::string& actions, const QIcon& icon)
 {
-    setWindowTitle(QStringLiteral("Extensions"));
+    setWindowTitle(tr("Extensions"));
 
-    auto* introduction = makeText(QStringLiteral("Extensions bring Orvik Menu into other programs."), this);
+    auto* introduction = makeText(tr("Extensions bring Orvik Menu into other programs."), this);
     introduction->setForegroundRole(QPalette::PlaceholderText);
 
     auto* card = new LinuxDesktop::Card(this);

@@ -21,10 +21,10 @@ StatusDot::Tone toneOf(const FileManagerStatus& status)
 
 FileManagerRow::FileManagerRow(FileManagersControl& control, std::size_t index, QWidget* parent)
     : QWidget(parent), m_control(control), m_index(index), m_state(new StatusLine(this)),
-      m_restart(new QPushButton(QStringLiteral("Restart"), this))
+      m_restart(new QPushButton(tr("Restart"), this))
 {
     const QString name = nameOf(MenuExtension::fileManagers.at(index));
-    m_restart->setAccessibleName(QStringLiteral("Restart %1").arg(name));
+    m_restart->setAccessibleName(tr("Restart %1").arg(name));
     auto* title = makeText(name, this);
     QFont font = title->font();
     font.setWeight(QFont::DemiBold);

@@ -2,11 +2,20 @@
 
 #include "settings/MenuCatalogue.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <unistd.h>
 
 namespace ExtensionsTool {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LackingActions)
+};
+
+} // namespace
 
 std::vector<LackingAction> lackingActions(const std::string& programs)
 {
@@ -26,8 +35,8 @@ QString inWords(const LackingAction& action)
     QStringList packages;
     for (const MenuExtension::ActionNeed& need : action.needs)
         packages += QString::fromStdString(need.package);
-    return (packages.size() == 1 ? QStringLiteral("Needs the package %1, which is not installed.")
-                                 : QStringLiteral("Needs the packages %1, which are not installed."))
+    return (packages.size() == 1 ? Texts::tr("Needs the package %1, which is not installed.")
+                                 : Texts::tr("Needs the packages %1, which are not installed."))
         .arg(packages.join(QStringLiteral(", ")));
 }
 

@@ -38,7 +38,7 @@ LackingActionsSection::LackingActionsSection(std::string programs, QWidget* pare
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
-    auto* const heading = makeText(QStringLiteral("Actions that are in no menu:"), this);
+    auto* const heading = makeText(tr("Actions that are in no menu:"), this);
     heading->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(heading);
     setVisible(false);

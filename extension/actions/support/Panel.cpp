@@ -1,6 +1,7 @@
 #include "extension/actions/support/Panel.h"
 
 #include "extension/actions/support/Programs.h"
+#include "platform/LocalizedString.h"
 
 #include <filesystem>
 #include <system_error>
@@ -17,7 +18,8 @@ Outcome startPanel()
     const bool isThere = !error && ::access(beside.c_str(), X_OK) == 0;
     if (Programs::start({isThere ? beside.native() : name}))
         return Outcome::done();
-    return Outcome::failed("The control panel of Orvik Menu could not be started. Install Orvik Menu again.");
+    return Outcome::failed(NS::LocalizedString(
+        "Action", "The control panel of Orvik Menu could not be started. Install Orvik Menu again."));
 }
 
 } // namespace MenuExtension

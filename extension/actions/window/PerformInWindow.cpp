@@ -1,6 +1,7 @@
 #include "extension/actions/window/PerformInWindow.h"
 
 #include "extension/actions/support/Answer.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/bus/SessionBus.h"
 #include "platform/linux/program/DisplayConnection.h"
 #include "platform/linux/program/TerminationSignals.h"
@@ -26,7 +27,7 @@ int argumentCount = 1;
 
 int failWithoutDisplay()
 {
-    answer(Outcome::failed("There is no display to show the window on."));
+    answer(Outcome::failed(NS::LocalizedString("Action", "There is no display to show the window on.")));
     return EXIT_FAILURE;
 }
 

@@ -42,7 +42,7 @@ QToolButton* toolButton(const QString& title, const QString& keys, const QIcon& 
 {
     auto* button = new QToolButton(parent);
     button->setText(title);
-    button->setToolTip(u"%1 (%2)"_s.arg(title, keys));
+    button->setToolTip(u"%1 (%2)"_s.arg(title, QKeySequence(keys).toString(QKeySequence::NativeText)));
     button->setIcon(icon);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
@@ -87,17 +87,18 @@ void FileChooserDialog::build()
     setUpText(*m_message);
     m_message->setVisible(!m_settings.message.isEmpty());
 
-    auto* upButton = toolButton(u"Up"_s, u"Alt+Up"_s, style()->standardIcon(QStyle::SP_FileDialogToParent), this);
+    auto* upButton = toolButton(tr("Up"), u"Alt+Up"_s, style()->standardIcon(QStyle::SP_FileDialogToParent), this);
     upButton->setObjectName(u"upButton"_s);
     connect(upButton, &QToolButton::clicked, this, &FileChooserDialog::goUp);
     m_upButton = upButton;
-    auto* homeButton = toolButton(u"Home"_s, u"Alt+Home"_s, style()->standardIcon(QStyle::SP_DirHomeIcon), this);
+    auto* homeButton = toolButton(tr("Home"), u"Alt+Home"_s, style()->standardIcon(QStyle::SP_DirHomeIcon), this);
     homeButton->setObjectName(u"homeButton"_s);
     connect(homeButton, &QToolButton::clicked, this, [this] { goTo(homeFolder()); });
     m_location = new LocationField(m_settings.hiddenFiles, this);
     m_location->setObjectName(u"pathField"_s);
-    m_location->setAccessibleName(u"Location"_s);
-    m_location->setToolTip(u"Location (Ctrl+L)"_s);
+    m_location->setAccessibleName(tr("Location"));
+    m_location->setToolTip(
+        u"%1 (%2)"_s.arg(tr("Location"), QKeySequence(u"Ctrl+L"_s).toString(QKeySequence::NativeText)));
     auto* pathRow = new QHBoxLayout;
     pathRow->addWidget(upButton);
     pathRow->addWidget(homeButton);
@@ -107,10 +108,10 @@ void FileChooserDialog::build()
     panes->setChildrenCollapsible(false);
     m_places = new PlacesList(panes);
     m_places->setObjectName(u"placesList"_s);
-    m_places->setAccessibleName(u"Places"_s);
+    m_places->setAccessibleName(tr("Places"));
     m_list = new FileList(panes);
     m_list->setObjectName(u"fileList"_s);
-    m_list->setAccessibleName(u"Files"_s);
+    m_list->setAccessibleName(tr("Files"));
     m_list->setFilesEnabled(m_settings.canChooseFiles);
     if (m_settings.allowsMultipleSelection)
         m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -124,7 +125,7 @@ void FileChooserDialog::build()
     setUpText(*m_notice);
     m_notice->hide();
 
-    m_cancelButton = new QPushButton(u"Cancel"_s, this);
+    m_cancelButton = new QPushButton(tr("Cancel"), this);
     m_cancelButton->setObjectName(u"cancelButton"_s);
     m_confirmButton = new QPushButton(buttonTitle(m_settings.prompt), this);
     m_confirmButton->setObjectName(u"confirmButton"_s);
@@ -249,7 +250,7 @@ void FileChooserDialog::refresh()
 void FileChooserDialog::tellVanished(const std::string& name)
 {
     m_selectionVanished = true;
-    notice(u"“%1” is no longer there."_s.arg(fileNameText(name)));
+    notice(tr("“%1” is no longer there.").arg(fileNameText(name)));
     updateConfirmButton();
 }
 
@@ -269,7 +270,7 @@ void FileChooserDialog::goTo(const std::string& path)
     } else if (lookupError(path) != 0) {
         refuse(path);
     } else {
-        notice(u"“%1” cannot be found."_s.arg(fileNameText(path)));
+        notice(tr("“%1” cannot be found.").arg(fileNameText(path)));
     }
 }
 
@@ -313,8 +314,8 @@ void FileChooserDialog::confirmByKey()
         enterEntry(selected.front());
     else if (selected.empty() && canConfirm() && m_folder == m_firstFolder)
         // A key too many must not choose all that the chooser opens in.
-        notice(u"Nothing is selected. To choose “%1” itself, press the button “%2”."_s.arg(fileNameText(m_folder),
-                                                                                           m_settings.prompt));
+        notice(tr("Nothing is selected. To choose “%1” itself, press the button “%2”.")
+                   .arg(fileNameText(m_folder), m_settings.prompt));
     else
         confirm();
 }
@@ -369,14 +370,14 @@ void FileChooserDialog::choose(std::vector<std::string> paths)
 void FileChooserDialog::refuse(const std::string& path)
 {
     if (const int error = lookupError(path); error != 0) {
-        const QString why = error == ENAMETOOLONG ? u"its path is too long"_s
+        const QString why = error == ENAMETOOLONG ? tr("its path is too long")
                                                   : QString::fromStdString(std::generic_category().message(error));
-        notice(u"“%1” cannot be chosen: %2."_s.arg(fileNameText(fileName(path)), why));
+        notice(tr("“%1” cannot be chosen: %2.").arg(fileNameText(fileName(path)), why));
         return;
     }
     refresh();
     if (!m_selectionVanished)
-        notice(u"“%1” cannot be chosen."_s.arg(fileNameText(path)));
+        notice(tr("“%1” cannot be chosen.").arg(fileNameText(path)));
 }
 
 void FileChooserDialog::notice(const QString& words)

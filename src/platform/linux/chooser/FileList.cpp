@@ -25,13 +25,13 @@ QString wordsFor(const FolderListing& listing)
 {
     switch (listing.error) {
     case 0:
-        return listing.entries.empty() ? u"This folder is empty."_s : QString();
+        return listing.entries.empty() ? FileList::tr("This folder is empty.") : QString();
     case EACCES:
     case EPERM:
-        return u"You do not have permission to see what is in this folder."_s;
+        return FileList::tr("You do not have permission to see what is in this folder.");
     default:
-        return u"This folder cannot be read: %1."_s.arg(
-            QString::fromStdString(std::generic_category().message(listing.error)));
+        return FileList::tr("This folder cannot be read: %1.")
+            .arg(QString::fromStdString(std::generic_category().message(listing.error)));
     }
 }
 

@@ -36,13 +36,13 @@ QString kindText(const FileEntry& entry)
 {
     switch (entry.kind) {
     case FileEntry::Kind::Folder:
-        return entry.isLink ? u"Link to a folder"_s : u"Folder"_s;
+        return entry.isLink ? FolderModel::tr("Link to a folder") : FolderModel::tr("Folder");
     case FileEntry::Kind::File:
-        return entry.isLink ? u"Link to a file"_s : u"File"_s;
+        return entry.isLink ? FolderModel::tr("Link to a file") : FolderModel::tr("File");
     case FileEntry::Kind::BrokenLink:
         break;
     }
-    return u"Link to something that is not there"_s;
+    return FolderModel::tr("Link to something that is not there");
 }
 
 } // namespace
@@ -141,11 +141,11 @@ QVariant FolderModel::headerData(int section, Qt::Orientation orientation, int r
         return {};
     switch (section) {
     case Name:
-        return u"Name"_s;
+        return tr("Name");
     case Size:
-        return u"Size"_s;
+        return tr("Size");
     default:
-        return u"Modified"_s;
+        return tr("Modified");
     }
 }
 

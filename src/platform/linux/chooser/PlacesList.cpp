@@ -39,19 +39,19 @@ PlacesList::PlacesList(QWidget* parent) : QListWidget(parent)
         QString iconName;
     };
     const std::array userFolders = {
-        UserFolder{QStandardPaths::DesktopLocation, u"Desktop"_s, u"user-desktop"_s},
-        UserFolder{QStandardPaths::DocumentsLocation, u"Documents"_s, u"folder-documents"_s},
-        UserFolder{QStandardPaths::DownloadLocation, u"Downloads"_s, u"folder-download"_s},
-        UserFolder{QStandardPaths::PicturesLocation, u"Pictures"_s, u"folder-pictures"_s},
-        UserFolder{QStandardPaths::MusicLocation, u"Music"_s, u"folder-music"_s},
-        UserFolder{QStandardPaths::MoviesLocation, u"Videos"_s, u"folder-videos"_s},
+        UserFolder{QStandardPaths::DesktopLocation, tr("Desktop"), u"user-desktop"_s},
+        UserFolder{QStandardPaths::DocumentsLocation, tr("Documents"), u"folder-documents"_s},
+        UserFolder{QStandardPaths::DownloadLocation, tr("Downloads"), u"folder-download"_s},
+        UserFolder{QStandardPaths::PicturesLocation, tr("Pictures"), u"folder-pictures"_s},
+        UserFolder{QStandardPaths::MusicLocation, tr("Music"), u"folder-music"_s},
+        UserFolder{QStandardPaths::MoviesLocation, tr("Videos"), u"folder-videos"_s},
     };
-    addPlace(u"Home"_s, u"user-home"_s, homeFolder());
+    addPlace(tr("Home"), u"user-home"_s, homeFolder());
     for (const UserFolder& place : userFolders) {
         const QByteArray folder = QFile::encodeName(QStandardPaths::writableLocation(place.location));
         addPlace(place.title, place.iconName, normalizedPath(folder.toStdString()));
     }
-    addPlace(u"File System"_s, u"drive-harddisk"_s, "/");
+    addPlace(tr("File System"), u"drive-harddisk"_s, "/");
 
     connect(this, &QListWidget::itemClicked, this, &PlacesList::choose);
 }

@@ -43,7 +43,7 @@ bool StepBadge::eventFilter(QObject*, QEvent* event)
 void StepBadge::tellState()
 {
     const bool done = m_button && !m_button->isEnabled();
-    setAccessibleName(tr(done ? "Step %1, done" : "Step %1, to do").arg(m_number));
+    setAccessibleName((done ? tr("Step %1, done") : tr("Step %1, to do")).arg(m_number));
     update();
 }
 
