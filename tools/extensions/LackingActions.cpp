@@ -1,5 +1,6 @@
 #include "extensions/LackingActions.h"
 
+#include "platform/LocalizedString.h"
 #include "settings/MenuCatalogue.h"
 
 #include <QCoreApplication>
@@ -25,7 +26,7 @@ std::vector<LackingAction> lackingActions(const std::string& programs)
             continue;
         if (auto needs = MenuExtension::missingNeeds(programs, row.identifier); !needs.empty())
             lacking.push_back(
-                {QString::fromUtf8(row.title.data(), static_cast<qsizetype>(row.title.size())), std::move(needs)});
+                {QString::fromStdString(NS::LocalizedString("MenuCatalogue", row.title)), std::move(needs)});
     }
     return lacking;
 }

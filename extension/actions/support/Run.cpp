@@ -1,11 +1,13 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Answer.h"
 #include "extension/actions/support/Picture.h"
+#include "extension/actions/support/Programs.h"
 #include "extension/companion/ExtensionSettings.h"
 #include "extension/companion/SuiteReader.h"
 #include "extension/menu/Menu.h"
 #include "extension/protocol/Words.h"
 #include "platform/LocalizedString.h"
+#include "platform/linux/language/Catalogue.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "settings/AppliesTo.h"
 
@@ -95,6 +97,7 @@ int run(std::uint32_t appliesTo, Perform perform, int argc, char** argv)
     // That nobody reads the answer, or that a file grew too large, is said by the call that meets it.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+    LinuxDesktop::useCatalogue(Programs::folder());
     const Outcome outcome = checkAndPerform(appliesTo, perform, {argv + (argc > 0 ? 1 : 0), argv + argc});
     answer(outcome);
     return outcome.kind == Outcome::Kind::Done ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -11,7 +11,8 @@
 namespace LinuxDesktop {
 
 WindowSurroundings::WindowSurroundings(SessionBus& bus, const QString& programs)
-    : m_colorScheme(bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); })
+    : m_translations(programs),
+      m_colorScheme(bus, [](bool dark) { applyAppearance(dark ? ColorScheme::Dark : ColorScheme::Light); })
 {
     applyAppearance(ColorScheme::Light);
     // It is drawn in many sizes, which can wait until the window shows.

@@ -2,6 +2,7 @@
 
 #include "platform/linux/bus/SessionBus.h"
 #include "platform/linux/program/ColorSchemeSetting.h"
+#include "platform/linux/program/Translations.h"
 
 #include <QObject>
 #include <QString>
@@ -9,8 +10,8 @@
 namespace LinuxDesktop {
 
 /// What a program's windows have of the desktop, as long as this lives: the look, light or dark as the desktop
-/// wishes, the product's icon, and the activation token that the program was started with, for the first window that
-/// shows. Made after the QApplication and before its windows. Main thread.
+/// wishes, the language, the product's icon, and the activation token that the program was started with, for the
+/// first window that shows. Made after the QApplication and before its windows. Main thread.
 class WindowSurroundings : public QObject {
 public:
     /// `programs` is the folder of the programs that users start, from which the installed files are found.
@@ -19,6 +20,7 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    const Translations m_translations;
     ColorSchemeSetting m_colorScheme;
 };
 
