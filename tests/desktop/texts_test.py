@@ -1,0 +1,201 @@
+"""Every window at its smallest, with texts half as large again, in every language: nothing that it says is cut."""
+
+import os
+import unittest
+
+from support.action_window import run_action, start_companion
+from support.case import DesktopTestCase
+from support.catalogues import LANGUAGES, Catalogue
+from support.deployment import EXTENSION
+from support.exif_window import ExifWindow
+from support.waiting import eventually
+
+# Half as large again as the usual 96.
+DOTS_PER_INCH = "144"
+SMALLEST = (300, 200)
+TABS = ["Menu Items", "Folders", "General", "About", "Custom Folders"]
+
+
+class English:
+    """English has no catalogue."""
+
+    language = "en"
+
+    @staticmethod
+    def of(_table, text):
+        return text.replace("&", "")
+
+
+class Texts(ExifWindow, DesktopTestCase):
+    screen_size = (1600, 1200)
+
+    @property
+    def environment(self):
+        return {
+            **super().environment,
+            "LANGUAGE": self.catalogue.language,
+            "QT_FONT_DPI": DOTS_PER_INCH,
+            "QT_PLUGIN_PATH": os.environ["ORVIK_TEST_PLUGINS"],
+            "QT_QPA_GENERIC_PLUGINS": "orvik-cut-texts",
+            "ORVIK_CUT_TEXTS": os.path.join(self.home.folder, "cut-texts"),
+        }
+
+    def each_language(self):
+        for catalogue in (English(), *map(Catalogue, LANGUAGES)):
+            self.catalogue = catalogue
+            with self.subTest(catalogue.language):
+                self.become_someone_new()
+                yield
+
+    def setUp(self):
+        self.catalogue = English()
+        super().setUp()
+
+    def report(self):
+        """How often was looked, and what was cut the last time."""
+        with open(self.environment["ORVIK_CUT_TEXTS"], encoding="utf-8") as file:
+            number, *cut = file.read().splitlines()
+        return int(number), cut
+
+    def assertWhole(self, where):
+        """What is on view when this is called, and in the place that it takes then."""
+        seen = []
+
+        def settled():
+            try:
+                number, cut = self.report()
+            except (OSError, ValueError):
+                return False
+            if not seen or number > seen[-1][0]:
+                seen.append((number, cut))
+            # Layouts take their time.
+            return len(seen) > 3 and seen[-1][1] == seen[-2][1] == seen[-3][1]
+
+        eventually(settled, "a look at the texts")
+        self.assertEqual(seen[-1][1], [], where)
+
+    def make_smallest(self):
+        self.hands.resize(self.windows.active(), *SMALLEST)
+
+    def open_panel(self):
+        panel = self.start_panel()
+        # The toolkit says that the plugin's folder has no other plugins.
+        panel.complaints()
+        return panel, panel.main_window()
+
+    def go_to_tab(self, window, title):
+        name = self.catalogue.of("tabviewcontroller", title)
+        # A bar that is too short for its tabs scrolls.
+        tab = next(tab for tabs in window.all("page tab list") for tab in tabs.children if tab.name == name)
+        tab.act("Press")
+        eventually(lambda: tab.has("selected"), f"the tab “{name}”")
+
+    def test_on_the_tabs(self):
+        for _ in self.each_language():
+            self.suite.write(foldersArray=["/srv", "/usr"], foldersArraystate=[1, 0], arrCustomFoldersUrls=["/srv"])
+            panel, window = self.open_panel()
+            self.make_smallest()
+            for tab in TABS:
+                self.go_to_tab(window, tab)
+                self.assertWhole(tab)
+            panel.close()
+
+    def test_on_empty_lists(self):
+        for _ in self.each_language():
+            panel, window = self.open_panel()
+            self.make_smallest()
+            for tab in ("Folders", "Custom Folders"):
+                self.go_to_tab(window, tab)
+                self.assertWhole(tab)
+            panel.close()
+
+    def test_in_the_first_run(self):
+        for _ in self.each_language():
+            self.become_a_newcomer()
+            panel, _ = self.open_panel()
+            self.make_smallest()
+            self.assertWhole("the first run")
+            panel.close()
+
+    def test_in_the_question_about_a_folder(self):
+        for _ in self.each_language():
+            self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
+            panel, window = self.open_panel()
+            self.go_to_tab(window, "Folders")
+            self.hands.click(eventually(lambda: window.find("list item"), "the row").extents)
+            self.hands.press("Delete")
+            eventually(lambda: len(panel.windows()) > 1, "the question")
+            self.assertWhole("the question")
+            panel.close()
+
+    def test_in_the_chooser(self):
+        for _ in self.each_language():
+            self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
+            panel, window = self.open_panel()
+            self.go_to_tab(window, "Folders")
+            eventually(lambda: window.find("push button", self.catalogue.of("foldersArrvc", "&Add Folder…")),
+                       "the button").act("Press")
+            eventually(lambda: len(panel.windows()) > 1, "the chooser")
+            self.make_smallest()
+            self.assertWhole("the chooser")
+            panel.close()
+
+    def test_in_the_showcase(self):
+        for _ in self.each_language():
+            panel, _ = self.open_panel()
+            self.run_tool("orvik-notify", "ShowUtilityKit", EXTENSION)
+            panel.active_window(self.catalogue.of("UtilityKitWindow", "More from Orvik Studio"))
+            self.make_smallest()
+            self.assertWhole("the showcase")
+            panel.close()
+
+    def test_in_the_extensions_window(self):
+        for _ in self.each_language():
+            program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-extensions"))
+            program.complaints()
+            program.active_window(self.catalogue.of("ExtensionsTool::ExtensionsWindow", "Extensions"))
+            self.make_smallest()
+            self.assertWhole("the extensions")
+            program.close()
+
+    def test_in_the_problem_window(self):
+        for _ in self.each_language():
+            self.suite.write(foldersArray=["/srv"], foldersArraystate=[1, 1, 1])
+            program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-problem"),
+                                       ORVIK_MENU_FATAL_ERROR="foldersArraystate is wrong")
+            program.complaints()
+            program.active_window("Orvik Menu")
+            self.assertWhole("the problem")
+            program.close()
+
+    def look_at_action(self, action, title, *paths, before=lambda window: None):
+        started = run_action(self, action, *paths)
+        window = started.active_window(title)
+        self.make_smallest()
+        before(window)
+        self.assertWhole(action)
+        started.kill()
+
+    def test_in_the_windows_that_work_on_photos(self):
+        for _ in self.each_language():
+            self.install_exiftool()
+            start_companion(self)
+            photo = self.photo()
+            self.look_at_action("view-or-edit-exif-data",
+                                self.catalogue.of("MenuExtension::Exif::ExifWindow", "Exif Data"), photo)
+            self.look_at_action("resize-photos",
+                                self.catalogue.of("MenuExtension::Resizing::ResizeWindow", "Resize Photos"), photo)
+
+    def test_in_the_windows_that_find_duplicates(self):
+        for _ in self.each_language():
+            start_companion(self)
+            self.home.make_file("one", b"same")
+            self.home.make_file("other", b"same")
+            self.look_at_action("find-duplicate-files", self.catalogue.of("FindDuplicateFiles", "Duplicate Files"),
+                                self.home.files)
+            self.look_at_action("find-duplicate-photos", self.catalogue.of("FindDuplicatePhotos", "Duplicate Photos"),
+                                self.home.files)
+
+
+if __name__ == "__main__":
+    unittest.main()
