@@ -73,7 +73,7 @@ private:
 
     void lookAtLabel(const QLabel& label)
     {
-        if (label.text().isEmpty() || label.buddy())
+        if (label.text().isEmpty())
             return;
         if (label.wordWrap())
             expect(label, label.text(), {0, label.heightForWidth(label.width())});
