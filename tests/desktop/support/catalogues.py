@@ -28,6 +28,8 @@ class Catalogue:
         return self._texts[table, text][0].replace("&", "")
 
     def says(self, text):
-        """Whether a text on the screen is one of the catalogue's, with anything filled in. Those that are put together
-        of others alone count for nothing."""
-        return any(re.search(r"[^\W\d]{2}", re.sub(r"%\w", "", form)) and re.fullmatch(as_pattern(form), text, re.DOTALL) for forms in self._texts.values() for form in forms)
+        """Whether a text on the screen is one of the catalogue's, with anything filled in. One that has no words of its
+        own counts for nothing."""
+        return any(re.fullmatch(as_pattern(form), text, re.DOTALL)
+                   for forms in self._texts.values() for form in forms
+                   if re.search(r"[^\W\d]{2}", re.sub(r"%\w", "", form)))
