@@ -43,7 +43,7 @@
     <name>AttachToMail</name>
     <message>
         <source>Please select the file that you want to send via email to allow sending</source>
-        <translation>حدّد الملف الذي تريد إرساله بالبريد الإلكتروني ليصبح الإرسال ممكنًا</translation>
+        <translation>حدّد الملف الذي تريد إرساله بالبريد الإلكتروني لتتمكن من إرساله</translation>
     </message>
     <message>
         <source>Attach to Mail</source>
@@ -258,15 +258,15 @@
     </message>
     <message>
         <source>It is set to start at log-in.</source>
-        <translation>هو مضبوط ليبدأ عند تسجيل الدخول.</translation>
+        <translation>وهو مضبوط ليبدأ عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>It is running, but it is not set to start at log-in.</source>
-        <translation>هو يعمل، لكنه غير مضبوط ليبدأ عند تسجيل الدخول.</translation>
+        <translation>يعمل، لكنه غير مضبوط ليبدأ عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>It is set to start at log-in, but it is not running.</source>
-        <translation>هو مضبوط ليبدأ عند تسجيل الدخول، لكنه لا يعمل.</translation>
+        <translation>مضبوط ليبدأ عند تسجيل الدخول، لكنه لا يعمل.</translation>
     </message>
     <message>
         <source>Starting…</source>
@@ -278,18 +278,18 @@
     </message>
     <message>
         <source>It is running, and it starts at log-in.</source>
-        <translation>هو يعمل، ويبدأ عند تسجيل الدخول.</translation>
+        <translation>يعمل، ويبدأ عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>It is switched off.</source>
-        <translation>هو معطّل.</translation>
+        <translation>معطّل.</translation>
     </message>
 </context>
 <context>
     <name>ExtensionsTool::ExtensionControl</name>
     <message>
         <source>It could not be asked to end: %1.</source>
-        <translation>تعذّر أن يُطلب منه الانتهاء: %1.</translation>
+        <translation>تعذّر إرسال طلب الإنهاء إليه: %1.</translation>
     </message>
     <message>
         <source>The program %1 is missing.</source>
@@ -345,7 +345,7 @@
     <name>ExtensionsTool::FileManagersControl</name>
     <message>
         <source>It could not be asked to close.</source>
-        <translation>تعذّر أن يُطلب منه الإغلاق.</translation>
+        <translation>تعذّر إرسال طلب الإغلاق إليه.</translation>
     </message>
     <message>
         <source>It was asked to close, but it is still running.</source>
@@ -375,7 +375,7 @@
     </message>
     <message>
         <source>It is not installed.</source>
-        <translation>هو غير مثبّت.</translation>
+        <translation>غير مثبّت.</translation>
     </message>
     <message>
         <source>The menu is missing. Install the package %1.</source>
@@ -383,7 +383,7 @@
     </message>
     <message>
         <source>It is not running. It loads the menu when it starts.</source>
-        <translation>هو لا يعمل الآن، ويحمّل القائمة عند بدئه.</translation>
+        <translation>لا يعمل الآن، ويحمّل القائمة عند بدئه.</translation>
     </message>
     <message>
         <source>It loads the menu when it needs it.</source>
@@ -391,19 +391,19 @@
     </message>
     <message>
         <source>It has loaded the menu.</source>
-        <translation>حمّل القائمة.</translation>
+        <translation>القائمة محمّلة.</translation>
     </message>
     <message>
         <source>It is running without the menu.</source>
-        <translation>هو يعمل من دون القائمة.</translation>
+        <translation>يعمل من دون القائمة.</translation>
     </message>
     <message>
         <source>It has loaded an older version of the menu.</source>
-        <translation>حمّل إصدارًا أقدم من القائمة.</translation>
+        <translation>القائمة المحمّلة من إصدار أقدم.</translation>
     </message>
     <message>
         <source>It is running. Whether it has loaded the menu is not known.</source>
-        <translation>هو يعمل، ولا يُعرف هل حمّل القائمة.</translation>
+        <translation>يعمل، ولا يُعرف هل القائمة محمّلة.</translation>
     </message>
 </context>
 <context>
@@ -414,7 +414,7 @@
     </message>
     <message>
         <source>No two files hold the same.</source>
-        <translation>لا يوجد ملفان لهما المحتوى نفسه.</translation>
+        <translation>لا توجد ملفات متطابقة المحتوى.</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -448,7 +448,7 @@
     </message>
     <message>
         <source>As good as another</source>
-        <translation>لا تقل جودة عن غيرها</translation>
+        <translation>تعادل صورة أخرى في الجودة</translation>
     </message>
     <message>
         <source>%1 × %2</source>
@@ -460,7 +460,7 @@
     </message>
     <message>
         <source>No two photos show the same.</source>
-        <translation>لا توجد صورتان لهما المحتوى نفسه.</translation>
+        <translation>لا توجد صور متماثلة.</translation>
     </message>
     <message>
         <source>1 photo</source>
@@ -490,7 +490,7 @@
     <name>FolderPanel</name>
     <message>
         <source>Grant Access</source>
-        <translation>امنح حق الوصول</translation>
+        <translation>اسمح بالوصول</translation>
     </message>
 </context>
 <context>
@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>Set as Wallpaper</source>
-        <translation>عيّن خلفيةً لسطح المكتب</translation>
+        <translation>عيّن الصورة خلفيةً</translation>
     </message>
     <message>
         <source>Create New Text File</source>
@@ -1210,7 +1210,7 @@
     </message>
     <message>
         <source>Photos that failed</source>
-        <translation>الصور التي فشلت</translation>
+        <translation>الصور التي فشلت معالجتها</translation>
     </message>
     <message numerus="yes">
         <source>%n photos</source>
@@ -1518,7 +1518,7 @@
     <name>MenuExtension::Resizing::SizeRow</name>
     <message>
         <source>Free</source>
-        <translation>حر</translation>
+        <translation>مخصص</translation>
     </message>
     <message>
         <source>What the size is measured by</source>
@@ -1619,7 +1619,7 @@
     </message>
     <message>
         <source>Show</source>
-        <translation>اعرض</translation>
+        <translation>أظهر</translation>
     </message>
 </context>
 <context>
@@ -1712,7 +1712,7 @@
     </message>
     <message>
         <source>Show</source>
-        <translation>اعرض</translation>
+        <translation>أظهر</translation>
     </message>
     <message>
         <source>Close</source>
@@ -1774,7 +1774,7 @@
     </message>
     <message>
         <source>Orvik Menu adds actions to the right-click menu of GNOME Files, Nemo, Caja, Thunar and Dolphin, for items inside folders that you choose.</source>
-        <translation>يضيف Orvik Menu إجراءات إلى قائمة النقر الأيمن في «ملفات جنوم» وNemo وCaja وThunar وDolphin، للعناصر الموجودة في المجلدات التي تختارها.</translation>
+        <translation>يضيف Orvik Menu إجراءات إلى قائمة النقر الأيمن في GNOME Files وNemo وCaja وThunar وDolphin، للعناصر الموجودة في المجلدات التي تختارها.</translation>
     </message>
     <message>
         <source>The control panel lets you:</source>
@@ -1947,7 +1947,7 @@
     </message>
     <message>
         <source>cannot be resized: its worker gave no answer</source>
-        <translation>تعذّر تغيير حجمه: لم يُجب البرنامج العامل عليه</translation>
+        <translation>تعذّر تغيير حجمه: لم يستجب البرنامج الذي يعالجه</translation>
     </message>
     <message>
         <source>cannot be resized: this is no job</source>
@@ -2034,7 +2034,7 @@
     </message>
     <message>
         <source>Orvik Menu is still ending. It opens again right after.</source>
-        <translation>ما زال Orvik Menu في طور الإنهاء. سيُفتح من جديد بعد ذلك مباشرة.</translation>
+        <translation>ما زال Orvik Menu قيد الإنهاء. سيُفتح من جديد بعد ذلك مباشرة.</translation>
     </message>
 </context>
 <context>
@@ -2161,7 +2161,7 @@
     </message>
     <message>
         <source>Trim, join and turn your video clips without losing quality or waiting for an export.</source>
-        <translation>قص مقاطع الفيديو وادمجها ودوّرها من دون فقدان الجودة أو انتظار التصدير.</translation>
+        <translation>قصّ مقاطع الفيديو وادمجها ودوّرها من دون فقدان الجودة أو انتظار التصدير.</translation>
     </message>
     <message>
         <source>Warm or cool the light of a whole photo shoot at once, and compare it with the original as you go.</source>
@@ -2272,7 +2272,7 @@
     </message>
     <message>
         <source>For a screen</source>
-        <translation>لشاشة</translation>
+        <translation>للشاشة</translation>
     </message>
     <message>
         <source>For mail</source>
@@ -2362,7 +2362,7 @@
     </message>
     <message>
         <source>Colour profile</source>
-        <translation>ملف الألوان</translation>
+        <translation>ملف تعريف الألوان</translation>
     </message>
     <message>
         <source>Software</source>
@@ -2480,11 +2480,11 @@
     </message>
     <message>
         <source>%1 cannot be moved into itself.</source>
-        <translation>لا يمكن نقل %1 إلى داخله.</translation>
+        <translation>لا يمكن نقل %1 إلى داخل نفسه.</translation>
     </message>
     <message>
         <source>%1 cannot be copied into itself.</source>
-        <translation>لا يمكن نسخ %1 إلى داخله.</translation>
+        <translation>لا يمكن نسخ %1 إلى داخل نفسه.</translation>
     </message>
     <message>
         <source>The name %1 is too long for the disk that it is to go to.</source>
@@ -2537,12 +2537,12 @@
     <message numerus="yes">
         <source>There were %1 more like these.</source>
         <translation>
-            <numerusform>وهناك %1 أخرى مثل هذه.</numerusform>
-            <numerusform>وهناك واحدة أخرى (%1) مثل هذه.</numerusform>
-            <numerusform>وهناك اثنتان أخريان (%1) مثل هذه.</numerusform>
-            <numerusform>وهناك %1 أخرى مثل هذه.</numerusform>
-            <numerusform>وهناك %1 أخرى مثل هذه.</numerusform>
-            <numerusform>وهناك %1 أخرى مثل هذه.</numerusform>
+            <numerusform>وهناك %1 مشكلة أخرى مماثلة.</numerusform>
+            <numerusform>وهناك مشكلة أخرى مماثلة (%1).</numerusform>
+            <numerusform>وهناك مشكلتان أخريان مماثلتان (%1).</numerusform>
+            <numerusform>وهناك %1 مشكلات أخرى مماثلة.</numerusform>
+            <numerusform>وهناك %1 مشكلة أخرى مماثلة.</numerusform>
+            <numerusform>وهناك %1 مشكلة أخرى مماثلة.</numerusform>
         </translation>
     </message>
 </context>
@@ -2671,7 +2671,7 @@
     </message>
     <message>
         <source>There were %1 more like these.</source>
-        <translation>وهناك %1 أخرى مثل هذه.</translation>
+        <translation>وهناك مشكلات أخرى مماثلة، عددها %1.</translation>
     </message>
 </context>
 <context>

@@ -114,7 +114,7 @@
     <name>DesktopEntry</name>
     <message>
         <source>File Manager Menu Settings</source>
-        <translation>Menü der Dateiverwaltung einrichten</translation>
+        <translation>Einstellungen für das Dateiverwaltungsmenü</translation>
     </message>
     <message>
         <source>Choose the actions that your file manager&apos;s menu shows, and where</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>is no picture, though it is named like one</source>
-        <translation>ist kein Bild, obwohl der Name so lautet</translation>
+        <translation>ist kein Bild, obwohl der Name darauf hindeutet</translation>
     </message>
     <message>
         <source>has changed while it was read</source>
@@ -254,19 +254,19 @@
     <name>ExtensionStatus</name>
     <message>
         <source>There is no session bus, so it can neither run nor be switched.</source>
-        <translation>Es gibt keinen Sitzungsbus, daher kann sie weder laufen noch umgeschaltet werden.</translation>
+        <translation>Es gibt keinen Sitzungsbus, daher kann sie weder laufen noch ein- oder ausgeschaltet werden.</translation>
     </message>
     <message>
         <source>It is set to start at log-in.</source>
-        <translation>Sie ist so eingestellt, dass sie beim Anmelden startet.</translation>
+        <translation>Sie ist zum Start beim Anmelden vorgesehen.</translation>
     </message>
     <message>
         <source>It is running, but it is not set to start at log-in.</source>
-        <translation>Sie läuft, ist aber nicht so eingestellt, dass sie beim Anmelden startet.</translation>
+        <translation>Sie läuft, ist aber nicht zum Start beim Anmelden vorgesehen.</translation>
     </message>
     <message>
         <source>It is set to start at log-in, but it is not running.</source>
-        <translation>Sie ist so eingestellt, dass sie beim Anmelden startet, läuft aber nicht.</translation>
+        <translation>Sie ist zum Start beim Anmelden vorgesehen, läuft aber nicht.</translation>
     </message>
     <message>
         <source>Starting…</source>
@@ -755,7 +755,7 @@
     </message>
     <message>
         <source>Copy path to Clipboard</source>
-        <translation>Pfad in die Zwischenablage kopieren</translation>
+        <translation>Pfad kopieren</translation>
     </message>
     <message>
         <source>Send via Mail</source>
@@ -787,7 +787,7 @@
     </message>
     <message>
         <source>View or Edit Exif Data</source>
-        <translation>Exif-Daten anzeigen oder bearbeiten</translation>
+        <translation>Exif-Daten anzeigen/ändern</translation>
     </message>
     <message>
         <source>Resize Photos</source>
@@ -818,7 +818,7 @@
     </message>
     <message>
         <source>In folders of the system, in the trash, and what file managers write for themselves</source>
-        <translation>In Ordnern des Systems, im Papierkorb und was Dateiverwaltungen für sich selbst anlegen</translation>
+        <translation>Dateien in Systemordnern und im Papierkorb sowie solche, die Dateiverwaltungen für sich selbst anlegen</translation>
     </message>
 </context>
 <context>
@@ -829,7 +829,7 @@
     </message>
     <message>
         <source>Filter by name or folder</source>
-        <translation>Nach Name oder Ordner filtern</translation>
+        <translation>Filter: Name oder Ordner</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -1031,7 +1031,7 @@
     <name>MenuExtension::Exif::EditForm</name>
     <message>
         <source>Keep the original file beside it, with “_original” after its name</source>
-        <translation>Originaldatei daneben behalten, mit „_original“ am Ende des Namens</translation>
+        <translation>Original daneben behalten, mit „_original“ am Namensende</translation>
     </message>
     <message>
         <source>Keep the file&apos;s date of change</source>
@@ -1127,7 +1127,7 @@
     </message>
     <message>
         <source>None is stored</source>
-        <translation>Nichts gespeichert</translation>
+        <translation>Keine gespeichert</translation>
     </message>
     <message>
         <source>Stays as it is</source>
@@ -1277,7 +1277,7 @@
     <name>MenuExtension::Exif::TagView</name>
     <message>
         <source>Search names and values</source>
-        <translation>Namen und Werte durchsuchen</translation>
+        <translation>Namen und Werte suchen</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1714,7 +1714,7 @@
     </message>
     <message>
         <source>show the actions side by side or in one submenu, with icons or without</source>
-        <translation>die Aktionen nebeneinander oder in einem Untermenü anzeigen, mit oder ohne Symbole</translation>
+        <translation>die Aktionen einzeln oder in einem Untermenü anzeigen, mit oder ohne Symbole</translation>
     </message>
     <message>
         <source>switch the companion that brings them into the file manager on and off</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>A change is in the next menu that you open, without restarting anything.</source>
-        <translation>Eine Änderung wirkt im nächsten Menü, das Sie öffnen, ohne dass etwas neu gestartet werden muss.</translation>
+        <translation>Änderungen gelten ab dem nächsten Menü, das Sie öffnen, ohne dass etwas neu gestartet werden muss.</translation>
     </message>
     <message>
         <source>The actions that the menu shows, each with a switch</source>
@@ -1827,7 +1827,7 @@
     </message>
     <message>
         <source>takes too long to read</source>
-        <translation>braucht zu lange zum Lesen</translation>
+        <translation>lässt sich nicht in angemessener Zeit lesen</translation>
     </message>
     <message>
         <source>cannot be read: it is damaged, or needs more memory than a picture may take</source>
@@ -1910,7 +1910,7 @@
     </message>
     <message>
         <source>That may not be why it stopped. Repair Settings mends the settings.</source>
-        <translation>Das muss nicht der Grund für das Beenden sein. „Einstellungen reparieren“ behebt die Fehler in den Einstellungen.</translation>
+        <translation>Das ist möglicherweise nicht der Grund, warum es beendet wurde. „Einstellungen reparieren“ behebt die Fehler in den Einstellungen.</translation>
     </message>
     <message>
         <source>A copy of the settings as they are now is kept.</source>
@@ -2081,7 +2081,7 @@
     </message>
     <message>
         <source>Warm or cool the light of a whole photo shoot at once, and compare it with the original as you go.</source>
-        <translation>Machen Sie das Licht einer ganzen Fotoserie auf einmal wärmer oder kühler und vergleichen Sie es dabei mit dem Original.</translation>
+        <translation>Machen Sie das Licht einer ganzen Fotoserie auf einmal wärmer oder kühler, immer mit dem Original im Vergleich.</translation>
     </message>
     <message>
         <source>Record your screen, your voice and your camera together, ready to share the moment you stop.</source>
@@ -2093,7 +2093,7 @@
     </message>
     <message>
         <source>Pick any colour on your screen and keep your palettes in one place, ready to paste into your work.</source>
-        <translation>Nehmen Sie eine beliebige Farbe vom Bildschirm auf und sammeln Sie Ihre Paletten an einem Ort, bereit zum Einfügen in Ihre Arbeit.</translation>
+        <translation>Nehmen Sie jede Farbe vom Bildschirm auf und sammeln Sie Paletten an einem Ort, bereit zum Einfügen.</translation>
     </message>
     <message>
         <source>Lifestyle</source>
@@ -2121,7 +2121,7 @@
     </message>
     <message>
         <source>See at a glance what fills your disk, and clear away duplicates, leftovers and old downloads.</source>
-        <translation>Sehen Sie auf einen Blick, was Ihren Datenträger füllt, und räumen Sie Duplikate, Überreste und alte Downloads weg.</translation>
+        <translation>Sehen Sie auf einen Blick, was Ihre Festplatte füllt, und räumen Sie Duplikate, Reste und alte Downloads weg.</translation>
     </message>
     <message>
         <source>Business</source>
@@ -2129,7 +2129,7 @@
     </message>
     <message>
         <source>Write an invoice in a minute, send it as a PDF, and always know who has yet to pay.</source>
-        <translation>Schreiben Sie eine Rechnung in einer Minute, senden Sie sie als PDF und wissen Sie immer, wer noch zahlen muss.</translation>
+        <translation>Schreiben Sie in einer Minute eine Rechnung, senden Sie sie als PDF und sehen Sie, wer noch zahlen muss.</translation>
     </message>
     <message>
         <source>Rename thousands of files at once by rules that you can read, with a preview of every new name.</source>
@@ -2137,11 +2137,11 @@
     </message>
     <message>
         <source>Keep an eye on processor, memory and network with a small, quiet meter in the menu bar.</source>
-        <translation>Behalten Sie Prozessor, Speicher und Netzwerk mit einer kleinen, unaufdringlichen Anzeige in der Menüleiste im Auge.</translation>
+        <translation>Behalten Sie Prozessor, Speicher und Netzwerk mit einer kleinen, ruhigen Anzeige in der Menüleiste im Blick.</translation>
     </message>
     <message>
         <source>Keep everything that you copy, and paste any of it again by typing a few of its letters.</source>
-        <translation>Bewahren Sie alles auf, was Sie kopieren, und fügen Sie es wieder ein, indem Sie ein paar Buchstaben davon tippen.</translation>
+        <translation>Bewahren Sie alles auf, was Sie kopieren, und fügen Sie es mit ein paar getippten Buchstaben wieder ein.</translation>
     </message>
     <message>
         <source>Lock your private folders with strong encryption, and open them again with a single password.</source>
@@ -2149,11 +2149,11 @@
     </message>
     <message>
         <source>Dim everything but the window you work in, so that your attention stays where it belongs.</source>
-        <translation>Dunkeln Sie alles außer dem Fenster ab, in dem Sie arbeiten, damit Ihre Aufmerksamkeit da bleibt, wo sie hingehört.</translation>
+        <translation>Dunkeln Sie alles außer Ihrem Fenster ab, damit Ihre Aufmerksamkeit da bleibt, wo sie hingehört.</translation>
     </message>
     <message>
         <source>Work in focused stretches with a break after each, and see at the end of the week where the hours went.</source>
-        <translation>Arbeiten Sie konzentriert in Etappen mit einer Pause nach jeder und sehen Sie am Ende der Woche, wo die Stunden geblieben sind.</translation>
+        <translation>Arbeiten Sie in konzentrierten Etappen mit Pausen und sehen Sie am Ende der Woche, wo die Stunden blieben.</translation>
     </message>
 </context>
 <context>
@@ -2678,11 +2678,11 @@
     </message>
     <message>
         <source>&amp;Add Folder…</source>
-        <translation>Ordner &amp;hinzufügen&#xa0;…</translation>
+        <translation>&amp;Hinzufügen&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Remove Folder…</source>
-        <translation>Ordner &amp;entfernen&#xa0;…</translation>
+        <translation>&amp;Entfernen&#xa0;…</translation>
     </message>
     <message>
         <source>Remove the selected folder (Delete)</source>
@@ -2729,11 +2729,11 @@
     </message>
     <message>
         <source>Show an &amp;icon beside each menu item</source>
-        <translation>&amp;Symbol neben jedem Menüeintrag anzeigen</translation>
+        <translation>&amp;Symbol neben jedem Eintrag zeigen</translation>
     </message>
     <message>
         <source>Group the menu items in a &amp;submenu</source>
-        <translation>Menüeinträge in einem &amp;Untermenü zusammenfassen</translation>
+        <translation>Einträge in &amp;Untermenü gruppieren</translation>
     </message>
     <message>
         <source>Orvik Menu Extension is enabled</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>%1 cannot be found: %2.</source>
-        <translation>%1 est introuvable : %2.</translation>
+        <translation>%1 est introuvable&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Orvik Menu was asked for something in a way that it does not understand.</source>
@@ -32,11 +32,11 @@
     <name>AddFolders</name>
     <message>
         <source>%1 cannot be added: its name or that of a folder above it has characters that are no text. Rename it and try again.</source>
-        <translation>%1 ne peut pas être ajouté : son nom ou celui d’un dossier parent contient des caractères qui ne forment pas un texte valide. Renommez-le et réessayez.</translation>
+        <translation>%1 ne peut pas être ajouté&#xa0;: son nom ou celui d’un dossier parent contient des caractères qui ne forment pas un texte valide. Renommez-le et réessayez.</translation>
     </message>
     <message>
         <source>The folders cannot be added: the settings of Orvik Menu cannot be written. Is the disk full?</source>
-        <translation>Les dossiers ne peuvent pas être ajoutés : impossible d’écrire les paramètres d’Orvik Menu. Le disque est-il plein ?</translation>
+        <translation>Les dossiers ne peuvent pas être ajoutés&#xa0;: impossible d’écrire les paramètres d’Orvik Menu. Le disque est-il plein&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -65,11 +65,11 @@
     <name>AutostartEntry</name>
     <message>
         <source>Could not remove %1: %2.</source>
-        <translation>Impossible de supprimer %1 : %2.</translation>
+        <translation>Impossible de supprimer %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Could not write %1: %2.</source>
-        <translation>Impossible d’écrire %1 : %2.</translation>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>No file can be made in %1: %2.</source>
-        <translation>Impossible de créer un fichier dans %1 : %2.</translation>
+        <translation>Impossible de créer un fichier dans %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>cannot be compared with its copy: %1</source>
-        <translation>ne peut pas être comparé à sa copie : %1</translation>
+        <translation>ne peut pas être comparé à sa copie&#xa0;: %1</translation>
     </message>
     <message>
         <source>is not the same as its copy</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>could not be moved to the trash: %1</source>
-        <translation>n’a pas pu être mis à la corbeille : %1</translation>
+        <translation>n’a pas pu être mis à la corbeille&#xa0;: %1</translation>
     </message>
     <message>
         <source>is empty</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>cannot be read: %1</source>
-        <translation>ne peut pas être lu : %1</translation>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -254,7 +254,7 @@
     <name>ExtensionStatus</name>
     <message>
         <source>There is no session bus, so it can neither run nor be switched.</source>
-        <translation>Il n’y a pas de bus de session : elle ne peut ni fonctionner, ni être activée ou désactivée.</translation>
+        <translation>Il n’y a pas de bus de session&#xa0;: elle ne peut ni fonctionner, ni être activée ou désactivée.</translation>
     </message>
     <message>
         <source>It is set to start at log-in.</source>
@@ -289,7 +289,7 @@
     <name>ExtensionsTool::ExtensionControl</name>
     <message>
         <source>It could not be asked to end: %1.</source>
-        <translation>Impossible de lui demander de s’arrêter : %1.</translation>
+        <translation>Impossible de lui demander de s’arrêter&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The program %1 is missing.</source>
@@ -334,7 +334,7 @@
     <name>ExtensionsTool::FileManagerSection</name>
     <message>
         <source>File managers on this computer:</source>
-        <translation>Gestionnaires de fichiers de cet ordinateur :</translation>
+        <translation>Gestionnaires de fichiers de cet ordinateur&#xa0;:</translation>
     </message>
     <message>
         <source>No file manager that can show the menu is installed.</source>
@@ -356,7 +356,7 @@
     <name>ExtensionsTool::LackingActionsSection</name>
     <message>
         <source>Actions that are in no menu:</source>
-        <translation>Actions absentes des menus :</translation>
+        <translation>Actions absentes des menus&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -418,13 +418,13 @@
     </message>
     <message>
         <source>1 file</source>
-        <translation>1 fichier</translation>
+        <translation>1&#xa0;fichier</translation>
     </message>
     <message numerus="yes">
         <source>%1 files</source>
         <translation>
-            <numerusform>%1 fichier</numerusform>
-            <numerusform>%1 fichiers</numerusform>
+            <numerusform>%1&#xa0;fichier</numerusform>
+            <numerusform>%1&#xa0;fichiers</numerusform>
         </translation>
     </message>
 </context>
@@ -432,15 +432,15 @@
     <name>FindDuplicatePhotos</name>
     <message>
         <source>Best: most pixels</source>
-        <translation>Meilleure : le plus de pixels</translation>
+        <translation>Meilleure&#xa0;: le plus de pixels</translation>
     </message>
     <message>
         <source>Best: as many pixels as any, in the largest file</source>
-        <translation>Meilleure : autant de pixels, dans le plus gros fichier</translation>
+        <translation>Meilleure&#xa0;: autant de pixels, dans le plus gros fichier</translation>
     </message>
     <message>
         <source>Best: the oldest of the same size</source>
-        <translation>Meilleure : la plus ancienne à taille égale</translation>
+        <translation>Meilleure&#xa0;: la plus ancienne à taille égale</translation>
     </message>
     <message>
         <source>As good as another</source>
@@ -460,13 +460,13 @@
     </message>
     <message>
         <source>1 photo</source>
-        <translation>1 photo</translation>
+        <translation>1&#xa0;photo</translation>
     </message>
     <message numerus="yes">
         <source>%1 photos</source>
         <translation>
-            <numerusform>%1 photo</numerusform>
-            <numerusform>%1 photos</numerusform>
+            <numerusform>%1&#xa0;photo</numerusform>
+            <numerusform>%1&#xa0;photos</numerusform>
         </translation>
     </message>
     <message>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>Keep the Best Photo</source>
-        <translation>Conserver la meilleure photo</translation>
+        <translation>Garder la meilleure photo</translation>
     </message>
 </context>
 <context>
@@ -489,7 +489,7 @@
     <name>HideUnhideItem</name>
     <message>
         <source>What is hidden in %1 cannot be changed: %2.</source>
-        <translation>Impossible de modifier la liste des éléments cachés de %1 : %2.</translation>
+        <translation>Impossible de modifier la liste des éléments cachés de %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 cannot be hidden, since its name has a line end. Rename it and try again.</source>
@@ -497,19 +497,19 @@
     </message>
     <message>
         <source>%1 cannot be unhidden: its name has dots alone.</source>
-        <translation>%1 ne peut pas être affiché : son nom ne contient que des points.</translation>
+        <translation>%1 ne peut pas être affiché&#xa0;: son nom ne contient que des points.</translation>
     </message>
     <message>
         <source>%1 cannot be unhidden: it is the list of what is hidden.</source>
-        <translation>%1 ne peut pas être affiché : c’est la liste des éléments cachés.</translation>
+        <translation>%1 ne peut pas être affiché&#xa0;: c’est la liste des éléments cachés.</translation>
     </message>
     <message>
         <source>%1 cannot be unhidden: there is a %2 already. Rename one of the two.</source>
-        <translation>%1 ne peut pas être affiché : il existe déjà un élément nommé %2. Renommez l’un des deux.</translation>
+        <translation>%1 ne peut pas être affiché&#xa0;: il existe déjà un élément nommé %2. Renommez l’un des deux.</translation>
     </message>
     <message>
         <source>%1 cannot be unhidden: %2.</source>
-        <translation>%1 ne peut pas être affiché : %2.</translation>
+        <translation>%1 ne peut pas être affiché&#xa0;: %2.</translation>
     </message>
     <message>
         <source>What is hidden in %1 cannot be changed, since another program is changing it. Try again.</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>The list of what is hidden in %1, a file named .hidden, cannot be read: %2.</source>
-        <translation>La liste des éléments cachés de %1, un fichier nommé .hidden, ne peut pas être lue : %2.</translation>
+        <translation>La liste des éléments cachés de %1, un fichier nommé .hidden, ne peut pas être lue&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -535,7 +535,7 @@
     <name>LinuxDesktop::CardWidget</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -566,15 +566,15 @@
     </message>
     <message>
         <source>“%1” is no longer there.</source>
-        <translation>« %1 » n’existe plus.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’existe plus.</translation>
     </message>
     <message>
         <source>“%1” cannot be found.</source>
-        <translation>« %1 » est introuvable.</translation>
+        <translation>«&#xa0;%1&#xa0;» est introuvable.</translation>
     </message>
     <message>
         <source>Nothing is selected. To choose “%1” itself, press the button “%2”.</source>
-        <translation>Rien n’est sélectionné. Pour choisir « %1 » même, appuyez sur le bouton « %2 ».</translation>
+        <translation>Rien n’est sélectionné. Pour choisir «&#xa0;%1&#xa0;» lui-même, appuyez sur le bouton «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>its path is too long</source>
@@ -582,11 +582,11 @@
     </message>
     <message>
         <source>“%1” cannot be chosen: %2.</source>
-        <translation>« %1 » ne peut pas être choisi : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être choisi&#xa0;: %2.</translation>
     </message>
     <message>
         <source>“%1” cannot be chosen.</source>
-        <translation>« %1 » ne peut pas être choisi.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être choisi.</translation>
     </message>
 </context>
 <context>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>This folder cannot be read: %1.</source>
-        <translation>Ce dossier ne peut pas être lu : %1.</translation>
+        <translation>Ce dossier ne peut pas être lu&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -707,14 +707,14 @@
     <name>LinuxPlatform</name>
     <message>
         <source>“%1” cannot be used: its path has characters that cannot be stored as text. Rename the folder, then choose it again.</source>
-        <translation>« %1 » ne peut pas être utilisé : son chemin contient des caractères qui ne peuvent pas être enregistrés sous forme de texte. Renommez le dossier, puis choisissez-le de nouveau.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être utilisé&#xa0;: son chemin contient des caractères qui ne peuvent pas être enregistrés sous forme de texte. Renommez le dossier, puis choisissez-le de nouveau.</translation>
     </message>
 </context>
 <context>
     <name>MailText</name>
     <message>
         <source>“%1”</source>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %2 more</source>
@@ -825,7 +825,7 @@
     <name>MenuExtension::Duplicates::DuplicatesWindow</name>
     <message>
         <source>One always stays. Keep another one before you choose this.</source>
-        <translation>Il en reste toujours un. Conservez-en un autre avant de sélectionner celui-ci.</translation>
+        <translation>Il en reste toujours un. Gardez-en un autre avant de sélectionner celui-ci.</translation>
     </message>
     <message>
         <source>Filter by name or folder</source>
@@ -841,15 +841,15 @@
     </message>
     <message>
         <source>Keep the Oldest</source>
-        <translation>Conserver le plus ancien</translation>
+        <translation>Garder le plus ancien</translation>
     </message>
     <message>
         <source>Keep the Newest</source>
-        <translation>Conserver le plus récent</translation>
+        <translation>Garder le plus récent</translation>
     </message>
     <message>
         <source>Keep the One with the Shortest Path</source>
-        <translation>Conserver celui au chemin le plus court</translation>
+        <translation>Garder celui au chemin le plus court</translation>
     </message>
     <message>
         <source>Choose Nothing</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>Keep Those in %1</source>
-        <translation>Conserver ceux qui sont dans %1</translation>
+        <translation>Garder ceux qui sont dans %1</translation>
     </message>
     <message>
         <source>Groups</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>%1 looked at</source>
-        <translation>Examen en cours : %1</translation>
+        <translation>Examen en cours&#xa0;: %1</translation>
     </message>
     <message>
         <source>Moving to the trash</source>
@@ -889,7 +889,7 @@
     </message>
     <message>
         <source>Moved to the trash: %1, %2</source>
-        <translation>Mis à la corbeille : %1, %2</translation>
+        <translation>Mis à la corbeille&#xa0;: %1, %2</translation>
     </message>
     <message>
         <source>What is checked goes to the trash. One of a group always stays.</source>
@@ -901,13 +901,13 @@
     </message>
     <message>
         <source>Move 1 Item to Trash</source>
-        <translation>Mettre 1 élément à la corbeille</translation>
+        <translation>Mettre 1&#xa0;élément à la corbeille</translation>
     </message>
     <message numerus="yes">
         <source>Move %1 Items to Trash</source>
         <translation>
-            <numerusform>Mettre %1 élément à la corbeille</numerusform>
-            <numerusform>Mettre %1 éléments à la corbeille</numerusform>
+            <numerusform>Mettre %1&#xa0;élément à la corbeille</numerusform>
+            <numerusform>Mettre %1&#xa0;éléments à la corbeille</numerusform>
         </translation>
     </message>
     <message>
@@ -916,17 +916,17 @@
     </message>
     <message>
         <source>Chosen: %1, %2</source>
-        <translation>Sélection : %1, %2</translation>
+        <translation>Sélection&#xa0;: %1, %2</translation>
     </message>
     <message>
         <source>1 group, %1 could be saved</source>
-        <translation>1 groupe, %1 à récupérer</translation>
+        <translation>1&#xa0;groupe, %1 à récupérer</translation>
     </message>
     <message numerus="yes">
         <source>%1 groups, %2 could be saved</source>
         <translation>
-            <numerusform>%1 groupe, %2 à récupérer</numerusform>
-            <numerusform>%1 groupes, %2 à récupérer</numerusform>
+            <numerusform>%1&#xa0;groupe, %2 à récupérer</numerusform>
+            <numerusform>%1&#xa0;groupes, %2 à récupérer</numerusform>
         </translation>
     </message>
     <message>
@@ -947,20 +947,20 @@
     </message>
     <message>
         <source>1 Item Was Left Out…</source>
-        <translation>1 élément ignoré…</translation>
+        <translation>1&#xa0;élément ignoré…</translation>
     </message>
     <message numerus="yes">
         <source>%1 Items Were Left Out…</source>
         <translation>
-            <numerusform>%1 élément ignoré…</numerusform>
-            <numerusform>%1 éléments ignorés…</numerusform>
+            <numerusform>%1&#xa0;élément ignoré…</numerusform>
+            <numerusform>%1&#xa0;éléments ignorés…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>And %1 more.</source>
         <translation>
-            <numerusform>Et %1 autre.</numerusform>
-            <numerusform>Et %1 autres.</numerusform>
+            <numerusform>Et %1&#xa0;autre.</numerusform>
+            <numerusform>Et %1&#xa0;autres.</numerusform>
         </translation>
     </message>
 </context>
@@ -1031,15 +1031,15 @@
     <name>MenuExtension::Exif::EditForm</name>
     <message>
         <source>Keep the original file beside it, with “_original” after its name</source>
-        <translation>Conserver le fichier d’origine à côté, avec « _original » ajouté à son nom</translation>
+        <translation>Garder l’original à côté, avec «&#xa0;_original&#xa0;» après son nom</translation>
     </message>
     <message>
         <source>Keep the file&apos;s date of change</source>
-        <translation>Conserver la date de modification du fichier</translation>
+        <translation>Garder la date de modification du fichier</translation>
     </message>
     <message>
         <source>Remove Location and Personal Data…</source>
-        <translation>Supprimer la localisation et les données personnelles…</translation>
+        <translation>Supprimer lieu et données personnelles…</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1147,7 +1147,7 @@
     </message>
     <message>
         <source>The place is to be written as latitude and longitude in degrees: 48.858370, 2.294481.</source>
-        <translation>Le lieu doit être saisi en latitude et longitude, en degrés : 48.858370, 2.294481.</translation>
+        <translation>Le lieu doit être saisi en latitude et longitude, en degrés&#xa0;: 48.858370, 2.294481.</translation>
     </message>
     <message>
         <source>Nothing has been changed yet.</source>
@@ -1162,7 +1162,7 @@
     </message>
     <message>
         <source>It was ended; the photos that were not saved yet are as they were.</source>
-        <translation>Opération interrompue ; les photos qui n’étaient pas encore enregistrées sont restées telles quelles.</translation>
+        <translation>Opération interrompue&#x202f;; les photos qui n’étaient pas encore enregistrées sont restées telles quelles.</translation>
     </message>
     <message>
         <source>Photos</source>
@@ -1183,8 +1183,8 @@
     <message numerus="yes">
         <source>%n photos</source>
         <translation>
-            <numerusform>%n photo</numerusform>
-            <numerusform>%n photos</numerusform>
+            <numerusform>%n&#xa0;photo</numerusform>
+            <numerusform>%n&#xa0;photos</numerusform>
         </translation>
     </message>
     <message>
@@ -1204,18 +1204,18 @@
     </message>
     <message>
         <source>1 photo was saved.</source>
-        <translation>1 photo a été enregistrée.</translation>
+        <translation>1&#xa0;photo a été enregistrée.</translation>
     </message>
     <message numerus="yes">
         <source>%n photos were saved.</source>
         <translation>
-            <numerusform>%n photo a été enregistrée.</numerusform>
-            <numerusform>%n photos ont été enregistrées.</numerusform>
+            <numerusform>%n&#xa0;photo a été enregistrée.</numerusform>
+            <numerusform>%n&#xa0;photos ont été enregistrées.</numerusform>
         </translation>
     </message>
     <message>
         <source>These were left as they were:</source>
-        <translation>Ces photos sont restées telles quelles :</translation>
+        <translation>Ces photos sont restées telles quelles&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1238,7 +1238,7 @@
     </message>
     <message>
         <source>Remove Location and Personal Data</source>
-        <translation>Supprimer la localisation et les données personnelles</translation>
+        <translation>Supprimer le lieu et les données personnelles</translation>
     </message>
     <message>
         <source>What will be removed</source>
@@ -1254,11 +1254,11 @@
     </message>
     <message>
         <source>This is removed for good, unless the original is kept. Title, description, copyright and date stay.</source>
-        <translation>Ces données sont supprimées définitivement, sauf si l’original est conservé. Le titre, la description, les droits d’auteur et la date sont gardés.</translation>
+        <translation>Ces données sont supprimées définitivement, sauf si l’original est gardé. Le titre, la description, les droits d’auteur et la date restent.</translation>
     </message>
     <message>
         <source>The photos have no location and no personal data that is known here.</source>
-        <translation>Les photos ne contiennent ni localisation ni données personnelles connues.</translation>
+        <translation>Les photos ne contiennent ni lieu ni données personnelles connues.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -1313,8 +1313,8 @@
     <message numerus="yes">
         <source>about %n seconds left</source>
         <translation>
-            <numerusform>environ %n seconde restante</numerusform>
-            <numerusform>environ %n secondes restantes</numerusform>
+            <numerusform>environ %n&#xa0;seconde restante</numerusform>
+            <numerusform>environ %n&#xa0;secondes restantes</numerusform>
         </translation>
     </message>
     <message>
@@ -1324,8 +1324,8 @@
     <message numerus="yes">
         <source>about %n minutes left</source>
         <translation>
-            <numerusform>environ %n minute restante</numerusform>
-            <numerusform>environ %n minutes restantes</numerusform>
+            <numerusform>environ %n&#xa0;minute restante</numerusform>
+            <numerusform>environ %n&#xa0;minutes restantes</numerusform>
         </translation>
     </message>
     <message>
@@ -1335,8 +1335,8 @@
     <message numerus="yes">
         <source>about %n hours left</source>
         <translation>
-            <numerusform>environ %n heure restante</numerusform>
-            <numerusform>environ %n heures restantes</numerusform>
+            <numerusform>environ %n&#xa0;heure restante</numerusform>
+            <numerusform>environ %n&#xa0;heures restantes</numerusform>
         </translation>
     </message>
     <message>
@@ -1364,7 +1364,7 @@
     </message>
     <message>
         <source> · %1 %</source>
-        <translation> · %1 %</translation>
+        <translation> · %1&#xa0;%</translation>
     </message>
     <message>
         <source>Looking…</source>
@@ -1388,8 +1388,8 @@
     <message numerus="yes">
         <source>%n photos</source>
         <translation>
-            <numerusform>%n photo</numerusform>
-            <numerusform>%n photos</numerusform>
+            <numerusform>%n&#xa0;photo</numerusform>
+            <numerusform>%n&#xa0;photos</numerusform>
         </translation>
     </message>
     <message>
@@ -1417,13 +1417,13 @@
     </message>
     <message>
         <source>1 photo was resized: %1 became %2.</source>
-        <translation>1 photo a été redimensionnée : de %1 à %2.</translation>
+        <translation>1&#xa0;photo a été redimensionnée&#xa0;: de %1 à %2.</translation>
     </message>
     <message numerus="yes">
         <source>%n photos were resized: %1 became %2.</source>
         <translation>
-            <numerusform>%n photo a été redimensionnée : de %1 à %2.</numerusform>
-            <numerusform>%n photos ont été redimensionnées : de %1 à %2.</numerusform>
+            <numerusform>%n&#xa0;photo a été redimensionnée&#xa0;: de %1 à %2.</numerusform>
+            <numerusform>%n&#xa0;photos ont été redimensionnées&#xa0;: de %1 à %2.</numerusform>
         </translation>
     </message>
     <message>
@@ -1439,7 +1439,7 @@
     </message>
     <message>
         <source>These were left as they are:</source>
-        <translation>Ces photos sont restées telles quelles :</translation>
+        <translation>Ces photos sont restées telles quelles&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1473,7 +1473,7 @@
     </message>
     <message>
         <source>In their place; the originals go to the trash</source>
-        <translation>À leur place ; les originaux vont à la corbeille</translation>
+        <translation>À leur place&#x202f;; les originaux vont à la corbeille</translation>
     </message>
     <message>
         <source>None is chosen yet</source>
@@ -1536,7 +1536,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1628,7 +1628,7 @@
     </message>
     <message>
         <source>Keep Both</source>
-        <translation>Conserver les deux</translation>
+        <translation>Garder les deux</translation>
     </message>
     <message>
         <source>What was not done</source>
@@ -1653,8 +1653,8 @@
     <message numerus="yes">
         <source>Looking at %1 items</source>
         <translation>
-            <numerusform>Examen de %1 élément</numerusform>
-            <numerusform>Examen de %1 éléments</numerusform>
+            <numerusform>Examen de %1&#xa0;élément</numerusform>
+            <numerusform>Examen de %1&#xa0;éléments</numerusform>
         </translation>
     </message>
     <message>
@@ -1702,11 +1702,11 @@
     </message>
     <message>
         <source>The control panel lets you:</source>
-        <translation>Le panneau de configuration vous permet de :</translation>
+        <translation>Le panneau de configuration vous permet de&#xa0;:</translation>
     </message>
     <message>
         <source>pick the actions that show: open a terminal, create a text file, copy a path, send an item by mail and more</source>
-        <translation>choisir les actions affichées : ouvrir un terminal, créer un fichier texte, copier un chemin, envoyer un élément par courriel et plus encore</translation>
+        <translation>choisir les actions affichées&#xa0;: ouvrir un terminal, créer un fichier texte, copier un chemin, envoyer un élément par courriel et plus encore</translation>
     </message>
     <message>
         <source>choose the folders that count, and leave out single ones within them</source>
@@ -1741,37 +1741,37 @@
     <name>NotSentAlert</name>
     <message>
         <source>One item in it cannot be packed:</source>
-        <translation>Un élément de l’envoi ne peut pas être ajouté à l’archive :</translation>
+        <translation>Un élément de l’envoi ne peut pas être ajouté à l’archive&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>%1 items in it cannot be packed:</source>
         <translation>
-            <numerusform>%1 élément de l’envoi ne peut pas être ajouté à l’archive :</numerusform>
-            <numerusform>%1 éléments de l’envoi ne peuvent pas être ajoutés à l’archive :</numerusform>
+            <numerusform>%1&#xa0;élément de l’envoi ne peut pas être ajouté à l’archive&#xa0;:</numerusform>
+            <numerusform>%1&#xa0;éléments de l’envoi ne peuvent pas être ajoutés à l’archive&#xa0;:</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>and %1 more</source>
         <translation>
-            <numerusform>et %1 autre</numerusform>
-            <numerusform>et %1 autres</numerusform>
+            <numerusform>et %1&#xa0;autre</numerusform>
+            <numerusform>et %1&#xa0;autres</numerusform>
         </translation>
     </message>
     <message>
         <source>It cannot be read: %1</source>
-        <translation>Lecture impossible : %1</translation>
+        <translation>Lecture impossible&#xa0;: %1</translation>
     </message>
     <message>
         <source>The disk is full: there is too little room left in %1 to prepare it.</source>
-        <translation>Le disque est plein : il ne reste pas assez de place dans %1 pour préparer l’envoi.</translation>
+        <translation>Le disque est plein&#xa0;: il ne reste pas assez de place dans %1 pour préparer l’envoi.</translation>
     </message>
     <message>
         <source>It cannot be prepared in %1: %2</source>
-        <translation>Impossible de préparer l’envoi dans %1 : %2</translation>
+        <translation>Impossible de préparer l’envoi dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 was not sent.</source>
@@ -1790,15 +1790,15 @@
     <name>OpenNewFinderWindow</name>
     <message>
         <source>No window can be opened on %1: %2.</source>
-        <translation>Impossible d’ouvrir une fenêtre sur %1 : %2.</translation>
+        <translation>Impossible d’ouvrir une fenêtre pour %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file manager does not answer, so there may be no window on %1.</source>
-        <translation>Le gestionnaire de fichiers ne répond pas ; il se peut qu’aucune fenêtre ne s’ouvre sur %1.</translation>
+        <translation>Le gestionnaire de fichiers ne répond pas&#x202f;; il se peut qu’aucune fenêtre ne s’ouvre pour %1.</translation>
     </message>
     <message>
         <source>No file manager was found to open a window on %1.</source>
-        <translation>Aucun gestionnaire de fichiers n’a été trouvé pour ouvrir une fenêtre sur %1.</translation>
+        <translation>Aucun gestionnaire de fichiers n’a été trouvé pour ouvrir une fenêtre pour %1.</translation>
     </message>
 </context>
 <context>
@@ -1812,7 +1812,7 @@
     <name>OpenTerminal</name>
     <message>
         <source>No terminal can be opened in %1: %2.</source>
-        <translation>Impossible d’ouvrir un terminal dans %1 : %2.</translation>
+        <translation>Impossible d’ouvrir un terminal dans %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>No terminal was found. Install one, or choose one in the settings of the desktop.</source>
@@ -1823,23 +1823,23 @@
     <name>Photos</name>
     <message>
         <source>cannot be read: what reads pictures could not be started; install Orvik Menu and libvips again</source>
-        <translation>ne peut pas être lu : le lecteur d’images n’a pas pu être lancé ; réinstallez Orvik Menu et libvips</translation>
+        <translation>ne peut pas être lu&#xa0;: le lecteur d’images n’a pas pu être lancé&#x202f;; réinstallez Orvik Menu et libvips</translation>
     </message>
     <message>
         <source>takes too long to read</source>
-        <translation>demande trop de temps de lecture</translation>
+        <translation>est trop long à lire</translation>
     </message>
     <message>
         <source>cannot be read: it is damaged, or needs more memory than a picture may take</source>
-        <translation>ne peut pas être lu : il est endommagé ou demande plus de mémoire qu’une image ne peut en occuper</translation>
+        <translation>ne peut pas être lu&#xa0;: il est endommagé ou demande plus de mémoire qu’une image ne peut en occuper</translation>
     </message>
     <message>
         <source>cannot be read: what reads pictures has failed</source>
-        <translation>ne peut pas être lu : le lecteur d’images a échoué</translation>
+        <translation>ne peut pas être lu&#xa0;: le lecteur d’images a échoué</translation>
     </message>
     <message>
         <source>cannot be read: this is no question</source>
-        <translation>ne peut pas être lu : la demande n’est pas valide</translation>
+        <translation>ne peut pas être lu&#xa0;: la demande n’est pas valide</translation>
     </message>
     <message>
         <source>is no picture of a kind that can be read here</source>
@@ -1847,11 +1847,11 @@
     </message>
     <message>
         <source>cannot be read: it is damaged or ends too early</source>
-        <translation>ne peut pas être lu : il est endommagé ou incomplet</translation>
+        <translation>ne peut pas être lu&#xa0;: il est endommagé ou incomplet</translation>
     </message>
     <message>
         <source>is too large: it has %1 × %2 pixels</source>
-        <translation>est trop grand : il fait %1 × %2 pixels</translation>
+        <translation>est trop grand&#xa0;: il fait %1 × %2 pixels</translation>
     </message>
     <message>
         <source>cannot be opened</source>
@@ -1859,23 +1859,23 @@
     </message>
     <message>
         <source>cannot be shown: it takes too much time or memory</source>
-        <translation>ne peut pas être affiché : il demande trop de temps ou de mémoire</translation>
+        <translation>ne peut pas être affiché&#xa0;: il demande trop de temps ou de mémoire</translation>
     </message>
     <message>
         <source>cannot be resized: its worker gave no answer</source>
-        <translation>ne peut pas être redimensionné : le processus chargé de ce travail n’a pas répondu</translation>
+        <translation>ne peut pas être redimensionné&#xa0;: le processus chargé de ce travail n’a pas répondu</translation>
     </message>
     <message>
         <source>cannot be resized: this is no job</source>
-        <translation>ne peut pas être redimensionné : la tâche n’est pas valide</translation>
+        <translation>ne peut pas être redimensionné&#xa0;: la tâche n’est pas valide</translation>
     </message>
     <message>
         <source>cannot be resized: it is damaged or ends too early</source>
-        <translation>ne peut pas être redimensionné : il est endommagé ou incomplet</translation>
+        <translation>ne peut pas être redimensionné&#xa0;: il est endommagé ou incomplet</translation>
     </message>
     <message>
         <source>cannot be resized: its format cannot be written here</source>
-        <translation>ne peut pas être redimensionné : l’écriture de son format n’est pas prise en charge</translation>
+        <translation>ne peut pas être redimensionné&#xa0;: l’écriture de son format n’est pas prise en charge</translation>
     </message>
     <message>
         <source>cannot be made that small</source>
@@ -1883,18 +1883,18 @@
     </message>
     <message>
         <source>cannot be resized: it holds several pictures, and only one would be left</source>
-        <translation>ne peut pas être redimensionné : il contient plusieurs images, et une seule subsisterait</translation>
+        <translation>ne peut pas être redimensionné&#xa0;: il contient plusieurs images, et une seule subsisterait</translation>
     </message>
     <message>
         <source>cannot be saved: there is no room for it</source>
-        <translation>ne peut pas être enregistré : il n’y a pas assez de place</translation>
+        <translation>ne peut pas être enregistré&#xa0;: il n’y a pas assez de place</translation>
     </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>
     <message>
         <source>What it said: %1</source>
-        <translation>Message d’erreur : %1</translation>
+        <translation>Message d’erreur&#xa0;: %1</translation>
     </message>
     <message>
         <source>There is nothing to repair in the settings.</source>
@@ -1906,11 +1906,11 @@
     </message>
     <message>
         <source>Repair Settings mends this.</source>
-        <translation>« Réparer les paramètres » corrige ce problème.</translation>
+        <translation>«&#xa0;Réparer les paramètres&#xa0;» corrige ce problème.</translation>
     </message>
     <message>
         <source>That may not be why it stopped. Repair Settings mends the settings.</source>
-        <translation>Ce n’est peut-être pas la cause de l’arrêt. « Réparer les paramètres » corrige les paramètres.</translation>
+        <translation>Ce n’est peut-être pas la cause de l’arrêt. «&#xa0;Réparer les paramètres&#xa0;» corrige les paramètres.</translation>
     </message>
     <message>
         <source>A copy of the settings as they are now is kept.</source>
@@ -1938,11 +1938,11 @@
     </message>
     <message>
         <source>The settings could not be repaired: they cannot be read.</source>
-        <translation>Les paramètres n’ont pas pu être réparés : ils sont illisibles.</translation>
+        <translation>Les paramètres n’ont pas pu être réparés&#xa0;: ils sont illisibles.</translation>
     </message>
     <message>
         <source>The settings could not be repaired: %1.</source>
-        <translation>Les paramètres n’ont pas pu être réparés : %1.</translation>
+        <translation>Les paramètres n’ont pas pu être réparés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Orvik Menu could not be started.</source>
@@ -1965,11 +1965,11 @@
     </message>
     <message>
         <source>1 entry of the list of folders is no path.</source>
-        <translation>1 entrée de la liste des dossiers n’est pas un chemin.</translation>
+        <translation>1&#xa0;entrée de la liste des dossiers n’est pas un chemin.</translation>
     </message>
     <message>
         <source>%1 entries of the list of folders are no paths.</source>
-        <translation>%1 entrées de la liste des dossiers ne sont pas des chemins.</translation>
+        <translation>%1&#xa0;entrées de la liste des dossiers ne sont pas des chemins.</translation>
     </message>
     <message>
         <source>What is no path is removed.</source>
@@ -2008,19 +2008,19 @@
     </message>
     <message>
         <source>%1 cannot be opened: %2.</source>
-        <translation>%1 ne peut pas être ouvert : %2.</translation>
+        <translation>%1 ne peut pas être ouvert&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 cannot be saved: %2.</source>
-        <translation>%1 ne peut pas être enregistré : %2.</translation>
+        <translation>%1 ne peut pas être enregistré&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 stays as it is, since it cannot be moved to the trash: %2</source>
-        <translation>%1 reste tel quel, car il ne peut pas être mis à la corbeille : %2</translation>
+        <translation>%1 reste tel quel, car il ne peut pas être mis à la corbeille&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is in the trash, but the smaller one could not take its place: %2.</source>
-        <translation>%1 est à la corbeille, mais la version réduite n’a pas pu prendre sa place : %2.</translation>
+        <translation>%1 est à la corbeille, mais la version réduite n’a pas pu prendre sa place&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 takes too long to resize.</source>
@@ -2028,33 +2028,33 @@
     </message>
     <message>
         <source>%1 cannot be resized: it takes too much memory, or is damaged.</source>
-        <translation>%1 ne peut pas être redimensionné : il demande trop de mémoire ou est endommagé.</translation>
+        <translation>%1 ne peut pas être redimensionné&#xa0;: il demande trop de mémoire ou est endommagé.</translation>
     </message>
     <message>
         <source>%1 cannot be resized: the part that reads pictures does not start. Install the package libvips42.</source>
-        <translation>%1 ne peut pas être redimensionné : le lecteur d’images ne démarre pas. Installez le paquet libvips42.</translation>
+        <translation>%1 ne peut pas être redimensionné&#xa0;: le lecteur d’images ne démarre pas. Installez le paquet libvips42.</translation>
     </message>
     <message>
         <source>%1 stays as it is: another program has changed it meanwhile.</source>
-        <translation>%1 reste tel quel : un autre programme l’a modifié entre-temps.</translation>
+        <translation>%1 reste tel quel&#xa0;: un autre programme l’a modifié entre-temps.</translation>
     </message>
 </context>
 <context>
     <name>SendViaMail</name>
     <message>
         <source>%1 cannot be sent: its name or that of a folder above it has characters that are no text. Rename it and try again.</source>
-        <translation>%1 ne peut pas être envoyé : son nom ou celui d’un dossier parent contient des caractères qui ne forment pas un texte valide. Renommez-le et réessayez.</translation>
+        <translation>%1 ne peut pas être envoyé&#xa0;: son nom ou celui d’un dossier parent contient des caractères qui ne forment pas un texte valide. Renommez-le et réessayez.</translation>
     </message>
     <message>
         <source>%1 cannot be sent: the settings of Orvik Menu cannot be written. Is the disk full?</source>
-        <translation>%1 ne peut pas être envoyé : impossible d’écrire les paramètres d’Orvik Menu. Le disque est-il plein ?</translation>
+        <translation>%1 ne peut pas être envoyé&#xa0;: impossible d’écrire les paramètres d’Orvik Menu. Le disque est-il plein&#x202f;?</translation>
     </message>
 </context>
 <context>
     <name>SetAsWallpaper</name>
     <message>
         <source>%1 cannot be read: %2.</source>
-        <translation>%1 ne peut pas être lu : %2.</translation>
+        <translation>%1 ne peut pas être lu&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The desktop did not take %1 as its wallpaper.</source>
@@ -2062,7 +2062,7 @@
     </message>
     <message>
         <source>%1 cannot be set as the wallpaper: Orvik Menu does not know how this desktop sets it.</source>
-        <translation>%1 ne peut pas être défini comme fond d’écran : Orvik Menu ne sait pas comment le définir sur ce bureau.</translation>
+        <translation>%1 ne peut pas être défini comme fond d’écran&#xa0;: Orvik Menu ne sait pas comment le définir sur ce bureau.</translation>
     </message>
 </context>
 <context>
@@ -2085,7 +2085,7 @@
     </message>
     <message>
         <source>Record your screen, your voice and your camera together, ready to share the moment you stop.</source>
-        <translation>Enregistrez à la fois votre écran, votre voix et votre caméra : le résultat est prêt à partager dès que vous arrêtez.</translation>
+        <translation>Enregistrez à la fois votre écran, votre voix et votre caméra&#xa0;: le résultat est prêt à partager dès que vous arrêtez.</translation>
     </message>
     <message>
         <source>Productivity</source>
@@ -2203,7 +2203,7 @@
     <name>SizeText</name>
     <message>
         <source>1 byte</source>
-        <translation>1 octet</translation>
+        <translation>1&#xa0;octet</translation>
     </message>
 </context>
 <context>
@@ -2305,13 +2305,13 @@
     </message>
     <message>
         <source>“%1”</source>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message numerus="yes">
         <source>%1 items</source>
         <translation>
-            <numerusform>%1 élément</numerusform>
-            <numerusform>%1 éléments</numerusform>
+            <numerusform>%1&#xa0;élément</numerusform>
+            <numerusform>%1&#xa0;éléments</numerusform>
         </translation>
     </message>
     <message>
@@ -2333,34 +2333,34 @@
     <message numerus="yes">
         <source>%1 items were moved to %2.</source>
         <translation>
-            <numerusform>%1 élément a été déplacé vers %2.</numerusform>
-            <numerusform>%1 éléments ont été déplacés vers %2.</numerusform>
+            <numerusform>%1&#xa0;élément a été déplacé vers %2.</numerusform>
+            <numerusform>%1&#xa0;éléments ont été déplacés vers %2.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 items were copied to %2.</source>
         <translation>
-            <numerusform>%1 élément a été copié vers %2.</numerusform>
-            <numerusform>%1 éléments ont été copiés vers %2.</numerusform>
+            <numerusform>%1&#xa0;élément a été copié vers %2.</numerusform>
+            <numerusform>%1&#xa0;éléments ont été copiés vers %2.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 items were moved to %3.</source>
         <translation>
-            <numerusform>Éléments déplacés vers %3 : %1 sur %2.</numerusform>
-            <numerusform>Éléments déplacés vers %3 : %1 sur %2.</numerusform>
+            <numerusform>Éléments déplacés vers %3&#xa0;: %1 sur %2.</numerusform>
+            <numerusform>Éléments déplacés vers %3&#xa0;: %1 sur %2.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2 items were copied to %3.</source>
         <translation>
-            <numerusform>Éléments copiés vers %3 : %1 sur %2.</numerusform>
-            <numerusform>Éléments copiés vers %3 : %1 sur %2.</numerusform>
+            <numerusform>Éléments copiés vers %3&#xa0;: %1 sur %2.</numerusform>
+            <numerusform>Éléments copiés vers %3&#xa0;: %1 sur %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Nothing can be put into %1: %2.</source>
-        <translation>Impossible d’écrire dans %1 : %2.</translation>
+        <translation>Impossible d’écrire dans %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>There is not enough room on the disk of %1.</source>
@@ -2368,7 +2368,7 @@
     </message>
     <message>
         <source>%1 cannot be read: %2.</source>
-        <translation>%1 ne peut pas être lu : %2.</translation>
+        <translation>%1 ne peut pas être lu&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 is in this folder already.</source>
@@ -2404,11 +2404,11 @@
     </message>
     <message>
         <source>%1 could not be moved: %2.</source>
-        <translation>%1 n’a pas pu être déplacé : %2.</translation>
+        <translation>%1 n’a pas pu être déplacé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 could not be copied: %2.</source>
-        <translation>%1 n’a pas pu être copié : %2.</translation>
+        <translation>%1 n’a pas pu être copié&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 has changed meanwhile, or a part of it could not be copied. What was not moved is still where it was.</source>
@@ -2416,7 +2416,7 @@
     </message>
     <message>
         <source>%1 was copied, but not all of it could be removed from where it was: %2.</source>
-        <translation>%1 a été copié, mais n’a pas pu être entièrement supprimé de son emplacement d’origine : %2.</translation>
+        <translation>%1 a été copié, mais n’a pas pu être entièrement supprimé de son emplacement d’origine&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 could not be put back, since it is not where it was put.</source>
@@ -2424,17 +2424,17 @@
     </message>
     <message>
         <source>%1 could not be put back: %2.</source>
-        <translation>%1 n’a pas pu être remis en place : %2.</translation>
+        <translation>%1 n’a pas pu être remis en place&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 could not be put into the trash: %2</source>
-        <translation>%1 n’a pas pu être mis à la corbeille : %2</translation>
+        <translation>%1 n’a pas pu être mis à la corbeille&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>There were %1 more like these.</source>
         <translation>
-            <numerusform>Et %1 autre problème du même genre.</numerusform>
-            <numerusform>Et %1 autres problèmes du même genre.</numerusform>
+            <numerusform>Et %1&#xa0;autre problème du même genre.</numerusform>
+            <numerusform>Et %1&#xa0;autres problèmes du même genre.</numerusform>
         </translation>
     </message>
 </context>
@@ -2454,15 +2454,15 @@
     </message>
     <message>
         <source>It cannot be opened: %1.</source>
-        <translation>Ouverture impossible : %1.</translation>
+        <translation>Ouverture impossible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>It cannot be saved: %1.</source>
-        <translation>Enregistrement impossible : %1.</translation>
+        <translation>Enregistrement impossible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The original cannot be kept beside it: %1. Nothing was changed.</source>
-        <translation>L’original ne peut pas être conservé à côté : %1. Rien n’a été modifié.</translation>
+        <translation>L’original ne peut pas être gardé à côté&#xa0;: %1. Rien n’a été modifié.</translation>
     </message>
     <message>
         <source>The program ExifTool is missing. Install the package libimage-exiftool-perl.</source>
@@ -2482,11 +2482,11 @@
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation>Lecture impossible : %1.</translation>
+        <translation>Lecture impossible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>It cannot be changed: %1.</source>
-        <translation>Modification impossible : %1.</translation>
+        <translation>Modification impossible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Another program has changed it meanwhile. Look at it again and try again.</source>
@@ -2547,7 +2547,7 @@
     <name>Words</name>
     <message>
         <source>&quot;%1&quot;</source>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>a link leads out of the folders that Orvik Menu works in</source>
@@ -2555,15 +2555,15 @@
     </message>
     <message>
         <source>%1 is not in a folder that Orvik Menu works in. Add the folder in its settings.</source>
-        <translation>%1 n’est pas dans un dossier où Orvik Menu agit. Ajoutez le dossier dans ses paramètres.</translation>
+        <translation>%1 n’est pas dans un dossier où Orvik Menu agit. Ajoutez le dossier dans les paramètres d’Orvik Menu.</translation>
     </message>
     <message>
         <source>%1 or another item is not in a folder that Orvik Menu works in. Add the folder in its settings.</source>
-        <translation>%1 ou un autre élément n’est pas dans un dossier où Orvik Menu agit. Ajoutez le dossier dans ses paramètres.</translation>
+        <translation>%1 ou un autre élément n’est pas dans un dossier où Orvik Menu agit. Ajoutez le dossier dans les paramètres d’Orvik Menu.</translation>
     </message>
     <message>
         <source>There were %1 more like these.</source>
-        <translation>Autres problèmes du même genre : %1.</translation>
+        <translation>Autres problèmes du même genre&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -2635,7 +2635,7 @@
     </message>
     <message>
         <source>Open Extensions and switch on “Orvik Menu Extension”. This step is done as soon as the extension runs.</source>
-        <translation>Ouvrez Extensions et activez « Extension Orvik Menu ». Cette étape est terminée dès que l’extension est en cours d’exécution.</translation>
+        <translation>Ouvrez Extensions et activez «&#xa0;Extension Orvik Menu&#xa0;». Cette étape est terminée dès que l’extension est en cours d’exécution.</translation>
     </message>
     <message>
         <source>Open &amp;Extensions…</source>
@@ -2647,7 +2647,7 @@
     </message>
     <message>
         <source>The actions show on items inside these folders. You can change them later.</source>
-        <translation>Les actions sont proposées pour les éléments de ces dossiers. Vous pourrez les modifier plus tard.</translation>
+        <translation>Les actions sont proposées pour les éléments de ces dossiers. Vous pourrez changer de dossiers plus tard.</translation>
     </message>
     <message>
         <source>Choose &amp;Folders…</source>
@@ -2690,7 +2690,7 @@
     </message>
     <message>
         <source>Remove selected folder?</source>
-        <translation>Retirer le dossier sélectionné ?</translation>
+        <translation>Retirer le dossier sélectionné&#x202f;?</translation>
     </message>
     <message>
         <source>Are you sure you want to remove the selected folder.</source>
@@ -2729,11 +2729,11 @@
     </message>
     <message>
         <source>Show an &amp;icon beside each menu item</source>
-        <translation>Afficher une &amp;icône à côté de chaque élément du menu</translation>
+        <translation>Afficher une &amp;icône par élément du menu</translation>
     </message>
     <message>
         <source>Group the menu items in a &amp;submenu</source>
-        <translation>Regrouper les éléments du menu dans un &amp;sous-menu</translation>
+        <translation>Grouper les éléments dans un &amp;sous-menu</translation>
     </message>
     <message>
         <source>Orvik Menu Extension is enabled</source>
@@ -2741,7 +2741,7 @@
     </message>
     <message>
         <source>Enable &quot;Orvik Menu Extension&quot; in System Preferences &gt; Extensions to make Orvik Menu work.</source>
-        <translation>Activez « Extension Orvik Menu » dans Paramètres du système &gt; Extensions pour faire fonctionner Orvik Menu.</translation>
+        <translation>Activez «&#xa0;Extension Orvik Menu&#xa0;» dans Paramètres du système &gt; Extensions pour faire fonctionner Orvik Menu.</translation>
     </message>
 </context>
 <context>
@@ -2805,7 +2805,7 @@
     </message>
     <message>
         <source>Other Apps we think you may Love:</source>
-        <translation>D’autres applications qui pourraient vous plaire :</translation>
+        <translation>D’autres applications qui pourraient vous plaire&#xa0;:</translation>
     </message>
 </context>
 </TS>
