@@ -6,7 +6,7 @@ import unittest
 
 from support.action_window import run_action, start_companion
 from support.case import DesktopTestCase
-from support.catalogues import LANGUAGES, Catalogue
+from support.catalogues import LANGUAGES, TABS, Catalogue
 from support.deployment import EXTENSION
 from support.exif_window import ExifWindow
 from support.waiting import eventually
@@ -14,16 +14,15 @@ from support.waiting import eventually
 # Half as large again as the usual 96.
 DOTS_PER_INCH = "144"
 SMALLEST = (300, 200)
-TABS = ["Menu Items", "Folders", "General", "About", "Custom Folders"]
 
 
-class English:
-    """English has no catalogue."""
+class English(Catalogue):
+    """It has no catalogue."""
 
-    language = "en"
+    def __init__(self):
+        self.language = "en"
 
-    @staticmethod
-    def of(_table, text):
+    def of(self, _table, text):
         return text.replace("&", "")
 
 
@@ -92,7 +91,7 @@ class Texts(ExifWindow, DesktopTestCase):
         # A bar that is too short for its tabs scrolls.
         tab = next(tab for tabs in window.all("page tab list") for tab in tabs.children if tab.name == name)
         tab.act("Press")
-        eventually(lambda: tab.has("selected"), f"the tab “{name}”")
+        eventually(lambda: self.catalogue.shows_tab(window, title), f"the tab “{name}”")
 
     def test_on_the_tabs(self):
         for _ in self.each_language():

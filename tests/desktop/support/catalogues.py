@@ -5,12 +5,21 @@ import re
 import xml.etree.ElementTree as ElementTree
 
 _FOLDER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../../resources/translations")
+# The tabs in their order, and what each shows and no other: a table and a text.
+TABS = {
+    "Menu Items": ("ViewController", "Choose the actions that show when you right-click an item in your folders."),
+    "Folders": ("foldersArrvc", "&Add Folder…"),
+    "General": ("genraltabvc", "Group the menu items in a &submenu"),
+    "About": ("aboutVc", "&Rate Orvik Menu"),
+    "Custom Folders": ("customFoldersVc", "Folders that you set up from the file manager’s menu, for example as places to "
+                       "move or copy items to. Delete those that you no longer use."),
+}
 LANGUAGES = ["de", "fr", "es", "zh_CN", "ar"]
 
 
 def as_pattern(text):
     """What matches a text with anything filled in, without the marks of shortcut letters."""
-    return re.sub(r"%(\d|n)", ".+", re.escape(re.sub("&(?!&)", "", text)).replace(r"\%", "%"))
+    return re.sub(r"%(\d|n)", ".+", re.escape(re.sub(r"&(?=[^\s&])", "", text)).replace(r"\%", "%"))
 
 
 class Catalogue:
@@ -33,3 +42,8 @@ class Catalogue:
         return any(re.fullmatch(as_pattern(form), text, re.DOTALL)
                    for forms in self._texts.values() for form in forms
                    if re.search(r"[^\W\d]{2}", re.sub(r"%\w", "", form)))
+
+    def shows_tab(self, window, title):
+        """Whether the panel's window shows the tab of an English title."""
+        shown = self.of(*TABS[title])
+        return any(each.name == shown for each in window.descendants())
