@@ -161,14 +161,15 @@ class Languages(DesktopTestCase):
         self.speak("de")
         self.start_companion()
 
-        self.assertEqual(self.published_titles()["open-terminal"], self.catalogue.of("MenuCatalogue", "Open Terminal"))
+        self.assertEqual(self.published_titles()["hide-unhide-item"],
+                         self.catalogue.of("MenuCatalogue", "Hide / Unhide item"))
         self.assertNotIn("set-as-wallpaper", self.published_titles())
 
     def test_the_menu_is_in_english_otherwise(self):
         self.language = "en:de"
         self.start_companion()
 
-        self.assertEqual(self.published_titles()["open-terminal"], "Open Terminal")
+        self.assertEqual(self.published_titles()["hide-unhide-item"], "Hide / Unhide item")
 
     def test_what_an_action_could_not_do_is_told_in_the_language(self):
         self.speak("de")

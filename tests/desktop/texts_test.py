@@ -1,6 +1,7 @@
 """Every window at its smallest, with texts half as large again, in every language: nothing that it says is cut."""
 
 import contextlib
+import functools
 import os
 import unittest
 
@@ -26,6 +27,22 @@ class English(Catalogue):
         return text.replace("&", "")
 
 
+def in_each_language(test):
+    """The test for a person of each language."""
+    @functools.wraps(test)
+    def tests(self):
+        for catalogue in (English(), *map(Catalogue, LANGUAGES)):
+            self.catalogue = catalogue
+            with self.subTest(catalogue.language):
+                self.become_someone_new()
+                try:
+                    test(self)
+                finally:
+                    self.doCleanups()
+
+    return tests
+
+
 class Texts(ExifWindow, DesktopTestCase):
     screen_size = (1600, 1200)
 
@@ -39,13 +56,6 @@ class Texts(ExifWindow, DesktopTestCase):
             "QT_QPA_GENERIC_PLUGINS": "orvik-cut-texts",
             "ORVIK_CUT_TEXTS": os.path.join(self.home.folder, "cut-texts"),
         }
-
-    def each_language(self):
-        for catalogue in (English(), *map(Catalogue, LANGUAGES)):
-            self.catalogue = catalogue
-            with self.subTest(catalogue.language):
-                self.become_someone_new()
-                yield
 
     def setUp(self):
         self.catalogue = English()
@@ -93,83 +103,87 @@ class Texts(ExifWindow, DesktopTestCase):
         tab.act("Press")
         eventually(lambda: self.catalogue.shows_tab(window, title), f"the tab “{name}”")
 
+    def click_button(self, window, name):
+        button = eventually(lambda: window.find("push button", name), f"the button “{name}”")
+        eventually(lambda: button.has("enabled"), "the button to do something")
+        self.hands.click(button.extents)
+
+    @in_each_language
     def test_on_the_tabs(self):
-        for _ in self.each_language():
-            self.suite.write(foldersArray=["/srv", "/usr"], foldersArraystate=[1, 0], arrCustomFoldersUrls=["/srv"])
-            panel, window = self.open_panel()
-            self.make_smallest()
-            for tab in TABS:
-                self.go_to_tab(window, tab)
-                self.assertWhole(tab)
-            panel.close()
+        self.suite.write(foldersArray=["/srv", "/usr"], foldersArraystate=[1, 0], arrCustomFoldersUrls=["/srv"])
+        panel, window = self.open_panel()
+        self.make_smallest()
+        for tab in TABS:
+            self.go_to_tab(window, tab)
+            self.assertWhole(tab)
+        panel.close()
 
+    @in_each_language
     def test_on_empty_lists(self):
-        for _ in self.each_language():
-            panel, window = self.open_panel()
-            self.make_smallest()
-            for tab in ("Folders", "Custom Folders"):
-                self.go_to_tab(window, tab)
-                self.assertWhole(tab)
-            panel.close()
+        panel, window = self.open_panel()
+        self.make_smallest()
+        for tab in ("Folders", "Custom Folders"):
+            self.go_to_tab(window, tab)
+            self.assertWhole(tab)
+        panel.close()
 
+    @in_each_language
     def test_in_the_first_run(self):
-        for _ in self.each_language():
-            self.become_a_newcomer()
-            panel, _ = self.open_panel()
-            self.make_smallest()
-            self.assertWhole("the first run")
-            panel.close()
+        self.become_a_newcomer()
+        panel, _ = self.open_panel()
+        self.make_smallest()
+        self.assertWhole("the first run")
+        panel.close()
 
+    @in_each_language
     def test_in_the_question_about_a_folder(self):
-        for _ in self.each_language():
-            self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
-            panel, window = self.open_panel()
-            self.go_to_tab(window, "Folders")
-            self.hands.click(eventually(lambda: window.find("list item"), "the row").extents)
-            self.hands.press("Delete")
-            eventually(lambda: len(panel.windows()) > 1, "the question")
-            self.assertWhole("the question")
-            panel.close()
+        self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
+        panel, window = self.open_panel()
+        self.go_to_tab(window, "Folders")
+        self.hands.click(eventually(lambda: window.find("list item", "/srv"), "the row").extents)
+        self.click_button(window, self.catalogue.of("foldersArrvc", "&Remove Folder…"))
+        eventually(lambda: len(panel.windows()) > 1, "the question")
+        self.assertWhole("the question")
+        panel.close()
 
+    @in_each_language
     def test_in_the_chooser(self):
-        for _ in self.each_language():
-            self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
-            panel, window = self.open_panel()
-            self.go_to_tab(window, "Folders")
-            eventually(lambda: window.find("push button", self.catalogue.of("foldersArrvc", "&Add Folder…")),
-                       "the button").act("Press")
-            eventually(lambda: len(panel.windows()) > 1, "the chooser")
-            self.make_smallest()
-            self.assertWhole("the chooser")
-            panel.close()
+        self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
+        panel, window = self.open_panel()
+        self.go_to_tab(window, "Folders")
+        self.click_button(window, self.catalogue.of("foldersArrvc", "&Add Folder…"))
+        eventually(lambda: len(panel.windows()) > 1, "the chooser")
+        self.make_smallest()
+        self.assertWhole("the chooser")
+        panel.close()
 
+    @in_each_language
     def test_in_the_showcase(self):
-        for _ in self.each_language():
-            panel, _ = self.open_panel()
-            self.run_tool("orvik-notify", "ShowUtilityKit", EXTENSION)
-            panel.active_window(self.catalogue.of("UtilityKitWindow", "More from Orvik Studio"))
-            self.make_smallest()
-            self.assertWhole("the showcase")
-            panel.close()
+        panel, _ = self.open_panel()
+        self.run_tool("orvik-notify", "ShowUtilityKit", EXTENSION)
+        panel.active_window(self.catalogue.of("UtilityKitWindow", "More from Orvik Studio"))
+        self.make_smallest()
+        self.assertWhole("the showcase")
+        panel.close()
 
+    @in_each_language
     def test_in_the_extensions_window(self):
-        for _ in self.each_language():
-            program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-extensions"))
-            program.complaints()
-            program.active_window(self.catalogue.of("ExtensionsTool::ExtensionsWindow", "Extensions"))
-            self.make_smallest()
-            self.assertWhole("the extensions")
-            program.close()
+        program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-extensions"))
+        program.complaints()
+        program.active_window(self.catalogue.of("ExtensionsTool::ExtensionsWindow", "Extensions"))
+        self.make_smallest()
+        self.assertWhole("the extensions")
+        program.close()
 
+    @in_each_language
     def test_in_the_problem_window(self):
-        for _ in self.each_language():
-            self.suite.write(foldersArray=["/srv"], foldersArraystate=[1, 1, 1])
-            program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-problem"),
-                                       ORVIK_MENU_FATAL_ERROR="foldersArraystate is wrong")
-            program.complaints()
-            program.active_window("Orvik Menu")
-            self.assertWhole("the problem")
-            program.close()
+        self.suite.write(foldersArray=["/srv"], foldersArraystate=[1, 1, 1])
+        program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-problem"),
+                                   ORVIK_MENU_FATAL_ERROR="foldersArraystate is wrong")
+        program.complaints()
+        program.active_window("Orvik Menu")
+        self.assertWhole("the problem")
+        program.close()
 
     def look_at_action(self, action, title, *paths, before=lambda window: None):
         started = run_action(self, action, *paths)
@@ -179,25 +193,25 @@ class Texts(ExifWindow, DesktopTestCase):
         self.assertWhole(action)
         started.kill()
 
+    @in_each_language
     def test_in_the_windows_that_work_on_photos(self):
-        for _ in self.each_language():
-            self.install_exiftool()
-            start_companion(self)
-            photo = self.photo()
-            self.look_at_action("view-or-edit-exif-data",
-                                self.catalogue.of("MenuExtension::Exif::ExifWindow", "Exif Data"), photo)
-            self.look_at_action("resize-photos",
-                                self.catalogue.of("MenuExtension::Resizing::ResizeWindow", "Resize Photos"), photo)
+        self.install_exiftool()
+        start_companion(self)
+        photo = self.photo()
+        self.look_at_action("view-or-edit-exif-data",
+                            self.catalogue.of("MenuExtension::Exif::ExifWindow", "Exif Data"), photo)
+        self.look_at_action("resize-photos",
+                            self.catalogue.of("MenuExtension::Resizing::ResizeWindow", "Resize Photos"), photo)
 
+    @in_each_language
     def test_in_the_windows_that_find_duplicates(self):
-        for _ in self.each_language():
-            start_companion(self)
-            self.home.make_file("one", b"same")
-            self.home.make_file("other", b"same")
-            self.look_at_action("find-duplicate-files", self.catalogue.of("FindDuplicateFiles", "Duplicate Files"),
-                                self.home.files)
-            self.look_at_action("find-duplicate-photos", self.catalogue.of("FindDuplicatePhotos", "Duplicate Photos"),
-                                self.home.files)
+        start_companion(self)
+        self.home.make_file("one", b"same")
+        self.home.make_file("other", b"same")
+        self.look_at_action("find-duplicate-files", self.catalogue.of("FindDuplicateFiles", "Duplicate Files"),
+                            self.home.files)
+        self.look_at_action("find-duplicate-photos", self.catalogue.of("FindDuplicatePhotos", "Duplicate Photos"),
+                            self.home.files)
 
 
 if __name__ == "__main__":
