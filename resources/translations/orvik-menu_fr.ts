@@ -743,7 +743,7 @@
     </message>
     <message>
         <source>Open System Preferences</source>
-        <translation>Ouvrir les paramètres du système</translation>
+        <translation>Ouvrir les paramètres</translation>
     </message>
     <message>
         <source>Set as Wallpaper</source>
@@ -755,7 +755,7 @@
     </message>
     <message>
         <source>Copy path to Clipboard</source>
-        <translation>Copier le chemin dans le presse-papiers</translation>
+        <translation>Copier le chemin</translation>
     </message>
     <message>
         <source>Send via Mail</source>

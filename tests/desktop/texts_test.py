@@ -52,6 +52,8 @@ class Texts(ExifWindow, DesktopTestCase):
             **super().environment,
             "LANGUAGE": self.catalogue.language,
             "QT_FONT_DPI": DOTS_PER_INCH,
+            # Else everything grows, not the texts alone.
+            "QT_ENABLE_HIGHDPI_SCALING": "0",
             "QT_PLUGIN_PATH": os.environ["ORVIK_TEST_PLUGINS"],
             "QT_QPA_GENERIC_PLUGINS": "orvik-cut-texts",
             "ORVIK_CUT_TEXTS": os.path.join(self.home.folder, "cut-texts"),
