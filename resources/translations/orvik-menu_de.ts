@@ -2109,7 +2109,7 @@
     </message>
     <message>
         <source>Find any file as you type, even inside archives and on disks that are not plugged in.</source>
-        <translation>Finden Sie jede Datei schon beim Tippen, sogar in Archiven und auf Datenträgern, die nicht angeschlossen sind.</translation>
+        <translation>Finden Sie jede Datei beim Tippen, auch in Archiven und auf nicht angeschlossenen Datenträgern.</translation>
     </message>
     <message>
         <source>Collect notes, lists and clippings in a notebook that is always one keystroke away.</source>
@@ -2121,7 +2121,7 @@
     </message>
     <message>
         <source>See at a glance what fills your disk, and clear away duplicates, leftovers and old downloads.</source>
-        <translation>Sehen Sie auf einen Blick, was Ihre Festplatte füllt, und räumen Sie Duplikate, Reste und alte Downloads weg.</translation>
+        <translation>Sehen Sie, was Ihre Festplatte füllt, und räumen Sie Duplikate und alte Downloads weg.</translation>
     </message>
     <message>
         <source>Business</source>

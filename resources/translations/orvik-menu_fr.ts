@@ -771,7 +771,7 @@
     </message>
     <message>
         <source>Open New Finder Window</source>
-        <translation>Ouvrir une nouvelle fenêtre de fichiers</translation>
+        <translation>Nouvelle fenêtre de fichiers</translation>
     </message>
     <message>
         <source>Hide / Unhide item</source>
@@ -779,15 +779,15 @@
     </message>
     <message>
         <source>Find Duplicate Files</source>
-        <translation>Rechercher les fichiers en double</translation>
+        <translation>Fichiers en double</translation>
     </message>
     <message>
         <source>Find Duplicate Photos</source>
-        <translation>Rechercher les photos en double</translation>
+        <translation>Photos en double</translation>
     </message>
     <message>
         <source>View or Edit Exif Data</source>
-        <translation>Voir ou modifier les données Exif</translation>
+        <translation>Voir ou modifier l’Exif</translation>
     </message>
     <message>
         <source>Resize Photos</source>
@@ -2093,7 +2093,7 @@
     </message>
     <message>
         <source>Pick any colour on your screen and keep your palettes in one place, ready to paste into your work.</source>
-        <translation>Prélevez n’importe quelle couleur à l’écran et gardez vos palettes au même endroit, prêtes à être collées dans votre travail.</translation>
+        <translation>Prélevez toute couleur à l’écran et gardez vos palettes au même endroit, prêtes à être collées.</translation>
     </message>
     <message>
         <source>Lifestyle</source>
@@ -2117,11 +2117,11 @@
     </message>
     <message>
         <source>See every calendar and every deadline on one timeline, and move your plans until the week fits.</source>
-        <translation>Voyez tous vos agendas et toutes vos échéances sur une même frise, et déplacez vos projets jusqu’à ce que la semaine tienne.</translation>
+        <translation>Voyez agendas et échéances sur une même frise, et déplacez vos projets pour que la semaine tienne.</translation>
     </message>
     <message>
         <source>See at a glance what fills your disk, and clear away duplicates, leftovers and old downloads.</source>
-        <translation>Voyez d’un coup d’œil ce qui remplit votre disque, et débarrassez-vous des doublons, des restes et des vieux téléchargements.</translation>
+        <translation>Voyez ce qui remplit votre disque, et débarrassez-vous des doublons et des vieux téléchargements.</translation>
     </message>
     <message>
         <source>Business</source>
@@ -2137,7 +2137,7 @@
     </message>
     <message>
         <source>Keep an eye on processor, memory and network with a small, quiet meter in the menu bar.</source>
-        <translation>Gardez un œil sur le processeur, la mémoire et le réseau grâce à un petit indicateur discret dans la barre de menus.</translation>
+        <translation>Surveillez le processeur, la mémoire et le réseau avec un petit indicateur dans la barre de menus.</translation>
     </message>
     <message>
         <source>Keep everything that you copy, and paste any of it again by typing a few of its letters.</source>
@@ -2153,7 +2153,7 @@
     </message>
     <message>
         <source>Work in focused stretches with a break after each, and see at the end of the week where the hours went.</source>
-        <translation>Travaillez par périodes de concentration, chacune suivie d’une pause, et voyez en fin de semaine où sont passées vos heures.</translation>
+        <translation>Travaillez concentré, avec une pause après chaque période, et voyez où sont passées vos heures.</translation>
     </message>
 </context>
 <context>
@@ -2678,11 +2678,11 @@
     </message>
     <message>
         <source>&amp;Add Folder…</source>
-        <translation>&amp;Ajouter un dossier…</translation>
+        <translation>&amp;Ajouter…</translation>
     </message>
     <message>
         <source>&amp;Remove Folder…</source>
-        <translation>&amp;Retirer le dossier…</translation>
+        <translation>&amp;Retirer…</translation>
     </message>
     <message>
         <source>Remove the selected folder (Delete)</source>
