@@ -2729,11 +2729,11 @@
     </message>
     <message>
         <source>Show an &amp;icon beside each menu item</source>
-        <translation>Afficher une &amp;icône par élément du menu</translation>
+        <translation>Afficher une &amp;icône par élément</translation>
     </message>
     <message>
         <source>Group the menu items in a &amp;submenu</source>
-        <translation>Grouper les éléments dans un &amp;sous-menu</translation>
+        <translation>Regrouper dans un &amp;sous-menu</translation>
     </message>
     <message>
         <source>Orvik Menu Extension is enabled</source>
