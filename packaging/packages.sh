@@ -8,6 +8,7 @@ mapfile -t file_managers < <(sed -n 's/^Package: orvik-menu-//p' "$packaging/deb
 packages_build=(
   cmake
   g++
+  gettext
   libarchive-dev
   libexpat1-dev
   libglib2.0-dev
@@ -16,6 +17,7 @@ packages_build=(
   nlohmann-json3-dev
   qt6-base-dev
   qt6-base-dev-tools
+  qt6-l10n-tools
   libqt6opengl6-dev
   libsystemd-dev
   libvips-dev
@@ -54,6 +56,7 @@ packages_panel=(
   libimage-exiftool-perl
   libqt6svg6
   libvips42
+  qt6-translations-l10n
   qt6-wayland
   xdg-utils
 )

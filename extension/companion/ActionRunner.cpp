@@ -1,5 +1,6 @@
 #include "extension/companion/ActionRunner.h"
 
+#include "platform/LocalizedString.h"
 #include "platform/linux/system/Command.h"
 #include "platform/linux/system/FileDescriptor.h"
 #include "platform/linux/system/Pipe.h"
@@ -46,7 +47,7 @@ std::vector<std::string> environmentWith(const std::string& token)
 
 Outcome withoutAnswer()
 {
-    return Outcome::failed("It ended before it was done.");
+    return Outcome::failed(NS::LocalizedString("Companion", "It ended before it was done."));
 }
 
 } // namespace
@@ -191,7 +192,8 @@ void ActionRunner::start(const RunCall& call, Finished finished)
     ++m_busy;
     Action& action = m_actions.emplace_back(*this, call.request, std::move(finished));
     if (!action.start(m_folder + '/' + call.action, call.request, call.activationToken)) {
-        action.answer(Outcome::failed("The program that does this cannot be started."));
+        action.answer(
+            Outcome::failed(NS::LocalizedString("Companion", "The program that does this cannot be started.")));
         ended(action);
     }
 }

@@ -1,6 +1,8 @@
 #include "extension/companion/BusService.h"
 
 #include "extension/bus/BusText.h"
+#include "extension/menu/Targets.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
 #include "platform/linux/bus/interfaces/FinderSyncMenu.h"
 #include "platform/linux/bus/interfaces/ObjectPath.h"
@@ -42,6 +44,10 @@ struct Shown {
     static bool as(Is<Extension::ShowMenuIcon> auto, const State& state) { return state.settings.showMenuIcon; }
     static bool as(Is<Extension::ShowInSubmenu> auto, const State& state) { return state.settings.showInSubmenu; }
     static const auto& as(Is<ForMenu::Scope> auto, const State& state) { return state.settings.folders; }
+    static std::vector<std::string> as(Is<ForMenu::OtherFolder> auto, const State&)
+    {
+        return {NS::LocalizedString("Menu", otherFolderTitle), NS::LocalizedString("Menu", otherFolderDescription)};
+    }
 };
 
 // Negative error numbers go to the library, which answers whoever asked with them. An element whose text is not for

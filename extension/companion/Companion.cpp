@@ -3,6 +3,7 @@
 #include "extension/companion/DirectoryAddress.h"
 #include "extension/companion/OfferedActions.h"
 #include "extension/protocol/ActionsFolder.h"
+#include "platform/LocalizedString.h"
 
 #include <chrono>
 #include <cstdint>
@@ -178,7 +179,7 @@ void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Fi
     if (!refusal)
         refusal = refusalOf(call.request, m_scope);
     if (!refusal && !m_runner.hasRoom())
-        refusal = Refusal{Refusal::Kind::Failed, "Too much is asked for at once."};
+        refusal = Refusal{Refusal::Kind::Failed, NS::LocalizedString("Companion", "Too much is asked for at once.")};
     if (refusal) {
         if (!call.isAnswerAwaited || refusal->kind == Refusal::Kind::Failed)
             m_notices.tell(titleOf(call.action), refusal->words);

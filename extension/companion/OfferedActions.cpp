@@ -1,5 +1,6 @@
 #include "extension/companion/OfferedActions.h"
 
+#include "platform/LocalizedString.h"
 #include "settings/MenuCatalogue.h"
 
 #include <algorithm>
@@ -35,7 +36,8 @@ OfferedActions offeredActions(const std::vector<MenuItem>& items, const std::str
                 continue;
             }
         }
-        offered.actions.push_back({identifier, item.title, "orvik-menu-" + identifier, row->appliesTo});
+        offered.actions.push_back({identifier, NS::LocalizedString("MenuCatalogue", item.title),
+                                   "orvik-menu-" + identifier, row->appliesTo});
     }
     return offered;
 }

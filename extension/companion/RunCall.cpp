@@ -3,6 +3,7 @@
 #include "extension/companion/OfferedActions.h"
 #include "extension/menu/Menu.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/bus/interfaces/FinderSyncExtension.h"
 #include "settings/MenuCatalogue.h"
 
@@ -132,12 +133,16 @@ std::optional<Refusal> refusalOf(std::string_view action, const std::vector<Menu
 {
     const CatalogueRow* row = rowOf(action);
     if (!row)
-        return Refusal{Refusal::Kind::UnknownAction, "Orvik Menu has no action of that name."};
+        return Refusal{Refusal::Kind::UnknownAction,
+                       NS::LocalizedString("Companion", "Orvik Menu has no action of that name.")};
     if (action == actionOfFileManager)
-        return Refusal{Refusal::Kind::DoesNotApply, "Only the file manager itself can do this."};
+        return Refusal{Refusal::Kind::DoesNotApply,
+                       NS::LocalizedString("Companion", "Only the file manager itself can do this.")};
     const auto isOn = [row](const MenuItem& item) { return item.state && item.title == row->title; };
     if (std::ranges::none_of(items, isOn))
-        return Refusal{Refusal::Kind::SwitchedOff, "This action is switched off in the settings of Orvik Menu."};
+        return Refusal{
+            Refusal::Kind::SwitchedOff,
+            NS::LocalizedString("Companion", "This action is switched off in the settings of Orvik Menu.")};
     return std::nullopt;
 }
 
@@ -155,7 +160,7 @@ std::optional<Refusal> refusalOf(const ActionRequest& request, const Scope& scop
 std::string titleOf(std::string_view action)
 {
     const CatalogueRow* row = rowOf(action);
-    return row ? std::string(row->title) : std::string();
+    return row ? NS::LocalizedString("MenuCatalogue", row->title) : std::string();
 }
 
 } // namespace MenuExtension

@@ -3,6 +3,7 @@
 #include "extension/companion/Companion.h"
 #include "extension/companion/RunCommand.h"
 #include "extension/companion/StatusReport.h"
+#include "platform/linux/language/Catalogue.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "platform/linux/system/Complaint.h"
 
@@ -10,6 +11,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -57,6 +59,8 @@ int addEndings(sd_event& event)
 
 int run()
 {
+    std::error_code error;
+    LinuxDesktop::useCatalogue(std::filesystem::read_symlink("/proc/self/exe", error).parent_path());
     const auto folder = LinuxDesktop::settingsFolder();
     if (!folder) {
         complain("no home folder is known");

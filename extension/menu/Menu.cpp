@@ -47,7 +47,10 @@ bool applies(std::uint32_t appliesTo, const Selection& selection)
 
 Menu makeMenu(const MenuSettings& settings, const Selection& selection)
 {
-    Menu menu{.entries = {}, .showIcons = settings.showIcons, .inSubmenu = settings.inSubmenu};
+    Menu menu{.entries = {},
+              .otherFolder = &settings.otherFolder,
+              .showIcons = settings.showIcons,
+              .inSubmenu = settings.inSubmenu};
     if (settings.actions.empty() || !isInScope(selection, settings.scope))
         return menu;
     const std::uint32_t kinds = kindsOf(selection);

@@ -30,6 +30,9 @@ struct MenuSettings {
     Scope scope;
     /// What the actions that move or copy offer.
     std::vector<Target> targets;
+    /// What asks for another, and so has no path.
+    Target otherFolder{
+        .path = {}, .title = std::string(otherFolderTitle), .description = std::string(otherFolderDescription)};
     bool showIcons = true;
     bool inSubmenu = false;
 };
@@ -52,7 +55,7 @@ struct Selection {
 /// An item of the menu. What it refers to is the settings'.
 struct MenuEntry {
     const MenuAction* action = nullptr;
-    /// What is in its submenu, before that which asks for a folder; none where there is no submenu.
+    /// What is in its submenu, before that which asks for another folder; none where there is no submenu.
     std::span<const Target> targets;
 };
 
@@ -60,6 +63,8 @@ struct MenuEntry {
 struct Menu {
     /// None where there is nothing to add. The settings must outlive them.
     std::vector<MenuEntry> entries;
+    /// The last of each submenu of targets; the settings' too.
+    const Target* otherFolder = nullptr;
     bool showIcons = false;
     bool inSubmenu = false;
 };

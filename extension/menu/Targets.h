@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/LocalizedString.h"
+
 #include <cstddef>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace MenuExtension {
@@ -22,9 +25,9 @@ struct Target {
 /// How many a menu shows at most; the rest are a choice in the file chooser away.
 inline constexpr std::size_t mostTargets = 100;
 
-/// What asks for a folder that is not among them.
-inline constexpr const char* chooseFolderTitle = "Choose Folder…";
-inline constexpr const char* chooseFolderDescription = "Asks for another folder";
+/// What asks for a folder that is not among them, in English.
+inline constexpr std::string_view otherFolderTitle = NS::LocalizableString("Menu", "Choose Folder…");
+inline constexpr std::string_view otherFolderDescription = NS::LocalizableString("Menu", "Asks for another folder");
 
 /// In the icon theme, of each of them.
 inline constexpr const char* targetIcon = "folder";

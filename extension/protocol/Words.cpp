@@ -1,11 +1,15 @@
 #include "extension/protocol/Words.h"
 
+#include "platform/LocalizedString.h"
+
 #include <cerrno>
 #include <cstdint>
 #include <optional>
 #include <system_error>
 
 namespace MenuExtension::Words {
+
+using NS::LocalizedString;
 
 namespace {
 
@@ -72,20 +76,31 @@ std::string name(std::string_view path)
 {
     path = path.substr(0, path.find_last_not_of('/') + 1);
     const std::string_view last = path.substr(path.rfind('/') + 1);
-    return '"' + (last.empty() ? "/" : shown(last)) + '"';
+    return NS::stringWithFormat(LocalizedString("Words", "\"%1\""), {last.empty() ? "/" : shown(last)});
 }
 
 std::string reason(int error)
 {
     if (error == EXDEV || error == ELOOP)
-        return "a link leads out of the folders that Orvik Menu works in";
+        return LocalizedString("Words", "a link leads out of the folders that Orvik Menu works in");
     return std::generic_category().message(error);
+}
+
+std::string cannotBeRead(int error)
+{
+    return NS::stringWithFormat(LocalizedString("Duplicates", "cannot be read: %1"), {reason(error)});
 }
 
 std::string outOfScope(const std::vector<std::string>& paths)
 {
-    return name(paths.front()) + (paths.size() == 1 ? " is" : " or another item is") +
-           " not in a folder that Orvik Menu works in. Add the folder in its settings.";
+    return NS::stringWithFormat(
+        paths.size() == 1
+            ? LocalizedString("Words",
+                              "%1 is not in a folder that Orvik Menu works in. Add the folder in its settings.")
+            : LocalizedString(
+                  "Words",
+                  "%1 or another item is not in a folder that Orvik Menu works in. Add the folder in its settings."),
+        {name(paths.front())});
 }
 
 void Troubles::add(const std::string& sentence)
@@ -103,8 +118,9 @@ Outcome Troubles::outcome() const
         return Outcome::done();
     if (m_count <= sentencesTold)
         return Outcome::failed(m_sentences);
-    return Outcome::failed(m_sentences + " There were " + std::to_string(m_count - sentencesTold) +
-                           " more like these.");
+    return Outcome::failed(m_sentences + ' ' +
+                           NS::stringWithFormat(LocalizedString("Words", "There were %1 more like these."),
+                                                {std::to_string(m_count - sentencesTold)}));
 }
 
 } // namespace MenuExtension::Words

@@ -20,6 +20,9 @@ namespace MenuExtension::Words {
 /// Why an item could not be opened or changed, from errno.
 [[nodiscard]] std::string reason(int error);
 
+/// "cannot be read: Permission denied": the end of a sentence that begins with a name, from errno.
+[[nodiscard]] std::string cannotBeRead(int error);
+
 /// That not all of the items lie where Orvik Menu works.
 [[nodiscard]] std::string outOfScope(const std::vector<std::string>& paths);
 

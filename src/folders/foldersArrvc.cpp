@@ -1,6 +1,7 @@
 #include "folders/foldersArrvc.h"
 
 #include "platform/FatalError.h"
+#include "platform/LocalizedString.h"
 #include "platform/Platform.h"
 #include "platform/Print.h"
 #include "platform/WindowController.h"
@@ -88,10 +89,11 @@ void foldersArrvc::alertforDelete()
 {
     alert = NS::platform().makeAlert();
     alert->setAlertStyle(NS::AlertStyle::Warning);
-    alert->setMessageText("Remove selected folder?");
-    alert->setInformativeText("Are you sure you want to remove the selected folder.");
-    alert->addButtonWithTitle("OK");
-    alert->addButtonWithTitle("Cancel");
+    alert->setMessageText(NS::LocalizedString("foldersArrvc", "Remove selected folder?"));
+    alert->setInformativeText(
+        NS::LocalizedString("foldersArrvc", "Are you sure you want to remove the selected folder."));
+    alert->addButtonWithTitle(NS::LocalizedString("foldersArrvc", "OK"));
+    alert->addButtonWithTitle(NS::LocalizedString("foldersArrvc", "Cancel"));
     const std::vector<NS::Button*> buttons = alert->buttons();
     buttons.at(0)->setAction([this](NS::Control&) { OKalert(); });
     buttons.at(1)->setAction([this](NS::Control&) { Cancelalert(); });
@@ -125,9 +127,9 @@ void foldersArrvc::alertFolderAlreadyAdded()
 {
     alertAlreadyAdded = NS::platform().makeAlert();
     alertAlreadyAdded->setAlertStyle(NS::AlertStyle::Informational);
-    alertAlreadyAdded->setMessageText(
-        "Some of the folders can not be added because they are already added to the Folders list.");
-    alertAlreadyAdded->addButtonWithTitle("OK");
+    alertAlreadyAdded->setMessageText(NS::LocalizedString(
+        "foldersArrvc", "Some of the folders can not be added because they are already added to the Folders list."));
+    alertAlreadyAdded->addButtonWithTitle(NS::LocalizedString("foldersArrvc", "OK"));
     alertAlreadyAdded->beginSheetModalForWindow(*mainWindow());
 }
 

@@ -1,6 +1,7 @@
 #include "mail/AttachToMail.h"
 
 #include "platform/FatalError.h"
+#include "platform/LocalizedString.h"
 #include "platform/Platform.h"
 #include "settings/Reading.h"
 #include "settings/Settings.h"
@@ -55,12 +56,13 @@ AttachToMailOutcome attachToMail()
         return AttachToMailOutcome::NoRequest;
 
     const auto panel = NS::platform().makeOpenPanel(NS::ChosenPaths::Any);
-    panel->setMessage("Please select the file that you want to send via email to allow sending");
+    panel->setMessage(NS::LocalizedString("AttachToMail",
+                                          "Please select the file that you want to send via email to allow sending"));
     panel->setCanChooseDirectories(true);
     panel->setAllowsMultipleSelection(false);
     panel->setShowsHiddenFiles(true);
     panel->setDirectoryURL(NS::URL::fileURLWithPath(*path));
-    panel->setPrompt("Attach to Mail");
+    panel->setPrompt(NS::LocalizedString("AttachToMail", "Attach to Mail"));
 
     const int response = panel->runModal();
     if (response == NS::ModalResponseCancel)

@@ -3,6 +3,7 @@
 #include "menu/IconTable.h"
 #include "menu/MenuRecord.h"
 #include "platform/FatalError.h"
+#include "platform/LocalizedString.h"
 #include "settings/ApplicationVersion.h"
 #include "settings/MenuCatalogue.h"
 #include "settings/Settings.h"
@@ -44,7 +45,7 @@ NS::TableCellView* ViewController::tableView_viewForTableColumn_row(NS::TableVie
         return nullptr;
     const NS::Value::Dictionary& item = itemAt(row);
     const std::string title = menuItemTitle(item);
-    cell->lbltitle->setStringValue(title);
+    cell->lbltitle->setStringValue(NS::LocalizedString("MenuCatalogue", title));
     cell->checkbox->setState(menuItemState(item) ? NS::ControlState::On : NS::ControlState::Off);
     cell->imgview->setImage(iconTable().imageForTitle(title));
     cell->checkbox->setTag(row);

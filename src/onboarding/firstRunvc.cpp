@@ -1,6 +1,7 @@
 #include "onboarding/firstRunvc.h"
 
 #include "onboarding/ExtensionsPane.h"
+#include "platform/LocalizedString.h"
 #include "platform/Platform.h"
 #include "platform/WindowController.h"
 #include "registry/ControllerRegistry.h"
@@ -73,10 +74,11 @@ void firstRunvc::alertdone()
 {
     const auto alert = NS::platform().makeAlert();
     alert->setAlertStyle(NS::AlertStyle::Warning);
-    alert->setMessageText("You have succeessfully enabled Orvik Menu and can see the Orvik Menu items in the Context "
-                          "Menu on right click for selected folders. You can change these settings in the app "
-                          "anytime.");
-    alert->addButtonWithTitle("OK");
+    alert->setMessageText(NS::LocalizedString(
+        "firstRunvc", "You have succeessfully enabled Orvik Menu and can see the Orvik Menu items in the Context "
+                      "Menu on right click for selected folders. You can change these settings in the app "
+                      "anytime."));
+    alert->addButtonWithTitle(NS::LocalizedString("firstRunvc", "OK"));
     alert->runModal();
     NS::platform().sharedApplication().terminate();
 }

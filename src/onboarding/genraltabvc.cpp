@@ -1,6 +1,7 @@
 #include "onboarding/genraltabvc.h"
 
 #include "onboarding/ExtensionsPane.h"
+#include "platform/LocalizedString.h"
 #include "settings/Reading.h"
 #include "settings/Settings.h"
 #include "settings/SharedSuite.h"
@@ -59,8 +60,10 @@ void genraltabvc::showExtensionState()
 {
     lblextensionstate->setStringValue(
         probe.isextensionrunning
-            ? "Orvik Menu Extension is enabled"
-            : "Enable \"Orvik Menu Extension\" in System Preferences > Extensions to make Orvik Menu work.");
+            ? NS::LocalizedString("genraltabvc", "Orvik Menu Extension is enabled")
+            : NS::LocalizedString(
+                  "genraltabvc",
+                  "Enable \"Orvik Menu Extension\" in System Preferences > Extensions to make Orvik Menu work."));
 }
 
 /// Shows the stored value. Where none of the right kind is stored, the initial one takes its place.

@@ -1,11 +1,14 @@
 #include "settings/Repair.h"
 
+#include "platform/LocalizedString.h"
 #include "settings/Settings.h"
 
 #include <cstdint>
 #include <utility>
 
 namespace {
+
+using NS::LocalizedString;
 
 constexpr std::int64_t on = 1;
 
@@ -19,11 +22,6 @@ const NS::Value::Array* arrayIn(const NS::Value::Dictionary& suite, std::string_
 {
     const NS::Value* value = valueIn(suite, key);
     return value ? value->array() : nullptr;
-}
-
-std::string counted(std::size_t count, std::string_view one, std::string_view several)
-{
-    return std::to_string(count) + ' ' + std::string(count == 1 ? one : several);
 }
 
 /// Each flag as it stands where it is a number; 1 in the place of every other.
@@ -54,19 +52,25 @@ void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
     }
 
     if (!storedPaths && valueIn(suite, pathsKey)) {
-        mends.push_back({pathsKey, std::nullopt, "The list of folders is no list.", "What is no list is removed."});
+        mends.push_back({pathsKey, std::nullopt, LocalizedString("Repair", "The list of folders is no list."),
+                         LocalizedString("Repair", "What is no list is removed.")});
     } else if (storedPaths && paths.size() != storedPaths->size()) {
         const std::size_t dropped = storedPaths->size() - paths.size();
-        mends.push_back({pathsKey, paths,
-                         counted(dropped, "entry", "entries") + " of the list of folders " +
-                             (dropped == 1 ? "is no path." : "are no paths."),
-                         "What is no path is removed."});
+        mends.push_back(
+            {pathsKey, paths,
+             dropped == 1
+                 ? LocalizedString("Repair", "1 entry of the list of folders is no path.")
+                 : NS::stringWithFormat(LocalizedString("Repair", "%1 entries of the list of folders are no paths."),
+                                        {std::to_string(dropped)}),
+             LocalizedString("Repair", "What is no path is removed.")});
     }
     const bool noFlags = flags.empty() && !valueIn(suite, flagsKey);
     if (!noFlags && !(storedFlags && *storedFlags == flags))
-        mends.push_back({flagsKey, flags,
-                         "The list that says which folders are active does not match the list of folders.",
-                         "A folder without an entry of its own becomes active."});
+        mends.push_back(
+            {flagsKey, flags,
+             LocalizedString("Repair",
+                             "The list that says which folders are active does not match the list of folders."),
+             LocalizedString("Repair", "A folder without an entry of its own becomes active.")});
 }
 
 void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
@@ -78,14 +82,15 @@ void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mend
     const NS::Value::Array* stored = arrayIn(suite, key);
     if (!stored) {
         if (valueIn(suite, key))
-            mends.push_back(
-                {key, std::nullopt, "The older list of menu items is no list.", "What is no list is removed."});
+            mends.push_back({key, std::nullopt, LocalizedString("Repair", "The older list of menu items is no list."),
+                             LocalizedString("Repair", "What is no list is removed.")});
         return;
     }
     NS::Value::Array flags = flagsOf(*stored, Settings::save14);
     if (flags != *stored)
-        mends.push_back({key, std::move(flags), "The older list of menu items has entries that are no numbers.",
-                         "A menu item without a number is switched on."});
+        mends.push_back({key, std::move(flags),
+                         LocalizedString("Repair", "The older list of menu items has entries that are no numbers."),
+                         LocalizedString("Repair", "A menu item without a number is switched on.")});
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "showcase/PromotedApplications.h"
 
 #include "platform/FatalError.h"
+#include "platform/LocalizedString.h"
 #include "platform/Platform.h"
 #include "showcase/InstalledApplications.h"
 #include "showcase/PromotionOrders.h"
@@ -22,10 +23,10 @@ ShowcaseEntry entryOf(const ShowcaseApplication& application)
 {
     return {
         {std::string(ShowcaseKey::Title), std::string(application.title)},
-        {std::string(ShowcaseKey::description), std::string(application.description)},
+        {std::string(ShowcaseKey::description), NS::LocalizedString("ShowcaseCatalogue", application.description)},
         {std::string(ShowcaseKey::icon), imageOf(application)},
         {std::string(ShowcaseKey::apppath), std::string(application.storeAddress)},
-        {std::string(ShowcaseKey::category), std::string(application.category)},
+        {std::string(ShowcaseKey::category), NS::LocalizedString("ShowcaseCatalogue", application.category)},
     };
 }
 

@@ -1,6 +1,7 @@
 #include "showcase/utilityKitvc.h"
 
 #include "platform/FatalError.h"
+#include "platform/LocalizedString.h"
 #include "platform/Platform.h"
 #include "showcase/InstalledApplications.h"
 #include "showcase/PromotedApplications.h"
@@ -31,7 +32,7 @@ void utilityKitvc::connect(NS::Connections& connections)
 void utilityKitvc::viewDidLoad()
 {
     NS::ViewController::viewDidLoad();
-    lblotherapps->setStringValue("Other Apps we think you may Love:");
+    lblotherapps->setStringValue(NS::LocalizedString("utilityKitvc", "Other Apps we think you may Love:"));
     scrollview->setBackgroundColor(NS::Color::clearColor);
     collectionView->setBackgroundColors({NS::Color::clearColor});
 }

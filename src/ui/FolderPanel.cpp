@@ -1,5 +1,6 @@
 #include "ui/FolderPanel.h"
 
+#include "platform/LocalizedString.h"
 #include "platform/Platform.h"
 
 std::shared_ptr<NS::OpenPanel> makeFolderPanel(FolderSelection selection)
@@ -17,6 +18,6 @@ std::shared_ptr<NS::OpenPanel> makeFolderPanel(FolderSelection selection)
         panel->setAllowsMultipleSelection(false);
     panel->setAllowedFileTypes({NS::platform().userName()});
     panel->setAllowsOtherFileTypes(false);
-    panel->setPrompt("Grant Access");
+    panel->setPrompt(NS::LocalizedString("FolderPanel", "Grant Access"));
     return panel;
 }

@@ -1,6 +1,7 @@
 #include "ui/aboutVc.h"
 
 #include "platform/FatalError.h"
+#include "platform/LocalizedString.h"
 #include "platform/Platform.h"
 #include "platform/Print.h"
 #include "settings/ApplicationVersion.h"
@@ -31,7 +32,8 @@ void aboutVc::connect(NS::Connections& connections)
 void aboutVc::viewDidLoad()
 {
     NS::ViewController::viewDidLoad();
-    lblAppversion->setStringValue("Version " + applicationVersion());
+    lblAppversion->setStringValue(
+        NS::stringWithFormat(NS::LocalizedString("aboutVc", "Version %1"), {applicationVersion()}));
 }
 
 void aboutVc::btnfacebook(NS::Control&)

@@ -5,6 +5,7 @@
 #include "platform/linux/store/ReplaceFile.h"
 #include "platform/linux/store/SettingsFolder.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,6 +18,10 @@
 namespace ExtensionsTool {
 
 namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(AutostartEntry)
+};
 
 QString folderIn(const QString& configuration)
 {
@@ -131,7 +136,7 @@ std::optional<QString> AutostartEntry::switchOff()
     QFile file(path());
     if (file.remove() || !file.exists())
         return std::nullopt;
-    return QStringLiteral("Could not remove %1: %2.").arg(path(), file.errorString());
+    return Texts::tr("Could not remove %1: %2.").arg(path(), file.errorString());
 }
 
 /// Whatever is in the entry's place is replaced itself: what a link leads to is somebody else's.
@@ -149,7 +154,7 @@ std::optional<QString> AutostartEntry::write(const QString& entry) const
         return std::nullopt;
     const QString why =
         written ? qt_error_string() : QString::fromStdString(written.error()).section(QStringLiteral(": "), -1);
-    return QStringLiteral("Could not write %1: %2.").arg(path(), why);
+    return Texts::tr("Could not write %1: %2.").arg(path(), why);
 }
 
 } // namespace ExtensionsTool

@@ -21,7 +21,7 @@ ExtensionControl::ExtensionControl(LinuxDesktop::SessionBus& bus, const Autostar
     connect(&m_entryWatch, &AutostartWatch::changed, this, [this] { look(); });
     connect(&m_companion, &CompanionOnBus::changed, this, [this] { look(); });
     connect(&m_companion, &CompanionOnBus::refused, this,
-            [this](const QString& why) { setTrouble(QStringLiteral("It could not be asked to end: %1.").arg(why)); });
+            [this](const QString& why) { setTrouble(tr("It could not be asked to end: %1.").arg(why)); });
     look();
 }
 
@@ -44,14 +44,14 @@ void ExtensionControl::look()
 void ExtensionControl::switchOn()
 {
     if (!QFileInfo(m_extension.program).isExecutable())
-        return setTrouble(QStringLiteral("The program %1 is missing.").arg(m_extension.program));
+        return setTrouble(tr("The program %1 is missing.").arg(m_extension.program));
     if (const auto failure = m_entry.switchOn())
         return setTrouble(*failure);
     look();
     if (m_status.runs)
         return;
     if (!startDetached(m_extension.program))
-        return setTrouble(QStringLiteral("Could not start %1.").arg(m_extension.program));
+        return setTrouble(tr("Could not start %1.").arg(m_extension.program));
     wait(Activity::Starting);
 }
 
@@ -78,9 +78,9 @@ void ExtensionControl::wait(Activity activity)
 void ExtensionControl::giveUp()
 {
     if (m_status.activity == Activity::Starting)
-        setTrouble(QStringLiteral("It was started, but it does not answer."));
+        setTrouble(tr("It was started, but it does not answer."));
     else if (m_status.activity == Activity::Stopping)
-        setTrouble(QStringLiteral("It was asked to end, but it does not."));
+        setTrouble(tr("It was asked to end, but it does not."));
 }
 
 void ExtensionControl::setTrouble(const QString& trouble)

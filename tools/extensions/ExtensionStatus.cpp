@@ -1,22 +1,27 @@
 #include "extensions/ExtensionStatus.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace ExtensionsTool {
 
 namespace {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ExtensionStatus)
+};
+
 QString without(const ExtensionStatus& status)
 {
-    const QString words = QStringLiteral("There is no session bus, so it can neither run nor be switched.");
-    return status.startsAtLogIn ? words + QStringLiteral(" It is set to start at log-in.") : words;
+    const QString words = Texts::tr("There is no session bus, so it can neither run nor be switched.");
+    return status.startsAtLogIn ? words + u' ' + Texts::tr("It is set to start at log-in.") : words;
 }
 
 /// Half on, half off.
 QString halfway(const ExtensionStatus& status)
 {
-    return status.runs ? QStringLiteral("It is running, but it is not set to start at log-in.")
-                       : QStringLiteral("It is set to start at log-in, but it is not running.");
+    return status.runs ? Texts::tr("It is running, but it is not set to start at log-in.")
+                       : Texts::tr("It is set to start at log-in, but it is not running.");
 }
 
 } // namespace
@@ -36,9 +41,9 @@ bool needsAttention(const ExtensionStatus& status)
 QString inWords(const ExtensionStatus& status)
 {
     if (status.activity == ExtensionStatus::Activity::Starting)
-        return QStringLiteral("Starting…");
+        return Texts::tr("Starting…");
     if (status.activity == ExtensionStatus::Activity::Stopping)
-        return QStringLiteral("Ending…");
+        return Texts::tr("Ending…");
 
     QStringList sentences;
     if (!status.trouble.isEmpty())
@@ -48,8 +53,8 @@ QString inWords(const ExtensionStatus& status)
     else if (status.startsAtLogIn != status.runs)
         sentences.append(halfway(status));
     else if (sentences.isEmpty())
-        sentences.append(isOn(status) ? QStringLiteral("It is running, and it starts at log-in.")
-                                      : QStringLiteral("It is switched off."));
+        sentences.append(isOn(status) ? Texts::tr("It is running, and it starts at log-in.")
+                                      : Texts::tr("It is switched off."));
     return sentences.join(u' ');
 }
 

@@ -29,7 +29,7 @@ constexpr int initialWidth = 620;
 ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& controls, FileManagersControl& fileManagers,
                                    const std::string& actions, const QIcon& icon)
 {
-    setWindowTitle(QStringLiteral("Extensions"));
+    setWindowTitle(tr("Extensions"));
 
     auto* pane = new QScrollArea(this);
     pane->setFrameShape(QFrame::NoFrame);
@@ -43,7 +43,7 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
     m_content = new QWidget;
     pane->setWidget(m_content);
 
-    auto* introduction = makeText(QStringLiteral("Extensions bring Orvik Menu into other programs."), m_content);
+    auto* introduction = makeText(tr("Extensions bring Orvik Menu into other programs."), m_content);
     introduction->setForegroundRole(QPalette::PlaceholderText);
 
     auto* card = new LinuxDesktop::Card(m_content);

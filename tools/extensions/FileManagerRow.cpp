@@ -29,8 +29,8 @@ FileManagerRow::FileManagerRow(FileManagersControl& control, std::size_t index, 
     auto* title = makeHeading(name, this);
     m_state = new StatusLine(this);
     m_state->setSubject(*this);
-    m_restart = new QPushButton(QStringLiteral("Restart"), this);
-    m_restart->setAccessibleName(QStringLiteral("Restart %1").arg(name));
+    m_restart = new QPushButton(tr("Restart"), this);
+    m_restart->setAccessibleName(tr("Restart %1").arg(name));
     // Enter presses it as well.
     m_restart->setAutoDefault(true);
     QFont font = title->font();

@@ -46,8 +46,8 @@ void FileManagerSection::showWhatThereIs()
     bool isAny = false;
     for (std::size_t index = 0; index < fileManagers.size(); ++index)
         isAny = isAny || isInstalled(m_control.status(index));
-    m_heading->setText(isAny ? QStringLiteral("File managers on this computer:")
-                             : QStringLiteral("No file manager that can show the menu is installed."));
+    m_heading->setText(isAny ? tr("File managers on this computer:")
+                             : tr("No file manager that can show the menu is installed."));
     m_card->setVisible(isAny);
 }
 

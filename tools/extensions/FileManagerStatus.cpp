@@ -1,5 +1,7 @@
 #include "extensions/FileManagerStatus.h"
 
+#include <QCoreApplication>
+
 namespace ExtensionsTool {
 
 using MenuExtension::BridgeStatus;
@@ -7,10 +9,14 @@ using MenuExtension::FileManager;
 
 namespace {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FileManagerStatus)
+};
+
 QString afterwards(const FileManager& manager)
 {
-    return quitCommand(manager).empty() ? QStringLiteral(" Close it and open it again.")
-                                        : QStringLiteral(" Restarting it closes its windows and stops any copying.");
+    return quitCommand(manager).empty() ? Texts::tr("Close it and open it again.")
+                                        : Texts::tr("Restarting it closes its windows and stops any copying.");
 }
 
 } // namespace
@@ -38,29 +44,29 @@ bool offersRestart(const FileManager& manager, const FileManagerStatus& status)
 QString inWords(const FileManager& manager, const FileManagerStatus& status)
 {
     if (status.isClosing)
-        return QStringLiteral("Closing…");
+        return Texts::tr("Closing…");
     if (!status.trouble.isEmpty())
         return status.trouble;
     switch (status.bridge) {
     case BridgeStatus::NoFileManager:
-        return QStringLiteral("It is not installed.");
+        return Texts::tr("It is not installed.");
     case BridgeStatus::NotInstalled:
-        return QStringLiteral("The menu is missing. Install the package %1.")
+        return Texts::tr("The menu is missing. Install the package %1.")
             .arg(QString::fromStdString(packageFor(manager)));
     case BridgeStatus::NotRunning:
-        return QStringLiteral("It is not running. It loads the menu when it starts.");
+        return Texts::tr("It is not running. It loads the menu when it starts.");
     case BridgeStatus::LoadedLater:
-        return QStringLiteral("It loads the menu when it needs it.");
+        return Texts::tr("It loads the menu when it needs it.");
     case BridgeStatus::Loaded:
-        return QStringLiteral("It has loaded the menu.");
+        return Texts::tr("It has loaded the menu.");
     case BridgeStatus::NotLoaded:
-        return QStringLiteral("It is running without the menu.") + afterwards(manager);
+        return Texts::tr("It is running without the menu.") + u' ' + afterwards(manager);
     case BridgeStatus::OlderLoaded:
-        return QStringLiteral("It has loaded an older version of the menu.") + afterwards(manager);
+        return Texts::tr("It has loaded an older version of the menu.") + u' ' + afterwards(manager);
     case BridgeStatus::NotKnown:
         break;
     }
-    return QStringLiteral("It is running. Whether it has loaded the menu is not known.");
+    return Texts::tr("It is running. Whether it has loaded the menu is not known.");
 }
 
 } // namespace ExtensionsTool

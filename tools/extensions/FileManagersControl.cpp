@@ -105,7 +105,7 @@ void FileManagersControl::restart(std::size_t index)
         arguments.append(QString::fromStdString(word));
     arguments.removeFirst();
     status.isClosing = program && startDetached(QFile::decodeName(program->c_str()), arguments);
-    status.trouble = status.isClosing ? QString() : QStringLiteral("It could not be asked to close.");
+    status.trouble = status.isClosing ? QString() : tr("It could not be asked to close.");
     if (status.isClosing)
         m_waits.at(index).start(m_patience);
     setStatus(index, status);
@@ -116,7 +116,7 @@ void FileManagersControl::giveUp(std::size_t index)
 {
     FileManagerStatus status = m_statuses.at(index);
     status.isClosing = false;
-    status.trouble = QStringLiteral("It was asked to close, but it is still running.");
+    status.trouble = tr("It was asked to close, but it is still running.");
     setStatus(index, status);
 }
 

@@ -1,12 +1,22 @@
 #include "extensions/LackingActions.h"
 
+#include "platform/LocalizedString.h"
 #include "settings/MenuCatalogue.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <unistd.h>
 
 namespace ExtensionsTool {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LackingActions)
+};
+
+} // namespace
 
 std::vector<LackingAction> lackingActions(const std::string& programs)
 {
@@ -16,7 +26,7 @@ std::vector<LackingAction> lackingActions(const std::string& programs)
             continue;
         if (auto needs = MenuExtension::missingNeeds(programs, row.identifier); !needs.empty())
             lacking.push_back(
-                {QString::fromUtf8(row.title.data(), static_cast<qsizetype>(row.title.size())), std::move(needs)});
+                {QString::fromStdString(NS::LocalizedString("MenuCatalogue", row.title)), std::move(needs)});
     }
     return lacking;
 }
@@ -26,8 +36,8 @@ QString inWords(const LackingAction& action)
     QStringList packages;
     for (const MenuExtension::ActionNeed& need : action.needs)
         packages += QString::fromStdString(need.package);
-    return (packages.size() == 1 ? QStringLiteral("Needs the package %1, which is not installed.")
-                                 : QStringLiteral("Needs the packages %1, which are not installed."))
+    return (packages.size() == 1 ? Texts::tr("Needs the package %1, which is not installed.")
+                                 : Texts::tr("Needs the packages %1, which are not installed."))
         .arg(packages.join(QStringLiteral(", ")));
 }
 

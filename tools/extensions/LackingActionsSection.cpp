@@ -39,7 +39,7 @@ LackingActionsSection::LackingActionsSection(std::string programs, QWidget* pare
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
-    auto* const heading = makeHeading(QStringLiteral("Actions that are in no menu:"), this);
+    auto* const heading = makeHeading(tr("Actions that are in no menu:"), this);
     heading->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(heading);
     setVisible(false);

@@ -11,6 +11,10 @@
 
 namespace {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Extension)
+};
+
 using namespace ExtensionsTool;
 using namespace LinuxDesktop;
 
@@ -39,8 +43,8 @@ Extension menuExtension()
     return {
         .identifier = text(Deployment::extensionIdentifier),
         .program = QCoreApplication::applicationDirPath() + QStringLiteral("/orvik-menu-extension"),
-        .title = QStringLiteral("Orvik Menu Extension"),
-        .explanation = QStringLiteral("Adds Orvik Menu's actions to the file manager's right-click menu."),
+        .title = Texts::tr("Orvik Menu Extension"),
+        .explanation = Texts::tr("Adds Orvik Menu's actions to the file manager's right-click menu."),
         .icon = text(Deployment::applicationIdentifier),
     };
 }

@@ -26,7 +26,7 @@ std::vector<Mend> findMends()
     return mendsOf(suite ? suite->contents().value_or(NS::Value::Dictionary{}) : NS::Value::Dictionary{});
 }
 
-/// The tab whose screen shows what a key holds.
+/// The tab whose screen shows what a key holds, by its title in English.
 QString tabOf(const Mend& mend)
 {
     return mend.key == Settings::save14.key ? QStringLiteral("Menu Items") : QStringLiteral("Folders");
@@ -38,7 +38,7 @@ QString quotationOf(const QString& words)
     constexpr qsizetype longest = 400;
     if (words.isEmpty())
         return {};
-    return QStringLiteral("What it said: ") + (words.size() > longest ? words.left(longest) + u'…' : words);
+    return ProblemWindow::tr("What it said: %1").arg(words.size() > longest ? words.left(longest) + u'…' : words);
 }
 
 QString reasonFor(const std::vector<Mend>& mends, const QString& words)
@@ -47,7 +47,7 @@ QString reasonFor(const std::vector<Mend>& mends, const QString& words)
     for (const Mend& mend : mends)
         reasons.append(QString::fromStdString(mend.wrong));
     if (words.isEmpty() && mends.empty())
-        reasons.append(QStringLiteral("There is nothing to repair in the settings."));
+        reasons.append(ProblemWindow::tr("There is nothing to repair in the settings."));
     return reasons.join(QLatin1Char('\n'));
 }
 
@@ -62,21 +62,22 @@ QString adviceFor(const std::vector<Mend>& mends, const QString& words)
 {
     if (mends.empty())
         return words.isEmpty() ? QString()
-                               : QStringLiteral("Nothing in the settings explains it. They are as they were.");
+                               : ProblemWindow::tr("Nothing in the settings explains it. They are as they were.");
     QStringList remedies;
     for (const Mend& mend : mends) {
         if (const auto remedy = QString::fromStdString(mend.remedy); !remedies.contains(remedy))
             remedies.append(remedy);
     }
     return (words.isEmpty() || explains(mends, words)
-                ? QStringLiteral("Repair Settings mends this. ")
-                : QStringLiteral("That may not be why it stopped. Repair Settings mends the settings. ")) +
-           remedies.join(QLatin1Char(' ')) + QStringLiteral(" A copy of the settings as they are now is kept.");
+                ? ProblemWindow::tr("Repair Settings mends this.")
+                : ProblemWindow::tr("That may not be why it stopped. Repair Settings mends the settings.")) +
+           u' ' + remedies.join(u' ') + u' ' + ProblemWindow::tr("A copy of the settings as they are now is kept.");
 }
 
 QString headingFor(const QString& words)
 {
-    return words.isEmpty() ? QStringLiteral("The settings of Orvik Menu") : QStringLiteral("Orvik Menu had to stop");
+    return words.isEmpty() ? ProblemWindow::tr("The settings of Orvik Menu")
+                           : ProblemWindow::tr("Orvik Menu had to stop");
 }
 
 } // namespace
@@ -105,13 +106,13 @@ ProblemWindow::ProblemWindow(const StoppedPanel& panel, const QIcon& icon) : m_p
         LinuxDesktop::tieWords(*text, *this);
     }
 
-    auto* close = new QPushButton(QStringLiteral("Close"), this);
+    auto* close = new QPushButton(tr("Close"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    auto* open = new QPushButton(QStringLiteral("Open Again"), this);
+    auto* open = new QPushButton(tr("Open Again"), this);
     connect(open, &QPushButton::clicked, this, [this] { openAgain({}); });
     m_remedies = {open};
     if (!m_mends.empty()) {
-        m_remedies.push_back(new QPushButton(QStringLiteral("Repair Settings"), this));
+        m_remedies.push_back(new QPushButton(tr("Repair Settings"), this));
         connect(m_remedies.back(), &QPushButton::clicked, this, [this] { repair(); });
     }
     std::vector<QPushButton*> buttons = m_remedies;
@@ -160,13 +161,13 @@ void ProblemWindow::repair()
     LinuxDesktop::Store store;
     const auto suite = store.open(Deployment::suiteName);
     if (!suite) {
-        tell(QStringLiteral("The settings could not be repaired: they cannot be read."));
+        tell(tr("The settings could not be repaired: they cannot be read."));
         return;
     }
     if (const auto repaired = RepairTool::repairSuite(*suite))
         openAgain(tabOf(m_mends.front()));
     else
-        tell(QStringLiteral("The settings could not be repaired: %1.").arg(QString::fromStdString(repaired.error())));
+        tell(tr("The settings could not be repaired: %1.").arg(QString::fromStdString(repaired.error())));
 }
 
 void ProblemWindow::openAgain(const QString& tab)
@@ -177,11 +178,11 @@ void ProblemWindow::openAgain(const QString& tab)
             accept();
             return;
         }
-        tell(QStringLiteral("Orvik Menu could not be started."));
+        tell(tr("Orvik Menu could not be started."));
         allow(true);
     });
     if (!hasEnded)
-        tell(QStringLiteral("Orvik Menu is still ending. It opens again right after."));
+        tell(tr("Orvik Menu is still ending. It opens again right after."));
 }
 
 void ProblemWindow::allow(bool remedies)

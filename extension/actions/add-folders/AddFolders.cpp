@@ -2,6 +2,7 @@
 #include "extension/actions/support/FolderLock.h"
 #include "extension/bus/SessionBus.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/store/PropertyList.h"
 #include "platform/linux/store/Store.h"
 #include "settings/Deployment.h"
@@ -16,10 +17,10 @@
 
 namespace MenuExtension {
 
-namespace {
+using NS::LocalizedString;
+using NS::stringWithFormat;
 
-constexpr const char* cannotBeStored =
-    "The folders cannot be added: the settings of Orvik Menu cannot be written. Is the disk full?";
+namespace {
 
 std::string_view withoutSlashAtEnd(std::string_view path)
 {
@@ -76,13 +77,18 @@ Outcome perform(const Request& request)
     std::vector<std::string> paths;
     for (const std::string& path : request.paths) {
         if (LinuxDesktop::PropertyList::unstorableReason(NS::Value(path)))
-            troubles.add(Words::name(path) + " cannot be added: its name or that of a folder above it has characters "
-                                             "that are no text. Rename it and try again.");
+            troubles.add(stringWithFormat(
+                LocalizedString("AddFolders",
+                                "%1 cannot be added: its name or that of a folder above it has characters "
+                                "that are no text. Rename it and try again."),
+                {Words::name(path)}));
         else
             paths.push_back(path);
     }
     if (!paths.empty() && !store(paths))
-        troubles.add(cannotBeStored);
+        troubles.add(LocalizedString(
+            "AddFolders",
+            "The folders cannot be added: the settings of Orvik Menu cannot be written. Is the disk full?"));
     return troubles.outcome();
 }
 

@@ -1,11 +1,15 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/FileManager.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 
 #include <cerrno>
 #include <fcntl.h>
 
 namespace MenuExtension {
+
+using NS::LocalizedString;
+using NS::stringWithFormat;
 
 namespace {
 
@@ -15,7 +19,7 @@ constexpr int namesTried = 100'000;
 
 std::string nameOf(int number)
 {
-    const std::string name = "New Text File";
+    const std::string name = LocalizedString("CreateNewTextFile", "New Text File");
     return (number == 1 ? name : name + ' ' + std::to_string(number)) + ".txt";
 }
 
@@ -42,7 +46,9 @@ Outcome perform(const Request& request)
     const auto opened = openItem(request, folder, O_PATH | O_DIRECTORY);
     const std::string name = opened ? createIn(opened) : std::string();
     if (name.empty())
-        return Outcome::failed("No file can be made in " + Words::name(folder) + ": " + Words::reason(errno) + '.');
+        return Outcome::failed(
+            stringWithFormat(LocalizedString("CreateNewTextFile", "No file can be made in %1: %2."),
+                             {Words::name(folder), Words::reason(errno)}));
     // The file is there, whether somebody shows it or not.
     static_cast<void>(FileManager::showItem((folder == "/" ? folder : folder + '/') + name, request.caller));
     return Outcome::done();

@@ -10,6 +10,7 @@
 #include "extension/actions/window/ProgressRow.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/PluralCount.h"
 #include "platform/linux/text/SizeText.h"
 
 #include <QHBoxLayout>
@@ -32,6 +33,7 @@
 
 namespace MenuExtension::Duplicates {
 
+using LinuxDesktop::pluralCount;
 using LinuxDesktop::sizeText;
 
 namespace {
@@ -479,11 +481,10 @@ void DuplicatesWindow::showChoice()
     const Groups::Sum& chosen = m_groups.chosen();
     m_remove->setEnabled(chosen.items > 0 && !m_isRemoving);
     m_rules->setEnabled(!m_isRemoving);
-    m_remove->setText(
-        chosen.items == 0 ? tr("Move to Trash")
-        : chosen.items == 1
-            ? tr("Move 1 Item to Trash")
-            : tr("Move %1 Items to Trash").arg(QLocale().toString(static_cast<qulonglong>(chosen.items))));
+    m_remove->setText(chosen.items == 0   ? tr("Move to Trash")
+                      : chosen.items == 1 ? tr("Move 1 Item to Trash")
+                                          : tr("Move %1 Items to Trash", nullptr, pluralCount(chosen.items))
+                                                .arg(QLocale().toString(static_cast<qulonglong>(chosen.items))));
     m_sum->setText(chosen.items == 0
                        ? tr("Nothing is chosen.")
                        : tr("Chosen: %1, %2").arg(m_presentation.counted(chosen.items), sizeText(chosen.bytes)));
@@ -499,11 +500,11 @@ void DuplicatesWindow::showHeading()
         saving += m_groups.savingOf(group);
     const bool isFiltered = !m_filter->text().isEmpty();
     if (!groups.empty())
-        m_heading->setText(
-            (groups.size() == 1
-                 ? tr("1 group, %1 could be saved")
-                 : tr("%1 groups, %2 could be saved").arg(QLocale().toString(static_cast<qulonglong>(groups.size()))))
-                .arg(sizeText(saving)));
+        m_heading->setText((groups.size() == 1
+                                ? tr("1 group, %1 could be saved")
+                                : tr("%1 groups, %2 could be saved", nullptr, pluralCount(groups.size()))
+                                      .arg(QLocale().toString(static_cast<qulonglong>(groups.size()))))
+                               .arg(sizeText(saving)));
     else if (isFiltered)
         m_heading->setText(tr("No group matches the filter"));
     else
@@ -518,8 +519,7 @@ void DuplicatesWindow::showHeading()
 void DuplicatesWindow::addTrouble(const std::string& path, const std::string& why)
 {
     if (m_troubles.size() < mostTroubles)
-        m_troubles.append(
-            QStringLiteral("%1 %2.").arg(LinuxDesktop::fileNameText(path), LinuxDesktop::fileNameText(why)));
+        m_troubles.append(tr("%1 %2.").arg(LinuxDesktop::fileNameText(path), LinuxDesktop::fileNameText(why)));
     else
         ++m_moreTroubles;
 }
@@ -528,15 +528,17 @@ void DuplicatesWindow::showTroubleCount()
 {
     const auto count = static_cast<qulonglong>(m_troubles.size()) + m_moreTroubles;
     m_troubleButton->setVisible(count > 0);
-    m_troubleButton->setText(count == 1 ? tr("1 Item Was Left Out…")
-                                        : tr("%1 Items Were Left Out…").arg(QLocale().toString(count)));
+    m_troubleButton->setText(
+        count == 1 ? tr("1 Item Was Left Out…")
+                   : tr("%1 Items Were Left Out…", nullptr, pluralCount(count)).arg(QLocale().toString(count)));
 }
 
 void DuplicatesWindow::showTroubles()
 {
     QStringList lines = m_troubles;
     if (m_moreTroubles > 0)
-        lines.append(tr("And %1 more.").arg(QLocale().toString(static_cast<qulonglong>(m_moreTroubles))));
+        lines.append(tr("And %1 more.", nullptr, pluralCount(m_moreTroubles))
+                         .arg(QLocale().toString(static_cast<qulonglong>(m_moreTroubles))));
     auto* const dialog = new TroublesDialog(lines, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();

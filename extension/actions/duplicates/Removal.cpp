@@ -1,6 +1,7 @@
 #include "extension/actions/duplicates/Removal.h"
 
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/system/FileDescriptor.h"
 
 #include <algorithm>
@@ -15,6 +16,7 @@
 namespace MenuExtension::Duplicates {
 
 using LinuxDesktop::FileDescriptor;
+using NS::LocalizedString;
 
 namespace {
 
@@ -38,11 +40,6 @@ ssize_t readBlock(int descriptor, char* block, off_t offset)
     return static_cast<ssize_t>(filled);
 }
 
-std::string cannotBeRead(int error)
-{
-    return "cannot be read: " + Words::reason(error);
-}
-
 /// The file that was found, open for reading and unchanged; else why not.
 FileDescriptor openUnchanged(const Item& item, std::string& why)
 {
@@ -50,9 +47,9 @@ FileDescriptor openUnchanged(const Item& item, std::string& why)
     FileDescriptor file(::open(item.path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status = {};
     if (!file || ::fstat(file.get(), &status) != 0)
-        why = errno == ENOENT ? "is not there any more" : cannotBeRead(errno);
+        why = errno == ENOENT ? LocalizedString("Duplicates", "is not there any more") : Words::cannotBeRead(errno);
     else if (!S_ISREG(status.st_mode) || FileState::of(status) != item.state)
-        why = "has changed since it was found";
+        why = LocalizedString("Duplicates", "has changed since it was found");
     else
         return file;
     return {};
@@ -94,8 +91,8 @@ public:
             return why;
         // Two such windows may each be about to remove what the other one keeps.
         if (!lock(file, LOCK_EX))
-            return "is in use by another program";
-        why = "is the last copy that is left";
+            return LocalizedString("Duplicates", "is in use by another program");
+        why = LocalizedString("Duplicates", "is the last copy that is left");
         for (const ItemNumber other : m_staying) {
             const Item staying = m_groups.item(other);
             std::string ignored;
@@ -105,12 +102,12 @@ public:
             if (!otherFile)
                 continue;
             if (!lock(otherFile, LOCK_SH)) {
-                why = "has a copy that another program is using";
+                why = LocalizedString("Duplicates", "has a copy that another program is using");
                 continue;
             }
             const auto objection = m_means.check({going, file.get()}, {staying, otherFile.get()}, m_stop);
             if (m_stop.stop_requested())
-                return "was not reached";
+                return LocalizedString("Duplicates", "was not reached");
             if (objection)
                 why = *objection;
             // Comparing may have taken long.
@@ -137,17 +134,18 @@ std::optional<std::string> haveEqualBytes(const OpenedItem& going, const OpenedI
     for (off_t offset = 0; !stop.stop_requested(); offset += static_cast<off_t>(blockSize)) {
         const ssize_t count = readBlock(going.descriptor, block->data(), offset);
         if (count < 0)
-            return cannotBeRead(errno);
+            return Words::cannotBeRead(errno);
         const ssize_t otherCount = readBlock(staying.descriptor, otherBlock->data(), offset);
         if (otherCount < 0)
-            return "cannot be compared with its copy: " + Words::reason(errno);
+            return NS::stringWithFormat(LocalizedString("Duplicates", "cannot be compared with its copy: %1"),
+                                        {Words::reason(errno)});
         if (count != otherCount ||
             std::memcmp(block->data(), otherBlock->data(), static_cast<std::size_t>(count)) != 0)
-            return "is not the same as its copy";
+            return LocalizedString("Duplicates", "is not the same as its copy");
         if (count == 0)
             return std::nullopt;
     }
-    return "was not compared to its end";
+    return LocalizedString("Duplicates", "was not compared to its end");
 }
 
 void removeChosen(const Groups& groups, const RemovalMeans& means, const std::function<void(ItemNumber)>& removed,

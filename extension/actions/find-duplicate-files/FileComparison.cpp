@@ -1,6 +1,7 @@
 #include "extension/actions/find-duplicate-files/FileComparison.h"
 
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -135,9 +136,11 @@ void FileComparison::settle(Reading& reading, Result result, const Digest& diges
     if (result == Result::Failed) {
         const int error = errno;
         m_trouble(m_tree.pathOf(m_tree.files()[reading.file]),
-                  error == ENOENT ? "is not there any more" : "cannot be read: " + Words::reason(error));
+                  error == ENOENT ? NS::LocalizedString("Duplicates", "is not there any more")
+                                  : Words::cannotBeRead(error));
     } else if (result == Result::Changed) {
-        m_trouble(m_tree.pathOf(m_tree.files()[reading.file]), "changed while it was read");
+        m_trouble(m_tree.pathOf(m_tree.files()[reading.file]),
+                  NS::LocalizedString("Duplicates", "changed while it was read"));
     }
 }
 

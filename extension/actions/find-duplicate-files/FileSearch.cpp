@@ -2,6 +2,7 @@
 
 #include "extension/actions/find-duplicate-files/FolderWalk.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -35,15 +36,16 @@ void walkFrom(FolderWalk& walk, const FolderWalk::Trouble& trouble, const std::s
     const FileDescriptor item = openItem(path, O_PATH | O_NOFOLLOW);
     struct stat status = {};
     if (!item || ::fstat(item.get(), &status) != 0)
-        return trouble(path, "cannot be read: " + Words::reason(errno));
+        return trouble(path, Words::cannotBeRead(errno));
     if (S_ISREG(status.st_mode))
         return walk.addFile(path, status);
     if (!S_ISDIR(status.st_mode))
-        return trouble(path, S_ISLNK(status.st_mode) ? "is a link, and those are not followed"
-                                                     : "is neither a file nor a folder");
+        return trouble(path, S_ISLNK(status.st_mode)
+                                 ? NS::LocalizedString("Duplicates", "is a link, and those are not followed")
+                                 : NS::LocalizedString("Duplicates", "is neither a file nor a folder"));
     FileDescriptor folder = openItem(path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK);
     if (!folder)
-        return trouble(path, "cannot be read: " + Words::reason(errno));
+        return trouble(path, Words::cannotBeRead(errno));
     walk.addFolder(path, std::move(folder));
 }
 

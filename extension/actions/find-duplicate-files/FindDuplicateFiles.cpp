@@ -4,6 +4,8 @@
 #include "extension/actions/find-duplicate-files/DuplicateFileFinder.h"
 #include "extension/actions/support/Action.h"
 #include "extension/actions/window/PerformInWindow.h"
+#include "platform/LocalizedString.h"
+#include "platform/linux/text/PluralCount.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -16,24 +18,27 @@ using namespace Duplicates;
 
 namespace {
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("FindDuplicateFiles", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FindDuplicateFiles)
+};
 
 std::optional<std::string> trash(const std::string& path)
 {
     const auto trouble = moveToTrash(path);
-    return trouble ? std::optional("could not be moved to the trash: " + *trouble) : std::nullopt;
+    return trouble ? std::optional(NS::stringWithFormat(
+                         NS::LocalizedString("Duplicates", "could not be moved to the trash: %1"), {*trouble}))
+                   : std::nullopt;
 }
 
 Presentation presentationOf(DuplicateFileFinder& finder)
 {
     Presentation presentation;
-    presentation.title = words("Duplicate Files");
-    presentation.nothingFound = words("No two files hold the same.");
+    presentation.title = Texts::tr("Duplicate Files");
+    presentation.nothingFound = Texts::tr("No two files hold the same.");
     presentation.counted = [](qulonglong count) {
-        return count == 1 ? words("1 file") : words("%1 files").arg(QLocale().toString(count));
+        return count == 1
+                   ? Texts::tr("1 file")
+                   : Texts::tr("%1 files", nullptr, LinuxDesktop::pluralCount(count)).arg(QLocale().toString(count));
     };
     presentation.makeControl = [&finder](QWidget* parent, const std::function<void()>& searchAgain) -> QWidget* {
         const auto change = [&finder, searchAgain](Choices choices) {

@@ -2,6 +2,7 @@
 
 #include "extension/actions/find-duplicate-files/SystemPlaces.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/system/ParentFolder.h"
 
 #include <algorithm>
@@ -64,7 +65,7 @@ void FolderWalk::addFolder(const std::string& path, FileDescriptor folder)
 {
     struct stat status = {};
     if (::fstat(folder.get(), &status) != 0)
-        return m_trouble(path, "cannot be read: " + Words::reason(errno));
+        return m_trouble(path, Words::cannotBeRead(errno));
     const auto root = m_tree.addRoot(path, status);
     if (!root)
         return;
@@ -199,7 +200,7 @@ void FolderWalk::tell(FolderNumber folder, const char* name, int error) const
     // What has gone since it was listed is nobody's loss, and neither is a folder that was replaced by something
     // else.
     if (error != ENOENT)
-        m_trouble(path, "cannot be read: " + Words::reason(error));
+        m_trouble(path, Words::cannotBeRead(error));
 }
 
 } // namespace MenuExtension

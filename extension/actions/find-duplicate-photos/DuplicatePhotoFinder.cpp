@@ -3,6 +3,7 @@
 #include "extension/actions/find-duplicate-files/FolderWalk.h"
 #include "extension/actions/support/Picture.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <array>
@@ -105,15 +106,16 @@ void DuplicatePhotoFinder::walk(const std::stop_token& stop)
         const FileDescriptor item = m_means.openItem(path, O_PATH | O_NOFOLLOW);
         struct stat status = {};
         if (!item || ::fstat(item.get(), &status) != 0)
-            return addTrouble(path, "cannot be read: " + Words::reason(errno));
+            return addTrouble(path, Words::cannotBeRead(errno));
         if (S_ISREG(status.st_mode))
             return walk.addFile(path, status);
         if (!S_ISDIR(status.st_mode))
-            return addTrouble(path, S_ISLNK(status.st_mode) ? "is a link, and those are not followed"
-                                                            : "is neither a file nor a folder");
+            return addTrouble(path, S_ISLNK(status.st_mode)
+                                        ? NS::LocalizedString("Duplicates", "is a link, and those are not followed")
+                                        : NS::LocalizedString("Duplicates", "is neither a file nor a folder"));
         FileDescriptor folder = m_means.openItem(path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK);
         if (!folder)
-            return addTrouble(path, "cannot be read: " + Words::reason(errno));
+            return addTrouble(path, Words::cannotBeRead(errno));
         walk.addFolder(path, std::move(folder));
     };
     for (const std::string& path : m_paths) {
@@ -204,12 +206,14 @@ bool DuplicatePhotoFinder::readFile(std::uint32_t number, Search& search, PhotoR
     if (kind == Kind::Unreadable) {
         // What is no picture by its name either is nobody's concern.
         if (isNamedAsPicture(path))
-            addTrouble(path, "cannot be read: " + Words::reason(errno));
+            addTrouble(path, Words::cannotBeRead(errno));
         return true;
     }
     if (kind == Kind::Other) {
         if (isNamedAsPicture(path))
-            addTrouble(path, before.st_size == 0 ? "is empty" : "is no picture, though it is named like one");
+            addTrouble(path, before.st_size == 0
+                                 ? NS::LocalizedString("Duplicates", "is empty")
+                                 : NS::LocalizedString("Duplicates", "is no picture, though it is named like one"));
         return true;
     }
     if (before.st_nlink > 1) {
@@ -226,7 +230,7 @@ bool DuplicatePhotoFinder::readFile(std::uint32_t number, Search& search, PhotoR
     struct stat after = {};
     const auto* const described = std::get_if<Described>(&*result);
     if (::fstat(opened.get(), &after) != 0 || FileState::of(before) != FileState::of(after))
-        addTrouble(path, "has changed while it was read");
+        addTrouble(path, NS::LocalizedString("Duplicates", "has changed while it was read"));
     else if (const auto* refused = std::get_if<Refused>(&*result))
         addTrouble(path, refused->why);
     else if (described)

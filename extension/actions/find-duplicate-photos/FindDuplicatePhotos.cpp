@@ -5,6 +5,8 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Picture.h"
 #include "extension/actions/window/PerformInWindow.h"
+#include "platform/LocalizedString.h"
+#include "platform/linux/text/PluralCount.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -19,10 +21,9 @@ using namespace SimilarPhotos;
 
 namespace {
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("FindDuplicatePhotos", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FindDuplicatePhotos)
+};
 
 /// More pixels, then more bytes, then the older one, which the others were made of.
 bool isBetter(const Item& one, const Item& other)
@@ -44,18 +45,18 @@ QString whyBest(const std::vector<Item>& items)
     const Item& best = items.front();
     const Item& next = *std::min_element(items.begin() + 1, items.end(), isBetter);
     if (Size::of(best).pixels() > Size::of(next).pixels())
-        return words("Best: most pixels");
+        return Texts::tr("Best: most pixels");
     if (best.state.size > next.state.size)
-        return words("Best: as many pixels as any, in the largest file");
+        return Texts::tr("Best: as many pixels as any, in the largest file");
     if (best.state.modified < next.state.modified)
-        return words("Best: the oldest of the same size");
-    return words("As good as another");
+        return Texts::tr("Best: the oldest of the same size");
+    return Texts::tr("As good as another");
 }
 
 QString sizeText(const Item& item)
 {
     const Size size = Size::of(item);
-    return words("%1 × %2").arg(QString::number(size.width), QString::number(size.height));
+    return Texts::tr("%1 × %2").arg(QString::number(size.width), QString::number(size.height));
 }
 
 /// Reads the pictures that are shown.
@@ -89,19 +90,23 @@ private:
 std::optional<std::string> trash(const std::string& path)
 {
     const auto trouble = moveToTrash(path);
-    return trouble ? std::optional("could not be moved to the trash: " + *trouble) : std::nullopt;
+    return trouble ? std::optional(NS::stringWithFormat(
+                         NS::LocalizedString("Duplicates", "could not be moved to the trash: %1"), {*trouble}))
+                   : std::nullopt;
 }
 
 Presentation presentationOf(DuplicatePhotoFinder& finder, const DuplicatePhotoFinder::Means& means)
 {
     Presentation presentation;
-    presentation.title = words("Duplicate Photos");
-    presentation.nothingFound = words("No two photos show the same.");
+    presentation.title = Texts::tr("Duplicate Photos");
+    presentation.nothingFound = Texts::tr("No two photos show the same.");
     presentation.counted = [](qulonglong count) {
-        return count == 1 ? words("1 photo") : words("%1 photos").arg(QLocale().toString(count));
+        return count == 1
+                   ? Texts::tr("1 photo")
+                   : Texts::tr("%1 photos", nullptr, LinuxDesktop::pluralCount(count)).arg(QLocale().toString(count));
     };
-    presentation.columns = {{words("Pixels"), sizeText}};
-    presentation.proposal = {words("Keep the Best Photo"), isBetter, whyBest};
+    presentation.columns = {{Texts::tr("Pixels"), sizeText}};
+    presentation.proposal = {Texts::tr("Keep the Best Photo"), isBetter, whyBest};
     presentation.makeControl = [&finder](QWidget* parent, const std::function<void()>& searchAgain) -> QWidget* {
         const auto change = [&finder, searchAgain](float limit) {
             finder.setLimit(limit);

@@ -1,5 +1,7 @@
 #include "PhotoReader.h"
 
+#include "platform/LocalizedString.h"
+
 #include <array>
 #include <utility>
 
@@ -12,14 +14,17 @@ std::string wordsFor(Photos::Fault fault)
     using Photos::Fault;
     switch (fault) {
     case Fault::NotStarted:
-        return "cannot be read: what reads pictures could not be started; install Orvik Menu and libvips again";
+        return NS::LocalizedString(
+            "Photos",
+            "cannot be read: what reads pictures could not be started; install Orvik Menu and libvips again");
     case Fault::TookTooLong:
-        return "takes too long to read";
+        return NS::LocalizedString("Photos", "takes too long to read");
     case Fault::Died:
     case Fault::Stopped:
         break;
     }
-    return "cannot be read: it is damaged, or needs more memory than a picture may take";
+    return NS::LocalizedString("Photos",
+                               "cannot be read: it is damaged, or needs more memory than a picture may take");
 }
 
 } // namespace

@@ -1,4 +1,6 @@
 #include "WorkerJobs.h"
+#include "extension/actions/photos/RefusalWords.h"
+#include "platform/LocalizedString.h"
 
 #include <array>
 #include <cstring>
@@ -74,13 +76,13 @@ std::string resultText(const Result& result)
 
 Result resultFrom(std::string_view text)
 {
-    const Refused none{"cannot be read: what reads pictures has failed"};
+    const Refused none{NS::LocalizedString("Photos", "cannot be read: what reads pictures has failed")};
     if (text.empty())
         return none;
     const char kind = text.front();
     text.remove_prefix(1);
     if (kind == 'r')
-        return Refused{plain(text)};
+        return Refused{Photos::refusalInWords(plain(text))};
     const auto width = take(text);
     const auto height = take(text);
     if (!width || !height || *width == 0 || *height == 0)

@@ -3,6 +3,7 @@
 #include "WorkerJobs.h"
 #include "extension/actions/photos/PhotoReading.h"
 #include "extension/actions/photos/WorkerProgram.h"
+#include "platform/LocalizedString.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ Result resultOf(const Photos::Message& message)
 {
     const auto asked = pixelsFrom(message.bytes);
     if (!asked || message.files.size() != 1)
-        return Refused{"cannot be read: this is no question"};
+        return Refused{NS::LocalizedString("Photos", "cannot be read: this is no question")};
     const auto opened = Photos::openPhoto(message.files.front().get());
     if (const auto* unreadable = std::get_if<Photos::Unreadable>(&opened))
         return Refused{unreadable->why};

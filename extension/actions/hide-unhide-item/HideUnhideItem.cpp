@@ -3,6 +3,7 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/FolderLock.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/system/ParentFolder.h"
 
 #include <algorithm>
@@ -13,6 +14,9 @@
 #include <utility>
 
 namespace MenuExtension {
+
+using NS::LocalizedString;
+using NS::stringWithFormat;
 
 using LinuxDesktop::FileDescriptor;
 
@@ -43,7 +47,8 @@ FileDescriptor open(const Request& request, const ItemsByFolder::value_type& ite
 
 std::string cannotBeChanged(const std::string& folder)
 {
-    return "What is hidden in " + Words::name(folder) + " cannot be changed: " + Words::reason(errno) + '.';
+    return stringWithFormat(LocalizedString("HideUnhideItem", "What is hidden in %1 cannot be changed: %2."),
+                            {Words::name(folder), Words::reason(errno)});
 }
 
 bool areAllHidden(const std::vector<std::string>& items, const std::string& text)
@@ -74,8 +79,10 @@ std::vector<std::string> thoseToHide(const std::vector<std::string>& items, Word
         if (HiddenList::canHold(name))
             names.push_back(name);
         else
-            troubles.add(Words::name(name) +
-                         " cannot be hidden, since its name has a line end. Rename it and try again.");
+            troubles.add(stringWithFormat(
+                LocalizedString("HideUnhideItem",
+                                "%1 cannot be hidden, since its name has a line end. Rename it and try again."),
+                {Words::name(name)}));
     }
     return names;
 }
@@ -85,15 +92,22 @@ std::vector<std::string> thoseToHide(const std::vector<std::string>& items, Word
 std::string withoutDots(const FileDescriptor& folder, const std::string& name, Words::Troubles& troubles)
 {
     std::string bare = name.substr(std::min(name.find_first_not_of('.'), name.size()));
-    const std::string cannot = Words::name(name) + " cannot be unhidden: ";
-    if (bare.empty() || name == HiddenFolder::listName)
-        troubles.add(cannot + (bare.empty() ? "its name has dots alone." : "it is the list of what is hidden."));
+    const std::string shown = Words::name(name);
+    if (bare.empty())
+        troubles.add(stringWithFormat(
+            LocalizedString("HideUnhideItem", "%1 cannot be unhidden: its name has dots alone."), {shown}));
+    else if (name == HiddenFolder::listName)
+        troubles.add(stringWithFormat(
+            LocalizedString("HideUnhideItem", "%1 cannot be unhidden: it is the list of what is hidden."), {shown}));
     else if (::renameat2(folder.get(), name.c_str(), folder.get(), bare.c_str(), RENAME_NOREPLACE) == 0)
         return bare;
     else if (errno == EEXIST)
-        troubles.add(cannot + "there is a " + Words::name(bare) + " already. Rename one of the two.");
+        troubles.add(stringWithFormat(
+            LocalizedString("HideUnhideItem", "%1 cannot be unhidden: there is a %2 already. Rename one of the two."),
+            {shown, Words::name(bare)}));
     else
-        troubles.add(cannot + Words::reason(errno) + '.');
+        troubles.add(stringWithFormat(LocalizedString("HideUnhideItem", "%1 cannot be unhidden: %2."),
+                                      {shown, Words::reason(errno)}));
     return name;
 }
 
@@ -118,15 +132,20 @@ void change(Task task, const Request& request, const ItemsByFolder::value_type& 
         return;
     }
     if (!lockFolder(folder)) {
-        troubles.add("What is hidden in " + Words::name(path) +
-                     " cannot be changed, since another program is changing it. Try again.");
+        troubles.add(stringWithFormat(
+            LocalizedString(
+                "HideUnhideItem",
+                "What is hidden in %1 cannot be changed, since another program is changing it. Try again."),
+            {Words::name(path)}));
         return;
     }
     const HiddenFolder hidden(folder);
     const auto text = hidden.read();
     if (!text) {
-        troubles.add("The list of what is hidden in " + Words::name(path) +
-                     ", a file named .hidden, cannot be read: " + Words::reason(errno) + '.');
+        troubles.add(stringWithFormat(
+            LocalizedString("HideUnhideItem",
+                            "The list of what is hidden in %1, a file named .hidden, cannot be read: %2."),
+            {Words::name(path), Words::reason(errno)}));
         return;
     }
     const std::string changed = task == Task::Hide

@@ -1,6 +1,7 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Desktop.h"
 #include "extension/actions/support/Programs.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <array>
@@ -32,7 +33,9 @@ Outcome perform(const Request&)
         if (Programs::start({one.program}))
             return Outcome::done();
     }
-    return Outcome::failed("No program for the settings of the desktop was found. Install the one of your desktop.");
+    return Outcome::failed(NS::LocalizedString(
+        "OpenSystemPreferences",
+        "No program for the settings of the desktop was found. Install the one of your desktop."));
 }
 
 } // namespace MenuExtension

@@ -2,11 +2,15 @@
 #include "extension/actions/support/Desktop.h"
 #include "extension/actions/support/Programs.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 
 #include <array>
 #include <cerrno>
 
 namespace MenuExtension {
+
+using NS::LocalizedString;
+using NS::stringWithFormat;
 
 namespace {
 
@@ -53,13 +57,15 @@ Outcome perform(const Request& request)
 {
     const OpenedFolder folder = openFolderOf(request);
     if (!folder.descriptor)
-        return Outcome::failed("No terminal can be opened in " + Words::name(folder.path) + ": " +
-                               Words::reason(errno) + '.');
+        return Outcome::failed(
+            stringWithFormat(LocalizedString("OpenTerminal", "No terminal can be opened in %1: %2."),
+                             {Words::name(folder.path), Words::reason(errno)}));
     for (const Terminal& terminal : terminals) {
         if (start(terminal, folder))
             return Outcome::done();
     }
-    return Outcome::failed("No terminal was found. Install one, or choose one in the settings of the desktop.");
+    return Outcome::failed(LocalizedString(
+        "OpenTerminal", "No terminal was found. Install one, or choose one in the settings of the desktop."));
 }
 
 } // namespace MenuExtension

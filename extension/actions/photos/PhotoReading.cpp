@@ -1,6 +1,7 @@
 #include "extension/actions/photos/PhotoReading.h"
 
 #include "extension/actions/photos/SmallJpeg.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <array>
@@ -33,12 +34,12 @@ bool isForPhotos(std::string_view reader)
 
 Unreadable otherKind()
 {
-    return {"is no picture of a kind that can be read here"};
+    return {NS::LocalizedString("Photos", "is no picture of a kind that can be read here")};
 }
 
 Unreadable damaged()
 {
-    return {"cannot be read: it is damaged or ends too early"};
+    return {NS::LocalizedString("Photos", "cannot be read: it is damaged or ends too early")};
 }
 
 /// What a step makes of an image; nothing where it fails.
@@ -106,8 +107,8 @@ std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
     photo.width = vips_image_get_width(photo.header.get());
     photo.height = vips_image_get_page_height(photo.header.get());
     if (static_cast<double>(photo.width) * photo.height > mostPixels)
-        return Unreadable{"is too large: it has " + std::to_string(photo.width) + " × " +
-                          std::to_string(photo.height) + " pixels"};
+        return Unreadable{NS::stringWithFormat(NS::LocalizedString("Photos", "is too large: it has %1 × %2 pixels"),
+                                               {std::to_string(photo.width), std::to_string(photo.height)})};
     if (vips_image_get_orientation_swap(photo.header.get()))
         std::swap(photo.width, photo.height);
     return photo;

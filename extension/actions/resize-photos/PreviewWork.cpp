@@ -1,4 +1,5 @@
 #include "PreviewWork.h"
+#include "platform/LocalizedString.h"
 
 #include <utility>
 
@@ -42,12 +43,13 @@ void PreviewWork::preview(PhotoResizer& resizer, const Task& task)
 {
     const auto photo = openWithFolder(m_request, m_request.paths[task.photo]);
     if (!photo) {
-        tell(task, Refused{"cannot be opened"}, &PreviewWork::before);
+        tell(task, Refused{NS::LocalizedString("Photos", "cannot be opened")}, &PreviewWork::before);
         return;
     }
     const auto ask = [&](const Goal& goal) {
         auto result = resizer.preview(*photo, goal, task.pixels, task.stop);
-        return result ? *std::move(result) : Refused{"cannot be shown: it takes too much time or memory"};
+        return result ? *std::move(result)
+                      : Refused{NS::LocalizedString("Photos", "cannot be shown: it takes too much time or memory")};
     };
     // As it is needs no more than a look.
     Result asItIs = ask({Goal::Kind::Percent, 100});

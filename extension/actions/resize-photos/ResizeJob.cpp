@@ -1,4 +1,6 @@
 #include "ResizeJob.h"
+#include "extension/actions/photos/RefusalWords.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <cmath>
@@ -116,7 +118,7 @@ std::string textOf(const Result& result)
 Result resultFrom(std::string_view text)
 {
     if (text.starts_with(refused))
-        return Refused{std::string(text.substr(1))};
+        return Refused{Photos::refusalInWords(text.substr(1))};
     Reader reader(text.substr(std::min<std::size_t>(1, text.size())));
     Resized done;
     done.before = sizeFrom(reader);
@@ -124,7 +126,7 @@ Result resultFrom(std::string_view text)
     done.shownBefore = pixelsFrom(reader);
     done.shownAfter = pixelsFrom(reader);
     if (!text.starts_with(resized) || !reader.isWhole())
-        return Refused{"cannot be resized: its worker gave no answer"};
+        return Refused{NS::LocalizedString("Photos", "cannot be resized: its worker gave no answer")};
     return done;
 }
 

@@ -7,6 +7,7 @@
 #include "extension/actions/window/ProgressRow.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/PluralCount.h"
 #include "platform/linux/text/SizeText.h"
 
 #include <QFormLayout>
@@ -176,7 +177,9 @@ void ResizeWindow::resizeAll()
 void ResizeWindow::showProgress(const ResizeWork::Progress& progress)
 {
     const std::size_t total = m_request.paths.size();
-    m_progress->advance(progress.done, total, tr("%1 of %2 photos").arg(progress.done).arg(total));
+    m_progress->advance(
+        progress.done, total,
+        tr("%1 of %2 photos", nullptr, LinuxDesktop::pluralCount(total)).arg(progress.done).arg(total));
 }
 
 void ResizeWindow::showEnd(const ResizeWork::Progress& progress)

@@ -1,6 +1,7 @@
 #include "SizeRow.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -51,10 +52,10 @@ SizeRow::SizeRow(QWidget* parent)
     : QWidget(parent), m_preset(new QComboBox(this)), m_unit(new QComboBox(this)), m_value(new QSpinBox(this))
 {
     for (const Preset& preset : presets)
-        m_preset->addItem(tr(preset.name));
+        m_preset->addItem(QCoreApplication::translate("SizeRow", preset.name));
     m_preset->addItem(tr("Free"));
     for (const Unit& unit : units)
-        m_unit->addItem(tr(unit.name));
+        m_unit->addItem(QCoreApplication::translate("SizeRow", unit.name));
     // A box is called what is chosen in it.
     m_unit->setAccessibleDescription(tr("What the size is measured by"));
     m_value->setAccessibleName(tr("Value"));
@@ -92,7 +93,7 @@ void SizeRow::takeUnit()
     const Unit& unit = units[static_cast<std::size_t>(m_unit->currentIndex())];
     {
         const QSignalBlocker quiet(m_value);
-        m_value->setSuffix(tr(unit.suffix));
+        m_value->setSuffix(QCoreApplication::translate("SizeRow", unit.suffix));
         m_value->setRange(unit.least, unit.most);
         m_value->setSingleStep(unit.step);
         m_value->setValue(unit.usual);

@@ -9,15 +9,14 @@ namespace MenuExtension::Resizing {
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("ResizePhotos", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ResizePhotos)
+};
 
 QString reason(int error)
 {
     if (error == EXDEV || error == ELOOP)
-        return translated("a link leads out of the folders that Orvik Menu works in");
+        return Texts::tr("a link leads out of the folders that Orvik Menu works in");
     return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
 }
 
@@ -25,7 +24,7 @@ QString reason(int error)
 
 QString sentence(const QString& name, const std::string& end)
 {
-    return name + u' ' + translated(end.c_str()) + u'.';
+    return Texts::tr("%1 %2.").arg(name, QString::fromStdString(end));
 }
 
 QString inWords(const QString& name, const Outcome& outcome)
@@ -37,27 +36,27 @@ QString inWords(const QString& name, const Outcome& outcome)
     case Kind::Cancelled:
         return {};
     case Kind::CannotBeOpened:
-        return translated("%1 cannot be opened: %2.").arg(name, reason(outcome.error));
+        return Texts::tr("%1 cannot be opened: %2.").arg(name, reason(outcome.error));
     case Kind::CannotBeSaved:
-        return translated("%1 cannot be saved: %2.").arg(name, reason(outcome.error));
+        return Texts::tr("%1 cannot be saved: %2.").arg(name, reason(outcome.error));
     case Kind::CannotBeTrashed:
-        return translated("%1 stays as it is, since it cannot be moved to the trash: %2")
+        return Texts::tr("%1 stays as it is, since it cannot be moved to the trash: %2")
             .arg(name, QString::fromStdString(outcome.words));
     case Kind::OnlyInTrash:
-        return translated("%1 is in the trash, but the smaller one could not take its place: %2.")
+        return Texts::tr("%1 is in the trash, but the smaller one could not take its place: %2.")
             .arg(name, reason(outcome.error));
     case Kind::Refused:
         return sentence(name, outcome.words);
     case Kind::TakesTooLong:
-        return translated("%1 takes too long to resize.").arg(name);
+        return Texts::tr("%1 takes too long to resize.").arg(name);
     case Kind::TakesTooMuch:
-        return translated("%1 cannot be resized: it takes too much memory, or is damaged.").arg(name);
+        return Texts::tr("%1 cannot be resized: it takes too much memory, or is damaged.").arg(name);
     case Kind::WorkerIsMissing:
-        return translated("%1 cannot be resized: the part that reads pictures does not start. "
-                          "Install the package libvips42.")
+        return Texts::tr("%1 cannot be resized: the part that reads pictures does not start. "
+                         "Install the package libvips42.")
             .arg(name);
     case Kind::Changed:
-        return translated("%1 stays as it is: another program has changed it meanwhile.").arg(name);
+        return Texts::tr("%1 stays as it is: another program has changed it meanwhile.").arg(name);
     }
     return {};
 }

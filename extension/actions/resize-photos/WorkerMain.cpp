@@ -3,6 +3,7 @@
 #include "WriteResized.h"
 #include "extension/actions/photos/PhotoReading.h"
 #include "extension/actions/photos/WorkerProgram.h"
+#include "platform/LocalizedString.h"
 
 namespace {
 
@@ -13,7 +14,8 @@ std::string done(const Photos::Message& message)
     const auto job = Resizing::jobFrom(message.bytes);
     const std::size_t files = job && job->shownPixels > 0 ? 1 : 2;
     if (!job || message.files.size() != files)
-        return Resizing::textOf(Resizing::Result(Resizing::Refused{"cannot be resized: this is no job"}));
+        return Resizing::textOf(
+            Resizing::Result(Resizing::Refused{NS::LocalizedString("Photos", "cannot be resized: this is no job")}));
     return Resizing::textOf(Resizing::resize(*job, message.files.front().get(), message.files.back().get()));
 }
 

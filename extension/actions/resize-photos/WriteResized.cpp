@@ -1,6 +1,7 @@
 #include "WriteResized.h"
 
 #include "extension/actions/photos/PhotoReading.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <array>
@@ -169,13 +170,13 @@ Image scaled(const Photos::OpenedPhoto& photo, std::uint32_t width, std::uint32_
 Refused damaged()
 {
     vips_error_clear();
-    return {"cannot be resized: it is damaged or ends too early"};
+    return {NS::LocalizedString("Photos", "cannot be resized: it is damaged or ends too early")};
 }
 
 Refused notWritten()
 {
     vips_error_clear();
-    return {"cannot be resized: its format cannot be written here"};
+    return {NS::LocalizedString("Photos", "cannot be resized: its format cannot be written here")};
 }
 
 struct Made {
@@ -211,7 +212,7 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
         };
         size = {smaller(size.width), smaller(size.height), 0};
     }
-    return Refused{"cannot be made that small"};
+    return Refused{NS::LocalizedString("Photos", "cannot be made that small")};
 }
 
 Pixels shown(int file, std::uint32_t longest)
@@ -257,7 +258,8 @@ Result resize(const Job& job, int photo, int target)
     if (!format)
         return notWritten();
     if (vips_image_get_n_pages(header) > 1)
-        return Refused{"cannot be resized: it holds several pictures, and only one would be left"};
+        return Refused{NS::LocalizedString(
+            "Photos", "cannot be resized: it holds several pictures, and only one would be left")};
 
     const Size stored{static_cast<std::uint32_t>(vips_image_get_width(header)),
                       static_cast<std::uint32_t>(vips_image_get_height(header)),
@@ -288,7 +290,7 @@ Result resize(const Job& job, int photo, int target)
     if (job.shownPixels > 0)
         result.shownAfter = shown(done.file, job.shownPixels);
     else if (!writeAll(target, done.file))
-        return Refused{"cannot be saved: there is no room for it"};
+        return Refused{NS::LocalizedString("Photos", "cannot be saved: there is no room for it")};
     return result;
 }
 

@@ -2,6 +2,7 @@
 #include "extension/actions/support/Panel.h"
 #include "extension/bus/SessionBus.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/store/PropertyList.h"
 #include "platform/linux/store/Store.h"
 #include "settings/Deployment.h"
@@ -11,6 +12,9 @@
 #include <chrono>
 
 namespace MenuExtension {
+
+using NS::LocalizedString;
+using NS::stringWithFormat;
 
 namespace {
 
@@ -37,12 +41,16 @@ Outcome perform(const Request& request)
     const std::string& path = request.paths.front();
     const std::string shown = Words::name(path);
     if (LinuxDesktop::PropertyList::unstorableReason(NS::Value(path)))
-        return Outcome::failed(shown +
-                               " cannot be sent: its name or that of a folder above it has characters that are "
-                               "no text. Rename it and try again.");
+        return Outcome::failed(stringWithFormat(
+            LocalizedString("SendViaMail",
+                            "%1 cannot be sent: its name or that of a folder above it has characters that are "
+                            "no text. Rename it and try again."),
+            {shown}));
     if (!leaveRequest(path))
-        return Outcome::failed(shown +
-                               " cannot be sent: the settings of Orvik Menu cannot be written. Is the disk full?");
+        return Outcome::failed(stringWithFormat(
+            LocalizedString("SendViaMail",
+                            "%1 cannot be sent: the settings of Orvik Menu cannot be written. Is the disk full?"),
+            {shown}));
     const Bus bus = openSessionBus();
     if (bus)
         post(*bus, NotificationName::AttachFileToMail);

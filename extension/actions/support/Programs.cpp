@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/timerfd.h>
+#include <system_error>
 
 namespace MenuExtension::Programs {
 
@@ -99,6 +100,13 @@ std::optional<std::string> outputOf(const CommandLine& command)
         return std::nullopt;
     text->resize(text->find_last_not_of('\n') + 1);
     return text;
+}
+
+std::filesystem::path folder()
+{
+    std::error_code error;
+    const auto own = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::filesystem::path() : (own.parent_path() / ORVIK_ACTION_TO_PROGRAMS).lexically_normal();
 }
 
 } // namespace MenuExtension::Programs

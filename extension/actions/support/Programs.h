@@ -2,6 +2,7 @@
 
 #include "extension/actions/support/Request.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,5 +21,8 @@ using CommandLine = std::vector<std::string>;
 [[nodiscard]] bool run(const CommandLine& command);
 /// What a program prints until its end, the line's end left out; nothing where it fails.
 [[nodiscard]] std::optional<std::string> outputOf(const CommandLine& command);
+
+/// The folder of the programs that users start, by where this one lies; empty where that is not known.
+[[nodiscard]] std::filesystem::path folder();
 
 } // namespace MenuExtension::Programs

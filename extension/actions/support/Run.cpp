@@ -1,10 +1,13 @@
 #include "extension/actions/support/Action.h"
 #include "extension/actions/support/Answer.h"
 #include "extension/actions/support/Picture.h"
+#include "extension/actions/support/Programs.h"
 #include "extension/companion/ExtensionSettings.h"
 #include "extension/companion/SuiteReader.h"
 #include "extension/menu/Menu.h"
 #include "extension/protocol/Words.h"
+#include "platform/LocalizedString.h"
+#include "platform/linux/language/Catalogue.h"
 #include "platform/linux/store/SettingsFolder.h"
 #include "settings/AppliesTo.h"
 
@@ -16,6 +19,9 @@
 #include <unistd.h>
 
 namespace MenuExtension {
+
+using NS::LocalizedString;
+using NS::stringWithFormat;
 
 namespace {
 
@@ -51,7 +57,8 @@ std::optional<Outcome> look(const Request& request, bool atPictures, Selection& 
         struct stat status = {};
         // A link that leads nowhere is an item too.
         if (::stat(path.c_str(), &status) != 0 && ::lstat(path.c_str(), &status) != 0)
-            return Outcome::failed(Words::name(path) + " cannot be found: " + Words::reason(errno) + '.');
+            return Outcome::failed(stringWithFormat(LocalizedString("Action", "%1 cannot be found: %2."),
+                                                    {Words::name(path), Words::reason(errno)}));
         selection.items.push_back({path, S_ISDIR(status.st_mode), atPictures && isPicture(request, path)});
     }
     return std::nullopt;
@@ -62,10 +69,11 @@ Outcome checkAndPerform(std::uint32_t appliesTo, Perform perform, const std::vec
     const auto input = readInput();
     auto asked = input ? requestFrom(arguments, *input) : std::nullopt;
     if (!asked)
-        return Outcome::failed("Orvik Menu was asked for something in a way that it does not understand.");
+        return Outcome::failed(
+            LocalizedString("Action", "Orvik Menu was asked for something in a way that it does not understand."));
     auto scope = readScope();
     if (!scope)
-        return Outcome::failed("The settings of Orvik Menu cannot be read.");
+        return Outcome::failed(LocalizedString("Action", "The settings of Orvik Menu cannot be read."));
     const Request request{*std::move(asked), *std::move(scope)};
 
     Selection selection;
@@ -78,7 +86,7 @@ Outcome checkAndPerform(std::uint32_t appliesTo, Perform perform, const std::vec
     if (auto gone = look(request, (appliesTo & AppliesTo::Pictures) != 0, selection))
         return *std::move(gone);
     if (!applies(appliesTo, selection))
-        return Outcome::doesNotApply("This cannot be done with what is selected.");
+        return Outcome::doesNotApply(LocalizedString("Action", "This cannot be done with what is selected."));
     return perform(request);
 }
 
@@ -89,6 +97,7 @@ int run(std::uint32_t appliesTo, Perform perform, int argc, char** argv)
     // That nobody reads the answer, or that a file grew too large, is said by the call that meets it.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+    LinuxDesktop::useCatalogue(Programs::folder());
     const Outcome outcome = checkAndPerform(appliesTo, perform, {argv + (argc > 0 ? 1 : 0), argv + argc});
     answer(outcome);
     return outcome.kind == Outcome::Kind::Done ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -188,7 +189,7 @@ void EditForm::showFields(const Merged& merged)
                            : orientation.text.empty()  ? tr("None is stored")
                                                        : tr("Stays as it is"));
     for (const char* name : orientationNames)
-        m_orientation->addItem(tr(name));
+        m_orientation->addItem(QCoreApplication::translate("EditForm", name));
     const auto number = orientationOf(Tags({{"EXIF", "IFD0", "Orientation", orientation.text}}));
     m_orientation->setCurrentIndex(merged.differs(orientation) ? 0 : number.value_or(0));
 

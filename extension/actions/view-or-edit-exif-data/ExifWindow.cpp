@@ -6,6 +6,7 @@
 #include "TroubleWords.h"
 #include "extension/actions/window/ProgressRow.h"
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/PluralCount.h"
 
 #include <QHBoxLayout>
 #include <QKeySequence>
@@ -144,7 +145,10 @@ void ExifWindow::read()
 
 void ExifWindow::showProgress(const PhotoWork::Progress& progress)
 {
-    m_progress->advance(progress.done, progress.total, tr("%1 of %2 photos").arg(progress.done).arg(progress.total));
+    m_progress->advance(progress.done, progress.total,
+                        tr("%1 of %2 photos", nullptr, LinuxDesktop::pluralCount(progress.total))
+                            .arg(progress.done)
+                            .arg(progress.total));
     // The first of many are something to look at already.
     if (!m_work.isSaving() && m_merged.photos() == 0 && progress.merged.photos() > 0) {
         m_merged = progress.merged;

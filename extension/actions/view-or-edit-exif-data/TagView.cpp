@@ -148,7 +148,7 @@ void TagView::showTags(const Merged& merged)
     for (const Usual& each : usual) {
         for (const std::string_view key : each.keys) {
             if (const Merged::Line* const line = key.empty() ? nullptr : lineOf(merged, key)) {
-                addRow(*first, tr(each.name), shownValue(merged, line->value));
+                addRow(*first, QCoreApplication::translate("TagView", each.name), shownValue(merged, line->value));
                 break;
             }
         }

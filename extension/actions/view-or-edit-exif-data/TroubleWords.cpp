@@ -8,22 +8,21 @@ namespace MenuExtension::Exif {
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("TroubleWords", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(TroubleWords)
+};
 
 QString reason(const Trouble& trouble)
 {
     if (trouble.error == EXDEV || trouble.error == ELOOP)
-        return translated("a link leads out of the folders that Orvik Menu works in");
+        return Texts::tr("a link leads out of the folders that Orvik Menu works in");
     return QString::fromLocal8Bit(std::generic_category().message(trouble.error).c_str());
 }
 
 /// A sentence of ExifTool's, or ours where it says nothing.
 QString words(const Trouble& trouble)
 {
-    return trouble.words.empty() ? translated("ExifTool does not say why") : QString::fromStdString(trouble.words);
+    return trouble.words.empty() ? Texts::tr("ExifTool does not say why") : QString::fromStdString(trouble.words);
 }
 
 } // namespace
@@ -35,38 +34,38 @@ QString inWords(const Trouble& trouble)
     case Kind::None:
         return {};
     case Kind::Cancelled:
-        return translated("It was not done any more.");
+        return Texts::tr("It was not done any more.");
     case Kind::CannotBeOpened:
-        return translated("It cannot be opened: %1.").arg(reason(trouble));
+        return Texts::tr("It cannot be opened: %1.").arg(reason(trouble));
     case Kind::CannotBeSaved:
-        return translated("It cannot be saved: %1.").arg(reason(trouble));
+        return Texts::tr("It cannot be saved: %1.").arg(reason(trouble));
     case Kind::OriginalCannotBeKept:
-        return translated("The original cannot be kept beside it: %1. Nothing was changed.").arg(reason(trouble));
+        return Texts::tr("The original cannot be kept beside it: %1. Nothing was changed.").arg(reason(trouble));
     case Kind::NoExifTool:
-        return translated("The program ExifTool is missing. Install the package libimage-exiftool-perl.");
+        return Texts::tr("The program ExifTool is missing. Install the package libimage-exiftool-perl.");
     case Kind::TakesTooLong:
-        return translated("Reading it takes too long.");
+        return Texts::tr("Reading it takes too long.");
     case Kind::TooMuchData:
-        return translated("It says more than can be shown.");
+        return Texts::tr("It says more than can be shown.");
     case Kind::ExifToolCrashed:
-        return translated("ExifTool failed on it. The file may be damaged, or too large.");
+        return Texts::tr("ExifTool failed on it. The file may be damaged, or too large.");
     case Kind::CannotBeRead:
-        return translated("It cannot be read: %1.").arg(words(trouble));
+        return Texts::tr("It cannot be read: %1.").arg(words(trouble));
     case Kind::CannotBeWritten:
-        return translated("It cannot be changed: %1.").arg(words(trouble));
+        return Texts::tr("It cannot be changed: %1.").arg(words(trouble));
     case Kind::Changed:
-        return translated("Another program has changed it meanwhile. Look at it again and try again.");
+        return Texts::tr("Another program has changed it meanwhile. Look at it again and try again.");
     case Kind::CannotBeChecked:
-        return translated("Files of this kind, or damaged ones, are not changed, since it cannot be checked that the "
-                          "picture stays the same.");
+        return Texts::tr("Files of this kind, or damaged ones, are not changed, since it cannot be checked that the "
+                         "picture stays the same.");
     case Kind::PictureDiffers:
-        return translated("The picture would not have stayed the same. Nothing was changed.");
+        return Texts::tr("The picture would not have stayed the same. Nothing was changed.");
     case Kind::EditsNotKept:
-        return translated("It does not hold all that was to be written. Nothing was changed.");
+        return Texts::tr("It does not hold all that was to be written. Nothing was changed.");
     case Kind::NoDate:
-        return translated("It has no date that could be moved.");
+        return Texts::tr("It has no date that could be moved.");
     case Kind::OrientationInPicture:
-        return translated("Its orientation is part of the picture and cannot be changed here.");
+        return Texts::tr("Its orientation is part of the picture and cannot be changed here.");
     }
     return {};
 }

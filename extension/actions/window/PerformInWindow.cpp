@@ -1,6 +1,8 @@
 #include "extension/actions/window/PerformInWindow.h"
 
 #include "extension/actions/support/Answer.h"
+#include "extension/actions/support/Programs.h"
+#include "platform/LocalizedString.h"
 #include "platform/linux/bus/SessionBus.h"
 #include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/program/DisplayConnection.h"
@@ -9,6 +11,7 @@
 #include "settings/Deployment.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QWidget>
 
 #include <array>
@@ -27,7 +30,7 @@ int argumentCount = 1;
 
 int failWithoutDisplay()
 {
-    answer(Outcome::failed("There is no display to show the window on."));
+    answer(Outcome::failed(NS::LocalizedString("Action", "There is no display to show the window on.")));
     return EXIT_FAILURE;
 }
 
@@ -62,8 +65,7 @@ Outcome performWithToolkit(const MakeRunner& make)
     terminationSignals.whenAsked([] { QCoreApplication::quit(); });
 
     LinuxDesktop::SessionBus bus("orvik-menu: there is no session bus");
-    const LinuxDesktop::WindowSurroundings surroundings(bus, QCoreApplication::applicationDirPath() +
-                                                                 QStringLiteral("/" ORVIK_ACTION_TO_PROGRAMS));
+    const LinuxDesktop::WindowSurroundings surroundings(bus, QFile::decodeName(Programs::folder().c_str()));
     const auto runner = make(bus);
     QApplication::exec();
     return Outcome::done();

@@ -1,6 +1,5 @@
 #include "extension/actions/window/ProgressRow.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -22,22 +21,20 @@ constexpr int wholeBar = 1000;
 
 QString remainingTimeText(std::chrono::seconds remaining)
 {
-    const auto translated = [](const char* text, int count) {
-        return QCoreApplication::translate("ProgressRow", text, nullptr, count);
-    };
     const auto seconds = remaining.count();
     if (seconds < 5)
-        return QCoreApplication::translate("ProgressRow", "a few seconds left");
+        return ProgressRow::tr("a few seconds left");
     if (seconds < 55)
-        return translated("about %n seconds left", static_cast<int>((seconds + 4) / 5 * 5));
+        return ProgressRow::tr("about %n seconds left", nullptr, static_cast<int>((seconds + 4) / 5 * 5));
     if (seconds < 90)
-        return QCoreApplication::translate("ProgressRow", "about a minute left");
+        return ProgressRow::tr("about a minute left");
     const auto minutes = (seconds + 30) / 60;
     if (minutes < 55)
-        return translated("about %n minutes left", static_cast<int>(minutes));
+        return ProgressRow::tr("about %n minutes left", nullptr, static_cast<int>(minutes));
     if (minutes < 90)
-        return QCoreApplication::translate("ProgressRow", "about an hour left");
-    return translated("about %n hours left", static_cast<int>(std::min<std::int64_t>((minutes + 30) / 60, 9999)));
+        return ProgressRow::tr("about an hour left");
+    return ProgressRow::tr("about %n hours left", nullptr,
+                           static_cast<int>(std::min<std::int64_t>((minutes + 30) / 60, 9999)));
 }
 
 ProgressRow::ProgressRow(QWidget* parent)

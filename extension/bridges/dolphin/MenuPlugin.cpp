@@ -42,17 +42,17 @@ QString asTip(const QString& text)
 
 /// For each target an action with it, and one that leaves it to be asked for.
 template<class NewAction>
-QList<QAction*> actionsOf(std::span<const Target> targets, const NewAction& newAction, bool showIcons)
+QList<QAction*> actionsOf(std::span<const Target> targets, const NewAction& newAction, const Menu& menu)
 {
     QList<QAction*> actions;
     for (const Target& target : targets) {
         actions += newAction(shown(target.title), target.path);
         actions.last()->setToolTip(asTip(QString::fromStdString(target.description)));
-        if (showIcons)
+        if (menu.showIcons)
             actions.last()->setIcon(QIcon::fromTheme(QString::fromLatin1(MenuExtension::targetIcon)));
     }
-    actions += newAction(QString::fromUtf8(MenuExtension::chooseFolderTitle), {});
-    actions.last()->setToolTip(QString::fromLatin1(MenuExtension::chooseFolderDescription));
+    actions += newAction(shown(menu.otherFolder->title), {});
+    actions.last()->setToolTip(asTip(QString::fromStdString(menu.otherFolder->description)));
     return actions;
 }
 
@@ -123,7 +123,7 @@ QList<QAction*> MenuPlugin::actionsFor(const MenuSettings& settings, const std::
         if (targets.empty()) {
             action = newAction(title, {});
         } else {
-            QMenu& folders = newSubmenu(title, actionsOf(targets, newAction, menu.showIcons));
+            QMenu& folders = newSubmenu(title, actionsOf(targets, newAction, menu));
             folders.setToolTipsVisible(true);
             action = folders.menuAction();
         }

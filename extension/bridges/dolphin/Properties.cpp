@@ -108,6 +108,17 @@ bool read(const QVariant& value, std::vector<Target>& targets)
     return value.userType() == QMetaType::QStringList;
 }
 
+bool read(const QVariant& value, Target& otherFolder)
+{
+    const QStringList texts = value.toStringList();
+    if (value.userType() != QMetaType::QStringList || texts.size() != 2)
+        return false;
+    otherFolder.title = texts.first().toStdString();
+    otherFolder.description = texts.last().toStdString();
+    return !otherFolder.title.empty() && otherFolder.title.size() <= Limits::word &&
+           otherFolder.description.size() <= Limits::word;
+}
+
 /// The properties that have been met.
 struct Met {
     bool actions = false;
@@ -135,6 +146,9 @@ bool readEntries(const QDBusArgument& properties, MenuSettings& settings)
         if (is(Published::Scope::name) && !(met.scope = read(value, settings.scope)))
             return false;
         if (is(Published::CustomFolders::name) && !(met.customFolders = read(value, settings.targets)))
+            return false;
+        // Older companions have none.
+        if (is(Published::OtherFolder::name) && !read(value, settings.otherFolder))
             return false;
         if (is(Published::ShowMenuIcon::name) && !(met.showIcons = read(value, settings.showIcons)))
             return false;

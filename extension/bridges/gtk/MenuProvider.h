@@ -170,7 +170,7 @@ private:
                             .icon = menu.showIcons ? action->icon.c_str() : nullptr};
             const Choice choice{.action = action->identifier, .target = {}, .clicked = clicked};
             items.push_back(targets.empty() ? newItem(look, choice)
-                                            : newSubmenu(look, itemsOf(targets, look, choice, menu.showIcons)));
+                                            : newSubmenu(look, itemsOf(targets, look, choice, menu)));
         }
         if (menu.inSubmenu && !items.empty()) {
             Items one;
@@ -186,7 +186,7 @@ private:
     }
 
     /// For each target an item that does the choice with it, and one that leaves it to be asked for.
-    static Items itemsOf(std::span<const Target> targets, const Look& parent, const Choice& choice, bool showIcons)
+    static Items itemsOf(std::span<const Target> targets, const Look& parent, const Choice& choice, const Menu& menu)
     {
         Items items;
         const auto add = [&](std::string_view title, const std::string& path, const char* tip, const char* icon) {
@@ -195,8 +195,8 @@ private:
                                     {.action = choice.action, .target = path, .clicked = choice.clicked}));
         };
         for (const Target& target : targets)
-            add(target.title, target.path, target.description.c_str(), showIcons ? targetIcon : nullptr);
-        add(chooseFolderTitle, {}, chooseFolderDescription, nullptr);
+            add(target.title, target.path, target.description.c_str(), menu.showIcons ? targetIcon : nullptr);
+        add(menu.otherFolder->title, {}, menu.otherFolder->description.c_str(), nullptr);
         return items;
     }
 

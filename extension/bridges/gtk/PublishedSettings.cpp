@@ -82,6 +82,18 @@ public:
         return folders;
     }
 
+    [[nodiscard]] Target otherFolder(const Target& otherwise) const
+    {
+        const Variant value = find<Published::OtherFolder>();
+        if (!value || g_variant_n_children(value.get()) != 2)
+            return otherwise;
+        const char* title = nullptr;
+        const char* description = nullptr;
+        g_variant_get_child(value.get(), 0, "&s", &title);
+        g_variant_get_child(value.get(), 1, "&s", &description);
+        return isTitle(title) && isTitle(description) ? Target{{}, title, description} : otherwise;
+    }
+
 private:
     template<class Property>
     [[nodiscard]] Variant find() const
@@ -115,6 +127,7 @@ MenuSettings settingsFromProperties(GVariant& properties)
     settings.actions = reader.actions();
     settings.scope = reader.scope();
     settings.targets = targetsOf(reader.customFolders());
+    settings.otherFolder = reader.otherFolder(settings.otherFolder);
     settings.showIcons = reader.flag<Published::ShowMenuIcon>(settings.showIcons);
     settings.inSubmenu = reader.flag<Published::ShowInSubmenu>(settings.inSubmenu);
     return settings;

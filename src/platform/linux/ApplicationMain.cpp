@@ -34,7 +34,7 @@ The control panel of Orvik Menu: which actions the file manager's menu shows, an
     .optionValue = "a title",
 };
 
-/// Has the tabs open on the one of a title, where there is one.
+/// Has the tabs open on the one of a title, where there is one. The title may be English in any language.
 class FirstTab : public QObject {
 public:
     explicit FirstTab(QString title) : m_title(std::move(title))
@@ -50,8 +50,9 @@ public:
         if (!tabs)
             return false;
         QCoreApplication::instance()->removeEventFilter(this);
+        const QString shown = QCoreApplication::translate("tabviewcontroller", m_title.toUtf8().constData());
         for (int index = 0; index < tabs->count(); ++index) {
-            if (tabs->tabText(index) == m_title)
+            if (tabs->tabText(index) == m_title || tabs->tabText(index) == shown)
                 tabs->setCurrentIndex(index);
         }
         return false;

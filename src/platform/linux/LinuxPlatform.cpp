@@ -12,6 +12,7 @@
 #include "platform/linux/text/FileNameText.h"
 #include "settings/Deployment.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QTimer>
@@ -28,13 +29,17 @@ namespace LinuxDesktop {
 
 namespace {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LinuxPlatform)
+};
+
 /// Words for a path that a settings file could not give back as it is.
 QString refusalOfUnstorable(const std::string& path)
 {
     if (!PropertyList::unstorableReason(NS::Value(path)))
         return {};
-    return QStringLiteral("“%1” cannot be used: its path has characters that cannot be stored as text. "
-                          "Rename the folder, then choose it again.")
+    return Texts::tr("“%1” cannot be used: its path has characters that cannot be stored as text. "
+                     "Rename the folder, then choose it again.")
         .arg(fileNameText(path));
 }
 

@@ -83,6 +83,21 @@ TEST(PublishedSettings, LeaveOutAPropertyOfTheWrongType)
     EXPECT_TRUE(countsAsAbsent("ShowInSubmenu", "[true]"));
 }
 
+TEST(PublishedSettings, CallWhatAsksForAnotherFolderAsTheCompanionDoes)
+{
+    EXPECT_EQ(settingsFrom(sound().with("OtherFolder", "['Ordner wählen …', 'Fragt']")).otherFolder,
+              (Target{"", "Ordner wählen …", "Fragt"}));
+}
+
+TEST(PublishedSettings, CallWhatAsksForAnotherFolderInEnglishWhereTheCompanionSaysNothingOfUse)
+{
+    const Target english = MenuSettings().otherFolder;
+    EXPECT_EQ(english.title, "Choose Folder…");
+    EXPECT_EQ(settingsFrom(sound()).otherFolder, english);
+    for (const char* value : {"'Title'", "@as []", "['Title']", "['', 'Tip']", "['Title', '']", "['a', 'b', 'c']"})
+        EXPECT_EQ(settingsFrom(sound().with("OtherFolder", value)).otherFolder, english) << value;
+}
+
 TEST(PublishedSettings, OneWrongPropertyLeavesTheOthers)
 {
     const MenuSettings settings = settingsFrom(sound().with("ShowInSubmenu", "'x'").with("ShowMenuIcon", "false"));

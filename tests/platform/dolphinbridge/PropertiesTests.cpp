@@ -179,3 +179,21 @@ TEST_F(ReadProperties, AreNoneBeyondTheLimits)
     row[0].title += QLatin1Char('x');
     EXPECT_FALSE(readWith(Actions::name, QVariant::fromValue(row)));
 }
+
+TEST_F(ReadProperties, CallWhatAsksForAnotherFolderAsTheCompanionDoes)
+{
+    const auto read = readWith(OtherFolder::name, QStringList{QStringLiteral("Ordner…"), QStringLiteral("Fragt")});
+
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->otherFolder, (MenuExtension::Target{"", "Ordner…", "Fragt"}));
+}
+
+TEST_F(ReadProperties, AreNoneWhereWhatAsksForAnotherFolderHasNoTitle)
+{
+    const auto english = read(someProperties());
+    ASSERT_TRUE(english);
+    EXPECT_EQ(english->otherFolder, MenuSettings().otherFolder);
+    for (const QVariant& wrong : {QVariant(1), QVariant(QStringList()), QVariant(QStringList{{}, {}}),
+                                  QVariant(QStringList(2, QString(1001, u'x')))})
+        EXPECT_FALSE(readWith(OtherFolder::name, wrong));
+}

@@ -90,9 +90,11 @@ TEST_F(FollowedSettings, AreThereForMenusInLittleSpace)
     EXPECT_EQ(properties[QStringLiteral("Scope")].toByteArray(), QByteArray("+/new\0", 6));
     EXPECT_EQ(properties[QStringLiteral("CustomFolders")].toStringList(), QStringList{QStringLiteral("/x")});
     EXPECT_TRUE(properties[QStringLiteral("ShowInSubmenu")].toBool());
-    EXPECT_EQ(properties.keys(),
-              (QStringList{QStringLiteral("Actions"), QStringLiteral("CustomFolders"), QStringLiteral("Scope"),
-                           QStringLiteral("ShowInSubmenu"), QStringLiteral("ShowMenuIcon")}));
+    EXPECT_EQ(properties[QStringLiteral("OtherFolder")].toStringList(),
+              (QStringList{QStringLiteral("Choose Folder…"), QStringLiteral("Asks for another folder")}));
+    EXPECT_EQ(properties.keys(), (QStringList{QStringLiteral("Actions"), QStringLiteral("CustomFolders"),
+                                              QStringLiteral("OtherFolder"), QStringLiteral("Scope"),
+                                              QStringLiteral("ShowInSubmenu"), QStringLiteral("ShowMenuIcon")}));
 }
 
 TEST_F(FollowedSettings, FollowAFileThatIsRemovedAndComesBack)

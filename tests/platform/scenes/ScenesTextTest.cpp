@@ -1,8 +1,10 @@
+#include "platform/LocalizedString.h"
 #include "platform/linux/look/Appearance.h"
 #include "platform/linux/scenes/Label.h"
 #include "platform/linux/scenes/Paragraph.h"
 #include "platform/linux/scenes/Scenes.h"
 #include "showcase/ShowcaseCatalogue.h"
+#include "support/InLanguage.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,6 +18,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 namespace {
 
@@ -27,16 +30,18 @@ struct TextSize {
     qreal scale;
 };
 
-class ScenesText : public testing::TestWithParam<TextSize> {
+class ScenesText : public testing::TestWithParam<std::tuple<TextSize, const char*>> {
 protected:
     ScenesText()
     {
         applyAppearance(ColorScheme::Light);
         QFont font = m_usual;
-        font.setPointSizeF(font.pointSizeF() * GetParam().scale);
+        font.setPointSizeF(font.pointSizeF() * scale());
         QApplication::setFont(font);
     }
     ~ScenesText() override { QApplication::setFont(m_usual); }
+
+    [[nodiscard]] static qreal scale() { return std::get<TextSize>(GetParam()).scale; }
 
     static void expectWhole(const std::string& scene, const QWidget& widget, const QString& text, QSize needed)
     {
@@ -65,6 +70,7 @@ protected:
     }
 
 private:
+    const InLanguage m_language{std::get<const char*>(GetParam())};
     const QFont m_usual = QApplication::font();
 };
 
@@ -76,14 +82,14 @@ int heightWithout(double menuBarAndTabs)
 
 TEST_P(ScenesText, IsWholeInTheMainWindow)
 {
-    const QSize room(600, heightWithout(80 * GetParam().scale));
+    const QSize room(600, heightWithout(80 * scale()));
     for (const char* scene : {"ViewController", "foldersArrvc", "genraltabvc", "aboutVc", "customFoldersVc"})
         expectNothingIsCut(scene, room);
 }
 
 TEST_P(ScenesText, IsWholeInTheFirstRun)
 {
-    expectNothingIsCut("firstRunvc", {600, heightWithout(30 * GetParam().scale)});
+    expectNothingIsCut("firstRunvc", {600, heightWithout(30 * scale())});
 }
 
 TEST_P(ScenesText, IsWholeInTheNarrowestWindow)
@@ -116,7 +122,8 @@ std::unique_ptr<QWidget> shownCard(std::string_view title, std::string_view desc
 TEST_P(ScenesText, IsWholeOnEveryCard)
 {
     for (const ShowcaseApplication& application : showcaseCatalogue) {
-        const auto card = shownCard(application.title, application.description);
+        const auto card =
+            shownCard(application.title, NS::LocalizedString("ShowcaseCatalogue", application.description));
         const auto& description = *card->findChild<Paragraph*>("lblsubtitle");
 
         EXPECT_GE(description.height(), description.heightForWidth(description.width())) << application.title;
@@ -135,7 +142,11 @@ TEST_P(ScenesText, MovesNothingElseOnACard)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, ScenesText, testing::Values(TextSize{"Usual", 1.0}, TextSize{"HalfAsLargeAgain", 1.5}),
-                         [](const auto& tested) { return tested.param.name; });
+INSTANTIATE_TEST_SUITE_P(Each, ScenesText,
+                         testing::Combine(testing::Values(TextSize{"Usual", 1.0}, TextSize{"HalfAsLargeAgain", 1.5}),
+                                          testing::ValuesIn(languages)),
+                         [](const auto& tested) {
+                             return std::get<TextSize>(tested.param).name + std::string(std::get<1>(tested.param));
+                         });
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "extension/actions/transfer/window/ItemCard.h"
 #include "extension/actions/transfer/window/TransferWords.h"
 #include "platform/linux/system/ParentFolder.h"
+#include "platform/linux/text/PluralCount.h"
 #include "platform/linux/text/SizeText.h"
 
 #include <QCheckBox>
@@ -171,7 +172,8 @@ void TransferWindow::advance(const Progress& progress)
     switch (progress.phase.load()) {
     case Progress::Phase::Counting:
         m_progress->advance(0, 0,
-                            tr("Looking at %1 items").arg(locale.toString(static_cast<qulonglong>(totalFiles))));
+                            tr("Looking at %1 items", nullptr, LinuxDesktop::pluralCount(totalFiles))
+                                .arg(locale.toString(static_cast<qulonglong>(totalFiles))));
         return;
     case Progress::Phase::Flushing:
         m_progress->advance(totalBytes, totalBytes, tr("Writing to the disk"));

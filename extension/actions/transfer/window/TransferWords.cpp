@@ -1,6 +1,7 @@
 #include "extension/actions/transfer/window/TransferWords.h"
 
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/PluralCount.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -12,21 +13,22 @@ namespace MenuExtension::Transfers::Words {
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Transfer", text);
-}
+using LinuxDesktop::pluralCount;
+
+struct Transfer {
+    Q_DECLARE_TR_FUNCTIONS(Transfer)
+};
 
 QString reason(int error)
 {
     switch (error) {
     case EXDEV:
     case ELOOP:
-        return tr("a link leads out of the folders that Orvik Menu works in");
+        return Transfer::tr("a link leads out of the folders that Orvik Menu works in");
     case EROFS:
-        return tr("it can only be read");
+        return Transfer::tr("it can only be read");
     case 0:
-        return tr("it is not known why");
+        return Transfer::tr("it is not known why");
     default:
         return QString::fromStdString(std::generic_category().message(error));
     }
@@ -42,28 +44,32 @@ QString number(std::size_t count)
 QString name(const std::string& path)
 {
     const std::string last = path.substr(path.rfind('/') + 1);
-    return tr("“%1”").arg(LinuxDesktop::fileNameText(last.empty() ? path : last));
+    return Transfer::tr("“%1”").arg(LinuxDesktop::fileNameText(last.empty() ? path : last));
 }
 
 QString items(const std::vector<std::string>& paths)
 {
-    return paths.size() == 1 ? name(paths.front()) : tr("%1 items").arg(number(paths.size()));
+    return paths.size() == 1 ? name(paths.front())
+                             : Transfer::tr("%1 items", nullptr, pluralCount(paths.size())).arg(number(paths.size()));
 }
 
 QString doing(bool isMove, const std::vector<std::string>& paths, const std::string& target)
 {
-    return (isMove ? tr("Moving %1 to %2") : tr("Copying %1 to %2")).arg(items(paths), name(target));
+    return (isMove ? Transfer::tr("Moving %1 to %2") : Transfer::tr("Copying %1 to %2"))
+        .arg(items(paths), name(target));
 }
 
 QString done(bool isMove, const std::vector<std::string>& paths, const std::string& target, const Result& result)
 {
     if (result.done == paths.size() && paths.size() == 1)
-        return (isMove ? tr("%1 was moved to %2.") : tr("%1 was copied to %2."))
+        return (isMove ? Transfer::tr("%1 was moved to %2.") : Transfer::tr("%1 was copied to %2."))
             .arg(name(paths.front()), name(target));
     if (result.done == paths.size())
-        return (isMove ? tr("%1 items were moved to %2.") : tr("%1 items were copied to %2."))
+        return (isMove ? Transfer::tr("%1 items were moved to %2.", nullptr, pluralCount(paths.size()))
+                       : Transfer::tr("%1 items were copied to %2.", nullptr, pluralCount(paths.size())))
             .arg(number(paths.size()), name(target));
-    return (isMove ? tr("%1 of %2 items were moved to %3.") : tr("%1 of %2 items were copied to %3."))
+    return (isMove ? Transfer::tr("%1 of %2 items were moved to %3.", nullptr, pluralCount(paths.size()))
+                   : Transfer::tr("%1 of %2 items were copied to %3.", nullptr, pluralCount(paths.size())))
         .arg(number(result.done), number(paths.size()), name(target));
 }
 
@@ -74,40 +80,44 @@ QString problem(bool isMove, const Problem& problem)
     const QString why = reason(problem.error);
     switch (problem.kind) {
     case Kind::TargetUnusable:
-        return tr("Nothing can be put into %1: %2.").arg(item, why);
+        return Transfer::tr("Nothing can be put into %1: %2.").arg(item, why);
     case Kind::Full:
-        return tr("There is not enough room on the disk of %1.").arg(item);
+        return Transfer::tr("There is not enough room on the disk of %1.").arg(item);
     case Kind::SourceUnusable:
-        return tr("%1 cannot be read: %2.").arg(item, why);
+        return Transfer::tr("%1 cannot be read: %2.").arg(item, why);
     case Kind::AlreadyThere:
-        return tr("%1 is in this folder already.").arg(item);
+        return Transfer::tr("%1 is in this folder already.").arg(item);
     case Kind::IntoItself:
-        return isMove ? tr("%1 cannot be moved into itself.").arg(item)
-                      : tr("%1 cannot be copied into itself.").arg(item);
+        return isMove ? Transfer::tr("%1 cannot be moved into itself.").arg(item)
+                      : Transfer::tr("%1 cannot be copied into itself.").arg(item);
     case Kind::NameTooLong:
-        return tr("The name %1 is too long for the disk that it is to go to.").arg(item);
+        return Transfer::tr("The name %1 is too long for the disk that it is to go to.").arg(item);
     case Kind::TooLarge:
-        return tr("%1 is too large for the disk that it is to go to.").arg(item);
+        return Transfer::tr("%1 is too large for the disk that it is to go to.").arg(item);
     case Kind::CannotLeave:
-        return tr("%1 cannot be taken away from where it is. It can be copied.").arg(item);
+        return Transfer::tr("%1 cannot be taken away from where it is. It can be copied.").arg(item);
     case Kind::IsDevice:
-        return tr("%1 is a device, which cannot be copied.").arg(item);
+        return Transfer::tr("%1 is a device, which cannot be copied.").arg(item);
     case Kind::Changed:
-        return tr("%1 kept changing while it was copied. Try again.").arg(item);
+        return Transfer::tr("%1 kept changing while it was copied. Try again.").arg(item);
     case Kind::NotTransferred:
-        return isMove ? tr("%1 could not be moved: %2.").arg(item, why)
-                      : tr("%1 could not be copied: %2.").arg(item, why);
+        return isMove ? Transfer::tr("%1 could not be moved: %2.").arg(item, why)
+                      : Transfer::tr("%1 could not be copied: %2.").arg(item, why);
     case Kind::NotRemoved:
         return problem.error == EBUSY
-                   ? tr("%1 has changed meanwhile, or a part of it could not be copied. What was not moved is still "
-                        "where it was.")
+                   ? Transfer::tr(
+                         "%1 has changed meanwhile, or a part of it could not be copied. What was not moved is still "
+                         "where it was.")
                          .arg(item)
-                   : tr("%1 was copied, but not all of it could be removed from where it was: %2.").arg(item, why);
+                   : Transfer::tr("%1 was copied, but not all of it could be removed from where it was: %2.")
+                         .arg(item, why);
     case Kind::NotUndone:
-        return problem.error == 0 ? tr("%1 could not be put back, since it is not where it was put.").arg(item)
-                                  : tr("%1 could not be put back: %2.").arg(item, why);
+        return problem.error == 0
+                   ? Transfer::tr("%1 could not be put back, since it is not where it was put.").arg(item)
+                   : Transfer::tr("%1 could not be put back: %2.").arg(item, why);
     case Kind::NotTrashed:
-        return tr("%1 could not be put into the trash: %2").arg(item, QString::fromStdString(problem.words));
+        return Transfer::tr("%1 could not be put into the trash: %2")
+            .arg(item, QString::fromStdString(problem.words));
     }
     return {};
 }
@@ -118,7 +128,7 @@ QStringList problems(bool isMove, const Problems& problems)
     for (const Problem& one : problems.kept())
         sentences << problem(isMove, one);
     if (const std::size_t more = problems.count() - problems.kept().size(); more > 0)
-        sentences << tr("There were %1 more like these.").arg(number(more));
+        sentences << Transfer::tr("There were %1 more like these.", nullptr, pluralCount(more)).arg(number(more));
     return sentences;
 }
 

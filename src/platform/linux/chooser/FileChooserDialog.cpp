@@ -73,7 +73,7 @@ QToolButton* toolButton(const Tool& tool, QWidget* parent)
     auto* button = new QToolButton(parent);
     button->setObjectName(QLatin1String(tool.objectName));
     button->setText(tool.title);
-    button->setToolTip(u"%1 (%2)"_s.arg(tool.title, tool.keys));
+    button->setToolTip(u"%1 (%2)"_s.arg(tool.title, QKeySequence(tool.keys).toString(QKeySequence::NativeText)));
     button->setIcon(outlinesOf(QIcon::fromTheme(tool.iconName, parent->style()->standardIcon(tool.fallback))));
     button->setIconSize(toolIconSize);
     button->setMinimumSize(toolExtent, toolExtent);
@@ -131,10 +131,10 @@ void FileChooserDialog::build()
     panes->setChildrenCollapsible(false);
     m_places = new PlacesList(m_memory.folder, panes);
     m_places->setObjectName(u"placesList"_s);
-    m_places->setAccessibleName(u"Places"_s);
+    m_places->setAccessibleName(tr("Places"));
     m_list = new FileList(panes);
     m_list->setObjectName(u"fileList"_s);
-    m_list->setAccessibleName(u"Files"_s);
+    m_list->setAccessibleName(tr("Files"));
     m_list->setFilesSelectable(m_settings.canChooseFiles);
     if (m_settings.allowsMultipleSelection)
         m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -149,7 +149,7 @@ void FileChooserDialog::build()
     m_notice->hide();
     tieWords(*m_notice, *this);
 
-    m_cancelButton = new QPushButton(u"Cancel"_s, this);
+    m_cancelButton = new QPushButton(tr("Cancel"), this);
     m_cancelButton->setObjectName(u"cancelButton"_s);
     m_confirmButton = new QPushButton(buttonTitle(m_settings.prompt), this);
     m_confirmButton->setObjectName(u"confirmButton"_s);
@@ -410,7 +410,7 @@ void FileChooserDialog::refresh()
 void FileChooserDialog::tellVanished(const std::string& name)
 {
     m_selectionVanished = true;
-    notice(u"“%1” is no longer there."_s.arg(fileNameText(name)));
+    notice(tr("“%1” is no longer there.").arg(fileNameText(name)));
     updateConfirmButton();
 }
 
@@ -432,7 +432,7 @@ void FileChooserDialog::goTo(const std::string& path)
     } else if (lookupError(path) != 0) {
         refuse(path);
     } else {
-        notice(u"“%1” cannot be found."_s.arg(fileNameText(path)));
+        notice(tr("“%1” cannot be found.").arg(fileNameText(path)));
     }
 }
 
@@ -532,8 +532,8 @@ void FileChooserDialog::confirmByKey()
         enterEntry(selected.front());
     else if (selected.empty() && canConfirm() && m_folder == m_firstFolder)
         // A key too many must not choose all that the chooser opens in.
-        notice(u"Nothing is selected. To choose “%1” itself, press the button “%2”."_s.arg(fileNameText(m_folder),
-                                                                                           m_settings.prompt));
+        notice(tr("Nothing is selected. To choose “%1” itself, press the button “%2”.")
+                   .arg(fileNameText(m_folder), m_settings.prompt));
     else
         confirm();
 }
@@ -594,14 +594,14 @@ void FileChooserDialog::choose(std::vector<std::string> paths)
 void FileChooserDialog::refuse(const std::string& path)
 {
     if (const int error = lookupError(path); error != 0) {
-        const QString why = error == ENAMETOOLONG ? u"its path is too long"_s
+        const QString why = error == ENAMETOOLONG ? tr("its path is too long")
                                                   : QString::fromStdString(std::generic_category().message(error));
-        notice(u"“%1” cannot be chosen: %2."_s.arg(fileNameText(fileName(path)), why));
+        notice(tr("“%1” cannot be chosen: %2.").arg(fileNameText(fileName(path)), why));
         return;
     }
     refresh();
     if (!m_selectionVanished)
-        notice(u"“%1” cannot be chosen."_s.arg(fileNameText(path)));
+        notice(tr("“%1” cannot be chosen.").arg(fileNameText(path)));
 }
 
 void FileChooserDialog::notice(const QString& words)

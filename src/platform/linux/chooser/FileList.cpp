@@ -31,14 +31,14 @@ QString wordsFor(const FolderListing& listing)
     case 0:
         if (!listing.entries.empty())
             return {};
-        return listing.hidden == 0 ? u"This folder is empty."_s
+        return listing.hidden == 0 ? FileList::tr("This folder is empty.")
                                    : FileList::tr("All that is in this folder is hidden. Ctrl+H shows it.");
     case EACCES:
     case EPERM:
-        return u"You do not have permission to see what is in this folder."_s;
+        return FileList::tr("You do not have permission to see what is in this folder.");
     default:
-        return u"This folder cannot be read: %1."_s.arg(
-            QString::fromStdString(std::generic_category().message(listing.error)));
+        return FileList::tr("This folder cannot be read: %1.")
+            .arg(QString::fromStdString(std::generic_category().message(listing.error)));
     }
 }
 

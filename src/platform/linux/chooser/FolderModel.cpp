@@ -156,11 +156,11 @@ QVariant FolderModel::headerData(int section, Qt::Orientation orientation, int r
         return {};
     switch (section) {
     case Name:
-        return u"Name"_s;
+        return tr("Name");
     case Size:
-        return u"Size"_s;
+        return tr("Size");
     default:
-        return u"Modified"_s;
+        return tr("Modified");
     }
 }
 

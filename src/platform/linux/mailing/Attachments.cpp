@@ -1,5 +1,6 @@
 #include "platform/linux/mailing/Attachments.h"
 
+#include "platform/LocalizedString.h"
 #include "platform/linux/mailing/MailableName.h"
 #include "platform/linux/mailing/SparingFile.h"
 #include "platform/linux/mailing/ZipArchive.h"
@@ -78,7 +79,7 @@ bool Attachments::open(const std::string& path)
         return false;
     }
     if (!S_ISREG(status.st_mode)) {
-        fail(unreadable(path, "it is not a file"));
+        fail(unreadable(path, std::string(NS::LocalizableString("Attachments", "it is not a file"))));
         return false;
     }
     m_files.push_back(std::move(file));

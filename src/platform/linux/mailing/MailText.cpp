@@ -1,10 +1,17 @@
 #include "platform/linux/mailing/MailText.h"
 
 #include "platform/linux/text/FileNameText.h"
+#include "platform/linux/text/PluralCount.h"
+
+#include <QCoreApplication>
 
 namespace LinuxDesktop::MailText {
 
 namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(MailText)
+};
 
 constexpr qsizetype longestName = 40;
 
@@ -22,14 +29,16 @@ QString quoted(std::string_view name)
         end += text.at(end).isLowSurrogate() ? 1 : 0;
         text = text.first(start) + u'…' + text.sliced(end);
     }
-    return QStringLiteral("“%1”").arg(text);
+    return Texts::tr("“%1”").arg(text);
 }
 
 QString names(const std::vector<std::string>& items)
 {
     const std::string_view first = items.front();
     const QString name = quoted(first == "/" ? first : first.substr(first.rfind('/') + 1));
-    return items.size() == 1 ? name : QStringLiteral("%1 and %2 more").arg(name).arg(items.size() - 1);
+    return items.size() == 1
+               ? name
+               : Texts::tr("%1 and %2 more", nullptr, pluralCount(items.size() - 1)).arg(name).arg(items.size() - 1);
 }
 
 } // namespace LinuxDesktop::MailText

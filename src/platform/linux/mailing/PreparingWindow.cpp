@@ -28,7 +28,7 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
 {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setWindowTitle(MailText::windowTitle);
-    const QString text = QStringLiteral("Preparing %1 for sending…").arg(names);
+    const QString text = tr("Preparing %1 for sending…").arg(names);
     setAccessibleName(text);
 
     auto* what = new QLabel(text, this);
@@ -42,7 +42,7 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
     bar->setFixedHeight(barHeight);
     bar->setAccessibleName(text);
     m_bytes->setForegroundRole(QPalette::PlaceholderText);
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
+    auto* cancel = new QPushButton(tr("Cancel"), this);
     connect(cancel, &QPushButton::clicked, this, &PreparingWindow::reject);
 
     auto* lower = new QHBoxLayout;

@@ -1,5 +1,6 @@
 #include "platform/linux/mailing/ZipArchive.h"
 
+#include "platform/LocalizedString.h"
 #include "platform/linux/mailing/MailableName.h"
 #include "platform/linux/mailing/SparingFile.h"
 #include "platform/linux/system/Complaint.h"
@@ -146,7 +147,7 @@ private:
         case FTS_DC:
             return leaveOut(node, reasonOf(ELOOP));
         default:
-            return leaveOut(node, "it is not a file");
+            return leaveOut(node, std::string(NS::LocalizableString("Attachments", "it is not a file")));
         }
     }
 
@@ -170,7 +171,7 @@ private:
         if (!file || ::fstat(file.get(), &status) != 0)
             return leaveOut(node, reasonOf(errno));
         if (!S_ISREG(status.st_mode))
-            return leaveOut(node, "it is not a file");
+            return leaveOut(node, std::string(NS::LocalizableString("Attachments", "it is not a file")));
         if (m_file.is(status))
             return true;
         ssize_t length = ::read(file.get(), m_buffer.data(), m_buffer.size());
@@ -191,7 +192,7 @@ private:
             if (length < 0)
                 return leaveOut(node, reasonOf(errno));
             if (length == 0)
-                return leaveOut(node, "it became shorter");
+                return leaveOut(node, std::string(NS::LocalizableString("Attachments", "it became shorter")));
             const auto part = static_cast<std::size_t>(std::min<off_t>(length, left));
             if (archive_write_data(m_writer.get(), m_buffer.data(), part) != static_cast<la_ssize_t>(part) ||
                 m_file.error() != 0)

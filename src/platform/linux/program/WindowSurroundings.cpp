@@ -11,7 +11,7 @@
 namespace LinuxDesktop {
 
 WindowSurroundings::WindowSurroundings(SessionBus& bus, const QString& programs)
-    : m_appearance(bus, [](const AppearanceWishes& wishes) {
+    : m_translations(programs), m_appearance(bus, [](const AppearanceWishes& wishes) {
           applyAppearance(wishes.dark ? ColorScheme::Dark : ColorScheme::Light,
                           wishes.highContrast ? Contrast::High : Contrast::Normal,
                           wishes.reducedMotion || wishes.noAnimations ? Motion::Reduced : Motion::Full);

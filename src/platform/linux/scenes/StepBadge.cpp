@@ -51,7 +51,7 @@ bool StepBadge::eventFilter(QObject*, QEvent* event)
 void StepBadge::tellState()
 {
     const bool done = m_button && !m_button->isEnabled();
-    LinuxDesktop::setAccessibleName(*this, tr(done ? "Step %1, done" : "Step %1, to do").arg(m_number));
+    LinuxDesktop::setAccessibleName(*this, (done ? tr("Step %1, done") : tr("Step %1, to do")).arg(m_number));
     update();
 }
 
