@@ -360,6 +360,13 @@
     </message>
 </context>
 <context>
+    <name>ExtensionsTool::StatusLine</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>FileManagerStatus</name>
     <message>
         <source>Close it and open it again.</source>
@@ -547,6 +554,25 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::DroppedFolders</name>
+    <message>
+        <source>“%1” cannot be found.</source>
+        <translation>تعذّر العثور على «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: %2.</source>
+        <translation>لا يمكن إضافة «⁨%1⁩»: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder.</source>
+        <translation>لا يمكن إضافة «⁨%1⁩»: ليس مجلدًا.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder of this computer.</source>
+        <translation>لا يمكن إضافة «⁨%1⁩»: ليس مجلدًا على هذا الحاسوب.</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::FileChooserDialog</name>
     <message>
         <source>Up</source>
@@ -596,6 +622,58 @@
         <source>“%1” cannot be chosen.</source>
         <translation>لا يمكن اختيار «⁨%1⁩».</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>مجلد جديد</translation>
+    </message>
+    <message>
+        <source>Waiting for “%1” to answer…</source>
+        <translation>في انتظار ردّ «⁨%1⁩»…</translation>
+    </message>
+    <message>
+        <source>Hidden files are not shown.</source>
+        <translation>الملفات المخفية غير معروضة.</translation>
+    </message>
+    <message>
+        <source>Hidden files are shown.</source>
+        <translation>الملفات المخفية معروضة.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>افتح</translation>
+    </message>
+    <message>
+        <source>Copy Location</source>
+        <translation>انسخ المكان</translation>
+    </message>
+    <message>
+        <source>New Folder…</source>
+        <translation>مجلد جديد…</translation>
+    </message>
+    <message>
+        <source>Show Hidden Files</source>
+        <translation>أظهر الملفات المخفية</translation>
+    </message>
+    <message>
+        <source>“%1” is a file. Only folders can be chosen here.</source>
+        <translation>«⁨%1⁩» ملف. لا يمكن هنا إلا اختيار المجلدات.</translation>
+    </message>
+    <message>
+        <source>“%1” leads to something that is not there.</source>
+        <translation>«⁨%1⁩» يؤدي إلى شيء غير موجود.</translation>
+    </message>
+    <message>
+        <source>“%1” does not answer. It may be on a network share that is gone.</source>
+        <translation>«⁨%1⁩» لا يستجيب. قد يكون على مشاركة شبكية لم تعد متاحة.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::FileList</name>
@@ -610,6 +688,25 @@
     <message>
         <source>This folder cannot be read: %1.</source>
         <translation>تعذّرت قراءة هذا المجلد: %1.</translation>
+    </message>
+    <message>
+        <source>All that is in this folder is hidden. Ctrl+H shows it.</source>
+        <translation>كل ما في هذا المجلد مخفي. Ctrl+H يظهره.</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::FolderDrops</name>
+    <message>
+        <source>Some of what you dropped cannot be added.</source>
+        <translation>تتعذّر إضافة بعض ما أفلتّه.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>و%1 عنصر آخر.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>حسنًا</translation>
     </message>
 </context>
 <context>
@@ -646,6 +743,42 @@
         <source>Modified</source>
         <translation>تاريخ التعديل</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between a file&apos;s kind, size and date</comment>
+        <translation>، </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::NewFolderDialog</name>
+    <message>
+        <source>New Folder</source>
+        <translation>مجلد جديد</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the folder:</source>
+        <translation>ا&amp;سم المجلد:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ألغِ</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>أنشئ</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>لا يمكن أن يكون «⁨%1⁩» اسمًا لمجلد.</translation>
+    </message>
+    <message>
+        <source>“%1” is already there.</source>
+        <translation>«⁨%1⁩» موجود بالفعل.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made: %2.</source>
+        <translation>لا يمكن إنشاء «⁨%1⁩»: %2.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PlacesList</name>
@@ -681,6 +814,10 @@
         <source>File System</source>
         <translation>نظام الملفات</translation>
     </message>
+    <message>
+        <source>%1 (last used)</source>
+        <translation>%1 (آخر ما استُخدم)</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PreparingWindow</name>
@@ -709,6 +846,13 @@
     <message>
         <source>Step %1, to do</source>
         <translation>الخطوة %1، لم تكتمل بعد</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::TabPages</name>
+    <message>
+        <source>Pages</source>
+        <translation>الصفحات</translation>
     </message>
 </context>
 <context>
@@ -1811,6 +1955,17 @@
     <message>
         <source>All screens of the control panel in dark colours</source>
         <translation>كل شاشات لوحة التحكم بالألوان الداكنة</translation>
+    </message>
+</context>
+<context>
+    <name>ModifiedText</name>
+    <message>
+        <source>Today %1</source>
+        <translation>اليوم %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>أمس %1</translation>
     </message>
 </context>
 <context>

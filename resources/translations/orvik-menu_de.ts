@@ -360,6 +360,13 @@
     </message>
 </context>
 <context>
+    <name>ExtensionsTool::StatusLine</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>FileManagerStatus</name>
     <message>
         <source>Close it and open it again.</source>
@@ -539,6 +546,25 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::DroppedFolders</name>
+    <message>
+        <source>“%1” cannot be found.</source>
+        <translation>„%1“ wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: %2.</source>
+        <translation>„%1“ kann nicht hinzugefügt werden: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder.</source>
+        <translation>„%1“ kann nicht hinzugefügt werden: Es ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder of this computer.</source>
+        <translation>„%1“ kann nicht hinzugefügt werden: Es ist kein Ordner dieses Rechners.</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::FileChooserDialog</name>
     <message>
         <source>Up</source>
@@ -588,6 +614,58 @@
         <source>“%1” cannot be chosen.</source>
         <translation>„%1“ kann nicht ausgewählt werden.</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Waiting for “%1” to answer…</source>
+        <translation>Es wird auf eine Antwort von „%1“ gewartet&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Hidden files are not shown.</source>
+        <translation>Verborgene Dateien werden nicht angezeigt.</translation>
+    </message>
+    <message>
+        <source>Hidden files are shown.</source>
+        <translation>Verborgene Dateien werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Copy Location</source>
+        <translation>Ort kopieren</translation>
+    </message>
+    <message>
+        <source>New Folder…</source>
+        <translation>Neuer Ordner&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Show Hidden Files</source>
+        <translation>Verborgene Dateien anzeigen</translation>
+    </message>
+    <message>
+        <source>“%1” is a file. Only folders can be chosen here.</source>
+        <translation>„%1“ ist eine Datei. Hier können nur Ordner ausgewählt werden.</translation>
+    </message>
+    <message>
+        <source>“%1” leads to something that is not there.</source>
+        <translation>„%1“ führt zu etwas, das nicht vorhanden ist.</translation>
+    </message>
+    <message>
+        <source>“%1” does not answer. It may be on a network share that is gone.</source>
+        <translation>„%1“ antwortet nicht. Möglicherweise liegt es auf einer Netzwerkfreigabe, die nicht mehr erreichbar ist.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::FileList</name>
@@ -602,6 +680,25 @@
     <message>
         <source>This folder cannot be read: %1.</source>
         <translation>Dieser Ordner kann nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>All that is in this folder is hidden. Ctrl+H shows it.</source>
+        <translation>Alles in diesem Ordner ist verborgen. Strg+H zeigt es an.</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::FolderDrops</name>
+    <message>
+        <source>Some of what you dropped cannot be added.</source>
+        <translation>Einiges von dem, was Sie abgelegt haben, kann nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weiteres.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -638,6 +735,42 @@
         <source>Modified</source>
         <translation>Geändert</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between a file&apos;s kind, size and date</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::NewFolderDialog</name>
+    <message>
+        <source>New Folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the folder:</source>
+        <translation>&amp;Name des Ordners:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>„%1“ kann kein Ordnername sein.</translation>
+    </message>
+    <message>
+        <source>“%1” is already there.</source>
+        <translation>„%1“ ist bereits vorhanden.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made: %2.</source>
+        <translation>„%1“ kann nicht angelegt werden: %2.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PlacesList</name>
@@ -673,6 +806,10 @@
         <source>File System</source>
         <translation>Dateisystem</translation>
     </message>
+    <message>
+        <source>%1 (last used)</source>
+        <translation>%1 (zuletzt verwendet)</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PreparingWindow</name>
@@ -701,6 +838,13 @@
     <message>
         <source>Step %1, to do</source>
         <translation>Schritt %1, noch offen</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::TabPages</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
     </message>
 </context>
 <context>
@@ -1735,6 +1879,17 @@
     <message>
         <source>All screens of the control panel in dark colours</source>
         <translation>Alle Ansichten des Einstellungsprogramms in dunklen Farben</translation>
+    </message>
+</context>
+<context>
+    <name>ModifiedText</name>
+    <message>
+        <source>Today %1</source>
+        <translation>Heute %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>Gestern %1</translation>
     </message>
 </context>
 <context>

@@ -360,6 +360,13 @@
     </message>
 </context>
 <context>
+    <name>ExtensionsTool::StatusLine</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>FileManagerStatus</name>
     <message>
         <source>Close it and open it again.</source>
@@ -539,6 +546,25 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::DroppedFolders</name>
+    <message>
+        <source>“%1” cannot be found.</source>
+        <translation>No se encuentra «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: %2.</source>
+        <translation>No se puede añadir «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder.</source>
+        <translation>No se puede añadir «%1»: no es una carpeta.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder of this computer.</source>
+        <translation>No se puede añadir «%1»: no es una carpeta de este equipo.</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::FileChooserDialog</name>
     <message>
         <source>Up</source>
@@ -588,6 +614,58 @@
         <source>“%1” cannot be chosen.</source>
         <translation>No se puede elegir «%1».</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Carpeta nueva</translation>
+    </message>
+    <message>
+        <source>Waiting for “%1” to answer…</source>
+        <translation>Esperando la respuesta de «%1»…</translation>
+    </message>
+    <message>
+        <source>Hidden files are not shown.</source>
+        <translation>Los archivos ocultos no se muestran.</translation>
+    </message>
+    <message>
+        <source>Hidden files are shown.</source>
+        <translation>Los archivos ocultos se muestran.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Copy Location</source>
+        <translation>Copiar la ubicación</translation>
+    </message>
+    <message>
+        <source>New Folder…</source>
+        <translation>Carpeta nueva…</translation>
+    </message>
+    <message>
+        <source>Show Hidden Files</source>
+        <translation>Mostrar los archivos ocultos</translation>
+    </message>
+    <message>
+        <source>“%1” is a file. Only folders can be chosen here.</source>
+        <translation>«%1» es un archivo. Aquí solo se pueden elegir carpetas.</translation>
+    </message>
+    <message>
+        <source>“%1” leads to something that is not there.</source>
+        <translation>«%1» lleva a algo que no existe.</translation>
+    </message>
+    <message>
+        <source>“%1” does not answer. It may be on a network share that is gone.</source>
+        <translation>«%1» no responde. Puede que esté en un recurso de red que ya no está disponible.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::FileList</name>
@@ -602,6 +680,25 @@
     <message>
         <source>This folder cannot be read: %1.</source>
         <translation>No se puede leer esta carpeta: %1.</translation>
+    </message>
+    <message>
+        <source>All that is in this folder is hidden. Ctrl+H shows it.</source>
+        <translation>Todo lo que hay en esta carpeta está oculto. Ctrl+H lo muestra.</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::FolderDrops</name>
+    <message>
+        <source>Some of what you dropped cannot be added.</source>
+        <translation>Algunos de los elementos soltados no se pueden añadir.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
     </message>
 </context>
 <context>
@@ -638,6 +735,42 @@
         <source>Modified</source>
         <translation>Modificado</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between a file&apos;s kind, size and date</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::NewFolderDialog</name>
+    <message>
+        <source>New Folder</source>
+        <translation>Carpeta nueva</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the folder:</source>
+        <translation>&amp;Nombre de la carpeta:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Crear</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>«%1» no puede ser el nombre de una carpeta.</translation>
+    </message>
+    <message>
+        <source>“%1” is already there.</source>
+        <translation>«%1» ya existe.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made: %2.</source>
+        <translation>No se puede crear «%1»: %2.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PlacesList</name>
@@ -673,6 +806,10 @@
         <source>File System</source>
         <translation>Sistema de archivos</translation>
     </message>
+    <message>
+        <source>%1 (last used)</source>
+        <translation>%1 (última usada)</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PreparingWindow</name>
@@ -701,6 +838,13 @@
     <message>
         <source>Step %1, to do</source>
         <translation>Paso %1, pendiente</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::TabPages</name>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
@@ -1735,6 +1879,17 @@
     <message>
         <source>All screens of the control panel in dark colours</source>
         <translation>Todas las pantallas del panel de control en colores oscuros</translation>
+    </message>
+</context>
+<context>
+    <name>ModifiedText</name>
+    <message>
+        <source>Today %1</source>
+        <translation>Hoy %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>Ayer %1</translation>
     </message>
 </context>
 <context>

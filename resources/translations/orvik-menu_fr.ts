@@ -360,6 +360,13 @@
     </message>
 </context>
 <context>
+    <name>ExtensionsTool::StatusLine</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>FileManagerStatus</name>
     <message>
         <source>Close it and open it again.</source>
@@ -539,6 +546,25 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::DroppedFolders</name>
+    <message>
+        <source>“%1” cannot be found.</source>
+        <translation>«&#xa0;%1&#xa0;» est introuvable.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ajouté&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ajouté&#xa0;: ce n’est pas un dossier.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder of this computer.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ajouté&#xa0;: ce n’est pas un dossier de cet ordinateur.</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::FileChooserDialog</name>
     <message>
         <source>Up</source>
@@ -588,6 +614,58 @@
         <source>“%1” cannot be chosen.</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être choisi.</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Waiting for “%1” to answer…</source>
+        <translation>En attente d’une réponse de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+    <message>
+        <source>Hidden files are not shown.</source>
+        <translation>Les fichiers cachés ne sont pas affichés.</translation>
+    </message>
+    <message>
+        <source>Hidden files are shown.</source>
+        <translation>Les fichiers cachés sont affichés.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Copy Location</source>
+        <translation>Copier l’emplacement</translation>
+    </message>
+    <message>
+        <source>New Folder…</source>
+        <translation>Nouveau dossier…</translation>
+    </message>
+    <message>
+        <source>Show Hidden Files</source>
+        <translation>Afficher les fichiers cachés</translation>
+    </message>
+    <message>
+        <source>“%1” is a file. Only folders can be chosen here.</source>
+        <translation>«&#xa0;%1&#xa0;» est un fichier. Seuls des dossiers peuvent être choisis ici.</translation>
+    </message>
+    <message>
+        <source>“%1” leads to something that is not there.</source>
+        <translation>«&#xa0;%1&#xa0;» mène à quelque chose qui n’existe pas.</translation>
+    </message>
+    <message>
+        <source>“%1” does not answer. It may be on a network share that is gone.</source>
+        <translation>«&#xa0;%1&#xa0;» ne répond pas. Il se trouve peut-être sur un partage réseau qui n’est plus accessible.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::FileList</name>
@@ -602,6 +680,25 @@
     <message>
         <source>This folder cannot be read: %1.</source>
         <translation>Ce dossier ne peut pas être lu&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>All that is in this folder is hidden. Ctrl+H shows it.</source>
+        <translation>Tout ce que contient ce dossier est caché. Ctrl+H l’affiche.</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::FolderDrops</name>
+    <message>
+        <source>Some of what you dropped cannot be added.</source>
+        <translation>Certains des éléments déposés ne peuvent pas être ajoutés.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1&#xa0;autre.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -638,6 +735,42 @@
         <source>Modified</source>
         <translation>Modifié le</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between a file&apos;s kind, size and date</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::NewFolderDialog</name>
+    <message>
+        <source>New Folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the folder:</source>
+        <translation>&amp;Nom du dossier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Créer</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être le nom d’un dossier.</translation>
+    </message>
+    <message>
+        <source>“%1” is already there.</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être créé&#xa0;: %2.</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PlacesList</name>
@@ -673,6 +806,10 @@
         <source>File System</source>
         <translation>Système de fichiers</translation>
     </message>
+    <message>
+        <source>%1 (last used)</source>
+        <translation>%1 (dernier utilisé)</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PreparingWindow</name>
@@ -701,6 +838,13 @@
     <message>
         <source>Step %1, to do</source>
         <translation>Étape %1, à faire</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::TabPages</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
     </message>
 </context>
 <context>
@@ -1735,6 +1879,17 @@
     <message>
         <source>All screens of the control panel in dark colours</source>
         <translation>Tous les écrans du panneau de configuration, en couleurs sombres</translation>
+    </message>
+</context>
+<context>
+    <name>ModifiedText</name>
+    <message>
+        <source>Today %1</source>
+        <translation>Aujourd’hui %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>Hier %1</translation>
     </message>
 </context>
 <context>

@@ -360,6 +360,13 @@
     </message>
 </context>
 <context>
+    <name>ExtensionsTool::StatusLine</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>FileManagerStatus</name>
     <message>
         <source>Close it and open it again.</source>
@@ -537,6 +544,25 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::DroppedFolders</name>
+    <message>
+        <source>“%1” cannot be found.</source>
+        <translation>找不到“%1”。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: %2.</source>
+        <translation>无法添加“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder.</source>
+        <translation>无法添加“%1”：它不是文件夹。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: it is not a folder of this computer.</source>
+        <translation>无法添加“%1”：它不是这台计算机上的文件夹。</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::FileChooserDialog</name>
     <message>
         <source>Up</source>
@@ -586,6 +612,58 @@
         <source>“%1” cannot be chosen.</source>
         <translation>无法选择“%1”。</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>Waiting for “%1” to answer…</source>
+        <translation>正在等待“%1”响应…</translation>
+    </message>
+    <message>
+        <source>Hidden files are not shown.</source>
+        <translation>不显示隐藏文件。</translation>
+    </message>
+    <message>
+        <source>Hidden files are shown.</source>
+        <translation>显示隐藏文件。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Copy Location</source>
+        <translation>复制位置</translation>
+    </message>
+    <message>
+        <source>New Folder…</source>
+        <translation>新建文件夹…</translation>
+    </message>
+    <message>
+        <source>Show Hidden Files</source>
+        <translation>显示隐藏文件</translation>
+    </message>
+    <message>
+        <source>“%1” is a file. Only folders can be chosen here.</source>
+        <translation>“%1”是文件。此处只能选择文件夹。</translation>
+    </message>
+    <message>
+        <source>“%1” leads to something that is not there.</source>
+        <translation>“%1”指向不存在的内容。</translation>
+    </message>
+    <message>
+        <source>“%1” does not answer. It may be on a network share that is gone.</source>
+        <translation>“%1”没有响应。它可能位于已断开的网络共享上。</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::FileList</name>
@@ -600,6 +678,25 @@
     <message>
         <source>This folder cannot be read: %1.</source>
         <translation>无法读取此文件夹：%1。</translation>
+    </message>
+    <message>
+        <source>All that is in this folder is hidden. Ctrl+H shows it.</source>
+        <translation>此文件夹中的内容都是隐藏的。按 Ctrl+H 可显示。</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::FolderDrops</name>
+    <message>
+        <source>Some of what you dropped cannot be added.</source>
+        <translation>您拖放的部分内容无法添加。</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>另有 %1 项。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
     </message>
 </context>
 <context>
@@ -636,6 +733,42 @@
         <source>Modified</source>
         <translation>修改时间</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between a file&apos;s kind, size and date</comment>
+        <translation>，</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::NewFolderDialog</name>
+    <message>
+        <source>New Folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the folder:</source>
+        <translation>文件夹名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>创建</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>“%1”不能用作文件夹名称。</translation>
+    </message>
+    <message>
+        <source>“%1” is already there.</source>
+        <translation>“%1”已存在。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made: %2.</source>
+        <translation>无法创建“%1”：%2。</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PlacesList</name>
@@ -671,6 +804,10 @@
         <source>File System</source>
         <translation>文件系统</translation>
     </message>
+    <message>
+        <source>%1 (last used)</source>
+        <translation>%1（上次使用）</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::PreparingWindow</name>
@@ -699,6 +836,13 @@
     <message>
         <source>Step %1, to do</source>
         <translation>第 %1 步，待完成</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::TabPages</name>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
     </message>
 </context>
 <context>
@@ -1716,6 +1860,17 @@
     <message>
         <source>All screens of the control panel in dark colours</source>
         <translation>控制面板的所有界面（深色）</translation>
+    </message>
+</context>
+<context>
+    <name>ModifiedText</name>
+    <message>
+        <source>Today %1</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>Yesterday %1</source>
+        <translation>昨天 %1</translation>
     </message>
 </context>
 <context>

@@ -195,7 +195,8 @@ QHBoxLayout* FileChooserDialog::makePathRow()
     m_location = new LocationField(m_settings.hiddenFiles, *m_settings.kinds, this);
     m_location->setObjectName(u"pathField"_s);
     m_location->setAccessibleName(tr("Location"));
-    m_location->setToolTip(tr("Location (Ctrl+L)"));
+    m_location->setToolTip(
+        u"%1 (%2)"_s.arg(tr("Location"), QKeySequence(u"Ctrl+L"_s).toString(QKeySequence::NativeText)));
     auto* newButton = toolButton(
         {"newFolderButton", tr("New Folder"), u"Ctrl+Shift+N"_s, u"folder-new"_s, QStyle::SP_FileDialogNewFolder},
         this);
