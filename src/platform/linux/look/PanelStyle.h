@@ -4,8 +4,9 @@
 
 namespace LinuxDesktop {
 
-/// The panel's own style: quiet outlines, round corners, room around texts, a focus that can be seen. It takes its
-/// colours from the palette.
+/// The panel's own style: quiet outlines, round corners, room around texts, a ring around what has the keyboard while
+/// the keyboard is used. It takes its colours from the palette. A button's property "primary" says whether it is
+/// filled, where that is not for the dialog to say.
 class PanelStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -13,7 +14,10 @@ public:
     PanelStyle();
 
     using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
     void polish(QWidget* widget) override;
+    void polish(QApplication* application) override;
+    void unpolish(QApplication* application) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -26,6 +30,13 @@ public:
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void followHands(bool keyboardIsUsed);
+
+    bool m_keyboardIsUsed = false;
 };
 
 } // namespace LinuxDesktop
