@@ -78,7 +78,7 @@ class ColorScheme(AppearanceTestCase):
 
 
 class TwiceTheDensity(AppearanceTestCase):
-    screen_size = (2048, 1536)
+    screen_size = (2048, 2048)
 
     def size(self, panel):
         window, = self.windows.of_process(panel.process_id)

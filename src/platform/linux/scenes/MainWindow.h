@@ -28,6 +28,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void fitToContent();
     void fitToScreen();
     void noteInFront();
 

@@ -11,6 +11,8 @@
 
 namespace LinuxDesktop {
 
+class Label;
+
 /// A row of a list: the widgets of the row's scene, and the cell that the list's screen fills. Main thread.
 class RowWidget : public QWidget {
     Q_OBJECT
@@ -28,6 +30,11 @@ public:
     /// The row's controls from left to right.
     [[nodiscard]] const QList<QAbstractButton*>& controls() const { return m_controls; }
 
+    /// Call when the row has been filled in a list of folders: shows the folder's name, and its path below.
+    void showFolder();
+    /// Nothing divides the last row from what follows.
+    void setLast(bool last);
+
     /// The row that the keyboard is on: its controls alone are reached with Tab.
     void setCurrent(bool current);
     [[nodiscard]] bool isCurrent() const { return m_current; }
@@ -37,11 +44,17 @@ public:
     [[nodiscard]] std::optional<bool> isSelected() const { return m_selected; }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void showMissing(bool missing);
+    void fill(QPainter& painter, int width, const QColor& color) const;
+
     std::unique_ptr<NS::TableCellView> m_cell;
     QList<QAbstractButton*> m_controls;
+    Label* m_title = nullptr;
+    bool m_isLast = false;
     bool m_current = false;
     std::optional<bool> m_selected;
 };

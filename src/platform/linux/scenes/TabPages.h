@@ -9,10 +9,12 @@
 #include <string_view>
 #include <vector>
 
+class QHBoxLayout;
+
 namespace LinuxDesktop {
 
-/// The tabs of a scene. A page names its screen's scene in its property "scene"; the screen is made when the page
-/// is first shown. Main thread.
+/// The tabs of a scene, with the window's menu at the end of the tab bar. A page names its screen's scene in its
+/// property "scene"; the screen is made when the page is first shown. Main thread.
 class TabPages : public QTabWidget, public NS::TabView {
     Q_OBJECT
 
@@ -27,10 +29,13 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void loadCurrentPage();
 
+    QHBoxLayout* m_beforeTabs;
+    QHBoxLayout* m_afterTabs;
     Loader m_loader;
     std::vector<std::shared_ptr<NS::ViewController>> m_screens;
 };
