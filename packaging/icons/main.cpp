@@ -24,36 +24,6 @@ std::optional<std::string> contentsOf(const std::filesystem::path& path)
     return file ? std::optional(contents) : std::nullopt;
 }
 
-void replaceAll(std::string& text, std::string_view from, std::string_view to)
-{
-    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-}
-
-/// The black shape of one of the platform's template images in white on a tile like those of the other actions:
-/// nobody tints a menu's icons, so it has to be seen on light and on dark.
-std::string onTile(std::string drawing)
-{
-    replaceAll(drawing, "#000", "#fff");
-    const auto shape = drawing.find('>', drawing.find("<svg")) + 1;
-    drawing.insert(shape, R"svg(
-  <defs>
-    <linearGradient id="tile" gradientUnits="userSpaceOnUse" x1="0" y1="0" x2="0" y2="48">
-      <stop offset="0" stop-color="#6f7f98"/>
-      <stop offset="1" stop-color="#55647b"/>
-    </linearGradient>
-  </defs>
-  <rect width="48" height="48" rx="11" fill="url(#tile)"/>
-  <g transform="translate(3.6 3.6) scale(.85)">)svg");
-    replaceAll(drawing, "</svg>", "  </g>\n</svg>");
-    return drawing;
-}
-
-bool isTemplate(std::string_view image)
-{
-    return image == NS::ImageNameActionTemplate || image == NS::ImageNameAddTemplate;
-}
-
 /// A folder of the theme with what is drawn there for one size, in pixels. A file manager reads them whenever it
 /// opens a menu, which takes it three times as long with a drawing.
 struct Size {
@@ -89,13 +59,11 @@ int main(int argc, char** argv)
         const auto from = assets / (std::string(row.image) + ".svg");
         const std::string name = "orvik-menu-" + std::string(row.identifier);
         const auto to = scalable / (name + ".svg");
-        auto drawing = contentsOf(from);
+        const auto drawing = contentsOf(from);
         if (!drawing) {
             std::fprintf(stderr, "%s: cannot be read\n", from.c_str());
             return EXIT_FAILURE;
         }
-        if (isTemplate(row.image))
-            drawing = onTile(*std::move(drawing));
         if (!(std::ofstream(to) << *drawing << std::flush)) {
             std::fprintf(stderr, "%s: cannot be written\n", to.c_str());
             return EXIT_FAILURE;

@@ -5,7 +5,7 @@
 
 namespace NS {
 
-/// Names of the platform's own template images: one colour, tinted like the text around them.
+/// Names that the panel's first desktop had images of its own for.
 inline constexpr std::string_view ImageNameActionTemplate = "NSActionTemplate";
 inline constexpr std::string_view ImageNameAddTemplate = "NSAddTemplate";
 

@@ -109,13 +109,30 @@ class About(DesktopTestCase):
 
     def test_the_menu_entry_shows_the_page(self):
         self.start()
-        self.hands.click(self.window.find("page tab", "Menu Items").extents)
-        eventually(lambda: self.window.find("check box", "Open Terminal"), "the menu items")
-        self.hands.press("alt+o")
-        eventually(lambda: self.window.find("menu item", "About Orvik Menu"), "the menu")
-        self.hands.press("a")
+        for key in ("alt+o", "F10"):
+            with self.subTest(key=key):
+                self.hands.click(self.window.find("page tab", "Menu Items").extents)
+                eventually(lambda: self.window.find("check box", "Open Terminal"), "the menu items")
+                self.hands.press(key)
+                eventually(lambda: self.window.find("menu item", "About Orvik Menu"), "the menu")
+                self.hands.press("a")
 
-        eventually(lambda: self.window.find("push button", "Web Site"), "the About page")
+                eventually(lambda: self.window.find("push button", "Web Site"), "the About page")
+
+    def test_the_menu_opens_by_its_button_for_a_hand_and_for_a_screen_reader(self):
+        self.start()
+        for press in (lambda button: self.hands.click(button.extents), lambda button: button.act("Press")):
+            press(self.window.find("button menu", "Orvik Menu"))
+            entry = eventually(lambda: self.window.find("menu item", "Close Window"), "the menu")
+            self.assertEqual([item.name for item in self.window.all("menu item")],
+                             ["About Orvik Menu", "Close Window", "Quit Orvik Menu"])
+            self.hands.press("Escape")
+            eventually(lambda: not self.window.all("menu item"), "the menu to go")
+        self.window.find("button menu", "Orvik Menu").act("Press")
+        entry = eventually(lambda: self.window.find("menu item", "Quit Orvik Menu"), "the menu")
+        self.hands.click(entry.extents)
+
+        self.assertEqual(self.panel.wait_for_end(), 0)
 
     def test_the_pointer_is_a_hand_over_the_buttons_of_a_window_behind_another_too(self):
         self.start()

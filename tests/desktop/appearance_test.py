@@ -160,7 +160,7 @@ class ReducedMotion(AppearanceTestCase):
 
 
 class TwiceTheDensity(AppearanceTestCase):
-    screen_size = (2048, 1536)
+    screen_size = (2048, 2048)
 
     def size(self, panel):
         window, = self.windows.of_process(panel.process_id)

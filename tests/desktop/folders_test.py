@@ -131,11 +131,32 @@ class FoldersTestCase(DesktopTestCase):
 
 
 class Folders(FoldersTestCase):
-    def test_an_empty_list_says_so(self):
+    def test_an_empty_list_says_so_and_offers_what_fills_it(self):
+        folder = self.make_folder_of("Projects")
         self.start()
 
         self.assertEqual(self.rows(), [])
-        eventually(lambda: self.window.find("label", "No folders yet. Add the first one below."), "the words")
+        eventually(lambda: self.window.find("label", "No Folders Yet"), "the words")
+        self.assertEqual([button.name for button in self.window.all("push button")], ["Add Folder…"])
+        self.save_picture("folders-empty")
+        self.accept_console_lines()
+        self.add(folder)
+        self.assertEventuallyEqual(self.rows, [(folder, True)])
+        eventually(lambda: self.window.find("push button", "Remove Folder…"), "the buttons below the list")
+        self.assertNotIn("No Folders Yet", [label.name for label in self.window.all("label")])
+
+    def test_a_row_shows_its_name_and_its_path_and_that_it_is_not_there(self):
+        folder = self.make_folder_of("Projects")
+        gone = os.path.join(self.home.files, "Gone")
+        self.store([folder, gone], [1, 1], BOOKMARKS)
+        self.start()
+
+        def words(row):
+            return [label.name for label in self.window.find("list item", row).all("label")]
+
+        self.assertEqual(words(folder), ["Projects", "~/files/Projects"])
+        self.assertEqual(words(gone), ["Gone", "Not found", "~/files/Gone"])
+        self.save_picture("folders-gone")
 
     def test_an_added_folder_is_listed_stored_bookmarked_and_told(self):
         folders = [self.make_folder_of(name) for name in ("Projects", "Reports")]

@@ -16,6 +16,8 @@ MANY_CONTROLS = 40
 MARKED = 60
 CLEARLY = 40
 
+MENU = ("button menu", "Orvik Menu")
+
 
 def differing_pixels(one, other):
     """How many pixels of two pictures of the same size are clearly different; both are red, green, blue, red, ..."""
@@ -57,7 +59,7 @@ class Keyboard(DesktopTestCase):
 
         walk = self.assertWalksBothWays(window)
 
-        self.assertCountEqual(walk, [("page tab list", "Pages"), ("check box", "Open Terminal")])
+        self.assertCountEqual(walk, [("page tab list", "Pages"), MENU, ("check box", "Open Terminal")])
 
     def test_every_tab_is_walked_both_ways_and_shows_where_the_keyboard_is(self):
         folders = [self.home.files, self.home.programs]
@@ -80,7 +82,7 @@ class Keyboard(DesktopTestCase):
                 self.hands.click(window.find("page tab", tab).extents)
                 eventually(lambda: self.has_control(window, *controls[-1]), f"the tab “{tab}”")
                 walk = self.assertWalksBothWays(window)
-                self.assertCountEqual(walk, [("page tab list", "Pages"), *controls])
+                self.assertCountEqual(walk, [("page tab list", "Pages"), MENU, *controls])
                 self.assertFocusIsVisible(window)
 
     def test_the_first_run_is_walked_both_ways_and_shows_where_the_keyboard_is(self):
@@ -88,7 +90,7 @@ class Keyboard(DesktopTestCase):
         window = self.start_panel().main_window()
         walk = self.assertWalksBothWays(window)
 
-        self.assertCountEqual(walk, [("push button", "Open Extensions…"), ("push button", "Choose Folders…")])
+        self.assertCountEqual(walk, [("push button", "Open Extensions…"), ("push button", "Choose Folders…"), MENU])
         self.assertFocusIsVisible(window)
 
     def test_the_showcase_is_walked_both_ways_and_shows_where_the_keyboard_is(self):
@@ -247,7 +249,7 @@ class Keyboard(DesktopTestCase):
         self.assertAllNamed(self.start_panel().chooser())
 
     def assertAllNamed(self, window):
-        roles = {"push button", "check box", "text", "list", "tree", "page tab", "menu item"}
+        roles = {"push button", "check box", "text", "list", "tree", "page tab", "menu item", "button menu"}
         unnamed = [control.role for control in window.descendants() if control.role in roles and not control.name]
         self.assertEqual(unnamed, [])
 

@@ -23,6 +23,8 @@ namespace {
 
 constexpr int narrowest = 400;
 constexpr int initialWidth = 620;
+constexpr int widestContent = 640;
+constexpr QMargins margins(20, 18, 20, 20);
 
 } // namespace
 
@@ -54,7 +56,7 @@ ExtensionsWindow::ExtensionsWindow(const std::vector<ExtensionControl*>& control
         rows->addWidget(new ExtensionRow(*control, icon, card));
 
     auto* layout = new QVBoxLayout(m_content);
-    layout->setContentsMargins(20, 18, 20, 20);
+    layout->setContentsMargins(margins);
     layout->setSpacing(14);
     layout->addWidget(introduction);
     layout->addWidget(card);
@@ -83,6 +85,9 @@ bool ExtensionsWindow::eventFilter(QObject* watched, QEvent* event)
 void ExtensionsWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    // What is read stays narrow, in the middle of a wide window.
+    const int beside = std::max(margins.left(), (width() - widestContent) / 2);
+    m_content->layout()->setContentsMargins(beside, margins.top(), beside, margins.bottom());
     makeRoomForTexts();
 }
 

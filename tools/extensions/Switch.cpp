@@ -85,7 +85,7 @@ void Switch::paintEvent(QPaintEvent*)
                                  : mixed(fill, base, 0.6F));
     painter.drawEllipse(knob);
 
-    if (hasFocus()) {
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
         painter.setPen(QPen(accent, ring));
         painter.setBrush(Qt::NoBrush);
         const qreal outside = ring / 2 + 1.5;

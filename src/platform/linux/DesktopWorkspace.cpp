@@ -32,7 +32,7 @@ NS::Image DesktopWorkspace::iconForFile(std::string_view path)
 {
     const FileKind kind = m_kinds.kindOf(std::string(path));
     if (kind == FileKind::Missing)
-        return ImageStore::themeImage({QStringLiteral("unknown"), QStringLiteral("text-x-generic")});
+        return ImageStore::missingItem();
     return ImageStore::themeImage(m_icons.iconNames(
         kind == FileKind::Folder ? FileEntry::Kind::Folder : FileEntry::Kind::File, fileNameText(path)));
 }

@@ -5,6 +5,7 @@
 #include "platform/linux/scenes/ModalBlock.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QPointer>
 #include <QTest>
@@ -12,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -154,23 +156,38 @@ TEST_F(AlertTest, RunningModallyBlocksUntilAButtonAnswers)
     EXPECT_FALSE(dialog().isVisible());
 }
 
-TEST_F(AlertTest, AModalAlertHasTheFrontWindowsTitleAlsoWhereNoWindowIsActive)
+TEST_F(AlertTest, IsTitledWithTheApplicationsNameWhateverItsWindowIsCalled)
 {
-    window.close();
-    MainWindow inactive;
-    inactive.setAttribute(Qt::WA_ShowWithoutActivating);
-    inactive.setWindowTitle(QStringLiteral("A Title"));
-    inactive.show();
-    ASSERT_EQ(QApplication::activeWindow(), nullptr);
-    QString title;
-    QTimer::singleShot(0, &inactive, [&] {
-        title = dialog().windowTitle();
-        button(0).click();
-    });
+    window.setWindowTitle(QStringLiteral("A Title"));
+    alert->beginSheetModalForWindow(window);
 
-    alert->runModal();
+    EXPECT_EQ(dialog().windowTitle(), QStringLiteral("Orvik Menu"));
+}
 
-    EXPECT_EQ(title, QStringLiteral("A Title"));
+TEST_F(AlertTest, ShowsTheApplicationsIconInBothStyles)
+{
+    QPixmap drawing(64, 64);
+    drawing.fill(Qt::magenta);
+    QApplication::setWindowIcon(QIcon(drawing));
+    for (const auto style : {NS::AlertStyle::Warning, NS::AlertStyle::Informational}) {
+        WidgetAlert shown(modalState);
+        shown.setAlertStyle(style);
+        const auto labels = dynamic_cast<AlertDialog&>(shown.window()).findChildren<QLabel*>();
+        const auto icon =
+            std::find_if(labels.begin(), labels.end(), [](const QLabel* label) { return !label->pixmap().isNull(); });
+        ASSERT_NE(icon, labels.end());
+        EXPECT_EQ((*icon)->pixmap().toImage().pixelColor(32, 32), QColor(Qt::magenta));
+    }
+    QApplication::setWindowIcon({});
+}
+
+TEST_F(AlertTest, ItsFirstButtonStaysThePrimaryOneWhicheverHasTheKeyboard)
+{
+    alert->beginSheetModalForWindow(window);
+    button(1).setFocus(Qt::TabFocusReason);
+
+    EXPECT_TRUE(button(0).property("primary").toBool());
+    EXPECT_FALSE(button(1).property("primary").toBool());
 }
 
 TEST_F(AlertTest, ALongMessageIsWrappedAndNeverCut)

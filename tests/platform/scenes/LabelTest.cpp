@@ -102,6 +102,29 @@ TEST_F(LabelTest, ANameWithALineEndStaysOnOneLine)
     EXPECT_EQ(label.text(), QStringLiteral("one\u21b5two"));
 }
 
+TEST_F(LabelTest, ATextIsAlignedAsTheWindowIsAndNotAsItsLettersAre)
+{
+    const auto inkIsOnTheRight = [](Label& shown) {
+        shown.resize(160, 24);
+        shown.show();
+        const QImage picture = shown.grab().toImage();
+        const QColor paper = picture.pixelColor(80, 1);
+        int left = 0;
+        int right = 0;
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 0; y < picture.height(); ++y)
+                (x < 80 ? left : right) += picture.pixelColor(x, y) != paper ? 1 : 0;
+        }
+        return right > left;
+    };
+    label.setStringValue("abc");
+    EXPECT_FALSE(inkIsOnTheRight(label));
+    Label mirrored;
+    mirrored.setLayoutDirection(Qt::RightToLeft);
+    mirrored.setStringValue("abc");
+    EXPECT_TRUE(inkIsOnTheRight(mirrored));
+}
+
 TEST_F(LabelTest, WhoNamesTheRowAfterItsTitleGetsTheTextItself)
 {
     QString told;

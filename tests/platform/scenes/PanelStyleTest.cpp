@@ -1,11 +1,12 @@
 #include "platform/linux/look/PanelStyle.h"
+#include "platform/linux/scenes/CheckBox.h"
 #include "platform/linux/scenes/PushButton.h"
 #include "platform/linux/scenes/RowList.h"
 #include "platform/linux/scenes/ScrollPane.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
 #include <QProgressBar>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -47,15 +48,15 @@ protected:
     }
 
     static QColor colorAt(QWidget& widget, QPoint at) { return widget.grab().toImage().pixelColor(at); }
-    /// Of the middle of a button's left edge.
-    static QColor outlineOf(QWidget& button) { return colorAt(button, {0, button.height() / 2}); }
-    /// Of the corner of an area's scroll bar, beside its handle.
+    /// Of the middle of a button's left edge, where the ring around it is.
+    static QColor ringOf(QWidget& button) { return colorAt(button, {0, button.height() / 2}); }
+    /// Of the edge of an area's scroll bar beside its handle, as the window shows it.
     QColor grooveOf(QAbstractScrollArea& area)
     {
         QScrollBar* bar = area.verticalScrollBar();
         bar->setStyle(&style);
         bar->setRange(0, 1000);
-        return colorAt(*bar, {0, bar->height() - 1});
+        return colorAt(window, bar->mapTo(&window, QPoint(1, bar->height() - bar->height() / 4)));
     }
 
     const QColor windowColor{250, 240, 230};
@@ -124,17 +125,84 @@ TEST_F(PanelStyleFixture, ABarFillsFromWhereReadingBegins)
     EXPECT_TRUE(isFilled(0.05));
 }
 
-TEST_F(PanelStyleFixture, TheButtonWithTheFocusIsToldByItsOutline)
+TEST_F(PanelStyleFixture, TheButtonWithTheFocusHasARingWhileTheKeyboardIsUsed)
 {
+    style.polish(qApp);
     auto* one = add<PushButton>();
     auto* other = add<PushButton>();
     show();
-    one->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(outlineOf(*one), highlight);
-    EXPECT_NE(outlineOf(*other), highlight);
-    other->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(outlineOf(*other), highlight);
-    EXPECT_NE(outlineOf(*one), highlight);
+    QTest::mouseClick(one, Qt::LeftButton);
+    one->setFocus(Qt::MouseFocusReason);
+    EXPECT_NE(ringOf(*one), highlight);
+    QTest::keyClick(one, Qt::Key_Tab);
+    EXPECT_EQ(ringOf(*other), highlight);
+    EXPECT_NE(ringOf(*one), highlight);
+    QTest::keyClick(other, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(ringOf(*one), highlight);
+    // A window that comes then shows it too.
+    QWidget next;
+    PushButton button(&next);
+    button.setStyle(&style);
+    next.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&next));
+    button.setFocus(Qt::OtherFocusReason);
+    button.setPalette(window.palette());
+    EXPECT_EQ(ringOf(button), highlight);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_NE(ringOf(button), highlight);
+    style.unpolish(qApp);
+}
+
+TEST_F(PanelStyleFixture, ThePrimaryButtonIsFilled)
+{
+    auto* plain = add<PushButton>();
+    auto* primary = add<PushButton>();
+    primary->setProperty("primary", true);
+    show();
+    const auto fillOf = [](QWidget& button) { return colorAt(button, {12, button.height() / 2}); };
+    EXPECT_EQ(fillOf(*primary), highlight);
+    EXPECT_NE(fillOf(*plain), highlight);
+    primary->setEnabled(false);
+    EXPECT_NE(fillOf(*primary), highlight);
+}
+
+TEST_F(PanelStyleFixture, ACheckBoxIsWholeAndBesideItsTextInBothDirections)
+{
+    auto* box = add<CheckBox>();
+    box->setText(QStringLiteral("Some words"));
+    show();
+    QStyleOptionButton option;
+    const auto part = [&](QStyle::SubElement element) {
+        option.initFrom(box);
+        option.text = box->text();
+        return style.subElementRect(element, &option, box);
+    };
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        box->setLayoutDirection(direction);
+        const QRect square = part(QStyle::SE_CheckBoxIndicator);
+        const QRect words = part(QStyle::SE_CheckBoxContents);
+        EXPECT_TRUE(box->rect().contains(square));
+        const int between =
+            direction == Qt::LeftToRight ? words.left() - square.right() : square.left() - words.right();
+        EXPECT_GE(between, 1);
+        EXPECT_LE(between, 12);
+        const int outside = direction == Qt::LeftToRight ? square.left() : box->width() - 1 - square.right();
+        EXPECT_EQ(outside, 4);
+    }
+}
+
+TEST_F(PanelStyleFixture, ACheckBoxBeginsWhereTheTextAboveItDoes)
+{
+    window.setStyle(&style);
+    auto* words = new QLabel(QStringLiteral("Words"));
+    column->addWidget(words);
+    auto* box = add<CheckBox>();
+    box->setText(QStringLiteral("Some words"));
+    show();
+    QStyleOptionButton option;
+    option.initFrom(box);
+    const QRect square = style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
+    EXPECT_EQ(box->x() + square.x(), words->x());
 }
 
 TEST_F(PanelStyleFixture, AScrollBarHasTheColourOfWhatItScrolls)
@@ -180,18 +248,6 @@ TEST_F(PanelStyleFixture, TheMenuItemThatIsPointedToIsReadOnTheHighlight)
     EXPECT_GT(count(pointedTo, onHighlight), 0);
     EXPECT_NE(pointedTo.pixelColor(0, 0), highlight);
     EXPECT_EQ(count(pictureOf(second), highlight), 0);
-}
-
-TEST_F(PanelStyleFixture, TheMenuBarHasALineBelowAllOfIt)
-{
-    auto* bar = add<QMenuBar>();
-    bar->addMenu(QStringLiteral("First"));
-    show();
-
-    const QImage picture = bar->grab().toImage();
-    const QImage below = picture.copy(0, picture.height() - 1, picture.width(), 1);
-    EXPECT_EQ(count(below, below.pixelColor(0, 0)), picture.width());
-    EXPECT_NE(below.pixelColor(0, 0), windowColor);
 }
 
 TEST_F(PanelStyleFixture, AListsHeaderIsDividedFromItsRowsByALine)

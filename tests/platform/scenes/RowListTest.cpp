@@ -1,6 +1,7 @@
 #include "platform/linux/scenes/RowList.h"
 #include "platform/linux/look/PanelStyle.h"
 #include "platform/linux/scenes/CheckBox.h"
+#include "platform/linux/scenes/ImageStore.h"
 #include "platform/linux/scenes/ImageWidget.h"
 #include "platform/linux/scenes/Label.h"
 #include "platform/linux/scenes/PushButton.h"
@@ -12,6 +13,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDialog>
+#include <QDir>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -37,7 +39,8 @@ protected:
         layout->addWidget(&list);
         layout->addWidget(&after);
         list.setProperty("hiddenInRows", QStringLiteral("btnDelete"));
-        list.setEmptyText(QStringLiteral("Nothing here."));
+        list.setProperty("emptyState", QStringLiteral("empty"));
+        list.setProperty("hiddenWhenEmpty", QStringLiteral("explanation"));
         list.setDataSource(this);
         list.setDelegate(this);
         list.setRowMaker([this](std::string_view identifier) { return makeRow(identifier); });
@@ -73,7 +76,10 @@ protected:
         auto* cell = dynamic_cast<tblcell*>(table.makeViewWithIdentifier_owner("tblcell", nullptr));
         if (row == emptyRow)
             return nullptr;
-        cell->lbltitle->setStringValue("Row " + std::to_string(row));
+        cell->lbltitle->setStringValue(paths.empty() ? "Row " + std::to_string(row) : paths.at(std::size_t(row)));
+        if (missingRow >= 0)
+            cell->imgview->setImage(row == missingRow ? ImageStore::missingItem()
+                                                      : ImageStore::themeImage({QStringLiteral("folder")}));
         const bool on = states.at(static_cast<std::size_t>(row));
         cell->btnDelete->setTag(row);
         cell->btnDelete->setAction([this](NS::Control& sender) {
@@ -124,7 +130,9 @@ protected:
     RowList list;
     QPushButton after;
     std::vector<bool> states;
+    std::vector<std::string> paths;
     std::ptrdiff_t emptyRow = -1;
+    std::ptrdiff_t missingRow = -1;
     int rowViewsMade = 0;
 };
 
@@ -459,17 +467,78 @@ TEST_F(RowListFixture, WhoGoesElsewhereBeginsAnewToType)
     EXPECT_EQ(focusedTitle(), QStringLiteral("Row 4"));
 }
 
-TEST_F(RowListFixture, AnEmptyListSaysSoInWords)
+TEST_F(RowListFixture, AnEmptyListGivesItsPlaceToWhatShowsInstead)
 {
+    QWidget empty(&window);
+    empty.setObjectName(QStringLiteral("empty"));
+    QWidget explanation(&window);
+    explanation.setObjectName(QStringLiteral("explanation"));
     show(0);
-    auto* words = list.viewport()->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
-    ASSERT_NE(words, nullptr);
-    EXPECT_TRUE(words->isVisible());
-    EXPECT_EQ(words->text(), QStringLiteral("Nothing here."));
+    EXPECT_TRUE(empty.isVisible());
+    EXPECT_FALSE(list.isVisible());
+    EXPECT_FALSE(explanation.isVisible());
     states.assign(1, false);
     list.reloadData();
-    EXPECT_FALSE(words->isVisible());
+    EXPECT_FALSE(empty.isVisible());
+    EXPECT_TRUE(list.isVisible());
+    EXPECT_TRUE(explanation.isVisible());
     EXPECT_EQ(list.rowsInSight().size(), 1);
+}
+
+TEST_F(RowListFixture, AListIsAsHighAsItsRowsWhereThereIsRoom)
+{
+    show(3, 600);
+    const auto heightOf = [&](int rows) { return rows * list.rowsInSight().front()->height() + 2; };
+    const auto hasRows = [&](int rows) {
+        return QTest::qWaitFor([&, rows] { return list.height() == heightOf(rows); });
+    };
+    EXPECT_GE(list.rowsInSight().front()->height(), 44);
+    EXPECT_TRUE(hasRows(3));
+    states.assign(5, false);
+    list.reloadData();
+    EXPECT_TRUE(hasRows(5));
+    states.assign(100, false);
+    list.reloadData();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.height() > heightOf(5); }));
+    EXPECT_LT(list.height(), 600);
+}
+
+TEST_F(RowListFixture, ARowOfAFolderShowsItsNameAndItsPathAndThatItIsNotThere)
+{
+    list.setProperty("showsFolders", true);
+    const std::string home = QDir::homePath().toStdString();
+    paths = {"/srv/Projects", home + "/Pictures/", home, "/"};
+    missingRow = 0;
+    show(4, 400);
+    const auto textOf = [&](int row, const char* label) {
+        auto* found = list.rowsInSight().at(row)->findChild<Label*>(QLatin1String(label));
+        return found->isVisible() ? found->text() : QString();
+    };
+    EXPECT_EQ(textOf(0, "lbltitle"), QStringLiteral("Projects"));
+    EXPECT_EQ(textOf(0, "lblsubtitle"), QStringLiteral("/srv/Projects"));
+    EXPECT_EQ(textOf(1, "lbltitle"), QStringLiteral("Pictures"));
+    EXPECT_EQ(textOf(1, "lblsubtitle"), QStringLiteral("~/Pictures/"));
+    EXPECT_EQ(textOf(2, "lblsubtitle"), QStringLiteral("~"));
+    EXPECT_EQ(textOf(3, "lbltitle"), QStringLiteral("/"));
+    EXPECT_EQ(textOf(0, "lblmissing"), QStringLiteral("Not found"));
+    EXPECT_EQ(textOf(1, "lblmissing"), QString());
+    EXPECT_EQ(list.rowsInSight().front()->accessibleName(), QStringLiteral("/srv/Projects"));
+    missingRow = 1;
+    list.reloadData();
+    EXPECT_EQ(textOf(0, "lblmissing"), QString());
+    EXPECT_EQ(textOf(1, "lblmissing"), QStringLiteral("Not found"));
+}
+
+TEST_F(RowListFixture, ARowsTextBeginsBesideItsPictureInBothDirections)
+{
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        window.setLayoutDirection(direction);
+        show(1);
+        QCoreApplication::processEvents();
+        const RowWidget* row = list.rowsInSight().front();
+        const bool isMirrored = direction == Qt::RightToLeft;
+        EXPECT_EQ(row->findChild<ImageWidget*>()->x() > row->findChild<CheckBox*>()->x(), isMirrored);
+    }
 }
 
 TEST_F(RowListFixture, AListThatShrinksShowsNoRowOfBefore)
@@ -505,14 +574,6 @@ TEST_F(RowListFixture, ARowThatTheDelegateHasNoViewForAnyMoreDisappears)
     for (const RowWidget* row : list.viewport()->findChildren<RowWidget*>())
         visible += row->isVisible() ? 1 : 0;
     EXPECT_EQ(visible, 2);
-}
-
-TEST_F(RowListFixture, AssistiveProgramsFindTheWordsOfAnEmptyList)
-{
-    show(0);
-    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&list);
-    ASSERT_EQ(face->childCount(), 1);
-    EXPECT_EQ(face->child(0)->text(QAccessible::Name), QStringLiteral("Nothing here."));
 }
 
 TEST_F(RowListFixture, ARowThatTheDelegateHasNoViewForStaysEmpty)

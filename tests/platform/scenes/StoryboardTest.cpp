@@ -1,22 +1,32 @@
 #include "platform/TabViewController.h"
 #include "platform/TableView.h"
 #include "platform/WindowController.h"
+#include "platform/linux/look/Appearance.h"
 #include "platform/linux/scenes/ImageStore.h"
 #include "platform/linux/scenes/Label.h"
 #include "platform/linux/scenes/MainWindow.h"
+#include "platform/linux/scenes/MenuButton.h"
 #include "platform/linux/scenes/PushButton.h"
 #include "platform/linux/scenes/RowList.h"
 #include "platform/linux/scenes/RowWidget.h"
 #include "platform/linux/scenes/SceneConnections.h"
+#include "platform/linux/scenes/ScrollPane.h"
 #include "platform/linux/scenes/TabPages.h"
 #include "platform/linux/scenes/WidgetScene.h"
 #include "platform/linux/scenes/WidgetStoryboard.h"
 #include "ui/tblcell.h"
 
 #include <QAction>
+#include <QMenu>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTabBar>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace {
 
@@ -219,6 +229,71 @@ TEST_F(StoryboardFixture, EnterPressesTheButtonThatHasTheKeyboard)
     QTest::keyClick(&button, Qt::Key_Enter);
     QTest::keyClick(&button, Qt::Key_Space);
     EXPECT_EQ(pressed, 3);
+}
+
+TEST_F(StoryboardFixture, TheMenuAtTheEndOfTheTabsHasTheEntriesOfTheWindow)
+{
+    const auto window = make<Window>("mainStartWindow");
+    window->window->setContentViewController(make<NS::TabViewController>("tabviewcontroller"));
+    window->showWindow();
+    QWidget& root = WidgetScene::rootOf(*window);
+    auto* button = root.findChild<MenuButton*>();
+    ASSERT_NE(button, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&root));
+
+    QStringList entries;
+    QTimer::singleShot(0, button, [&] {
+        for (const QAction* entry : button->menu()->actions()) {
+            if (button->menu()->isVisible() && !entry->isSeparator())
+                entries.append(entry->text().remove(u'&'));
+        }
+        button->menu()->close();
+    });
+    QTest::keyClick(&root, Qt::Key_F10);
+
+    EXPECT_EQ(entries, (QStringList{QStringLiteral("About Orvik Menu"), QStringLiteral("Close Window"),
+                                    QStringLiteral("Quit Orvik Menu")}));
+}
+
+TEST_F(StoryboardFixture, TabsAndPageBeginAndEndAtTheSameEdgesAndPagesDoNotBecomeTooWide)
+{
+    applyAppearance(ColorScheme::Light);
+    const auto window = make<Window>("mainStartWindow");
+    window->window->setContentViewController(make<NS::TabViewController>("tabviewcontroller"));
+    QWidget& root = WidgetScene::rootOf(*window);
+    for (const int width : {440, 600, 1200}) {
+        root.resize(width, 600);
+        window->showWindow();
+        QCoreApplication::processEvents();
+        const auto* list = root.findChild<RowList*>();
+        const auto* bar = root.findChild<QTabBar*>();
+        const int edge = list->mapTo(&root, QPoint()).x();
+        const int padding = bar->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, bar) / 2;
+        EXPECT_EQ(bar->mapTo(&root, bar->tabRect(0).topLeft()).x() + padding, edge) << width;
+        const auto* button = root.findChild<MenuButton*>();
+        EXPECT_EQ(button->mapTo(&root, QPoint(button->width() - MenuButton::padding, 0)).x(), edge + list->width())
+            << width;
+        EXPECT_LE(list->width(), 640) << width;
+        EXPECT_LE(std::abs(root.width() - 2 * edge - list->width()), 1) << width;
+        EXPECT_LE(bar->tabRect(bar->count() - 1).right(), bar->width()) << width;
+    }
+}
+
+TEST_F(StoryboardFixture, TheWindowOfTheFirstRunHasRoomForAllOfItAndNoMore)
+{
+    applyAppearance(ColorScheme::Light);
+    classes.controllers["firstRunvc"] = [] { return std::make_shared<NS::ViewController>(); };
+    responders["btnsystemPrefrences:"] = [](NS::Control&) {};
+    responders["btnselectfolder:"] = [](NS::Control&) {};
+    const auto window = make<Window>("mainStartWindow");
+    window->window->setContentViewController(make<NS::ViewController>("firstRunvc"));
+    window->showWindow();
+    QCoreApplication::processEvents();
+    const auto* pane = WidgetScene::rootOf(*window).findChild<ScrollPane*>();
+
+    EXPECT_EQ(pane->verticalScrollBar()->maximum(), 0);
+    constexpr int oneLine = 24;
+    EXPECT_LE(pane->viewport()->height(), pane->widget()->heightForWidth(pane->widget()->width()) + oneLine);
 }
 
 TEST_F(StoryboardFixture, SelectingATabThatDoesNotExistIsFatal)

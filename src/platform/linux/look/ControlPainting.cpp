@@ -11,6 +11,8 @@ namespace {
 
 constexpr qreal smallRadius = 4.0;
 constexpr qreal radius = 6.0;
+constexpr qreal sheetRadius = 10.0;
+constexpr qreal ringWidth = 2.0;
 constexpr qreal barThickness = 8.0;
 
 /// The painter for smooth shapes, and as it was before afterwards.
@@ -55,6 +57,21 @@ bool hasFocus(const QStyleOption& option)
 
 } // namespace
 
+void drawSheet(const QRect& rect, const QPalette& palette, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    painter.setPen(dividingLine(palette));
+    painter.setBrush(palette.color(QPalette::Base));
+    painter.drawRoundedRect(outlineOf(rect, 1.0), sheetRadius, sheetRadius);
+}
+
+QPainterPath insideOfSheet(const QRect& rect)
+{
+    QPainterPath inside;
+    inside.addRoundedRect(QRectF(rect).adjusted(1, 1, -1, -1), sheetRadius - 1, sheetRadius - 1);
+    return inside;
+}
+
 void drawCheckBox(const QStyleOption& option, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
@@ -63,7 +80,7 @@ void drawCheckBox(const QStyleOption& option, QPainter& painter)
     QColor fill = on ? palette.color(QPalette::Highlight) : palette.color(QPalette::Base);
     if (isPressed(option))
         fill = mixed(fill, palette.color(QPalette::Text), 0.15F);
-    const bool emphasized = on || isHovered(option) || hasFocus(option);
+    const bool emphasized = on || isHovered(option);
     painter.setPen(QPen(emphasized ? palette.color(QPalette::Highlight) : controlOutline(palette), 1.5));
     painter.setBrush(fill);
     const QRectF box = outlineOf(option.rect, 1.5);
@@ -76,26 +93,37 @@ void drawCheckBox(const QStyleOption& option, QPainter& painter)
     painter.drawPolyline(QPolygonF{{point(0.25, 0.53), point(0.43, 0.71), point(0.76, 0.31)}});
 }
 
-void drawButton(const QStyleOptionButton& option, QPainter& painter)
+void drawButton(const QStyleOptionButton& option, bool isPrimary, QPainter& painter)
 {
     const QPalette& palette = option.palette;
     const bool flat = option.features & QStyleOptionButton::Flat;
     if (flat && !isHovered(option) && !isPressed(option))
         return;
     const SmoothPainter smooth(painter);
-    QColor fill = palette.color(QPalette::Button);
+    const bool isFilled = isPrimary && (option.state & QStyle::State_Enabled);
+    QColor fill = palette.color(isFilled ? QPalette::Highlight : QPalette::Button);
+    const QColor& text = palette.color(isFilled ? QPalette::WindowText : QPalette::ButtonText);
     if (isPressed(option))
-        fill = mixed(fill, palette.color(QPalette::ButtonText), 0.16F);
+        fill = mixed(fill, text, isFilled ? 0.3F : 0.16F);
     else if (isHovered(option))
-        fill = mixed(fill, palette.color(QPalette::ButtonText), 0.06F);
-    const bool isDefault = option.features & QStyleOptionButton::DefaultButton;
-    const bool emphasized = isDefault || isHovered(option) || hasFocus(option);
-    const QColor outline = emphasized ? palette.color(QPalette::Highlight) : controlOutline(palette);
-    const qreal width = hasFocus(option) ? 2.0 : isDefault ? 1.5 : 1.0;
-    if (!flat)
-        painter.setPen(QPen(option.state & QStyle::State_Enabled ? outline : dividingLine(palette), width));
+        fill = mixed(fill, text, isFilled ? 0.14F : 0.06F);
+    if (!flat && !isFilled) {
+        const QColor outline = isHovered(option) ? palette.color(QPalette::Highlight) : controlOutline(palette);
+        painter.setPen(option.state & QStyle::State_Enabled ? outline : dividingLine(palette));
+    }
     painter.setBrush(fill);
-    painter.drawRoundedRect(outlineOf(option.rect, width), radius, radius);
+    painter.drawRoundedRect(isFilled ? QRectF(option.rect) : outlineOf(option.rect, 1.0), radius, radius);
+}
+
+void drawToolButton(const QStyleOption& option, QPainter& painter)
+{
+    const bool isDown = option.state & (QStyle::State_Sunken | QStyle::State_On);
+    if (!isDown && !isHovered(option))
+        return;
+    const SmoothPainter smooth(painter);
+    painter.setBrush(mixed(option.palette.color(QPalette::Window), option.palette.color(QPalette::WindowText),
+                           isDown ? 0.16F : 0.08F));
+    painter.drawRoundedRect(option.rect, radius, radius);
 }
 
 void drawTab(const QStyleOption& option, QPainter& painter)
@@ -110,8 +138,9 @@ void drawTab(const QStyleOption& option, QPainter& painter)
         constexpr qreal thickness = 3.0;
         const QRectF tab(option.rect);
         painter.setBrush(palette.color(QPalette::Highlight));
-        painter.drawRoundedRect(QRectF(tab.left() + 10, tab.bottom() - thickness, tab.width() - 20, thickness),
-                                thickness / 2.0, thickness / 2.0);
+        painter.drawRoundedRect(
+            QRectF(tab.left() + tabPadding, tab.bottom() - thickness, tab.width() - 2 * tabPadding, thickness),
+            thickness / 2.0, thickness / 2.0);
     }
 }
 
@@ -127,12 +156,13 @@ void drawLineEdit(const QStyleOption& option, QPainter& painter)
 
 void drawFrame(const QStyleOption& option, QPainter& painter, bool filled)
 {
+    if (filled) {
+        drawSheet(option.rect, option.palette, painter);
+        return;
+    }
     const SmoothPainter smooth(painter);
-    painter.setPen(QPen(dividingLine(option.palette), 1.0));
-    if (filled)
-        painter.setBrush(option.palette.color(QPalette::Base));
-    const qreal corner = filled ? 2.0 * smallRadius : 2.0;
-    painter.drawRoundedRect(outlineOf(option.rect, 1.0), corner, corner);
+    painter.setPen(dividingLine(option.palette));
+    painter.drawRoundedRect(outlineOf(option.rect, 1.0), 2.0, 2.0);
 }
 
 void drawOutline(const QStyleOption& option, const QRect& part, QPainter& painter)
@@ -145,8 +175,17 @@ void drawOutline(const QStyleOption& option, const QRect& part, QPainter& painte
 void drawFocus(const QStyleOption& option, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
-    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2.0));
-    painter.drawRoundedRect(outlineOf(option.rect, 2.0), smallRadius, smallRadius);
+    painter.setPen(QPen(option.palette.color(QPalette::Highlight), ringWidth));
+    painter.drawRoundedRect(outlineOf(option.rect, ringWidth), smallRadius, smallRadius);
+}
+
+void drawFocusAround(const QStyleOption& option, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    painter.setPen(QPen(option.palette.color(QPalette::Highlight), ringWidth));
+    const QRect ring = option.rect.adjusted(-focusRoom, -focusRoom, focusRoom, focusRoom);
+    const qreal corner = radius + focusRoom - ringWidth / 2.0;
+    painter.drawRoundedRect(outlineOf(ring, ringWidth), corner, corner);
 }
 
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
@@ -164,13 +203,6 @@ void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
     constexpr int inset = 6;
     const int edge = option.direction == Qt::LeftToRight ? option.rect.right() : option.rect.left();
     painter.fillRect(QRect(edge, option.rect.top() + inset, 1, option.rect.height() - 2 * inset), line);
-}
-
-void drawMenuBar(const QStyleOption& option, QPainter& painter)
-{
-    painter.fillRect(option.rect, option.palette.window());
-    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
-                     dividingLine(option.palette));
 }
 
 void drawMenuHighlight(const QStyleOption& option, QPainter& painter)

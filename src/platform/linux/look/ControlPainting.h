@@ -1,24 +1,40 @@
 #pragma once
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleOption>
 
 /// How the panel's style draws controls, from the palette of the option.
 namespace LinuxDesktop::ControlPainting {
 
+/// The room that a control leaves for the ring which shows that it has the keyboard.
+inline constexpr int focusRoom = 4;
+/// Between a tab's edge and its text.
+inline constexpr int tabPadding = 8;
+
+/// A sheet with round corners, for what belongs together.
+void drawSheet(const QRect& rect, const QPalette& palette, QPainter& painter);
+/// What lies within a sheet, for what is painted up to its edge.
+[[nodiscard]] QPainterPath insideOfSheet(const QRect& rect);
+
 void drawCheckBox(const QStyleOption& option, QPainter& painter);
-void drawButton(const QStyleOptionButton& option, QPainter& painter);
+/// `isPrimary` for the one that a person most likely wants.
+void drawButton(const QStyleOptionButton& option, bool isPrimary, QPainter& painter);
+/// A button that is nothing but its picture.
+void drawToolButton(const QStyleOption& option, QPainter& painter);
 void drawTab(const QStyleOption& option, QPainter& painter);
 void drawLineEdit(const QStyleOption& option, QPainter& painter);
 /// The frame around a list or a group of controls; `filled` with the base colour.
 void drawFrame(const QStyleOption& option, QPainter& painter, bool filled);
 /// The outline of a part of a control.
 void drawOutline(const QStyleOption& option, const QRect& part, QPainter& painter);
+/// A ring inside the option's rectangle.
 void drawFocus(const QStyleOption& option, QPainter& painter);
+/// A ring around a control that leaves `focusRoom` for it.
+void drawFocusAround(const QStyleOption& option, QPainter& painter);
 /// Behind the title of a list's column.
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter);
-void drawMenuBar(const QStyleOption& option, QPainter& painter);
-/// Behind a menu's or a menu bar's item that is pointed to.
+/// Behind a menu's item that is pointed to.
 void drawMenuHighlight(const QStyleOption& option, QPainter& painter);
 /// A bar of work without its words. Where the end is not known a piece goes to and fro as `busyWay` goes from 0 to 1.
 void drawProgress(const QStyleOptionProgressBar& option, qreal busyWay, QPainter& painter);

@@ -4,10 +4,13 @@
 #include "platform/linux/look/ThemeColors.h"
 
 #include <QAbstractScrollArea>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QStyleOption>
 #include <QTabBar>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 
 namespace LinuxDesktop {
@@ -15,19 +18,47 @@ namespace LinuxDesktop {
 namespace {
 
 constexpr int boxExtent = 18;
-/// Between a checkbox and the outer edge of the ring that shows the focus.
-constexpr int focusRoom = 4;
+/// Between a checkbox and its text.
+constexpr int boxSpacing = 8;
 constexpr int scrollBarExtent = 10;
 constexpr int shortestScrollHandle = 32;
 
-/// The groove goes on what lies beside it.
-QPalette::ColorRole grooveRole(const QWidget* scrollBar)
+/// What a scroll bar's groove is filled with: what lies beside it, where that fills itself.
+QBrush grooveOf(const QWidget* scrollBar, const QPalette& palette)
 {
     for (const QWidget* each = scrollBar; each; each = each->parentWidget()) {
-        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(each))
-            return area->viewport()->backgroundRole();
+        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(each)) {
+            const QWidget& viewport = *area->viewport();
+            return viewport.autoFillBackground() ? palette.brush(viewport.backgroundRole()) : QBrush();
+        }
     }
-    return QPalette::Base;
+    return palette.base();
+}
+
+/// Whether the ring around what has the keyboard is to be seen: not by who uses the pointer.
+bool showsFocus(const QStyleOption& option)
+{
+    constexpr QStyle::State both = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    return (option.state & both) == both;
+}
+
+/// The button that a person most likely wants: what its property "primary" says, else a dialog's default button.
+bool isPrimary(const QStyleOptionButton& button, const QWidget* widget)
+{
+    const QVariant stated = widget ? widget->property("primary") : QVariant();
+    return stated.isValid() ? stated.toBool() : button.features.testFlag(QStyleOptionButton::DefaultButton);
+}
+
+QRect withoutFocusRoom(const QRect& rect)
+{
+    constexpr int room = ControlPainting::focusRoom;
+    return rect.adjusted(room, room, -room, -room);
+}
+
+bool isModifier(const QKeyEvent& pressed)
+{
+    constexpr std::array modifiers{Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_AltGr, Qt::Key_Meta};
+    return std::find(modifiers.begin(), modifiers.end(), pressed.key()) != modifiers.end();
 }
 
 /// Where a piece that goes to and fro is on its way at this moment, from 0 to 1.
@@ -77,7 +108,10 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         break;
     case PE_PanelButtonCommand:
         if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))
-            ControlPainting::drawButton(*button, *painter);
+            ControlPainting::drawButton(*button, isPrimary(*button, widget), *painter);
+        break;
+    case PE_PanelButtonTool:
+        ControlPainting::drawToolButton(*option, *painter);
         break;
     case PE_FrameLineEdit:
     case PE_PanelLineEdit:
@@ -94,7 +128,8 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
                           dividingLine(option->palette));
         break;
     case PE_FrameFocusRect:
-        ControlPainting::drawFocus(*option, *painter);
+        if (option->state & State_KeyboardFocusChange)
+            ControlPainting::drawFocus(*option, *painter);
         break;
     case PE_PanelScrollAreaCorner:
         break;
@@ -128,10 +163,19 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         QStyleOptionTab label(*tab);
         label.state &= ~State_HasFocus;
         QProxyStyle::drawControl(element, &label, painter, widget);
-        if (tab->state & State_HasFocus) {
+        if (showsFocus(*tab)) {
             label.rect.adjust(2, 4, -2, -6);
             ControlPainting::drawFocus(label, *painter);
         }
+    } else if (element == CE_PushButton && button) {
+        QStyleOptionButton part(*button);
+        part.rect = subElementRect(SE_PushButtonBevel, button, widget);
+        QProxyStyle::drawControl(CE_PushButtonBevel, &part, painter, widget);
+        if (isPrimary(*button, widget) && (button->state & State_Enabled))
+            part.palette.setColor(QPalette::ButtonText, button->palette.color(QPalette::HighlightedText));
+        QProxyStyle::drawControl(CE_PushButtonLabel, &part, painter, widget);
+        if (showsFocus(*button))
+            ControlPainting::drawFocusAround(part, *painter);
     } else if (element == CE_CheckBox && button) {
         // The base style asks itself where the parts are.
         QStyleOptionButton part(*button);
@@ -139,9 +183,9 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         ControlPainting::drawCheckBox(part, *painter);
         part.rect = subElementRect(SE_CheckBoxContents, button, widget);
         QProxyStyle::drawControl(CE_CheckBoxLabel, &part, painter, widget);
-        part.rect = subElementRect(SE_CheckBoxFocusRect, button, widget);
-        if (button->state & State_HasFocus)
-            ControlPainting::drawFocus(part, *painter);
+        part.rect = subElementRect(SE_CheckBoxIndicator, button, widget);
+        if (showsFocus(*button))
+            ControlPainting::drawFocusAround(part, *painter);
     } else if (element == CE_HeaderSection && header) {
         ControlPainting::drawHeaderSection(*header, *painter);
     } else if (element == CE_MenuItem && menuItem && menuItem->menuItemType != QStyleOptionMenuItem::Separator &&
@@ -149,19 +193,6 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         ControlPainting::drawMenuHighlight(*menuItem, *painter);
         const QStyleOptionMenuItem text = onHighlight(*menuItem);
         QProxyStyle::drawControl(element, &text, painter, widget);
-    } else if (element == CE_MenuBarEmptyArea) {
-        ControlPainting::drawMenuBar(*option, *painter);
-    } else if (element == CE_MenuBarItem && menuItem) {
-        ControlPainting::drawMenuBar(*menuItem, *painter);
-        const bool highlighted = menuItem->state & (State_Selected | State_Sunken);
-        if (highlighted)
-            ControlPainting::drawMenuHighlight(*menuItem, *painter);
-        const QStyleOptionMenuItem text = highlighted ? onHighlight(*menuItem) : *menuItem;
-        const auto mnemonic =
-            styleHint(SH_UnderlineShortcut, menuItem, widget) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
-        const int flags = Qt::AlignCenter | mnemonic | Qt::TextDontClip | Qt::TextSingleLine;
-        drawItemText(painter, text.rect, flags, text.palette, text.state & State_Enabled, text.text,
-                     QPalette::WindowText);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -172,6 +203,55 @@ void PanelStyle::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     if (qobject_cast<QTabBar*>(widget))
         widget->setAttribute(Qt::WA_Hover);
+}
+
+void PanelStyle::polish(QApplication* application)
+{
+    QProxyStyle::polish(application);
+    application->installEventFilter(this);
+}
+
+void PanelStyle::unpolish(QApplication* application)
+{
+    application->removeEventFilter(this);
+    QProxyStyle::unpolish(application);
+}
+
+bool PanelStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        if (!isModifier(*static_cast<QKeyEvent*>(event)))
+            followHands(true);
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
+        followHands(false);
+        break;
+    case QEvent::Show:
+        if (auto* window = qobject_cast<QWidget*>(watched); window && window->isWindow())
+            window->setAttribute(Qt::WA_KeyboardFocusChange, m_keyboardIsUsed);
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+/// The toolkit itself shows the ring from the first press of Tab on, and for ever.
+void PanelStyle::followHands(bool keyboardIsUsed)
+{
+    if (keyboardIsUsed == m_keyboardIsUsed)
+        return;
+    m_keyboardIsUsed = keyboardIsUsed;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->setAttribute(Qt::WA_KeyboardFocusChange, keyboardIsUsed);
+    if (QWidget* focused = QApplication::focusWidget()) {
+        focused->update();
+        // What has it may be painted by the view that it lies in.
+        if (const auto* area = qobject_cast<QAbstractScrollArea*>(focused))
+            area->viewport()->update();
+    }
 }
 
 void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -192,7 +272,7 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
             outlineParts(control, *option, *painter, widget);
         return;
     }
-    painter->fillRect(bar->rect, bar->palette.color(grooveRole(widget)));
+    painter->fillRect(bar->rect, grooveOf(widget, bar->palette));
     if (const QRect handle = scrollHandle(*bar); handle.isValid())
         ControlPainting::drawScrollHandle(*bar, handle, *painter);
 }
@@ -245,14 +325,23 @@ QRect PanelStyle::subElementRect(SubElement element, const QStyleOption* option,
     switch (element) {
     case SE_LineEditContents:
         return rect.adjusted(4, 0, -4, 0);
-    // The focus is shown around the box, with room between.
-    case SE_CheckBoxIndicator:
-        return QStyle::visualRect(option->direction, option->rect, rect.translated(focusRoom, 0));
+    // The focus is shown around the control, which layouts take for as large as it is without that.
+    case SE_PushButtonBevel:
+    case SE_PushButtonContents:
+        return withoutFocusRoom(rect);
+    case SE_PushButtonLayoutItem:
+        return withoutFocusRoom(option->rect);
+    case SE_CheckBoxLayoutItem:
+        return option->rect.adjusted(ControlPainting::focusRoom, 0, -ControlPainting::focusRoom, 0);
+    case SE_CheckBoxIndicator: {
+        const QRect box(option->rect.left() + ControlPainting::focusRoom,
+                        option->rect.top() + (option->rect.height() - boxExtent) / 2, boxExtent, boxExtent);
+        return QStyle::visualRect(option->direction, option->rect, box);
+    }
     case SE_CheckBoxContents:
-        return QStyle::visualRect(option->direction, option->rect, rect.adjusted(focusRoom, 0, 0, 0));
-    case SE_CheckBoxFocusRect:
-        return subElementRect(SE_CheckBoxIndicator, option, widget)
-            .adjusted(-focusRoom, -focusRoom, focusRoom, focusRoom);
+        return QStyle::visualRect(
+            option->direction, option->rect,
+            option->rect.adjusted(ControlPainting::focusRoom + boxExtent + boxSpacing, 0, 0, 0));
     default:
         return rect;
     }
@@ -261,16 +350,16 @@ QRect PanelStyle::subElementRect(SubElement element, const QStyleOption* option,
 QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const
 {
+    constexpr int around = 2 * ControlPainting::focusRoom;
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     switch (type) {
     case CT_PushButton:
-        return size + QSize(16, 6);
+        return size + QSize(16 + around, 6 + around);
     case CT_CheckBox:
-        return QSize(size.width() + 2 * focusRoom, std::max(size.height(), boxExtent + 2 * focusRoom));
+        return QSize(size.width() + around, std::max(size.height(), boxExtent + around));
     case CT_ItemViewItem:
     case CT_LineEdit:
         return size + QSize(0, 6);
-    case CT_MenuBarItem:
     case CT_MenuItem:
         return size + QSize(8, 4);
     case CT_TabBarTab:
@@ -287,7 +376,9 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_IndicatorHeight:
         return boxExtent;
     case PM_CheckBoxLabelSpacing:
-        return 8;
+        return boxSpacing;
+    case PM_TabBarTabHSpace:
+        return 2 * ControlPainting::tabPadding;
     case PM_HeaderMargin:
         return 5;
     case PM_ScrollBarExtent:

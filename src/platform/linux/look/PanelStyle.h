@@ -6,8 +6,9 @@
 
 namespace LinuxDesktop {
 
-/// The panel's own style: quiet outlines, round corners, room around texts, a focus that can be seen. It takes its
-/// colours from the palette.
+/// The panel's own style: quiet outlines, round corners, room around texts, a ring around what has the keyboard while
+/// the keyboard is used. It takes its colours from the palette. A button's property "primary" says whether it is
+/// filled, where that is not for the dialog to say.
 class PanelStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -18,7 +19,10 @@ public:
     void setMotion(Motion motion) { m_motion = motion; }
 
     using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
     void polish(QWidget* widget) override;
+    void polish(QApplication* application) override;
+    void unpolish(QApplication* application) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -34,11 +38,15 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
                   QStyleHintReturn* returned = nullptr) const override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void outlineParts(ComplexControl control, const QStyleOptionComplex& option, QPainter& painter,
                       const QWidget* widget) const;
+    void followHands(bool keyboardIsUsed);
 
     Motion m_motion = Motion::Full;
+    bool m_keyboardIsUsed = false;
 };
 
 } // namespace LinuxDesktop

@@ -96,6 +96,12 @@ QColor dividingLine(const QPalette& palette)
                  isHighContrast(palette) ? 0.6F : 0.16F);
 }
 
+QColor warningText(const QPalette& palette)
+{
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    return QColor::fromRgb(dark ? 0xfff0b24a : 0xff8f5200);
+}
+
 QColor mixed(const QColor& one, const QColor& other, float share)
 {
     const auto mix = [share](float from, float to) { return from + (to - from) * share; };

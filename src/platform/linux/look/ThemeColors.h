@@ -17,6 +17,8 @@ namespace LinuxDesktop {
 [[nodiscard]] QColor controlOutline(const QPalette& palette);
 /// A line that only divides; one that cannot be missed in a palette of high contrast.
 [[nodiscard]] QColor dividingLine(const QPalette& palette);
+/// Of words that tell of something that is wrong.
+[[nodiscard]] QColor warningText(const QPalette& palette);
 /// One colour with a share of another in it, from 0 to 1.
 [[nodiscard]] QColor mixed(const QColor& one, const QColor& other, float share);
 

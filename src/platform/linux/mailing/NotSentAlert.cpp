@@ -59,7 +59,6 @@ void show(const std::vector<std::string>& items, const QString& why)
 {
     auto* alert = new AlertDialog;
     alert->setWindowTitle(MailText::windowTitle);
-    alert->setIcon(QStringLiteral("dialog-warning"));
     alert->setMessage(Texts::tr("%1 was not sent.").arg(MailText::names(items)));
     alert->setInformation(why);
     alert->addButton(Texts::tr("OK"));

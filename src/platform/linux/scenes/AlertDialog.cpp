@@ -1,23 +1,23 @@
 #include "platform/linux/scenes/AlertDialog.h"
 
 #include "platform/linux/accessibility/Accessibility.h"
+#include "platform/linux/scenes/Label.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace LinuxDesktop {
 
 namespace {
 
-constexpr int iconExtent = 48;
+constexpr int iconExtent = 64;
 constexpr int textWidth = 380;
 
 QLabel* textLabel(QWidget* parent)
 {
-    auto* label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
+    auto* label = new Label(parent);
     label->setWordWrap(true);
     label->setFixedWidth(textWidth);
     label->hide();
@@ -32,14 +32,15 @@ void showText(QLabel& label, const QString& text)
 
 } // namespace
 
-AlertDialog::AlertDialog()
-    : m_icon(new QLabel(this)), m_message(textLabel(this)), m_information(textLabel(this)),
-      m_buttonRow(new QHBoxLayout)
+AlertDialog::AlertDialog() : m_message(textLabel(this)), m_information(textLabel(this)), m_buttonRow(new QHBoxLayout)
 {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
-    m_icon->setFixedSize(iconExtent, iconExtent);
+    setWindowTitle(tr("Orvik Menu"));
+    auto* icon = new QLabel(this);
+    icon->setFixedSize(iconExtent, iconExtent);
+    icon->setPixmap(QApplication::windowIcon().pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
     setAccessibleRole(*this, QAccessible::AlertMessage);
-    setAccessibleRole(*m_icon, QAccessible::NoRole);
+    setAccessibleRole(*icon, QAccessible::NoRole);
     setAccessibleRole(*m_message, QAccessible::Heading);
     tieWords(*m_information, *this);
 
@@ -49,8 +50,8 @@ AlertDialog::AlertDialog()
     texts->addWidget(m_information);
     texts->addStretch();
     auto* upper = new QHBoxLayout;
-    upper->setSpacing(16);
-    upper->addWidget(m_icon, 0, Qt::AlignTop);
+    upper->setSpacing(20);
+    upper->addWidget(icon, 0, Qt::AlignTop);
     upper->addLayout(texts);
 
     m_buttonRow->setSpacing(8);
@@ -61,11 +62,6 @@ AlertDialog::AlertDialog()
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(upper);
     layout->addLayout(m_buttonRow);
-}
-
-void AlertDialog::setIcon(const QString& iconName)
-{
-    m_icon->setPixmap(QIcon::fromTheme(iconName).pixmap(QSize(iconExtent, iconExtent), devicePixelRatioF()));
 }
 
 void AlertDialog::setMessage(const QString& text)
@@ -89,6 +85,8 @@ void AlertDialog::addButton(const QString& title)
     button->setText(title);
     button->setAutoDefault(true);
     button->setDefault(m_buttons.empty());
+    // The one that has the keyboard is the default button too, for as long as it has that.
+    button->setProperty("primary", m_buttons.empty());
     button->setAction([this](NS::Control&) { accept(); });
     // The default button stands at the far end.
     m_buttonRow->insertWidget(1, button);

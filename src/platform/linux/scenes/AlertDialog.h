@@ -12,15 +12,14 @@ class QHBoxLayout;
 
 namespace LinuxDesktop {
 
-/// The window of an alert. Escape and the window's own close button press the last button. Main thread.
+/// The window of an alert, with the application's name and icon. Escape and the window's own close button press the
+/// last button. Main thread.
 class AlertDialog : public QDialog, public NS::Sheet {
     Q_OBJECT
 
 public:
     AlertDialog();
 
-    /// `iconName` is one of the icon theme.
-    void setIcon(const QString& iconName);
     void setMessage(const QString& text);
     void setInformation(const QString& text);
     /// The first one is the default button. Without another action it accepts the dialog.
@@ -30,7 +29,6 @@ public:
     void reject() override;
 
 private:
-    QLabel* m_icon;
     QLabel* m_message;
     QLabel* m_information;
     QHBoxLayout* m_buttonRow;

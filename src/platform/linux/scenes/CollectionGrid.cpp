@@ -8,6 +8,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QScrollArea>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -142,8 +143,8 @@ void CollectionGrid::layOutCards()
     const FlowGeometry geometry = geometryFor(width());
     for (int index = 0; index < m_cards.size(); ++index) {
         const NS::Rect place = geometry.item(index);
-        m_cards.at(index)->setGeometry(qRound(place.x), qRound(place.y), qRound(place.size.width),
-                                       qRound(place.size.height));
+        const QRect card(qRound(place.x), qRound(place.y), qRound(place.size.width), qRound(place.size.height));
+        m_cards.at(index)->setGeometry(QStyle::visualRect(layoutDirection(), rect(), card));
     }
 }
 
@@ -172,11 +173,14 @@ qsizetype CollectionGrid::cardAfterKey(int key, qsizetype card) const
         return card / line == last / line ? card : std::min(card + distance, last);
     };
     const auto upBy = [&](qsizetype distance) { return card >= distance ? card - distance : card % line; };
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const qsizetype toTheRight = isMirrored ? card - 1 : card + 1;
+    const qsizetype toTheLeft = isMirrored ? card + 1 : card - 1;
     switch (key) {
     case Qt::Key_Left:
-        return std::max<qsizetype>(card - 1, 0);
+        return std::clamp<qsizetype>(toTheLeft, 0, last);
     case Qt::Key_Right:
-        return std::min(card + 1, last);
+        return std::clamp<qsizetype>(toTheRight, 0, last);
     case Qt::Key_Up:
         return upBy(line);
     case Qt::Key_Down:

@@ -112,7 +112,6 @@ void FolderDrops::tell(const QStringList& refusals)
     alert->setParent(m_list.window(), alert->windowFlags());
     alert->setWindowTitle(m_list.window()->windowTitle());
     alert->setWindowModality(Qt::WindowModal);
-    alert->setIcon(QStringLiteral("dialog-information"));
     const qsizetype count = refusals.size();
     if (count == 1) {
         alert->setMessage(refusals.first());

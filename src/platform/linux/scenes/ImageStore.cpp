@@ -6,30 +6,10 @@
 #include <QSvgRenderer>
 
 #include <algorithm>
-#include <array>
-#include <optional>
 
 namespace LinuxDesktop {
 
 namespace {
-
-struct TemplateImage {
-    std::string_view name;
-    /// Names in icon themes, best first. Our own drawing serves where the theme has none of them.
-    std::array<const char*, 2> themeNames;
-};
-
-constexpr std::array templateImages{
-    TemplateImage{NS::ImageNameActionTemplate, {"configure", "emblem-system-symbolic"}},
-    TemplateImage{NS::ImageNameAddTemplate, {"list-add", "list-add-symbolic"}},
-};
-
-const TemplateImage* templateNamed(std::string_view name)
-{
-    const auto* found = std::find_if(templateImages.begin(), templateImages.end(),
-                                     [&](const auto& image) { return image.name == name; });
-    return found == templateImages.end() ? nullptr : found;
-}
 
 /// In pixels.
 constexpr int smallestColouredIcon = 48;
@@ -44,12 +24,6 @@ QPixmap themeIcon(const QStringList& names, int extent, qreal scale)
             return icon.pixmap(QSize(extent, extent), scale);
     }
     return {};
-}
-
-QPixmap themeIcon(const TemplateImage& image, int extent, qreal scale)
-{
-    return themeIcon({QString::fromLatin1(image.themeNames[0]), QString::fromLatin1(image.themeNames[1])}, extent,
-                     scale);
 }
 
 QPixmap transparentSquare(int extent, qreal scale)
@@ -83,6 +57,11 @@ NS::Image ImageStore::themeImage(const QStringList& names)
     return NS::Image((themePrefix + names.join(u'/')).toStdString());
 }
 
+NS::Image ImageStore::missingItem()
+{
+    return themeImage({QStringLiteral("unknown"), QStringLiteral("text-x-generic")});
+}
+
 bool ImageStore::contains(std::string_view name) const
 {
     return QFileInfo::exists(pathOf(QString::fromUtf8(name)));
@@ -111,13 +90,9 @@ QPixmap ImageStore::draw(const QString& name, int extent, qreal scale, const QCo
         icon.setDevicePixelRatio(pixels / static_cast<qreal>(extent));
         return icon;
     }
-    const TemplateImage* image = templateNamed(name.toStdString());
-    if (!image)
-        return drawFile(pathOf(name), extent, scale);
-    QPixmap drawn = themeIcon(*image, extent, scale);
-    if (drawn.isNull())
-        drawn = drawFile(pathOf(name), extent, scale);
-    paint(drawn, tint);
+    QPixmap drawn = drawFile(pathOf(name), extent, scale);
+    if (name.endsWith(QLatin1String("-symbolic")))
+        paint(drawn, tint);
     return drawn;
 }
 

@@ -12,9 +12,8 @@
 
 namespace LinuxDesktop {
 
-/// The program's images, by the names that the code uses: SVG files in one folder, the two template images,
-/// which come from the desktop's icon theme where it has them, and the theme's own icons. Drawn when first shown,
-/// once a size. Main thread.
+/// The program's images, by the names that the code uses: SVG files in one folder, and the icons of the desktop's
+/// theme. Drawn when first shown, once a size. Main thread.
 class ImageStore {
 public:
     /// `folder` holds NAME.svg.
@@ -22,8 +21,11 @@ public:
 
     /// An icon of the desktop's theme: the first of `names` that the theme has.
     [[nodiscard]] static NS::Image themeImage(const QStringList& names);
+    /// That of an item which is not there.
+    [[nodiscard]] static NS::Image missingItem();
     [[nodiscard]] bool contains(std::string_view name) const;
-    /// A square of `extent` logical pixels at `scale` device pixels each. A template image comes in `tint`.
+    /// A square of `extent` logical pixels at `scale` device pixels each. One whose name ends in
+    /// "-symbolic" comes in `tint`.
     [[nodiscard]] QPixmap pixmap(const QString& name, int extent, qreal scale, const QColor& tint);
 
 private:

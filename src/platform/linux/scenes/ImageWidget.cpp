@@ -20,6 +20,11 @@ void ImageWidget::setImage(const std::optional<NS::Image>& image)
     update();
 }
 
+bool ImageWidget::shows(const NS::Image& image) const
+{
+    return m_name == QString::fromStdString(image.name());
+}
+
 void ImageWidget::paintEvent(QPaintEvent*)
 {
     if (m_name.isEmpty() || !m_store)

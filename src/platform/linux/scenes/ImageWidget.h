@@ -21,6 +21,7 @@ public:
     /// Where the pictures are drawn; must outlive the widget.
     void setStore(ImageStore& store) { m_store = &store; }
     void setImage(const std::optional<NS::Image>& image) override;
+    [[nodiscard]] bool shows(const NS::Image& image) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

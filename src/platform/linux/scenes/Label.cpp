@@ -128,9 +128,11 @@ void Label::paintEvent(QPaintEvent* event)
 
 void Label::paintCut(QPainter& painter)
 {
-    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()),
-                          foregroundRole());
+    // As the toolkit draws what is not cut: a path begins with its slash in any window.
+    const auto direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    style()->drawItemText(
+        &painter, contentsRect(), static_cast<int>(alignment()) | static_cast<int>(direction), palette(), isEnabled(),
+        fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()), foregroundRole());
 }
 
 bool Label::event(QEvent* event)
@@ -142,11 +144,15 @@ bool Label::event(QEvent* event)
         policy.setHeightForWidth(true);
         setSizePolicy(policy);
     }
+    // By itself it would go by the direction of its letters, away from what it belongs to.
+    if (event->type() == QEvent::Polish && layoutDirection() == Qt::RightToLeft)
+        setAlignment(QStyle::visualAlignment(Qt::RightToLeft, alignment()) | Qt::AlignAbsolute);
     if (event->type() == QEvent::ApplicationFontChange)
         setTextStyle(m_textStyle);
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    const QString tip = !m_toolTip.isEmpty() ? m_toolTip : isCut() ? text() : QString();
+    const QString& given = m_toolTip.isEmpty() ? m_wholeText : m_toolTip;
+    const QString tip = given.isEmpty() && isCut() ? text() : given;
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip.isEmpty() ? tip : wrapped(tip), this);
     return true;
 }

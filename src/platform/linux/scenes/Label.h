@@ -25,6 +25,11 @@ public:
     void setStringValue(std::string_view text) override;
     void setToolTip(std::string_view text) override;
 
+    /// The tool tip that was set, as it is shown.
+    [[nodiscard]] const QString& givenToolTip() const { return m_toolTip; }
+    /// What the text is a part of: the tool tip where none is set.
+    void setWholeText(const QString& text) { m_wholeText = text; }
+
     [[nodiscard]] const QString& textStyle() const { return m_textStyle; }
     void setTextStyle(const QString& style);
 
@@ -48,6 +53,7 @@ private:
     QString m_toolTip;
     QString m_subject;
     bool m_isAnnounced = false;
+    QString m_wholeText;
     bool m_isFileName = false;
 };
 

@@ -1,14 +1,19 @@
 #include "platform/linux/scenes/MainWindow.h"
 
 #include "platform/linux/look/FitToScreen.h"
+#include "platform/linux/scenes/ScrollPane.h"
 #include "platform/linux/scenes/WidgetScene.h"
 #include "platform/linux/scenes/WindowSizes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QLayout>
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace LinuxDesktop {
 
@@ -44,6 +49,34 @@ void MainWindow::setContentViewController(std::shared_ptr<NS::ViewController> co
     m_content = std::move(controller);
 }
 
+/// What is shown may ask for a window that has room for it and no more.
+void MainWindow::fitToContent()
+{
+    const QWidget* content = centralWidget();
+    const auto* pane = content ? content->findChild<ScrollPane*>() : nullptr;
+    if (!pane || !content->property("windowFitsContent").toBool())
+        return;
+    const QList<QWidget*> inside = content->findChildren<QWidget*>();
+    // Until then they do not know how large they are, and their layouts not before those within them.
+    for (const QWidget* part : inside)
+        part->ensurePolished();
+    for (auto part = inside.rbegin(); part != inside.rend(); ++part) {
+        if (QLayout* layout = (*part)->layout())
+            layout->activate();
+    }
+    const QWidget* scrolled = pane->widget();
+    // A pane that once had a scroll bar goes without it only where there is room for all with it.
+    const int room = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, pane);
+    int height = scrolled->heightForWidth(std::min(room, scrolled->maximumWidth()));
+    const QLayout* parts = content->layout();
+    for (int index = 0; index < parts->count(); ++index) {
+        QLayoutItem* part = parts->itemAt(index);
+        if (part->widget() != pane)
+            height += part->sizeHint().height();
+    }
+    resize(width(), height);
+}
+
 MainWindow::~MainWindow()
 {
     const QSize left = isMaximized() || isFullScreen() ? normalGeometry().size() : size();
@@ -61,6 +94,7 @@ void MainWindow::takeSize()
 void MainWindow::makeKeyAndOrderFront()
 {
     if (!testAttribute(Qt::WA_WState_Created)) {
+        fitToContent();
         m_designedSize = size();
         takeSize();
         create();

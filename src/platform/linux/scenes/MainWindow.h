@@ -30,6 +30,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void fitToContent();
     void takeSize();
     void noteInFront();
 

@@ -24,6 +24,7 @@ void Paragraph::paintCut(QPainter& painter)
     const QRect room = contentsRect();
     const QString whole = text();
     QTextLayout layout(whole, font());
+    layout.setTextOption(QTextOption(alignment()));
     layout.beginLayout();
     qreal top = 0.0;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
@@ -34,7 +35,8 @@ void Paragraph::paintCut(QPainter& painter)
             continue;
         // No line fits below this one, so it ends with what is left.
         const QString rest = fontMetrics().elidedText(whole.mid(line.textStart()), Qt::ElideRight, room.width());
-        painter.drawText(QPointF(room.left(), room.top() + line.y() + line.ascent()), rest);
+        painter.drawText(QRectF(room.left(), room.top() + line.y(), room.width(), line.height()),
+                         static_cast<int>((alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignTop), rest);
         break;
     }
     layout.endLayout();

@@ -1,11 +1,11 @@
 #include "platform/linux/scenes/RowList.h"
 
-#include "platform/linux/accessibility/Accessibility.h"
+#include "platform/linux/look/ControlPainting.h"
 #include "platform/linux/scenes/RowWidget.h"
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLabel>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
@@ -26,35 +26,17 @@ bool isByPerson(const QFocusEvent& event)
 
 } // namespace
 
-RowList::RowList(QWidget* parent) : QAbstractScrollArea(parent), m_emptyLabel(new QLabel(viewport()))
+RowList::RowList(QWidget* parent) : QAbstractScrollArea(parent)
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::TabFocus);
-    viewport()->setBackgroundRole(QPalette::Base);
-    viewport()->setAutoFillBackground(true);
-    m_emptyLabel->setAlignment(Qt::AlignCenter);
-    m_emptyLabel->setWordWrap(true);
-    m_emptyLabel->setTextFormat(Qt::PlainText);
-    m_emptyLabel->hide();
-    tieWords(*m_emptyLabel, *this);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    // The sheet is painted below the rows.
+    setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
+    viewport()->setAutoFillBackground(false);
 }
 
 RowList::~RowList() = default;
-
-QString RowList::emptyText() const
-{
-    return m_emptyLabel->text();
-}
-
-void RowList::setEmptyText(const QString& text)
-{
-    m_emptyLabel->setText(text);
-}
-
-QWidget& RowList::emptyLabel() const
-{
-    return *m_emptyLabel;
-}
 
 QList<RowWidget*> RowList::rowsInSight() const
 {
@@ -66,7 +48,7 @@ QList<RowWidget*> RowList::rowsInSight() const
 
 QSize RowList::sizeHint() const
 {
-    return {320, 240};
+    return {320, std::min(maximumHeight(), m_loaded ? QWIDGETSIZE_MAX : 240)};
 }
 
 void RowList::reloadData()
@@ -76,9 +58,9 @@ void RowList::reloadData()
     const bool hadFocus = focused && (focused == this || isAncestorOf(focused));
     const int rowsBefore = m_rowCount;
     m_rowCount = m_dataSource ? static_cast<int>(m_dataSource->numberOfRowsInTableView(*this)) : 0;
-    m_emptyLabel->setVisible(m_rowCount == 0);
-    describeByWords(*this);
     setSelectedRow(std::min(m_selectedRow, m_rowCount - 1));
+    showWhatThereIs();
+    fitHeight();
     updateScrollRange();
     layOutRows(Refill::AllRows);
     setCurrentRow(m_currentRow);
@@ -144,6 +126,8 @@ void RowList::fillRow(int row)
         else
             m_spareRows.push_back(widget);
     }
+    if (const auto filled = m_rows.find(row); m_showsFolders && filled != m_rows.end())
+        filled->second->showFolder();
     m_handedOut.clear();
     for (RowWidget* spare : m_spareRows)
         spare->hide();
@@ -223,7 +207,27 @@ void RowList::updateScrollRange()
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setSingleStep(std::max(height, 1));
     verticalScrollBar()->setRange(0, std::max(0, m_rowCount * height - viewport()->height()));
-    m_emptyLabel->setGeometry(viewport()->rect().adjusted(16, 16, -16, -16));
+}
+
+void RowList::fitHeight()
+{
+    if (m_rowCount == 0)
+        return;
+    const qint64 rows = qint64{m_rowCount} * rowHeight() + qint64{2} * frameWidth();
+    setMaximumHeight(static_cast<int>(std::min<qint64>(rows, QWIDGETSIZE_MAX)));
+    updateGeometry();
+}
+
+void RowList::showWhatThereIs()
+{
+    auto* instead = m_emptyState.isEmpty() ? nullptr : parentWidget()->findChild<QWidget*>(m_emptyState);
+    if (!instead)
+        return;
+    const bool isEmpty = m_rowCount == 0;
+    for (const QString& name : m_hiddenWhenEmpty.split(u' ', Qt::SkipEmptyParts))
+        parentWidget()->findChild<QWidget*>(name)->setHidden(isEmpty);
+    setHidden(isEmpty);
+    instead->setVisible(isEmpty);
 }
 
 int RowList::rowHeight()
@@ -232,8 +236,12 @@ int RowList::rowHeight()
     if (m_rowHeight == 0 && m_rowCount > 0) {
         if (m_rows.empty())
             fillRow(0);
-        if (!m_rows.empty())
-            m_rowHeight = m_rows.begin()->second->sizeHint().height();
+        if (!m_rows.empty()) {
+            const RowWidget& first = *m_rows.begin()->second;
+            // What was asked of it with another font is forgotten.
+            first.layout()->activate();
+            m_rowHeight = std::max(first.sizeHint().height(), first.minimumHeight());
+        }
     }
     return m_rowHeight;
 }
@@ -272,6 +280,7 @@ void RowList::showState(RowWidget& widget, int row) const
 {
     if (widget.isCurrent() != (row == m_currentRow))
         widget.setCurrent(row == m_currentRow);
+    widget.setLast(row == m_rowCount - 1);
     widget.setSelected(m_selectable ? std::optional(row == m_selectedRow) : std::nullopt);
 }
 
@@ -375,6 +384,15 @@ bool RowList::handlePointer(RowWidget& row, const QMouseEvent& event)
     return true;
 }
 
+bool RowList::event(QEvent* event)
+{
+    if (event->type() != QEvent::Paint)
+        return QAbstractScrollArea::event(event);
+    QPainter painter(this);
+    ControlPainting::drawSheet(rect(), palette(), painter);
+    return true;
+}
+
 bool RowList::eventFilter(QObject* watched, QEvent* event)
 {
     auto* row = qobject_cast<RowWidget*>(watched);
@@ -462,6 +480,7 @@ void RowList::changeEvent(QEvent* event)
     QAbstractScrollArea::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         m_rowHeight = 0;
+        fitHeight();
         updateScrollRange();
         layOutRows(Refill::NewRows);
     }

@@ -11,8 +11,6 @@
 #include <optional>
 #include <vector>
 
-class QLabel;
-
 namespace LinuxDesktop {
 
 class RowWidget;
@@ -20,11 +18,15 @@ class RowWidget;
 /// A list of a scene. It has row views for the rows in sight alone and uses those that leave sight again, so that
 /// a long list costs what a short one does. One row is current: Tab reaches its controls, the arrow keys, Home,
 /// End, the page keys and the first letters of a title move it. Where no row can be selected, a click on a row is one
-/// on its checkbox. Main thread.
+/// on its checkbox. The list is as high as its rows where there is room, and a sheet with round corners. Main thread.
 class RowList : public QAbstractScrollArea, public NS::TableView {
     Q_OBJECT
-    /// What an empty list says.
-    Q_PROPERTY(QString emptyText READ emptyText WRITE setEmptyText)
+    /// The name of the widget that shows in the place of an empty list, and of those that show with its rows only.
+    /// They lie beside the list.
+    Q_PROPERTY(QString emptyState MEMBER m_emptyState)
+    Q_PROPERTY(QString hiddenWhenEmpty MEMBER m_hiddenWhenEmpty)
+    /// Whether the rows are folders: each shows its name, its path below, and that it is not there.
+    Q_PROPERTY(bool showsFolders MEMBER m_showsFolders)
     /// Whether a row can be selected: it is whenever the user comes to it, by pointer or by keyboard.
     Q_PROPERTY(bool selectable MEMBER m_selectable)
 
@@ -44,11 +46,6 @@ public:
     std::ptrdiff_t selectedRow() const override { return m_selectedRow; }
     NS::TableCellView* makeViewWithIdentifier_owner(std::string_view identifier, NS::SceneObject* owner) override;
 
-    [[nodiscard]] QString emptyText() const;
-    void setEmptyText(const QString& text);
-
-    /// Shows the words while the list is empty.
-    [[nodiscard]] QWidget& emptyLabel() const;
     /// The rows in sight, from the top.
     [[nodiscard]] QList<RowWidget*> rowsInSight() const;
 
@@ -59,6 +56,7 @@ signals:
     void selectionChanged(bool isSelected);
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -77,6 +75,8 @@ private:
     void fillRow(int row);
     RowWidget* newRow(std::string_view identifier);
     void updateScrollRange();
+    void fitHeight();
+    void showWhatThereIs();
     void setCurrentRow(int row);
     void selectRow(int row);
     void setSelectedRow(int row);
@@ -110,7 +110,9 @@ private:
     std::vector<RowWidget*> m_spareRows;
     /// Row views handed out while a row is being filled.
     std::vector<RowWidget*> m_handedOut;
-    QLabel* m_emptyLabel;
+    QString m_emptyState;
+    QString m_hiddenWhenEmpty;
+    bool m_showsFolders = false;
 };
 
 } // namespace LinuxDesktop

@@ -1,21 +1,46 @@
 #include "platform/linux/scenes/RowWidget.h"
 
 #include "platform/linux/accessibility/Accessibility.h"
+#include "platform/linux/look/ControlPainting.h"
 #include "platform/linux/look/ThemeColors.h"
+#include "platform/linux/scenes/ImageStore.h"
+#include "platform/linux/scenes/ImageWidget.h"
 #include "platform/linux/scenes/Label.h"
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDir>
 #include <QEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
+
+#include <array>
 
 namespace LinuxDesktop {
 
 namespace {
 
 constexpr int selectionBarWidth = 3;
+constexpr int folderIconExtent = 32;
+
+/// The widgets that say that a folder is not there.
+constexpr std::array missingParts{"imgmissing", "lblmissing"};
+
+QString lastName(QString path)
+{
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    return path.size() > 1 ? path.mid(path.lastIndexOf(u'/') + 1) : path;
+}
+
+QString withoutHome(const QString& path)
+{
+    const QString home = QDir::homePath();
+    if (path != home && !path.startsWith(home + u'/'))
+        return path;
+    return u'~' + path.mid(home.size());
+}
 
 } // namespace
 
@@ -35,19 +60,60 @@ void RowWidget::prepare()
     }
     if (!m_checkBox)
         m_stops.prepend(this);
-    if (auto* title = findChild<Label*>()) {
-        connect(title, &Label::textChanged, this, [this, controls](const QString& text) {
+    m_title = findChild<Label*>();
+    if (m_title) {
+        connect(m_title, &Label::textChanged, this, [this, controls](const QString& text) {
             LinuxDesktop::setAccessibleName(*this, text);
             for (QAbstractButton* control : controls)
                 LinuxDesktop::setAccessibleName(
                     *control, control->text().isEmpty() ? text : tr("%1 %2").arg(control->text(), text));
         });
-        connect(title, &Label::toolTipChanged, this, [controls](const QString& text) {
+        connect(m_title, &Label::toolTipChanged, this, [controls](const QString& text) {
             for (QAbstractButton* control : controls)
                 LinuxDesktop::setAccessibleDescription(*control, text);
         });
     }
     setCurrent(false);
+}
+
+void RowWidget::showFolder()
+{
+    auto* subtitle = findChild<Label*>(QStringLiteral("lblsubtitle"));
+    auto* icon = findChild<ImageWidget*>(QStringLiteral("imgview"));
+    if (!m_title || !subtitle || !icon)
+        return;
+    const QString given = m_title->givenToolTip();
+    const QString path = given.isEmpty() ? m_title->text() : given;
+    m_title->setText(lastName(path));
+    m_title->setWholeText(path);
+    subtitle->setText(withoutHome(path));
+    subtitle->setWholeText(path);
+    subtitle->show();
+    icon->setFixedSize(folderIconExtent, folderIconExtent);
+    showMissing(icon->shows(ImageStore::missingItem()));
+}
+
+void RowWidget::showMissing(bool missing)
+{
+    for (const char* name : missingParts) {
+        auto* part = findChild<QWidget*>(QLatin1String(name));
+        if (missing) {
+            QPalette colors = palette();
+            colors.setColor(part->foregroundRole(), warningText(colors));
+            part->setPalette(colors);
+        }
+        part->setVisible(missing);
+    }
+    // Of a row only its controls are read.
+    const auto* words = findChild<Label*>(QLatin1String(missingParts.back()));
+    for (QWidget* stop : m_stops)
+        LinuxDesktop::setAccessibleDescription(*stop, missing ? words->text() : QString());
+}
+
+void RowWidget::setLast(bool last)
+{
+    m_isLast = last;
+    update();
 }
 
 void RowWidget::setCurrent(bool current)
@@ -73,20 +139,48 @@ void RowWidget::setSelected(std::optional<bool> selected)
     QAccessible::updateAccessibility(&event);
 }
 
+void RowWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    const auto* missing = findChild<QWidget*>(QLatin1String(missingParts.front()));
+    if (event->type() == QEvent::PaletteChange && missing)
+        showMissing(missing->isVisibleTo(this));
+}
+
+/// A part of the row from its beginning, within the round corners of the list.
+void RowWidget::fill(QPainter& painter, int width, const QColor& color) const
+{
+    const QWidget* list = parentWidget()->parentWidget();
+    const QRect sheet(mapFrom(list, QPoint()), list->size());
+    painter.setClipRect(QStyle::visualRect(layoutDirection(), rect(), QRect(0, 0, width, height())));
+    painter.fillPath(ControlPainting::insideOfSheet(sheet), color);
+    painter.setClipping(false);
+}
+
 void RowWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    QColor tint = palette().color(QPalette::Text);
+    painter.setRenderHint(QPainter::Antialiasing);
     if (m_selected.value_or(false)) {
         QColor selection = palette().color(QPalette::Highlight);
-        painter.fillRect(QRect(0, 0, selectionBarWidth, height() - 1), selection);
+        fill(painter, selectionBarWidth, selection);
         selection.setAlphaF(0.16F);
-        painter.fillRect(rect(), selection);
+        fill(painter, width(), selection);
     } else if (underMouse()) {
+        QColor tint = palette().color(QPalette::Text);
         tint.setAlphaF(0.05F);
-        painter.fillRect(rect(), tint);
+        fill(painter, width(), tint);
     }
-    painter.fillRect(QRect(0, height() - 1, width(), 1), dividingLine(palette()));
+    if (!m_isLast && m_title) {
+        // It begins where the texts do.
+        const QRect texts = m_title->geometry();
+        QRect line(0, height() - 1, width(), 1);
+        if (isRightToLeft())
+            line.setRight(texts.right());
+        else
+            line.setLeft(texts.left());
+        painter.fillRect(line, dividingLine(palette()));
+    }
     if (hasFocus()) {
         QStyleOptionFocusRect ring;
         ring.initFrom(this);

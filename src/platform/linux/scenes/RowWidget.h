@@ -11,6 +11,8 @@
 
 namespace LinuxDesktop {
 
+class Label;
+
 /// A row of a list: the widgets of the row's scene, and the cell that the list's screen fills. Main thread.
 class RowWidget : public QWidget {
     Q_OBJECT
@@ -32,6 +34,11 @@ public:
     /// What switches the row on and off; null where nothing does.
     [[nodiscard]] QAbstractButton* checkBox() const { return m_checkBox; }
 
+    /// Call when the row has been filled in a list of folders: shows the folder's name, and its path below.
+    void showFolder();
+    /// Nothing divides the last row from what follows.
+    void setLast(bool last);
+
     /// The row that the keyboard is on: its stops alone are reached with Tab.
     void setCurrent(bool current);
     [[nodiscard]] bool isCurrent() const { return m_current; }
@@ -41,12 +48,18 @@ public:
     [[nodiscard]] std::optional<bool> isSelected() const { return m_selected; }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void showMissing(bool missing);
+    void fill(QPainter& painter, int width, const QColor& color) const;
+
     std::unique_ptr<NS::TableCellView> m_cell;
     QList<QWidget*> m_stops;
     QAbstractButton* m_checkBox = nullptr;
+    Label* m_title = nullptr;
+    bool m_isLast = false;
     bool m_current = false;
     std::optional<bool> m_selected;
 };

@@ -5,6 +5,7 @@ namespace LinuxDesktop {
 ScrollPane::ScrollPane(QWidget* parent) : QScrollArea(parent)
 {
     setFocusPolicy(Qt::NoFocus);
+    setAlignment(Qt::AlignHCenter);
 }
 
 void ScrollPane::setBackgroundColor(NS::Color)

@@ -1,20 +1,29 @@
 #include "platform/linux/scenes/TabPages.h"
 
 #include "platform/FatalError.h"
+#include "platform/linux/scenes/MenuButton.h"
+#include "platform/linux/scenes/Page.h"
 #include "platform/linux/scenes/WidgetScene.h"
 
 #include <QAccessible>
+#include <QHBoxLayout>
 #include <QShortcut>
 #include <QShowEvent>
+#include <QStyle>
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace LinuxDesktop {
 
-TabPages::TabPages(QWidget* parent) : QTabWidget(parent)
+TabPages::TabPages(QWidget* parent)
+    : QTabWidget(parent), m_beforeTabs(new QHBoxLayout(new QWidget)), m_afterTabs(new QHBoxLayout(new QWidget))
 {
+    m_afterTabs->addWidget(new MenuButton);
+    setCornerWidget(m_beforeTabs->parentWidget(), Qt::TopLeftCorner);
+    setCornerWidget(m_afterTabs->parentWidget(), Qt::TopRightCorner);
     connect(this, &QTabWidget::currentChanged, this, [this] {
         if (isVisible())
             loadCurrentPage();
@@ -58,6 +67,17 @@ void TabPages::showEvent(QShowEvent* event)
     QTabWidget::showEvent(event);
 }
 
+void TabPages::resizeEvent(QResizeEvent* event)
+{
+    // The first tab's text begins where the pages do, and the menu ends where they do.
+    const int start = Page::contentStart(width());
+    const int padding = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabBar()) / 2;
+    m_beforeTabs->setContentsMargins(std::max(0, start - padding), 0, 0, 0);
+    const int end = start - MenuButton::padding;
+    m_afterTabs->setContentsMargins(isRightToLeft() ? QMargins(end, 0, 0, 0) : QMargins(0, 0, end, 0));
+    QTabWidget::resizeEvent(event);
+}
+
 void TabPages::loadCurrentPage()
 {
     QWidget* page = currentWidget();
@@ -68,7 +88,8 @@ void TabPages::loadCurrentPage()
         NS::fatalError("a tab names a scene that does not exist");
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins({});
-    layout->addWidget(&WidgetScene::rootOf(*screen));
+    QWidget& root = WidgetScene::rootOf(*screen);
+    layout->addWidget(&root, 0, qobject_cast<Page*>(&root) ? Qt::AlignHCenter : Qt::Alignment());
     m_screens.push_back(std::move(screen));
     // A page that had nothing in it yet was given the focus itself.
     if (page->hasFocus())

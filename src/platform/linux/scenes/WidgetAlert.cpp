@@ -1,7 +1,6 @@
 #include "platform/linux/scenes/WidgetAlert.h"
 
 #include "platform/linux/scenes/AlertDialog.h"
-#include "platform/linux/scenes/MainWindow.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -17,17 +16,9 @@ WidgetAlert::~WidgetAlert()
 
 AlertDialog& WidgetAlert::dialog()
 {
-    if (!m_dialog) {
+    if (!m_dialog)
         m_dialog = new AlertDialog;
-        setAlertStyle(NS::AlertStyle::Warning);
-    }
     return *m_dialog;
-}
-
-void WidgetAlert::setAlertStyle(NS::AlertStyle style)
-{
-    dialog().setIcon(style == NS::AlertStyle::Warning ? QStringLiteral("dialog-warning")
-                                                      : QStringLiteral("dialog-information"));
 }
 
 void WidgetAlert::setMessageText(std::string_view text)
@@ -59,9 +50,7 @@ NS::Sheet& WidgetAlert::window()
 void WidgetAlert::beginSheetModalForWindow(NS::Window& parent)
 {
     AlertDialog& sheet = dialog();
-    auto* window = dynamic_cast<QWidget*>(&parent);
-    sheet.setParent(window, sheet.windowFlags());
-    sheet.setWindowTitle(window->windowTitle());
+    sheet.setParent(dynamic_cast<QWidget*>(&parent), sheet.windowFlags());
     sheet.setWindowModality(Qt::WindowModal);
     QObject::connect(&sheet, &QDialog::finished, &sheet, &QObject::deleteLater);
     sheet.show();
@@ -71,9 +60,6 @@ void WidgetAlert::runModal()
 {
     const ModalState::Session session(m_modalState);
     AlertDialog& panel = dialog();
-    // Right after another modal window has gone, none is active.
-    if (const QWidget* window = MainWindow::front())
-        panel.setWindowTitle(window->windowTitle());
     panel.setWindowModality(Qt::ApplicationModal);
     panel.setAttribute(Qt::WA_QuitOnClose, false);
     panel.winId();

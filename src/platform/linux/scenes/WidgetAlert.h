@@ -17,7 +17,8 @@ public:
     /// A sheet that is up stays up, and goes when it is dismissed.
     ~WidgetAlert() override;
 
-    void setAlertStyle(NS::AlertStyle style) override;
+    /// Both styles look the same: a caution sign is for what is critical.
+    void setAlertStyle(NS::AlertStyle) override {}
     void setMessageText(std::string_view text) override;
     void setInformativeText(std::string_view text) override;
     void addButtonWithTitle(std::string_view title) override;
