@@ -547,6 +547,13 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::AlertDialog</name>
+    <message>
+        <source>Orvik Menu</source>
+        <translation>Orvik Menu</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::CardWidget</name>
     <message>
         <source>%1: %2</source>
@@ -747,6 +754,17 @@
         <source>, </source>
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>، </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::MenuButton</name>
+    <message>
+        <source>&amp;Orvik Menu</source>
+        <translation>&amp;Orvik Menu</translation>
+    </message>
+    <message>
+        <source>Menu (F10)</source>
+        <translation>القائمة (F10)</translation>
     </message>
 </context>
 <context>
@@ -2802,8 +2820,12 @@
         <translation>عناصر القائمة</translation>
     </message>
     <message>
-        <source>There are no menu items.</source>
-        <translation>لا توجد عناصر في القائمة.</translation>
+        <source>No Menu Items</source>
+        <translation>لا عناصر للقائمة</translation>
+    </message>
+    <message>
+        <source>The stored list of menu items is empty.</source>
+        <translation>قائمة العناصر المحفوظة فارغة.</translation>
     </message>
 </context>
 <context>
@@ -2878,8 +2900,12 @@
         <translation>المجلدات المخصصة</translation>
     </message>
     <message>
-        <source>No custom folders. They appear here once you add them from the file manager.</source>
-        <translation>لا توجد مجلدات مخصصة. تظهر هنا بعد أن تضيفها من مدير الملفات.</translation>
+        <source>No Custom Folders</source>
+        <translation>لا مجلدات مخصصة</translation>
+    </message>
+    <message>
+        <source>They appear here once you set them up from the file manager’s menu.</source>
+        <translation>تظهر هنا عندما تُعدّها من قائمة مدير الملفات.</translation>
     </message>
 </context>
 <context>
@@ -2936,10 +2962,6 @@
         <translation>المجلدات</translation>
     </message>
     <message>
-        <source>No folders yet. Add the first one below.</source>
-        <translation>لا توجد مجلدات بعد. أضف أول مجلد من الأسفل.</translation>
-    </message>
-    <message>
         <source>&amp;Add Folder…</source>
         <translation>أ&amp;ضف مجلدًا…</translation>
     </message>
@@ -2970,6 +2992,14 @@
     <message>
         <source>Some of the folders can not be added because they are already added to the Folders list.</source>
         <translation>تعذّرت إضافة بعض المجلدات لأنها مضافة إلى قائمة المجلدات من قبل.</translation>
+    </message>
+    <message>
+        <source>No Folders Yet</source>
+        <translation>لا مجلدات بعد</translation>
+    </message>
+    <message>
+        <source>Orvik Menu shows its actions on items inside the folders that you add.</source>
+        <translation>يعرض Orvik Menu إجراءاته على العناصر داخل المجلدات التي تضيفها.</translation>
     </message>
 </context>
 <context>
@@ -3014,10 +3044,6 @@
         <translation>Orvik Menu</translation>
     </message>
     <message>
-        <source>&amp;Orvik Menu</source>
-        <translation>&amp;Orvik Menu</translation>
-    </message>
-    <message>
         <source>&amp;About Orvik Menu</source>
         <translation>&amp;عن Orvik Menu</translation>
     </message>
@@ -3058,6 +3084,10 @@
     <message>
         <source>Delete</source>
         <translation>احذف</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>غير موجود</translation>
     </message>
 </context>
 <context>

@@ -539,6 +539,13 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::AlertDialog</name>
+    <message>
+        <source>Orvik Menu</source>
+        <translation>Orvik Menu</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::CardWidget</name>
     <message>
         <source>%1: %2</source>
@@ -739,6 +746,17 @@
         <source>, </source>
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::MenuButton</name>
+    <message>
+        <source>&amp;Orvik Menu</source>
+        <translation>&amp;Orvik Menu</translation>
+    </message>
+    <message>
+        <source>Menu (F10)</source>
+        <translation>Menü (F10)</translation>
     </message>
 </context>
 <context>
@@ -2694,8 +2712,12 @@
         <translation>Menüeinträge</translation>
     </message>
     <message>
-        <source>There are no menu items.</source>
-        <translation>Es gibt keine Menüeinträge.</translation>
+        <source>No Menu Items</source>
+        <translation>Keine Menüeinträge</translation>
+    </message>
+    <message>
+        <source>The stored list of menu items is empty.</source>
+        <translation>Die gespeicherte Liste der Menüeinträge ist leer.</translation>
     </message>
 </context>
 <context>
@@ -2770,8 +2792,12 @@
         <translation>Eigene Ordner</translation>
     </message>
     <message>
-        <source>No custom folders. They appear here once you add them from the file manager.</source>
-        <translation>Keine eigenen Ordner. Sie erscheinen hier, sobald Sie sie in der Dateiverwaltung hinzufügen.</translation>
+        <source>No Custom Folders</source>
+        <translation>Keine eigenen Ordner</translation>
+    </message>
+    <message>
+        <source>They appear here once you set them up from the file manager’s menu.</source>
+        <translation>Sie erscheinen hier, sobald Sie sie über das Menü der Dateiverwaltung eingerichtet haben.</translation>
     </message>
 </context>
 <context>
@@ -2828,10 +2854,6 @@
         <translation>Ordner</translation>
     </message>
     <message>
-        <source>No folders yet. Add the first one below.</source>
-        <translation>Noch keine Ordner. Fügen Sie unten den ersten hinzu.</translation>
-    </message>
-    <message>
         <source>&amp;Add Folder…</source>
         <translation>&amp;Hinzufügen&#xa0;…</translation>
     </message>
@@ -2862,6 +2884,14 @@
     <message>
         <source>Some of the folders can not be added because they are already added to the Folders list.</source>
         <translation>Einige der Ordner können nicht hinzugefügt werden, da sie bereits in der Ordnerliste stehen.</translation>
+    </message>
+    <message>
+        <source>No Folders Yet</source>
+        <translation>Noch keine Ordner</translation>
+    </message>
+    <message>
+        <source>Orvik Menu shows its actions on items inside the folders that you add.</source>
+        <translation>Orvik Menu zeigt seine Aktionen bei Objekten in den Ordnern, die Sie hinzufügen.</translation>
     </message>
 </context>
 <context>
@@ -2906,10 +2936,6 @@
         <translation>Orvik Menu</translation>
     </message>
     <message>
-        <source>&amp;Orvik Menu</source>
-        <translation>&amp;Orvik Menu</translation>
-    </message>
-    <message>
         <source>&amp;About Orvik Menu</source>
         <translation>&amp;Info zu Orvik Menu</translation>
     </message>
@@ -2950,6 +2976,10 @@
     <message>
         <source>Delete</source>
         <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
     </message>
 </context>
 <context>

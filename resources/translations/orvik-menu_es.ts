@@ -539,6 +539,13 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::AlertDialog</name>
+    <message>
+        <source>Orvik Menu</source>
+        <translation>Orvik Menu</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::CardWidget</name>
     <message>
         <source>%1: %2</source>
@@ -739,6 +746,17 @@
         <source>, </source>
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::MenuButton</name>
+    <message>
+        <source>&amp;Orvik Menu</source>
+        <translation>&amp;Orvik Menu</translation>
+    </message>
+    <message>
+        <source>Menu (F10)</source>
+        <translation>Menú (F10)</translation>
     </message>
 </context>
 <context>
@@ -2694,8 +2712,12 @@
         <translation>Elementos del menú</translation>
     </message>
     <message>
-        <source>There are no menu items.</source>
-        <translation>No hay elementos en el menú.</translation>
+        <source>No Menu Items</source>
+        <translation>No hay elementos de menú</translation>
+    </message>
+    <message>
+        <source>The stored list of menu items is empty.</source>
+        <translation>La lista guardada de elementos de menú está vacía.</translation>
     </message>
 </context>
 <context>
@@ -2770,8 +2792,12 @@
         <translation>Carpetas propias</translation>
     </message>
     <message>
-        <source>No custom folders. They appear here once you add them from the file manager.</source>
-        <translation>No hay carpetas propias. Aparecen aquí cuando las añade desde el gestor de archivos.</translation>
+        <source>No Custom Folders</source>
+        <translation>No hay carpetas personalizadas</translation>
+    </message>
+    <message>
+        <source>They appear here once you set them up from the file manager’s menu.</source>
+        <translation>Aparecen aquí en cuanto las configure desde el menú del gestor de archivos.</translation>
     </message>
 </context>
 <context>
@@ -2828,10 +2854,6 @@
         <translation>Carpetas</translation>
     </message>
     <message>
-        <source>No folders yet. Add the first one below.</source>
-        <translation>Aún no hay carpetas. Añada la primera abajo.</translation>
-    </message>
-    <message>
         <source>&amp;Add Folder…</source>
         <translation>&amp;Añadir…</translation>
     </message>
@@ -2862,6 +2884,14 @@
     <message>
         <source>Some of the folders can not be added because they are already added to the Folders list.</source>
         <translation>Algunas de las carpetas no se pueden añadir porque ya están en la lista de carpetas.</translation>
+    </message>
+    <message>
+        <source>No Folders Yet</source>
+        <translation>Aún no hay carpetas</translation>
+    </message>
+    <message>
+        <source>Orvik Menu shows its actions on items inside the folders that you add.</source>
+        <translation>Orvik Menu muestra sus acciones en los elementos de las carpetas que usted añada.</translation>
     </message>
 </context>
 <context>
@@ -2906,10 +2936,6 @@
         <translation>Orvik Menu</translation>
     </message>
     <message>
-        <source>&amp;Orvik Menu</source>
-        <translation>&amp;Orvik Menu</translation>
-    </message>
-    <message>
         <source>&amp;About Orvik Menu</source>
         <translation>&amp;Acerca de Orvik Menu</translation>
     </message>
@@ -2950,6 +2976,10 @@
     <message>
         <source>Delete</source>
         <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No se encuentra</translation>
     </message>
 </context>
 <context>

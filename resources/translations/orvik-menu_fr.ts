@@ -539,6 +539,13 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::AlertDialog</name>
+    <message>
+        <source>Orvik Menu</source>
+        <translation>Orvik Menu</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::CardWidget</name>
     <message>
         <source>%1: %2</source>
@@ -739,6 +746,17 @@
         <source>, </source>
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::MenuButton</name>
+    <message>
+        <source>&amp;Orvik Menu</source>
+        <translation>&amp;Orvik Menu</translation>
+    </message>
+    <message>
+        <source>Menu (F10)</source>
+        <translation>Menu (F10)</translation>
     </message>
 </context>
 <context>
@@ -2694,8 +2712,12 @@
         <translation>Éléments du menu</translation>
     </message>
     <message>
-        <source>There are no menu items.</source>
-        <translation>Il n’y a aucun élément de menu.</translation>
+        <source>No Menu Items</source>
+        <translation>Aucun élément de menu</translation>
+    </message>
+    <message>
+        <source>The stored list of menu items is empty.</source>
+        <translation>La liste enregistrée des éléments de menu est vide.</translation>
     </message>
 </context>
 <context>
@@ -2770,8 +2792,12 @@
         <translation>Dossiers personnalisés</translation>
     </message>
     <message>
-        <source>No custom folders. They appear here once you add them from the file manager.</source>
-        <translation>Aucun dossier personnalisé. Ils apparaissent ici dès que vous en ajoutez depuis le gestionnaire de fichiers.</translation>
+        <source>No Custom Folders</source>
+        <translation>Aucun dossier personnalisé</translation>
+    </message>
+    <message>
+        <source>They appear here once you set them up from the file manager’s menu.</source>
+        <translation>Ils apparaissent ici dès que vous les configurez depuis le menu du gestionnaire de fichiers.</translation>
     </message>
 </context>
 <context>
@@ -2828,10 +2854,6 @@
         <translation>Dossiers</translation>
     </message>
     <message>
-        <source>No folders yet. Add the first one below.</source>
-        <translation>Aucun dossier pour l’instant. Ajoutez le premier ci-dessous.</translation>
-    </message>
-    <message>
         <source>&amp;Add Folder…</source>
         <translation>&amp;Ajouter…</translation>
     </message>
@@ -2862,6 +2884,14 @@
     <message>
         <source>Some of the folders can not be added because they are already added to the Folders list.</source>
         <translation>Certains dossiers ne peuvent pas être ajoutés, car ils figurent déjà dans la liste des dossiers.</translation>
+    </message>
+    <message>
+        <source>No Folders Yet</source>
+        <translation>Aucun dossier pour l’instant</translation>
+    </message>
+    <message>
+        <source>Orvik Menu shows its actions on items inside the folders that you add.</source>
+        <translation>Orvik Menu affiche ses actions sur les éléments des dossiers que vous ajoutez.</translation>
     </message>
 </context>
 <context>
@@ -2906,10 +2936,6 @@
         <translation>Orvik Menu</translation>
     </message>
     <message>
-        <source>&amp;Orvik Menu</source>
-        <translation>&amp;Orvik Menu</translation>
-    </message>
-    <message>
         <source>&amp;About Orvik Menu</source>
         <translation>À &amp;propos d’Orvik Menu</translation>
     </message>
@@ -2950,6 +2976,10 @@
     <message>
         <source>Delete</source>
         <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
     </message>
 </context>
 <context>

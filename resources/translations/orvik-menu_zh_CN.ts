@@ -537,6 +537,13 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::AlertDialog</name>
+    <message>
+        <source>Orvik Menu</source>
+        <translation>Orvik Menu</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::CardWidget</name>
     <message>
         <source>%1: %2</source>
@@ -737,6 +744,17 @@
         <source>, </source>
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>，</translation>
+    </message>
+</context>
+<context>
+    <name>LinuxDesktop::MenuButton</name>
+    <message>
+        <source>&amp;Orvik Menu</source>
+        <translation>&amp;Orvik Menu</translation>
+    </message>
+    <message>
+        <source>Menu (F10)</source>
+        <translation>菜单 (F10)</translation>
     </message>
 </context>
 <context>
@@ -2667,8 +2685,12 @@
         <translation>菜单项</translation>
     </message>
     <message>
-        <source>There are no menu items.</source>
-        <translation>没有菜单项。</translation>
+        <source>No Menu Items</source>
+        <translation>没有菜单项</translation>
+    </message>
+    <message>
+        <source>The stored list of menu items is empty.</source>
+        <translation>已存储的菜单项列表为空。</translation>
     </message>
 </context>
 <context>
@@ -2743,8 +2765,12 @@
         <translation>自定义文件夹</translation>
     </message>
     <message>
-        <source>No custom folders. They appear here once you add them from the file manager.</source>
-        <translation>没有自定义文件夹。从文件管理器中添加后，会显示在此处。</translation>
+        <source>No Custom Folders</source>
+        <translation>没有自定义文件夹</translation>
+    </message>
+    <message>
+        <source>They appear here once you set them up from the file manager’s menu.</source>
+        <translation>您通过文件管理器的菜单设置后，它们会显示在这里。</translation>
     </message>
 </context>
 <context>
@@ -2801,10 +2827,6 @@
         <translation>文件夹</translation>
     </message>
     <message>
-        <source>No folders yet. Add the first one below.</source>
-        <translation>还没有文件夹。请在下方添加第一个。</translation>
-    </message>
-    <message>
         <source>&amp;Add Folder…</source>
         <translation>添加文件夹(&amp;A)…</translation>
     </message>
@@ -2835,6 +2857,14 @@
     <message>
         <source>Some of the folders can not be added because they are already added to the Folders list.</source>
         <translation>部分文件夹无法添加，因为它们已在文件夹列表中。</translation>
+    </message>
+    <message>
+        <source>No Folders Yet</source>
+        <translation>还没有文件夹</translation>
+    </message>
+    <message>
+        <source>Orvik Menu shows its actions on items inside the folders that you add.</source>
+        <translation>Orvik Menu 会为您添加的文件夹中的项目显示操作。</translation>
     </message>
 </context>
 <context>
@@ -2879,10 +2909,6 @@
         <translation>Orvik Menu</translation>
     </message>
     <message>
-        <source>&amp;Orvik Menu</source>
-        <translation>&amp;Orvik Menu</translation>
-    </message>
-    <message>
         <source>&amp;About Orvik Menu</source>
         <translation>关于 Orvik Menu(&amp;A)</translation>
     </message>
@@ -2923,6 +2949,10 @@
     <message>
         <source>Delete</source>
         <translation>删除</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
     </message>
 </context>
 <context>
