@@ -166,7 +166,7 @@ Figures measure(int count, const std::string& folder)
     figures.rowViewsMadeByScrolling = rowViews() - rowViewsBefore;
 
     bar.setValue(0);
-    auto& checkbox = dynamic_cast<QWidget&>(*list.rowsInSight().first()->controls().first());
+    auto& checkbox = dynamic_cast<QWidget&>(*list.rowsInSight().first()->checkBox());
     figures.toggleMilliseconds = medianMilliseconds([&] { click(checkbox, checkbox.rect().center()); });
     figures.rawMilliseconds = rawWriteMilliseconds(folder);
     delete tabs.window();

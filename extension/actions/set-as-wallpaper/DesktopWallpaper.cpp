@@ -13,7 +13,7 @@ namespace MenuExtension::DesktopWallpaper {
 namespace {
 
 /// A text as gsettings reads one.
-std::string quoted(std::string_view text)
+std::string literalOf(std::string_view text)
 {
     std::string result = "'";
     for (const char character : text) {
@@ -26,7 +26,7 @@ std::string quoted(std::string_view text)
 
 bool setKey(const char* schema, const char* key, const std::string& value)
 {
-    return Programs::run({"gsettings", "set", schema, key, quoted(value)});
+    return Programs::run({"gsettings", "set", schema, key, literalOf(value)});
 }
 
 std::string addressOf(const std::string& path)

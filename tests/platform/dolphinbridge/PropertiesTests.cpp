@@ -194,6 +194,6 @@ TEST_F(ReadProperties, AreNoneWhereWhatAsksForAnotherFolderHasNoTitle)
     ASSERT_TRUE(english);
     EXPECT_EQ(english->otherFolder, MenuSettings().otherFolder);
     for (const QVariant& wrong : {QVariant(1), QVariant(QStringList()), QVariant(QStringList{{}, {}}),
-                                  QVariant(QStringList(2, QString(1001, u'x')))})
+                                  QVariant(QStringList{QString(1001, u'x'), QString(1001, u'x')})})
         EXPECT_FALSE(readWith(OtherFolder::name, wrong));
 }
