@@ -2952,7 +2952,7 @@
     <name>tabviewcontroller</name>
     <message>
         <source>Menu Items</source>
-        <translation>Éléments du menu</translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Folders</source>

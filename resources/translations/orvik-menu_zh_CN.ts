@@ -743,7 +743,7 @@
     <message>
         <source>, </source>
         <comment>between a file&apos;s kind, size and date</comment>
-        <translation>，</translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -107,12 +107,16 @@ class About(DesktopTestCase):
 
         throughout(lambda: self.panel.standard_output() == b"" and self.panel.is_running(), "nothing happens", 2.0)
 
+    def goes_to_menu_items(self):
+        """A click while a menu closes may still be taken for one beside the menu."""
+        self.hands.click(self.window.find("page tab", "Menu Items").extents)
+        return self.window.find("check box", "Open Terminal")
+
     def test_the_menu_entry_shows_the_page(self):
         self.start()
         for key in ("alt+o", "F10"):
             with self.subTest(key=key):
-                self.hands.click(self.window.find("page tab", "Menu Items").extents)
-                eventually(lambda: self.window.find("check box", "Open Terminal"), "the menu items")
+                eventually(self.goes_to_menu_items, "the menu items")
                 self.hands.press(key)
                 eventually(lambda: self.window.find("menu item", "About Orvik Menu"), "the menu")
                 self.hands.press("a")

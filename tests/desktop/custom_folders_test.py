@@ -36,7 +36,7 @@ class CustomFolders(DesktopTestCase):
         self.start()
 
         self.assertEqual(self.rows(), [])
-        self.assertTrue(self.window.find("label", "No Custom Folders"))
+        self.assertTrue(self.window.find("heading", "No Custom Folders"))
 
     def test_rows_have_the_folders_own_names(self):
         self.suite.write(arrCustomFoldersUrls=["/Users/a/Projects", "/srv/gone/", "/"])
@@ -82,7 +82,7 @@ class CustomFolders(DesktopTestCase):
     def test_after_a_deletion_the_keyboard_is_on_the_row_that_follows_and_not_on_its_button(self):
         self.suite.write(arrCustomFoldersUrls=["/one", "/two", "/three"])
         self.start()
-        self.hands.press("Tab", "Tab")
+        self.hands.press("Tab", "Tab", "Tab")
         eventually(lambda: self.window.focused().name == "Delete one", "the button to have the keyboard")
         self.hands.press("Return")
         self.assertEventuallyEqual(self.rows, ["two", "three"])

@@ -577,8 +577,15 @@ class Publishing(FoldersTestCase):
 class Drops(FoldersTestCase):
     """Folders that are dragged from another program."""
 
+    def page(self):
+        """Where the page is, from its upper edge to its button for adding."""
+        window, button = self.window.extents, self.window.find("push button", "Add Folder…").extents
+        tab = self.window.find("page tab", "Folders").extents
+        top = tab.y + tab.height + 2
+        return window._replace(y=top, height=button.y - top)
+
     def drag_here(self, *addresses):
-        """Drags what has these addresses over the list, lets it go there, and closes the other program."""
+        """Drags what has these addresses over the page, lets it go there, and closes the other program."""
         source = processes.start([sys.executable, "-B", drag_source.__file__, *addresses], env=self.environment)
         self.addCleanup(processes.end, source)
         window = eventually(lambda: self.windows.of_process(source.pid), "the window to drag from")[0]
@@ -586,11 +593,11 @@ class Drops(FoldersTestCase):
         self.hands.place(own, 0, 0)
         self.hands.place(window, 900, 700)
         start = settled(lambda: self.windows.place(window))
-        target = settled(lambda: self.window.find("list", "Folders").extents)
+        target = settled(self.page)
 
         # Nothing of what is dragged is to be seen there.
         def edge():
-            return self.display.picture_of(target._replace(height=4))
+            return self.display.picture_of(target._replace(height=12))
 
         without = settled(edge)
         self.hands.press_button(start)

@@ -70,6 +70,13 @@ class MoveAndCopy(TransferTestCase):
         self.action.wait_for_end()
         self.assertEqual(self.contents(), {"from/one": b"new", "to/one": b"new"})
 
+    def test_where_nobody_is_to_be_disturbed_it_ends(self):
+        self.start()
+        self.notifications.show_none()
+        self.run_action(COPY, self.make("from/one"))
+        self.action.wait_for_end()
+        self.assertEqual(self.contents(), {"from/one": b"new", "to/one": b"new"})
+
     def test_without_notifications_the_window_says_what_was_done(self):
         self.start(notifications=False)
         self.open_window(MOVE, self.make("from/one"), title="“one” was moved to “to”.")

@@ -22,7 +22,7 @@ class NoSessionBusTestCase(DesktopTestCase):
 class NoSessionBus(NoSessionBusTestCase):
     def test_rows_are_switched_and_stored(self):
         self.start(MAIN_WINDOW)
-        self.hands.press("Tab", "Down", "Down", "space")
+        self.hands.press("Tab", "Tab", "Down", "Down", "space")
         self.assertStored(menuArrayDic=record(2))
         self.hands.press("Down", "space", "Up", "space")
         self.assertStored(menuArrayDic=record(3))
@@ -34,7 +34,7 @@ class NoSessionBus(NoSessionBusTestCase):
     def test_a_bus_that_has_gone_is_no_bus(self):
         self.panel = self.start_panel(DBUS_SESSION_BUS_ADDRESS=f"unix:path={self.home.runtime}/gone")
         self.wait_for_window(self.panel, MAIN_WINDOW)
-        self.hands.press("Tab", "space")
+        self.hands.press("Tab", "Tab", "space")
 
         self.assertStored(menuArrayDic=record(0))
         self.assertComplainsOnce()

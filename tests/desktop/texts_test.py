@@ -209,12 +209,14 @@ class Texts(ExifWindow, DesktopTestCase):
     @in_each_language
     def test_in_the_windows_that_find_duplicates(self):
         start_companion(self)
-        self.home.make_file("one", b"same")
-        self.home.make_file("other", b"same")
-        self.look_at_action("find-duplicate-files", self.catalogue.of("FindDuplicateFiles", "Duplicate Files"),
-                            self.home.files)
-        self.look_at_action("find-duplicate-photos", self.catalogue.of("FindDuplicatePhotos", "Duplicate Photos"),
-                            self.home.files)
+        folder = os.path.join(self.home.files, "some")
+        os.makedirs(folder, exist_ok=True)
+        for name in ("one", "other"):
+            with open(os.path.join(folder, name), "wb") as file:
+                file.write(b"same")
+        for action, context, title in (("find-duplicate-files", "FindDuplicateFiles", "Duplicate Files"),
+                                       ("find-duplicate-photos", "FindDuplicatePhotos", "Duplicate Photos")):
+            self.look_at_action(action, self.catalogue.of(context, title), folder)
 
 
 if __name__ == "__main__":

@@ -45,6 +45,10 @@ class Notifications:
     def press(self, notification, button):
         self._ask("Press", GLib.Variant("(us)", (notification["number"], button)))
 
+    def show_none(self):
+        """The person is not to be disturbed: each is gone before the program hears its number."""
+        self._ask("ShowNone")
+
     def dismiss(self, notification):
         self._ask("Dismiss", GLib.Variant("(u)", (notification["number"],)))
 
@@ -54,6 +58,7 @@ class _Server(dbus.service.Object):
         super().__init__(bus, PATH)
         self._shown = {}
         self._last = 0
+        self._shows = True
 
     @dbus.service.method(NAME, in_signature="susssasa{sv}i", out_signature="u")
     def Notify(self, _application, replaced, _icon, title, words, actions, hints, _time):
@@ -64,6 +69,8 @@ class _Server(dbus.service.Object):
         buttons = dict(zip(map(str, actions[::2]), map(str, actions[1::2])))
         self._shown[number] = {"number": number, "title": str(title), "words": str(words), "buttons": buttons,
                                "stays": bool(hints.get("resident"))}
+        if not self._shows:
+            self._close(number, _DISMISSED)
         return dbus.UInt32(number)
 
     @dbus.service.method(NAME, in_signature="u")
@@ -91,6 +98,10 @@ class _Server(dbus.service.Object):
         self.ActionInvoked(number, button)
         if not self._shown[int(number)]["stays"]:
             self._close(int(number), _DISMISSED)
+
+    @dbus.service.method(_TESTING)
+    def ShowNone(self):
+        self._shows = False
 
     @dbus.service.method(_TESTING, in_signature="u")
     def Dismiss(self, number):

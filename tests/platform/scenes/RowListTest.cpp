@@ -438,6 +438,7 @@ TEST_F(RowListFixture, ARowThatHasTheKeyboardItselfShowsIt)
     RowWidget* row = list.rowsInSight().at(1);
     row->setStyle(&style);
     const QImage without = row->grab().toImage();
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
     row->setFocus(Qt::TabFocusReason);
     EXPECT_NE(row->grab().toImage(), without);
     row->setStyle(nullptr);

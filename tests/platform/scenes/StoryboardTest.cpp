@@ -210,13 +210,17 @@ TEST_F(StoryboardFixture, RemovingAFolderIsOffAsLongAsNoneIsSelectedAndTheKeyboa
     ASSERT_TRUE(QTest::qWaitForWindowActive(&root));
     auto* list = root.findChild<RowList*>();
     auto* remove = root.findChild<PushButton*>(QStringLiteral("btnRemove"));
+    auto* add = root.findChild<PushButton*>(QStringLiteral("btnAdd"));
+    // As beside a list with rows.
+    add->show();
+    remove->show();
     EXPECT_FALSE(remove->isEnabled());
     emit list->selectionChanged(true);
     EXPECT_TRUE(remove->isEnabled());
     remove->setFocus();
     emit list->selectionChanged(false);
     EXPECT_FALSE(remove->isEnabled());
-    EXPECT_EQ(root.focusWidget(), root.findChild<PushButton*>(QStringLiteral("btnAdd")));
+    EXPECT_EQ(root.focusWidget(), add);
 }
 
 TEST_F(StoryboardFixture, EnterPressesTheButtonThatHasTheKeyboard)

@@ -64,6 +64,7 @@ void DoneNotice::show(const QString& title, const QString& words, bool canBeUndo
     notify << QStringLiteral("Orvik Menu") << m_number << application << title << words.toHtmlEscaped() << actions
            << QVariantMap{{QStringLiteral("desktop-entry"), application}, {QStringLiteral("resident"), true}}
            << desktopsOwnTime;
+    m_isAwaited = true;
     auto* watcher = new QDBusPendingCallWatcher(m_bus->asyncCall(notify, patience), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* ended) {
         const QDBusPendingReply<uint> reply = *ended;
@@ -73,6 +74,10 @@ void DoneNotice::show(const QString& title, const QString& words, bool canBeUndo
         else
             m_number = reply.value();
         m_isOpen = reply.isValid();
+        m_isAwaited = false;
+        if (m_isOpen && m_gone.contains(m_number))
+            takeEnd(m_number, 0);
+        m_gone.clear();
     });
 }
 
@@ -88,7 +93,9 @@ void DoneNotice::takeAction(uint number, const QString& action)
 
 void DoneNotice::takeEnd(uint number, uint)
 {
-    if (number != m_number)
+    if (m_isAwaited)
+        m_gone.insert(number);
+    if (m_isAwaited || number != m_number)
         return;
     // Some desktops tell it before they tell which button it was.
     m_isOpen = false;

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QSet>
 
 #include <optional>
 
@@ -34,6 +35,9 @@ private:
 
     std::optional<QDBusConnection> m_bus;
     uint m_number = 0;
+    /// Those that went before the desktop had said which one is ours.
+    QSet<uint> m_gone;
+    bool m_isAwaited = false;
     bool m_isOpen = false;
 };
 

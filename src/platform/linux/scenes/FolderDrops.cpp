@@ -20,10 +20,10 @@ const QString addressList = QStringLiteral("text/uri-list");
 /// So many refusals are told; the others are counted.
 constexpr qsizetype mostTold = 5;
 
-/// Shows around a list that it takes what is held over it.
+/// Shows around a page that it takes what is held over it.
 class DropFrame : public QWidget {
 public:
-    explicit DropFrame(QWidget* list) : QWidget(list)
+    explicit DropFrame(QWidget* page) : QWidget(page)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         hide();
@@ -53,13 +53,12 @@ Qt::DropAction actionFor(const QDropEvent& event)
 
 } // namespace
 
-FolderDrops::FolderDrops(QAbstractScrollArea& list, PathRefusal refusal,
-                         std::function<void(const std::vector<NS::URL>&)> taken)
-    : QObject(&list), m_list(list), m_frame(new DropFrame(&list)), m_refusal(std::move(refusal)),
+FolderDrops::FolderDrops(QWidget& page, PathRefusal refusal, std::function<void(const std::vector<NS::URL>&)> taken)
+    : QObject(&page), m_page(page), m_frame(new DropFrame(&page)), m_refusal(std::move(refusal)),
       m_taken(std::move(taken))
 {
-    list.viewport()->setAcceptDrops(true);
-    list.viewport()->installEventFilter(this);
+    page.setAcceptDrops(true);
+    page.installEventFilter(this);
 }
 
 bool FolderDrops::eventFilter(QObject*, QEvent* event)
@@ -71,10 +70,10 @@ bool FolderDrops::eventFilter(QObject*, QEvent* event)
         auto& drop = *static_cast<QDropEvent*>(event);
         const Qt::DropAction action = actionFor(drop);
         const bool isTaken =
-            action != Qt::IgnoreAction && drop.mimeData()->hasFormat(addressList) && !isBlockedByPanel(m_list);
+            action != Qt::IgnoreAction && drop.mimeData()->hasFormat(addressList) && !isBlockedByPanel(m_page);
         drop.setDropAction(action);
         drop.setAccepted(isTaken);
-        m_frame->setGeometry(m_list.rect());
+        m_frame->setGeometry(m_page.rect());
         m_frame->raise();
         m_frame->setVisible(isTaken && event->type() != QEvent::Drop);
         // The other program waits for the end of the event.
@@ -100,7 +99,7 @@ void FolderDrops::take(const QByteArray& addresses)
     if (dropped.refusals.isEmpty())
         return;
     // What was taken may be asked or told about first.
-    if (auto* panel = qobject_cast<QDialog*>(panelInFrontOf(*m_list.window())))
+    if (auto* panel = qobject_cast<QDialog*>(panelInFrontOf(*m_page.window())))
         connect(panel, &QDialog::finished, this, [this, refusals = dropped.refusals] { tell(refusals); });
     else
         tell(dropped.refusals);
@@ -109,8 +108,8 @@ void FolderDrops::take(const QByteArray& addresses)
 void FolderDrops::tell(const QStringList& refusals)
 {
     auto* alert = new AlertDialog;
-    alert->setParent(m_list.window(), alert->windowFlags());
-    alert->setWindowTitle(m_list.window()->windowTitle());
+    alert->setParent(m_page.window(), alert->windowFlags());
+    alert->setWindowTitle(m_page.window()->windowTitle());
     alert->setWindowModality(Qt::WindowModal);
     const qsizetype count = refusals.size();
     if (count == 1) {

@@ -49,6 +49,13 @@ QString wrapped(const QString& text)
     return QStringLiteral("<qt>") + breakable.toHtmlEscaped() + QStringLiteral("</qt>");
 }
 
+QString lastName(QString path)
+{
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    return path.size() > 1 ? path.mid(path.lastIndexOf(u'/') + 1) : path;
+}
+
 } // namespace
 
 Label::Label(QWidget* parent) : QLabel(parent)
@@ -75,7 +82,8 @@ void Label::setTextStyle(const QString& style)
 void Label::setStringValue(std::string_view text)
 {
     const QString before = this->text();
-    setText(m_isFileName ? fileNameText(text) : QString::fromUtf8(text));
+    m_givenText = m_isFileName ? fileNameText(text) : QString::fromUtf8(text);
+    setText(m_showsLastName ? lastName(m_givenText) : m_givenText);
     if (this->text() != before) {
         if (QWidget* subject = subjectOf(*this))
             describeByWords(*subject);

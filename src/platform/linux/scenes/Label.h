@@ -27,6 +27,9 @@ public:
 
     /// The tool tip that was set, as it is shown.
     [[nodiscard]] const QString& givenToolTip() const { return m_toolTip; }
+    /// Shows of a path that it is given the last name alone from now on.
+    void setShowsLastName(bool showsLastName) { m_showsLastName = showsLastName; }
+    [[nodiscard]] const QString& givenText() const { return m_givenText; }
     /// What the text is a part of: the tool tip where none is set.
     void setWholeText(const QString& text) { m_wholeText = text; }
 
@@ -54,7 +57,9 @@ private:
     QString m_subject;
     bool m_isAnnounced = false;
     QString m_wholeText;
+    QString m_givenText;
     bool m_isFileName = false;
+    bool m_showsLastName = false;
 };
 
 } // namespace LinuxDesktop

@@ -1,6 +1,7 @@
 #include "platform/linux/scenes/RowList.h"
 
 #include "platform/linux/look/ControlPainting.h"
+#include "platform/linux/scenes/Label.h"
 #include "platform/linux/scenes/RowWidget.h"
 
 #include <QApplication>
@@ -99,6 +100,8 @@ RowWidget* RowList::newRow(std::string_view identifier)
     }
     row->setParent(viewport());
     row->prepare();
+    if (auto* title = m_showsFolders ? row->findChild<Label*>() : nullptr)
+        title->setShowsLastName(true);
     row->installEventFilter(this);
     // Rows come into being after the rest of the window, and are walked through where the list stands.
     QWidget* before = this;

@@ -27,13 +27,6 @@ constexpr int folderIconExtent = 32;
 /// The widgets that say that a folder is not there.
 constexpr std::array missingParts{"imgmissing", "lblmissing"};
 
-QString lastName(QString path)
-{
-    while (path.size() > 1 && path.endsWith(u'/'))
-        path.chop(1);
-    return path.size() > 1 ? path.mid(path.lastIndexOf(u'/') + 1) : path;
-}
-
 QString withoutHome(const QString& path)
 {
     const QString home = QDir::homePath();
@@ -83,8 +76,7 @@ void RowWidget::showFolder()
     if (!m_title || !subtitle || !icon)
         return;
     const QString given = m_title->givenToolTip();
-    const QString path = given.isEmpty() ? m_title->text() : given;
-    m_title->setText(lastName(path));
+    const QString path = given.isEmpty() ? m_title->givenText() : given;
     m_title->setWholeText(path);
     subtitle->setText(withoutHome(path));
     subtitle->setWholeText(path);
@@ -106,8 +98,11 @@ void RowWidget::showMissing(bool missing)
     }
     // Of a row only its controls are read.
     const auto* words = findChild<Label*>(QLatin1String(missingParts.back()));
+    QStringList told{m_title->givenToolTip(), words->text()};
+    if (told.first().isEmpty() && missing)
+        told.removeFirst();
     for (QWidget* stop : m_stops)
-        LinuxDesktop::setAccessibleDescription(*stop, missing ? words->text() : QString());
+        LinuxDesktop::setAccessibleDescription(*stop, missing ? told.join(QStringLiteral(", ")) : told.first());
 }
 
 void RowWidget::setLast(bool last)

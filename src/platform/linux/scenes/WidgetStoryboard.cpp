@@ -28,6 +28,16 @@ T makeObject(const NS::ClassTable::Makers<T>& makers, std::string_view className
     return maker->second();
 }
 
+/// What the keyboard stops at before a button, as it is shown.
+QWidget* controlBefore(QWidget& button)
+{
+    QWidget* before = button.previousInFocusChain();
+    while (before != &button &&
+           (!before->isVisible() || !before->isEnabled() || before->focusPolicy() == Qt::NoFocus))
+        before = before->previousInFocusChain();
+    return before;
+}
+
 /// A button may name, in the property "selectionOf", the list that something has to be selected in.
 void enableWithSelection(PushButton& button, const QWidget& root)
 {
@@ -41,7 +51,7 @@ void enableWithSelection(PushButton& button, const QWidget& root)
     QObject::connect(list, &RowList::selectionChanged, &button, [&button](bool isSelected) {
         // The keyboard stays near the button, where the toolkit would lead it on to the window's first control.
         if (!isSelected && button.window()->focusWidget() == &button)
-            button.previousInFocusChain()->setFocus(Qt::OtherFocusReason);
+            controlBefore(button)->setFocus(Qt::OtherFocusReason);
         button.setEnabled(isSelected);
     });
 }
@@ -88,7 +98,7 @@ void WidgetStoryboard::furnish(QWidget& root, NS::Controller& controller)
         list->setDelegate(dynamic_cast<NS::TableViewDelegate*>(&controller));
         auto* source = dynamic_cast<NS::TableViewDataSource*>(&controller);
         if (source && list->property("takesFolders").toBool()) {
-            new FolderDrops(*list, m_refusal, [list, source](const std::vector<NS::URL>& folders) {
+            new FolderDrops(root, m_refusal, [list, source](const std::vector<NS::URL>& folders) {
                 source->tableView_acceptDrop(*list, folders);
             });
         }
