@@ -6,6 +6,7 @@
 #include <QGenericPlugin>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayoutItem>
 #include <QLineEdit>
 #include <QPointer>
 #include <QSaveFile>
@@ -27,6 +28,12 @@ int widthOf(const QWidget& widget, const QString& text)
     return width;
 }
 
+/// Where layouts take a control to be: without the room for its ring.
+QRect bodyOf(const QWidget& widget)
+{
+    return QWidgetItem(const_cast<QWidget*>(&widget)).geometry().translated(-widget.pos());
+}
+
 /// Whether a window's edge, or that of a part that does not scroll sideways, lies across the widget.
 bool isCutByParent(const QWidget& widget)
 {
@@ -34,8 +41,8 @@ bool isCutByParent(const QWidget& widget)
         const auto* area = qobject_cast<const QAbstractScrollArea*>(parent);
         if (area && area->horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff)
             return false;
-        const int left = widget.mapTo(parent, QPoint()).x();
-        if (left < 0 || left + widget.width() > parent->width())
+        const QRect body = bodyOf(widget).translated(widget.mapTo(parent, QPoint()));
+        if (body.left() < 0 || body.right() >= parent->width())
             return true;
         if (parent->isWindow())
             break;
@@ -85,7 +92,7 @@ private:
     void lookAtButton(const QAbstractButton& button)
     {
         if (!button.text().isEmpty())
-            expect(button, button.text(), button.minimumSizeHint());
+            expect(button, button.text(), button.minimumSizeHint() - button.size() + bodyOf(button).size());
     }
 
     void lookAtField(const QLineEdit& field)
