@@ -2417,7 +2417,7 @@
     <name>SizeRow</name>
     <message>
         <source>Longest side</source>
-        <translation>الضلع الأطول</translation>
+        <translation>الأطول</translation>
     </message>
     <message>
         <source> pixels</source>

@@ -976,7 +976,7 @@
     </message>
     <message>
         <source>System Files</source>
-        <translation>Archivos del sistema</translation>
+        <translation>Del sistema</translation>
     </message>
     <message>
         <source>In folders of the system, in the trash, and what file managers write for themselves</source>

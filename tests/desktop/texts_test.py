@@ -184,7 +184,7 @@ class Texts(ExifWindow, DesktopTestCase):
         program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-problem"),
                                    ORVIK_MENU_FATAL_ERROR="foldersArraystate is wrong")
         program.complaints()
-        program.active_window("Orvik Menu")
+        eventually(lambda: self.windows.title(self.windows.active()) == "Orvik Menu", "the window")
         self.assertWhole("the problem")
         program.close()
 
