@@ -100,6 +100,17 @@ void ResizeWindow::layOut()
     m_photos->setUniformItemSizes(true);
     m_photos->setCurrentIndex(m_names.index(0));
     m_photos->setVisible(!isOne);
+    QWidget* middle = m_pane;
+    if (!isOne) {
+        auto* const parts = new QSplitter(this);
+        parts->addWidget(m_photos);
+        parts->addWidget(m_pane);
+        parts->setStretchFactor(1, 1);
+        parts->setChildrenCollapsible(false);
+        parts->setHandleWidth(12);
+        parts->setSizes({180, 600});
+        middle = parts;
+    }
 
     m_result->setTextFormat(Qt::PlainText);
     m_result->setWordWrap(true);
@@ -111,13 +122,6 @@ void ResizeWindow::layOut()
     m_failures->setMaximumHeight(6 * fontMetrics().lineSpacing());
     m_failures->hide();
 
-    auto* const parts = new QSplitter(this);
-    parts->addWidget(m_photos);
-    parts->addWidget(m_pane);
-    parts->setStretchFactor(1, 1);
-    parts->setChildrenCollapsible(false);
-    parts->setHandleWidth(12);
-    parts->setSizes({180, 600});
     auto* const end = new QHBoxLayout;
     end->setSpacing(12);
     end->addWidget(m_result, 1);
@@ -127,7 +131,7 @@ void ResizeWindow::layOut()
     layout->setContentsMargins(20, 18, 20, 18);
     layout->setSpacing(14);
     layout->addWidget(m_heading);
-    layout->addWidget(parts, 1);
+    layout->addWidget(middle, 1);
     layout->addWidget(m_choices);
     layout->addWidget(m_failures);
     layout->addLayout(end);
