@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace MenuExtension::SimilarPhotos {
@@ -265,40 +266,14 @@ bool haveLikeShapes(const Thumb& one, const Thumb& other, Symmetry symmetry)
     return std::max(one.aspect, aspect) <= mostAspect * std::min(one.aspect, aspect);
 }
 
-} // namespace
-
-float Likeness::difference() const
+/// How the second picture is told by the first, which it may be a part of.
+Likeness likenessBetween(const View& whole, const View& picture)
 {
-    // Aligning finds a place a little beside the right one.
-    constexpr float exact = 0.003F;
-    const float shift = std::max(0.0F, beside - exact) * 50;
-    // What was cut has its cells elsewhere, and so a little different everywhere.
-    constexpr float clearlyCut = 0.03F;
-    const float isCut = std::clamp((cut - hardlyCut) / (clearlyCut - hardlyCut), 0.0F, 1.0F);
-    // Where the light is another altogether, levels are told less well, and it was not the next of a series.
-    constexpr float hardlyLit = 0.3F;
-    constexpr float clearlyLit = 0.5F;
-    const float isLit = std::clamp((light - hardlyLit) / (clearlyLit - hardlyLit), 0.0F, 1.0F);
-    const float everywhere = std::lerp(content * 3, content * 2.2F, isLit);
-    const float somewhere = std::lerp(place * 1.1F, place * 0.7F, isLit);
-    const float differs = std::lerp(std::max(everywhere, somewhere), std::max(content * 2, place * 0.5F), isCut);
-    const float mostOfLight = std::lerp(0.04F, 0.02F, isLit);
-    return std::min(1.0F, std::hypot(differs, color, shift) + std::max(0.0F, cut - hardlyCut) * 0.5F +
-                              std::min(light * 0.5F, mostOfLight));
-}
-
-Likeness likenessOf(const Thumb& one, const Thumb& other, Symmetry symmetry)
-{
-    Likeness best;
-    if (!haveLikeShapes(one, other, symmetry))
-        return best;
-    const View whole = viewOf(one, {});
-    const View picture = viewOf(other, symmetry);
     const Difference asItIs = differenceOf({whole.brightness, whole.full}, {picture.brightness, picture.full});
-    best = {.content = asItIs.content,
-            .place = asItIs.place,
-            .color = colorDifference(whole, picture, {}),
-            .light = asItIs.light};
+    Likeness best{.content = asItIs.content,
+                  .place = asItIs.place,
+                  .color = colorDifference(whole, picture, {}),
+                  .light = asItIs.light};
     constexpr float clearlyAlike = 0.02F;
     if (asItIs.content < clearlyAlike && asItIs.place < 2 * clearlyAlike)
         return best;
@@ -326,6 +301,51 @@ Likeness likenessOf(const Thumb& one, const Thumb& other, Symmetry symmetry)
         }
     }
     return best;
+}
+
+} // namespace
+
+float Likeness::difference() const
+{
+    // Aligning finds a place a little beside the right one.
+    constexpr float exact = 0.003F;
+    const float shift = std::max(0.0F, beside - exact) * 50;
+    // What was cut has its cells elsewhere, and so a little different everywhere.
+    constexpr float clearlyCut = 0.03F;
+    const float isCut = std::clamp((cut - hardlyCut) / (clearlyCut - hardlyCut), 0.0F, 1.0F);
+    // Where the light is another altogether, levels are told less well, and it was not the next of a series.
+    constexpr float hardlyLit = 0.3F;
+    constexpr float clearlyLit = 0.5F;
+    const float isLit = std::clamp((light - hardlyLit) / (clearlyLit - hardlyLit), 0.0F, 1.0F);
+    const float everywhere = std::lerp(content * 3, content * 2.2F, isLit);
+    const float somewhere = std::lerp(place * 1.1F, place * 0.7F, isLit);
+    const float differs = std::lerp(std::max(everywhere, somewhere), std::max(content * 2, place * 0.5F), isCut);
+    const float mostOfLight = std::lerp(0.04F, 0.02F, isLit);
+    return std::min(1.0F, std::hypot(differs, color, shift) + std::max(0.0F, cut - hardlyCut) * 0.5F +
+                              std::min(light * 0.5F, mostOfLight));
+}
+
+Likeness likenessOf(const Thumb& one, const Thumb& other, Symmetry symmetry)
+{
+    if (!haveLikeShapes(one, other, symmetry))
+        return {};
+    View whole = viewOf(one, {});
+    View picture = viewOf(other, symmetry);
+    // Aligning finds a little more in one direction, and which of the two was read first must say nothing.
+    const bool isSwapped = other.brightness < one.brightness;
+    if (isSwapped)
+        std::swap(whole, picture);
+    Likeness likeness = likenessBetween(whole, picture);
+    if (likeness.cut > Likeness::hardlyCut && !likeness.isOtherCut) {
+        // A part is found in its whole better than a whole around its part.
+        Likeness back = likenessBetween(picture, whole);
+        back.isOtherCut = !back.isOtherCut;
+        if (back.difference() < likeness.difference())
+            likeness = back;
+    }
+    if (isSwapped)
+        likeness.isOtherCut = !likeness.isOtherCut;
+    return likeness;
 }
 
 } // namespace MenuExtension::SimilarPhotos

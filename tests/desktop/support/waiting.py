@@ -14,7 +14,7 @@ class GaveUp(AssertionError):
 def eventually(check, what, within=PATIENCE):
     """The first true answer of `check`, which is asked again until it gives one.
 
-    An answer that is not yet to be had may be told by raising LookupError or OSError.
+    An answer that is not yet to be had may be told by raising LookupError, StopIteration or OSError.
     `what` ends the sentence "gave up waiting for ...".
     """
     deadline = time.monotonic() + within
@@ -22,7 +22,7 @@ def eventually(check, what, within=PATIENCE):
         trouble = ""
         try:
             answer = check()
-        except (LookupError, OSError) as error:
+        except (LookupError, StopIteration, OSError) as error:
             answer, trouble = None, f" ({error!r})"
         if answer:
             return answer

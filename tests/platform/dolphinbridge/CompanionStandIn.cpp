@@ -89,6 +89,9 @@ CompanionStandIn::CompanionStandIn(const QString& address)
 
 CompanionStandIn::~CompanionStandIn()
 {
+    // A connection that ends in the toolkit's own thread is told of the end of its objects in this one.
+    m_connection.unregisterObject(path());
+    disconnect();
     QDBusConnection::disconnectFromBus(m_connection.name());
 }
 

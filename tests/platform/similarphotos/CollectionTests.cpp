@@ -1,7 +1,9 @@
 #include "Painting.h"
 #include "extension/actions/find-duplicate-photos/Collection.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -121,6 +123,47 @@ TEST(Collection, PicturesOfOneColourAreTheSameOnlyInThatColour)
     const auto plain = [](double level) { return Painting::plain(64, 48, {level, level, level}); };
     EXPECT_LT(difference(plain(200), plain(200)), usualLimit);
     EXPECT_GT(difference(plain(200), plain(40)), usualLimit);
+}
+
+/// What a collection says of pictures that come in this order: each pair by the pictures' own numbers.
+std::vector<Resemblances::Pair> pairsOf(const std::vector<Thumb>& thumbs, const std::vector<std::uint32_t>& order)
+{
+    Collection collection;
+    std::vector<Resemblances::Pair> pairs;
+    for (const std::uint32_t number : order) {
+        for (Resemblances::Pair pair : collection.add(number, thumbs[number])) {
+            if (pair.one > pair.other) {
+                std::swap(pair.one, pair.other);
+                if (pair.part != Resemblances::Part::Neither)
+                    pair.part =
+                        pair.part == Resemblances::Part::One ? Resemblances::Part::Other : Resemblances::Part::One;
+            }
+            pairs.push_back(pair);
+        }
+    }
+    std::ranges::sort(pairs, {}, [](const Resemblances::Pair& pair) { return std::pair(pair.one, pair.other); });
+    return pairs;
+}
+
+TEST(Collection, WhichPictureIsReadFirstSaysNothing)
+{
+    const Painting whole = Painting::of(1);
+    const std::vector<Thumb> thumbs{whole.thumb(), whole.cut(16, 12, 16, 12).thumb(),
+                                    Painting::of(1, 320, 240, 0.012).thumb(), whole.cut(0, 0, 24, 0).turned().thumb()};
+    std::vector<std::uint32_t> order{0, 1, 2, 3};
+    const auto expected = pairsOf(thumbs, order);
+    ASSERT_GE(expected.size(), 4U);
+    while (std::ranges::next_permutation(order).found) {
+        const auto pairs = pairsOf(thumbs, order);
+        ASSERT_EQ(pairs.size(), expected.size());
+        for (std::size_t at = 0; at < pairs.size(); ++at) {
+            EXPECT_EQ(pairs[at].one, expected[at].one);
+            EXPECT_EQ(pairs[at].other, expected[at].other);
+            EXPECT_NEAR(pairs[at].difference, expected[at].difference, 0.002F)
+                << pairs[at].one << " and " << pairs[at].other;
+            EXPECT_EQ(pairs[at].part, expected[at].part);
+        }
+    }
 }
 
 } // namespace

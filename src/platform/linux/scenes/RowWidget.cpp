@@ -87,15 +87,9 @@ void RowWidget::showFolder()
 
 void RowWidget::showMissing(bool missing)
 {
-    for (const char* name : missingParts) {
-        auto* part = findChild<QWidget*>(QLatin1String(name));
-        if (missing) {
-            QPalette colors = palette();
-            colors.setColor(part->foregroundRole(), warningText(colors));
-            part->setPalette(colors);
-        }
-        part->setVisible(missing);
-    }
+    for (const char* name : missingParts)
+        findChild<QWidget*>(QLatin1String(name))->setVisible(missing);
+    colorMissing();
     // Of a row only its controls are read.
     const auto* words = findChild<Label*>(QLatin1String(missingParts.back()));
     QStringList told{m_title->givenToolTip(), words->text()};
@@ -103,6 +97,18 @@ void RowWidget::showMissing(bool missing)
         told.removeFirst();
     for (QWidget* stop : m_stops)
         LinuxDesktop::setAccessibleDescription(*stop, missing ? told.join(QStringLiteral(", ")) : told.first());
+}
+
+void RowWidget::colorMissing()
+{
+    QPalette colors = palette();
+    const QColor warning = warningText(colors);
+    for (const char* name : missingParts) {
+        if (auto* part = findChild<QWidget*>(QLatin1String(name))) {
+            colors.setColor(part->foregroundRole(), warning);
+            part->setPalette(colors);
+        }
+    }
 }
 
 void RowWidget::setLast(bool last)
@@ -137,9 +143,9 @@ void RowWidget::setSelected(std::optional<bool> selected)
 void RowWidget::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    const auto* missing = findChild<QWidget*>(QLatin1String(missingParts.front()));
-    if (event->type() == QEvent::PaletteChange && missing)
-        showMissing(missing->isVisibleTo(this));
+    // Also while the row is still being made, where the colours are not the usual ones.
+    if (event->type() == QEvent::PaletteChange)
+        colorMissing();
 }
 
 /// A part of the row from its beginning, within the round corners of the list.

@@ -53,6 +53,7 @@ protected:
 
 private:
     void showMissing(bool missing);
+    void colorMissing();
     void fill(QPainter& painter, int width, const QColor& color) const;
 
     std::unique_ptr<NS::TableCellView> m_cell;
