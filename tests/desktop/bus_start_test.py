@@ -38,7 +38,7 @@ class BusStart(DesktopTestCase):
 
     def titles(self):
         application = accessibility.application(self.bus.accessibility_address, self.process_id())
-        return [window.name for window in application.children if window.has("showing")]
+        return [window.name for window in application.shown_children()]
 
     def test_it_shows_one_window_of_one_process(self):
         self.activate()

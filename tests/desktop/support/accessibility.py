@@ -3,11 +3,12 @@
 Every question goes to the program itself: libraries keep answers in a cache, and then a test would see what was.
 """
 
+import functools
 from collections import namedtuple
 
 from gi.repository import GLib
 
-from .buses import call, call_bus, connect
+from .buses import Gone, call, call_bus, connect
 
 _REGISTRY = "org.a11y.atspi.Registry"
 _ROOT = "/org/a11y/atspi/accessible/root"
@@ -35,6 +36,23 @@ _ITEMS = {"list item", "page tab", "tree item"}
 _TEXTS = {"heading", "label", "paragraph"}
 
 Extents = namedtuple("Extents", "x y width height")
+
+
+# How often a tree may change while it is read.
+_ROUNDS = 5
+
+
+def _as_one(question):
+    """Asks again where something went away between two calls of one question about a whole tree."""
+    @functools.wraps(question)
+    def asked(*arguments, **keywords):
+        for _ in range(_ROUNDS):
+            try:
+                return question(*arguments, **keywords)
+            except Gone as error:
+                trouble = error
+        raise trouble
+    return asked
 
 
 class Accessible:
@@ -129,34 +147,47 @@ class Accessible:
         actions = [name for name, _, _ in self._call(_ACTION, "GetActions")[0]]
         self._call(_ACTION, "DoAction", GLib.Variant("(i)", (actions.index(action),)))
 
-    def descendants(self, state="showing"):
-        """Every object below this one that is on view and in a state, parents before their children."""
+    def _walk(self, state="showing"):
         for child in self.children:
             states = child.states
             if "showing" in states:
                 if state in states:
                     yield child
-                yield from child.descendants(state)
+                yield from child._walk(state)
 
+    @_as_one
+    def shown_children(self):
+        return [child for child in self.children if child.has("showing")]
+
+    @_as_one
+    def descendants(self, state="showing"):
+        """Every object below this one that is on view and in a state, parents before their children."""
+        return list(self._walk(state))
+
+    @_as_one
     def all(self, role):
-        return [found for found in self.descendants() if found.role == role]
+        return [found for found in self._walk() if found.role == role]
 
+    @_as_one
     def texts(self):
         """What is written below it, in the order in which it is read."""
-        return [found.name for found in self.descendants() if found.role in _TEXTS and found.name]
+        return [found.name for found in self._walk() if found.role in _TEXTS and found.name]
 
+    @_as_one
     def find(self, role, name=None):
         """The first object of the role, and of the name where one is given; LookupError where there is none."""
-        for found in self.descendants():
+        for found in self._walk():
             if found.role == role and name in (None, found.name):
                 return found
         raise LookupError(f"no {role} {name or ''} is on view")
 
+    @_as_one
     def focused(self):
         """The control that has the keyboard; LookupError where none has."""
         # A current item says that it has the keyboard even while its list has not. Outer ones come first.
-        said = list(self.descendants("focused"))
-        found = [each for each in said if each.role not in _ITEMS] or [each for each in said if each.role == "list item"]
+        said = [(each, each.role) for each in self._walk("focused")]
+        found = ([each for each, role in said if role not in _ITEMS]
+                 or [each for each, role in said if role == "list item"])
         if not found:
             raise LookupError("nothing has the keyboard")
         return found[-1]

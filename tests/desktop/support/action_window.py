@@ -31,7 +31,7 @@ class ActionWindow:
 
     def windows(self):
         application = accessibility.application(self._case.bus.accessibility_address, self.process_id)
-        return [window for window in application.children if window.has("showing")]
+        return application.shown_children()
 
     def active_window(self, title):
         """Waits for the window of that title to be on view and to have the keyboard."""

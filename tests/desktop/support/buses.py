@@ -34,13 +34,18 @@ def connect(address):
     return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
 
 
+class Gone(LookupError):
+    """The program that was asked has no such object, or no longer."""
+
+
 def call(connection, name, path, interface, method, arguments=None):
-    """The answer's values. An error answer, or none in time, is a LookupError."""
+    """The answer's values. An error answer, or none in time, is a LookupError; Gone where it says just that."""
     try:
         answer = connection.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE,
                                       _CALL_TIMEOUT, None)
     except GLib.Error as error:
-        raise LookupError(error.message) from error
+        is_gone = error.matches(Gio.DBusError.quark(), Gio.DBusError.UNKNOWN_OBJECT)
+        raise (Gone if is_gone else LookupError)(error.message) from error
     return answer.unpack()
 
 

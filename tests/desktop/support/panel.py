@@ -50,7 +50,7 @@ class Panel:
     def windows(self):
         """The windows on view, by the accessibility bus."""
         application = accessibility.application(self._accessibility_address, self.process_id)
-        return [window for window in application.children if window.has("showing")]
+        return application.shown_children()
 
     def window(self, title):
         """The window of that title; LookupError when it is not on view."""

@@ -37,7 +37,7 @@ class _Walk:
 
     def _read(self, found, parent):
         name, role = found.name, found.role
-        children = [child for child in found.children if child.has("showing")]
+        children = found.shown_children()
         if role in _NAMED and not name.strip():
             self.faults.append(f"a {role} in “{parent.name if parent else ''}” has no name")
         if role == "label" and not found.related():
@@ -58,7 +58,7 @@ class _Walk:
     def _is_one(outer, inner):
         """Whether readers know that two names are one: a title and what it names, or a row and its only control."""
         return (inner in outer.related() or outer in inner.related()
-                or [child for child in outer.children if child.has("showing")] == [inner])
+                or outer.shown_children() == [inner])
 
 
 class Listener:
