@@ -104,7 +104,7 @@ class Texts(ExifWindow, DesktopTestCase):
         # A bar that is too short for its tabs scrolls.
         tab = next(tab for tabs in window.all("page tab list") for tab in tabs.children if tab.name == name)
         tab.act("Press")
-        eventually(lambda: self.catalogue.shows_tab(window, title), f"the tab “{name}”")
+        eventually(lambda: tab.has("selected"), f"the tab “{name}”")
 
     def click_button(self, window, name):
         button = eventually(lambda: window.find("push button", name), f"the button “{name}”")
