@@ -149,7 +149,8 @@ TEST(Collection, WhichPictureIsReadFirstSaysNothing)
 {
     const Painting whole = Painting::of(1);
     const std::vector<Thumb> thumbs{whole.thumb(), whole.cut(16, 12, 16, 12).thumb(),
-                                    Painting::of(1, 320, 240, 0.012).thumb(), whole.cut(0, 0, 24, 0).turned().thumb()};
+                                    Painting::of(1, 320, 240, 0.012).thumb(),
+                                    whole.cut(0, 0, 24, 0).turned().thumb()};
     std::vector<std::uint32_t> order{0, 1, 2, 3};
     const auto expected = pairsOf(thumbs, order);
     ASSERT_GE(expected.size(), 4U);
