@@ -94,6 +94,9 @@ QSplitter* makeSplitter(QWidget* first, QWidget* second, QWidget* parent)
     splitter->addWidget(second);
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(12);
+    // The toolkit puts the first a pixel too far to the right where that is the beginning.
+    if (splitter->isRightToLeft())
+        splitter->setContentsMargins(0, 0, 1, 0);
     readInOrder({first, second});
     return splitter;
 }
