@@ -28,6 +28,8 @@ namespace MenuExtension::Exif {
 namespace {
 
 constexpr std::chrono::milliseconds still{80};
+/// A few rows of the form are to be seen, and a value beside its name.
+constexpr QSize smallest(480, 460);
 
 QString nameOf(std::string_view path)
 {
@@ -118,6 +120,7 @@ void ExifWindow::layOut()
     layout->addWidget(m_failures);
     layout->addWidget(m_progress);
     readInOrder({m_heading, parts, m_result, m_failures, m_progress});
+    setMinimumSize(smallest);
     resize(isOne ? 660 : 860, 640);
     (isOne ? static_cast<QWidget*>(m_tags) : m_photos)->setFocus();
 }
