@@ -118,9 +118,12 @@ Outcome Troubles::outcome() const
         return Outcome::done();
     if (m_count <= sentencesTold)
         return Outcome::failed(m_sentences);
+    const auto more = m_count - sentencesTold;
     return Outcome::failed(m_sentences + ' ' +
-                           NS::stringWithFormat(LocalizedString("Words", "There were %1 more like these."),
-                                                {std::to_string(m_count - sentencesTold)}));
+                           (more == 1
+                                ? LocalizedString("Words", "There was 1 more like these.")
+                                : NS::stringWithFormat(LocalizedString("Words", "There were %1 more like these."),
+                                                       {std::to_string(more)})));
 }
 
 } // namespace MenuExtension::Words

@@ -60,6 +60,10 @@
         <source>it became shorter</source>
         <translation>أصبح أقصر</translation>
     </message>
+    <message>
+        <source>Folder</source>
+        <translation>مجلد</translation>
+    </message>
 </context>
 <context>
     <name>AutostartEntry</name>
@@ -755,6 +759,10 @@
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>، </translation>
     </message>
+    <message>
+        <source>Not known</source>
+        <translation>غير معروف</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::MenuButton</name>
@@ -847,12 +855,9 @@
         <source>Cancel</source>
         <translation>ألغِ</translation>
     </message>
-</context>
-<context>
-    <name>LinuxDesktop::RowWidget</name>
     <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <source>Progress</source>
+        <translation>التقدّم</translation>
     </message>
 </context>
 <context>
@@ -1125,6 +1130,7 @@
     </message>
     <message>
         <source>%1 %2.</source>
+        <extracomment>A file&apos;s name, and why nothing was done with it: “/home/a/b is the last copy that is left.”</extracomment>
         <translation>العنصر «⁨%1⁩» %2.</translation>
     </message>
     <message>
@@ -1201,6 +1207,10 @@
     <message>
         <source>Best Because</source>
         <translation>سبب الأفضلية</translation>
+    </message>
+    <message>
+        <source>Not the best</source>
+        <translation>ليست الأفضل</translation>
     </message>
 </context>
 <context>
@@ -1420,8 +1430,18 @@
         </translation>
     </message>
     <message>
-        <source>These were left as they were:</source>
-        <translation>تُركت هذه كما كانت:</translation>
+        <source>Pages</source>
+        <translation>الصفحات</translation>
+    </message>
+    <message>
+        <source>%1 These were left as they were:</source>
+        <extracomment>The first says how many photos were saved; the others follow as a list.</extracomment>
+        <translation>%1 تُركت هذه كما كانت:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -1509,6 +1529,25 @@
         <source>Summary</source>
         <translation>الملخص</translation>
     </message>
+    <message>
+        <source>Empty</source>
+        <translation>فارغة</translation>
+    </message>
+    <message>
+        <source>1 value</source>
+        <translation>قيمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values</source>
+        <translation>
+            <numerusform>%n قيمة</numerusform>
+            <numerusform>قيمة واحدة (%n)</numerusform>
+            <numerusform>قيمتان (%n)</numerusform>
+            <numerusform>%n قيم</numerusform>
+            <numerusform>%n قيمةً</numerusform>
+            <numerusform>%n قيمة</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::ProgressRow</name>
@@ -1561,6 +1600,11 @@
         <source>Cancel</source>
         <translation>ألغِ</translation>
     </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>How much is done, and how long the rest takes.</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Resizing::ComparePane</name>
@@ -1577,16 +1621,17 @@
         <translation>⁦%1 × %2⁩ بكسل · %3</translation>
     </message>
     <message>
-        <source> · small enough already</source>
-        <translation> · صغيرة بما يكفي أصلًا</translation>
-    </message>
-    <message>
-        <source> · %1 %</source>
-        <translation> · %1 ٪</translation>
-    </message>
-    <message>
         <source>Looking…</source>
         <translation>يجري الفحص…</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels · %3 · small enough already</source>
+        <translation>⁦%1 × %2⁩ بكسل · %3 · صغيرة بما يكفي أصلًا</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels · %3 · %4 %</source>
+        <extracomment>The last is how many bytes are left of hundred.</extracomment>
+        <translation>⁦%1 × %2⁩ بكسل · %3 · %4 ٪</translation>
     </message>
 </context>
 <context>
@@ -2261,6 +2306,7 @@
     </message>
     <message>
         <source>%1 %2.</source>
+        <extracomment>A photo&apos;s name, and what is wrong with it: “Harbour.jpg cannot be resized: it is damaged.”</extracomment>
         <translation>الملف «⁨%1⁩» %2.</translation>
     </message>
     <message>
@@ -2718,6 +2764,10 @@
             <numerusform>وهناك %1 مشكلة أخرى مماثلة.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There was 1 more like these.</source>
+        <translation>وهناك مشكلة واحدة أخرى مماثلة.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>
@@ -2829,6 +2879,13 @@
     </message>
 </context>
 <context>
+    <name>WindowParts</name>
+    <message>
+        <source>Clear</source>
+        <translation>امسح</translation>
+    </message>
+</context>
+<context>
     <name>Words</name>
     <message>
         <source>&quot;%1&quot;</source>
@@ -2849,6 +2906,10 @@
     <message>
         <source>There were %1 more like these.</source>
         <translation>وهناك مشكلات أخرى مماثلة، عددها %1.</translation>
+    </message>
+    <message>
+        <source>There was 1 more like these.</source>
+        <translation>وهناك مشكلة واحدة أخرى مماثلة.</translation>
     </message>
 </context>
 <context>
@@ -3088,6 +3149,10 @@
     <message>
         <source>Not found</source>
         <translation>غير موجود</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>احذف %1</translation>
     </message>
 </context>
 <context>

@@ -60,6 +60,10 @@
         <source>it became shorter</source>
         <translation>il a été raccourci entre-temps</translation>
     </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
 </context>
 <context>
     <name>AutostartEntry</name>
@@ -747,6 +751,10 @@
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Not known</source>
+        <translation>Inconnue</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::MenuButton</name>
@@ -839,12 +847,9 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
-</context>
-<context>
-    <name>LinuxDesktop::RowWidget</name>
     <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <source>Progress</source>
+        <translation>Progression</translation>
     </message>
 </context>
 <context>
@@ -1105,6 +1110,7 @@
     </message>
     <message>
         <source>%1 %2.</source>
+        <extracomment>A file&apos;s name, and why nothing was done with it: “/home/a/b is the last copy that is left.”</extracomment>
         <translation>%1 %2.</translation>
     </message>
     <message>
@@ -1169,6 +1175,10 @@
     <message>
         <source>Best Because</source>
         <translation>Raison du choix</translation>
+    </message>
+    <message>
+        <source>Not the best</source>
+        <translation>Pas la meilleure</translation>
     </message>
 </context>
 <context>
@@ -1376,8 +1386,18 @@
         </translation>
     </message>
     <message>
-        <source>These were left as they were:</source>
-        <translation>Ces photos sont restées telles quelles&#xa0;:</translation>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>%1 These were left as they were:</source>
+        <extracomment>The first says how many photos were saved; the others follow as a list.</extracomment>
+        <translation>%1 Ces photos sont restées telles quelles&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1465,6 +1485,21 @@
         <source>Summary</source>
         <translation>Résumé</translation>
     </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vide</translation>
+    </message>
+    <message>
+        <source>1 value</source>
+        <translation>1 valeur</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values</source>
+        <translation>
+            <numerusform>%n valeur</numerusform>
+            <numerusform>%n valeurs</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::ProgressRow</name>
@@ -1505,6 +1540,11 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>How much is done, and how long the rest takes.</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Resizing::ComparePane</name>
@@ -1521,16 +1561,17 @@
         <translation>%1 × %2 pixels · %3</translation>
     </message>
     <message>
-        <source> · small enough already</source>
-        <translation> · déjà assez petite</translation>
-    </message>
-    <message>
-        <source> · %1 %</source>
-        <translation> · %1&#xa0;%</translation>
-    </message>
-    <message>
         <source>Looking…</source>
         <translation>Calcul en cours…</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels · %3 · small enough already</source>
+        <translation>%1 × %2 pixels · %3 · déjà assez petite</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels · %3 · %4 %</source>
+        <extracomment>The last is how many bytes are left of hundred.</extracomment>
+        <translation>%1 × %2 pixels · %3 · %4&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2177,6 +2218,7 @@
     </message>
     <message>
         <source>%1 %2.</source>
+        <extracomment>A photo&apos;s name, and what is wrong with it: “Harbour.jpg cannot be resized: it is damaged.”</extracomment>
         <translation>%1 %2.</translation>
     </message>
     <message>
@@ -2610,6 +2652,10 @@
             <numerusform>Et %1&#xa0;autres problèmes du même genre.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There was 1 more like these.</source>
+        <translation>Il y a eu 1 autre problème du même genre.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>
@@ -2721,6 +2767,13 @@
     </message>
 </context>
 <context>
+    <name>WindowParts</name>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+</context>
+<context>
     <name>Words</name>
     <message>
         <source>&quot;%1&quot;</source>
@@ -2741,6 +2794,10 @@
     <message>
         <source>There were %1 more like these.</source>
         <translation>Autres problèmes du même genre&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>There was 1 more like these.</source>
+        <translation>Il y a eu 1 autre problème du même genre.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3037,10 @@
     <message>
         <source>Not found</source>
         <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>Supprimer %1</translation>
     </message>
 </context>
 <context>

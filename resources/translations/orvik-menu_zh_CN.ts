@@ -60,6 +60,10 @@
         <source>it became shorter</source>
         <translation>其内容在此期间变短了</translation>
     </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
 </context>
 <context>
     <name>AutostartEntry</name>
@@ -745,6 +749,10 @@
         <comment>between a file&apos;s kind, size and date</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Not known</source>
+        <translation>未知</translation>
+    </message>
 </context>
 <context>
     <name>LinuxDesktop::MenuButton</name>
@@ -837,12 +845,9 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
-</context>
-<context>
-    <name>LinuxDesktop::RowWidget</name>
     <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <source>Progress</source>
+        <translation>进度</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1105,7 @@
     </message>
     <message>
         <source>%1 %2.</source>
+        <extracomment>A file&apos;s name, and why nothing was done with it: “/home/a/b is the last copy that is left.”</extracomment>
         <translation>%1 %2。</translation>
     </message>
     <message>
@@ -1161,6 +1167,10 @@
     <message>
         <source>Best Because</source>
         <translation>最佳理由</translation>
+    </message>
+    <message>
+        <source>Not the best</source>
+        <translation>不是最佳</translation>
     </message>
 </context>
 <context>
@@ -1365,8 +1375,18 @@
         </translation>
     </message>
     <message>
-        <source>These were left as they were:</source>
-        <translation>以下照片保持原样：</translation>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>%1 These were left as they were:</source>
+        <extracomment>The first says how many photos were saved; the others follow as a list.</extracomment>
+        <translation>%1以下照片保持原样：</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -1454,6 +1474,20 @@
         <source>Summary</source>
         <translation>摘要</translation>
     </message>
+    <message>
+        <source>Empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>1 value</source>
+        <translation>1 个值</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n values</source>
+        <translation>
+            <numerusform>%n 个值</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::ProgressRow</name>
@@ -1491,6 +1525,11 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>%1 · %2</source>
+        <extracomment>How much is done, and how long the rest takes.</extracomment>
+        <translation>%1 · %2</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Resizing::ComparePane</name>
@@ -1507,16 +1546,17 @@
         <translation>%1 × %2 像素 · %3</translation>
     </message>
     <message>
-        <source> · small enough already</source>
-        <translation> · 已经足够小</translation>
-    </message>
-    <message>
-        <source> · %1 %</source>
-        <translation> · %1%</translation>
-    </message>
-    <message>
         <source>Looking…</source>
         <translation>正在计算…</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels · %3 · small enough already</source>
+        <translation>%1 × %2 像素 · %3 · 已经足够小</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels · %3 · %4 %</source>
+        <extracomment>The last is how many bytes are left of hundred.</extracomment>
+        <translation>%1 × %2 像素 · %3 · %4%</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2196,7 @@
     </message>
     <message>
         <source>%1 %2.</source>
+        <extracomment>A photo&apos;s name, and what is wrong with it: “Harbour.jpg cannot be resized: it is damaged.”</extracomment>
         <translation>%1 %2。</translation>
     </message>
     <message>
@@ -2583,6 +2624,10 @@
             <numerusform>另有 %1 个类似问题。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There was 1 more like these.</source>
+        <translation>另有 1 个类似问题。</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>
@@ -2694,6 +2739,13 @@
     </message>
 </context>
 <context>
+    <name>WindowParts</name>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+</context>
+<context>
     <name>Words</name>
     <message>
         <source>&quot;%1&quot;</source>
@@ -2714,6 +2766,10 @@
     <message>
         <source>There were %1 more like these.</source>
         <translation>另有 %1 个类似问题。</translation>
+    </message>
+    <message>
+        <source>There was 1 more like these.</source>
+        <translation>另有 1 个类似问题。</translation>
     </message>
 </context>
 <context>
@@ -2953,6 +3009,10 @@
     <message>
         <source>Not found</source>
         <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>删除 %1</translation>
     </message>
 </context>
 <context>

@@ -31,6 +31,7 @@ class Exif(ExifWindow, DesktopTestCase):
         self.assertIn("Bits Per Sample", cells)
         self.assertIn("photo.jpg", self.labels())
         self.save_picture("exif-information")
+        self.assertReadsWell(self.window)
 
     def test_a_search_goes_through_names_and_values(self):
         self.open(self.photo(Title="A hill", Artist="Ada"))
@@ -40,6 +41,7 @@ class Exif(ExifWindow, DesktopTestCase):
         eventually(lambda: "A hill" in self.cells() and "Ada" not in self.cells(), "what is found")
         self.hands.type("zzz")
         self.assertTells("Nothing is found.")
+        self.assertReadsWell(self.window)
 
     def test_texts_a_date_and_a_place_are_written_by_keyboard_alone(self):
         path = self.photo(Title="old")
@@ -60,6 +62,38 @@ class Exif(ExifWindow, DesktopTestCase):
         self.assertAlmostEqual(tags["GPSLongitude"], -2.25)
         self.assertEqual(os.listdir(self.home.files), ["photo.jpg"])
         self.save_picture("exif-edit")
+        self.assertReadsWell(self.window)
+
+    def test_pages_change_and_fields_follow_as_they_are_read(self):
+        self.open(self.photo(Title="A hill"))
+        eventually(lambda: "A hill" in self.cells(), "the data")
+        self.hands.press("ctrl+Next")
+        eventually(lambda: self.window.find("text", "Title").has("enabled"), "the form")
+        self.hands.press("ctrl+Prior")
+        eventually(lambda: "A hill" in self.cells(), "the data again")
+        self.to_edit_page()
+        fields = ["Title", "Description", "Author"]
+        ends = ["Remove Location and Personal Data…", "Save"]
+        for name in fields:
+            self.hands.press("Tab")
+            eventually(lambda name=name: self.window.focused().name == name, f"“{name}” to have the keyboard")
+        self.go_to("Keep the file's date of change")
+        for name in ends:
+            self.hands.press("Tab")
+            eventually(lambda name=name: self.window.focused().name == name, f"“{name}” to have the keyboard")
+
+    def test_what_became_of_it_is_told_to_those_who_listen(self):
+        self.open(self.photo())
+        self.to_edit_page()
+        listener = self.listen(self.action)
+        self.go_to("Save")
+        self.hands.press("Return")
+        eventually(lambda: listener.announced() == ["Nothing has been changed yet."], "the refusal to be told")
+        self.go_to("Title")
+        self.hands.type("x")
+        self.go_to("Save")
+        self.hands.press("Return")
+        eventually(lambda: listener.announced()[1:] == ["1 photo was saved."], "the end to be told")
 
     def test_what_many_photos_do_not_share_is_told_and_left_alone(self):
         paths = [self.photo(f"{number}.jpg", Title=f"title {number}", Artist="Ada") for number in range(3)]
@@ -67,6 +101,7 @@ class Exif(ExifWindow, DesktopTestCase):
         eventually(lambda: "Different values" in self.cells(), "the data")
         self.assertIn("3 photos", self.labels())
         self.save_picture("exif-many")
+        self.assertReadsWell(self.window)
         self.to_edit_page()
         self.go_to("Author")
         self.hands.press("ctrl+a")
@@ -108,6 +143,7 @@ class Exif(ExifWindow, DesktopTestCase):
                 self.assertIn(words, shown)
             if not remains:
                 self.save_picture("exif-personal")
+                self.assertReadsWell(dialog)
                 self.action.go_to("Remove", dialog)
             self.hands.press(key)
             self.action.active_window(TITLE)
@@ -131,6 +167,7 @@ class Exif(ExifWindow, DesktopTestCase):
         self.assertTrue(failures.startswith("bad.webp: "), failures)
         self.assertEqual(self.tags(paths[0])["Title"], "x")
         self.save_picture("exif-failure")
+        self.assertReadsWell(self.window)
 
     def test_what_is_not_to_be_understood_is_told_and_nothing_is_written(self):
         path = self.photo()
@@ -142,6 +179,7 @@ class Exif(ExifWindow, DesktopTestCase):
         self.hands.type("yesterday")
         self.save()
         self.assertTells("The date is to be written as 2026-12-31 23:59:59.")
+        self.assertReadsWell(self.window)
         with open(path, "rb") as file:
             self.assertEqual(file.read(), before)
 

@@ -41,6 +41,7 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         self.open()
         self.assertTells("2 groups, 6.0 kB could be saved")
         self.save_picture("duplicate-files")
+        self.assertReadsWell(self.window)
         self.assertEqual(self.groups(), ["c, 2 files of 5.0 kB each, 5.0 kB could be saved",
                                          "a, 2 files of 1.0 kB each, 1.0 kB could be saved"])
         self.assertBoxes(c=False, d=False)
@@ -58,12 +59,67 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         self.hands.press("Tab", "Down", "space")
         self.assertBoxes(a=False, b=True)
         self.assertTells("Chosen: 1 file, 1.0 kB")
+        self.assertReadsWell(self.window)
         self.press_button("Move 1 Item to Trash")
 
         self.assertTells("Moved to the trash: 1 file, 1.0 kB")
         self.assertEqual(self.left(), [b"a", b"c", b"d"])
         self.assertEqual(self.trashed(), [b"b"])
+        self.assertReadsWell(self.window)
         self.assertEventuallyEqual(self.groups, ["c, 2 files of 5.0 kB each, 5.0 kB could be saved"])
+
+    def test_those_who_listen_are_told_what_changes_and_no_more(self):
+        for name in "abc":
+            self.make(name, b"x" * 1000)
+        self.open()
+        self.assertTells("1 group, 2.0 kB could be saved")
+        self.go_to("Items of the Group")
+        listener = self.listen(self.action)
+        listener.note_names()
+        self.hands.press("Down", "space")
+        eventually(lambda: listener.heard("StateChanged", "checked"), "the choice to be told")
+        self.assertTells("Chosen: 1 file, 1.0 kB")
+        self.assertEqual(listener.heard("StateChanged", "checked"), [("b", True)])
+        self.assertEqual(listener.empty_name_changes(), [])
+        self.hands.press("Down", "space", "Up", "Up", "space")
+        words = "One always stays. Keep another one before you choose this."
+        eventually(lambda: listener.announced() == [words], "the refusal to be told")
+        self.assertEqual(self.list_of("Items of the Group").description, words)
+        self.choose_by_rule("Up")
+        eventually(lambda: listener.announced()[1:] == ["Nothing is chosen."], "the rule's choice to be told")
+        self.choose_by_rule("Down", "Down", "Down")
+        self.press_button("Move 2 Items to Trash")
+        eventually(lambda: listener.announced()[2:] == ["Chosen: 2 files, 2.0 kB", "Moved to the trash: 2 files, 2.0 kB"],
+                   "the end to be told")
+
+    def test_the_end_of_a_search_is_told(self):
+        # Until it is cancelled there is much to be read.
+        for number in range(40):
+            os.truncate(self.make(f"large {number}", b""), 20 << 30)
+        self.open()
+        eventually(lambda: self.window.find("push button", "Cancel"), "the search to say that it goes on")
+        listener = self.listen(self.action)
+        self.press_button("Cancel")
+        eventually(lambda: listener.announced() == ["The search was stopped before anything was found."],
+                   "the end to be told")
+
+    def test_return_presses_a_button_and_the_keyboard_goes_on_with_the_next_group(self):
+        for size, names in enumerate(("ab", "cd", "ef"), 1):
+            for name in names:
+                self.make(name, bytes([size]) * size * 1000)
+        self.open()
+        self.assertTells("3 groups, 6.0 kB could be saved")
+        self.go_to("Groups")
+        self.hands.press("Down", "Tab", "space")
+        self.assertTells("Chosen: 1 file, 2.0 kB")
+        self.go_to("Move 1 Item to Trash")
+        self.hands.press("Return")
+        self.assertTells("Moved to the trash: 1 file, 2.0 kB")
+        self.assertEqual(self.trashed(), [b"c"])
+        self.assertFocused("Groups")
+        self.assertBoxes(a=False, b=False)
+        self.hands.press("Up")
+        self.assertBoxes(e=False, f=False)
 
     def test_the_last_of_a_group_cannot_be_chosen(self):
         for name in "ab":
@@ -127,6 +183,7 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         self.hands.press("ctrl+f")
         self.hands.type("nowhere")
         self.assertTells("No group matches the filter")
+        self.assertReadsWell(self.window)
 
     def test_hidden_and_empty_files_are_a_choice(self):
         for name in "ab":
@@ -135,6 +192,7 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         self.open()
         self.assertTells("No two files hold the same.")
         self.save_picture("duplicate-files-none")
+        self.assertReadsWell(self.window)
         self.press_button("Hidden Files")
         self.assertTells("1 group, 1 byte could be saved")
         self.press_button("Empty Files")
@@ -179,6 +237,7 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         text = dialog.find("text", "Left Out")
         self.assertEqual(text.text, f"{self.home.files}/b is the last copy that is left.")
         self.save_picture("duplicate-files-left-out")
+        self.assertReadsWell(dialog)
         self.hands.press("Escape")
         self.action.active_window(self.title)
 
@@ -190,6 +249,7 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         self.open(*(os.path.join(self.home.files, name) for name in ("a", "b", "pipe", "link")))
         self.assertTells("1 group, 1 byte could be saved")
         self.window.find("push button", "2 Items Were Left Out…")
+        self.assertReadsWell(self.window)
 
     def test_it_is_closed_by_the_keyboard_and_runs_beside_another(self):
         for name in "ab":
@@ -219,6 +279,7 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         self.assertTells("1 group, 1.0 kB could be saved")
         eventually(lambda: self.window.find("push button", "Cancel"), "the search to say that it goes on")
         self.save_picture("duplicate-files-searching")
+        self.assertReadsWell(self.window)
         self.hands.press("Escape")
         self.action.wait_for_end()
 

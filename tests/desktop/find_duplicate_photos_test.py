@@ -38,6 +38,7 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
         eventually(lambda: any(name.startswith("480 × 360") for name in self.texts()), "the size in pixels")
         self.assertIn("Best: most pixels", " ".join(self.texts() + self.labels()))
         self.save_picture("duplicate-photos")
+        self.assertReadsWell(self.window)
         self.choose_by_rule("Down")
         eventually(lambda: any(label.startswith("Chosen: 2 photos") for label in self.labels()), "the choice")
         self.press_button("Move 2 Items to Trash")
@@ -53,6 +54,7 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
         self.hands.press("End")
         self.assertTells("No two photos show the same.")
         self.save_picture("duplicate-photos-none")
+        self.assertReadsWell(self.window)
         self.hands.press("Home")
         eventually(lambda: len(self.groups()) == 1, "the group again")
 

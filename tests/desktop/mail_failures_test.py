@@ -11,6 +11,7 @@ from support.case import DesktopTestCase
 from support.mail import CommandMessages
 from support.mounts import small_disk
 from support.panel import CHOOSER, MAIN_WINDOW
+from support.reading import Reader
 from support.waiting import eventually, throughout
 
 GIBIBYTE = 1 << 30
@@ -20,7 +21,7 @@ A_MOMENT = 0.7
 FAILING_COMMAND = "#!/bin/sh\nexit 4\n"
 
 
-class MailFailures(DesktopTestCase):
+class MailFailures(Reader, DesktopTestCase):
     def setUp(self):
         super().setUp()
         self.folder = os.path.join(self.home.files, "Photos")
@@ -170,8 +171,10 @@ class MailFailures(DesktopTestCase):
         self.assertEqual(window.name, "Preparing “Photos” for sending…")
         self.assertTrue(window.find("progress bar"))
         self.save_picture("preparing")
+        self.assertReadsWell(window)
+        self.assertNotIn(window.name, [found.name for found in window.descendants()])
 
-        self.hands.click(window.find("push button", "Cancel").extents)
+        self.hands.press("Return")
 
         eventually(lambda: not self.panel.windows(), "the window to go")
         self.assertNothingIsLeft()

@@ -21,7 +21,7 @@ class MoveAndCopy(TransferTestCase):
     def cards(self):
         """The new item's and that of the one that is there."""
         return [each for each in self.window.descendants()
-                if each.role != "label" and each.name.startswith(("New ", "Already there "))]
+                if each.role == "panel" and each.name in ("New", "Already there")]
 
     def test_a_move_is_told_of_and_undone_from_the_notification(self):
         self.start()
@@ -81,6 +81,7 @@ class MoveAndCopy(TransferTestCase):
         self.start(notifications=False)
         self.open_window(MOVE, self.make("from/one"), title="“one” was moved to “to”.")
         self.save_picture("move-done")
+        self.assertReadsWell(self.window)
         self.assertEqual(self.buttons(), ["Undo", "Show", "Close"])
         self.press("Undo")
         self.action.wait_for_end()
@@ -94,9 +95,11 @@ class MoveAndCopy(TransferTestCase):
         self.start()
         path = self.conflict(COPY)
         self.save_picture("copy-conflict")
-        cards = [card.name for card in self.cards()]
-        self.assertRegex(cards[0], r"^New 3 bytes\n.*\d")
-        self.assertRegex(cards[1], r"^Already there 11 bytes\n.*\d")
+        self.assertReadsWell(self.window)
+        new, old = self.cards()
+        self.assertEqual((new.name, old.name), ("New", "Already there"))
+        self.assertRegex(new.description, r"^3 bytes\n.*\d")
+        self.assertRegex(old.description, r"^11 bytes\n.*\d")
         self.assertEqual(eventually(self.window.focused, "a button").name, "Keep Both")
         self.hands.press("Return")
         told = self.notifications.only()
@@ -208,6 +211,7 @@ class MoveAndCopy(TransferTestCase):
             self.open_window(MOVE, *paths, title="Not everything can be done.")
             self.assertIn("“to” cannot be moved into itself.", self.labels())
             self.save_picture("move-problems")
+            self.assertReadsWell(self.window)
             self.assertEqual(self.contents(), {"to/inner": b"new", "from/one": b"new"})
             self.assertEqual(eventually(self.window.focused, "a button").name, "Cancel")
             self.press(answer)
@@ -245,13 +249,14 @@ class MoveAndCopy(TransferTestCase):
             chooser = eventually(lambda: next(iter(self.action.windows())), "the chooser")
             eventually(lambda: chooser.has("active"), "the chooser to have the keyboard")
             self.save_picture("choose-target-" + prompt.lower())
+            self.assertReadsWell(chooser)
             self.assertIn(f"Choose the folder to {prompt.lower()} “one” to.",
-                          [label.name for label in chooser.all("label")])
+                          chooser.texts())
             if action == MOVE:
                 # It opens on the folder that the item is in.
                 self.hands.click(chooser.find("push button", prompt).extents)
                 eventually(lambda: "“one” is in this folder already." in
-                           [label.name for label in chooser.all("label")], "the words why not")
+                           chooser.texts(), "the words why not")
                 self.hands.press("Escape")
                 self.action.wait_for_end()
                 self.assertEqual(self.contents(), {"from/one": b"new"})
@@ -260,6 +265,27 @@ class MoveAndCopy(TransferTestCase):
             self.hands.click(chooser.find("push button", prompt).extents)
             self.notifications.only()
             self.assertEqual(self.contents(), {"from/one": b"new", "to/one": b"new"})
+
+    def test_the_keyboard_is_enough_from_the_choice_of_a_folder_to_the_undo(self):
+        self.start(notifications=False)
+        path = self.make("from/name.txt")
+        self.make("to/name.txt", b"old content")
+        before = self.contents()
+        self.run_action(MOVE, path, target="")
+        chooser = eventually(lambda: next(window for window in self.action.windows() if window.has("active")),
+                             "the chooser")
+        go_to(self.hands, chooser, self.target)
+        self.action.go_to("Move", chooser)
+        self.hands.press("Return")
+        self.window = self.action.active_window("There is a file “name.txt” in “to” already.")
+        self.action.go_to("Do the same for all the rest", self.window)
+        self.hands.press("space")
+        self.press("Replace")
+        self.window = self.action.active_window("“name.txt” was moved to “to”.")
+        self.assertEqual(self.contents(self.target), {"name.txt": b"new"})
+        self.press("Undo")
+        self.action.wait_for_end()
+        self.assertEqual(self.contents(), before)
 
     def test_a_long_work_shows_how_far_it_is_and_is_cancelled(self):
         self.start()
@@ -273,7 +299,9 @@ class MoveAndCopy(TransferTestCase):
         bar = eventually(lambda: self.window.find("progress bar"), "the bar")
         self.assertEqual(bar.name, "Copying “from” to “to”")
         self.save_picture("copy-progress")
-        eventually(lambda: self.window.find("push button", "Cancel"), "the button").act("Press")
+        self.assertReadsWell(self.window)
+        eventually(lambda: self.window.find("push button", "Cancel"), "the button")
+        self.press("Cancel")
         self.action.wait_for_end()
         self.assertNothingElseIn(self.target)
         self.assertEqual(len(self.contents()), 30_000)

@@ -8,9 +8,9 @@ from support.case import DesktopTestCase
 from support.extension import EXTENSIONS, Companion
 from support.file_managers import FileManager
 from support.panel import CHOOSER
-from support.reading import Listener, faults, outline
+from support.reading import Reader
 from support.suite import TITLES
-from support.waiting import eventually, settled
+from support.waiting import eventually
 
 TABS = ["Menu Items", "Folders", "General", "About", "Custom Folders"]
 # What shows that a tab's screen is there.
@@ -21,17 +21,7 @@ SWITCHED_OFF = "It is switched off."
 ENABLED = "Orvik Menu Extension is enabled"
 
 
-class ReadingTestCase(DesktopTestCase):
-    def assertReadsWell(self, window):
-        # What goes while it is read is read anew.
-        found, = settled(lambda: eventually(lambda: (faults(window),), "the window to be read"))
-        self.assertEqual(found, [], "\n".join(["", *outline(window)]))
-
-    def listen(self, program):
-        listener = Listener(self.bus.accessibility_address, program.process_id)
-        self.addCleanup(listener.close)
-        return listener
-
+class ReadingTestCase(Reader, DesktopTestCase):
     def start(self):
         self.panel = self.start_panel()
         self.window = self.panel.main_window()

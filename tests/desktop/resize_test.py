@@ -61,9 +61,11 @@ class ResizePhotos(ActionDriver, DesktopTestCase):
         bytes_before = os.path.getsize(path)
         self.assertTells(f"2400 × 1800 pixels · {bytes_before / 1e6:.1f} MB")
         self.assertTells("1920 × 1440 pixels")
-        self.assertEqual([frame.name for frame in self.window.descendants() if frame.name in ("Before", "After")
-                          and frame.role != "label"], ["Before", "After"])
+        self.assertEqual([(found.role, found.name) for found in self.window.descendants()
+                          if found.name in ("Before", "After")],
+                         [("label", "Before"), ("graphic", "Before"), ("label", "After"), ("graphic", "After")])
         self.save_picture("resize")
+        self.assertReadsWell(self.window)
         self.choose("For a screen", "Down", "Down")
         self.assertTells("1200 × 900 pixels")
         self.assertEqual(self.left(), [b"photo.jpg"])
@@ -78,6 +80,18 @@ class ResizePhotos(ActionDriver, DesktopTestCase):
         self.assertEqual(self.size_of(self.path("photo-600x450.jpg")), "JPEG 600x450")
         self.assertEqual(self.contents(self.path("photo.jpg")), before)
         self.save_picture("resize-done")
+        self.assertReadsWell(self.window)
+
+    def test_return_presses_a_button_and_the_end_is_told(self):
+        self.open(self.photo())
+        self.choose("For a screen", "Down", "Down")
+        self.assertTells("600 × 450 pixels")
+        listener = self.listen(self.action)
+        self.go_to("Resize")
+        self.hands.press("Return")
+        self.assertTells("1 photo was resized: ")
+        eventually(lambda: [words.partition(":")[0] for words in listener.announced()] == ["1 photo was resized"],
+                   "the end to be told")
 
     def test_in_its_place_the_original_goes_to_the_trash(self):
         before = self.contents(self.photo())
@@ -117,6 +131,7 @@ class ResizePhotos(ActionDriver, DesktopTestCase):
         self.choose("Beside the originals", "Down")
         self.press_button("Resize")
         self.assertTells("Choose the folder first.")
+        self.assertReadsWell(self.window)
         self.press_button("Choose Folder…")
         chooser = eventually(
             lambda: next(window for window in self.action.windows() if window != self.window and window.has("active")),
@@ -170,6 +185,7 @@ class ResizePhotos(ActionDriver, DesktopTestCase):
         self.assertTrue(any(failure.startswith("vanishes.jpg cannot be opened") for failure in failures), failures)
         self.assertEqual(self.size_of(self.path("misnamed-200x150.png")), "JPEG 200x150")
         self.save_picture("resize-failures")
+        self.assertReadsWell(self.window)
 
     def test_names_are_nothing_but_names(self):
         for name in NAMES:
@@ -227,6 +243,7 @@ class ResizePhotos(ActionDriver, DesktopTestCase):
     def test_cancelling_leaves_the_rest_as_it_is(self):
         paths = self.start_work_without_end()
         eventually(lambda: self.window.find("push button", "Cancel"), "the progress")
+        self.assertReadsWell(self.window)
         self.press_button("Cancel")
         self.assertTells("It was ended.")
         self.assertTrue(self.window.find("push button", "Resize").has("enabled"))

@@ -8,6 +8,8 @@
 #include "extension/actions/duplicates/PreviewPane.h"
 #include "extension/actions/duplicates/TroublesDialog.h"
 #include "extension/actions/window/ProgressRow.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
 #include "platform/linux/text/PluralCount.h"
@@ -39,18 +41,11 @@ using LinuxDesktop::sizeText;
 namespace {
 
 constexpr QSize initialSize(900, 640);
-constexpr QSize smallest(640, 420);
+constexpr QSize smallest(640, 500);
 constexpr std::chrono::milliseconds betweenTakings{250};
 constexpr qsizetype mostTroubles = 1000;
 
 enum Page { ListPage, NothingPage };
-
-QLabel* makeLabel(QWidget* parent)
-{
-    auto* const label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
 
 } // namespace
 
@@ -65,12 +60,13 @@ struct DuplicatesWindow::RemovalState {
 };
 
 DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation presentation)
-    : m_presentation(std::move(presentation)), m_finder(std::move(finder)), m_heading(makeLabel(this)),
-      m_filter(new QLineEdit(this)), m_rules(new QPushButton(this)), m_pages(new QStackedWidget(this)),
-      m_nothing(makeLabel(this)), m_list(new QListView(this)), m_hint(makeLabel(this)), m_items(new ItemView(this)),
-      m_preview(new PreviewPane(m_presentation, this)), m_progress(new ProgressRow(this)), m_sum(makeLabel(this)),
-      m_troubleButton(new QPushButton(this)), m_remove(new QPushButton(this)),
-      m_listModel(new GroupListModel(m_groups, m_presentation, this)),
+    : m_presentation(std::move(presentation)), m_finder(std::move(finder)), m_heading(makeHeading(this)),
+      m_filter(makeSearch(tr("Filter"), tr("Filter by name or folder"), this)),
+      m_rules(makeButton(tr("Choose by Rule"), this)), m_pages(new QStackedWidget(this)),
+      m_nothing(makeParagraph(this)), m_list(new QListView(this)), m_hint(makeNote(this)),
+      m_items(new ItemView(this)), m_preview(new PreviewPane(m_presentation, this)),
+      m_progress(new ProgressRow(this)), m_sum(makeText(this)), m_troubleButton(makeButton({}, this)),
+      m_remove(makeButton({}, this, true)), m_listModel(new GroupListModel(m_groups, m_presentation, this)),
       m_itemsModel(new ItemListModel(m_groups, m_presentation, this))
 {
     setWindowTitle(m_presentation.title);
@@ -86,8 +82,10 @@ DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation 
     connect(m_items->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &DuplicatesWindow::showCurrentItem);
     connect(m_itemsModel, &ItemListModel::chosen, this, &DuplicatesWindow::showChoice);
-    connect(m_itemsModel, &ItemListModel::refused, this,
-            [this] { m_hint->setText(tr("One always stays. Keep another one before you choose this.")); });
+    connect(m_itemsModel, &ItemListModel::refused, this, [this] {
+        showHint(tr("One always stays. Keep another one before you choose this."));
+        LinuxDesktop::announce(*m_hint, m_hint->text());
+    });
     connect(m_remove, &QPushButton::clicked, this, &DuplicatesWindow::remove);
     connect(m_troubleButton, &QPushButton::clicked, this, &DuplicatesWindow::showTroubles);
     connect(m_progress, &ProgressRow::cancelled, this, [this] {
@@ -98,9 +96,7 @@ DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation 
         m_wasStopped = true;
         m_search.requestStop();
     });
-    for (const auto& keys :
-         {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::CTRL | Qt::Key_Q)})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+    closeByKeyboard(*this);
     connect(new QShortcut(QKeySequence(QKeySequence::Find), this), &QShortcut::activated, m_filter,
             qOverload<>(&QWidget::setFocus));
     showChoice();
@@ -115,15 +111,10 @@ DuplicatesWindow::~DuplicatesWindow()
 
 void DuplicatesWindow::layOut()
 {
-    auto* const splitter = new QSplitter(Qt::Horizontal, this);
-    splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(12);
-    splitter->addWidget(makeGroupList());
-    splitter->addWidget(makeDetails());
+    QSplitter* const splitter = makeSplitter(makeGroupList(), makeDetails(), this);
     splitter->setStretchFactor(0, 2);
     splitter->setStretchFactor(1, 3);
     m_nothing->setAlignment(Qt::AlignCenter);
-    m_nothing->setWordWrap(true);
     m_nothing->setForegroundRole(QPalette::PlaceholderText);
     m_pages->addWidget(splitter);
     m_pages->addWidget(m_nothing);
@@ -131,10 +122,13 @@ void DuplicatesWindow::layOut()
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(20, 16, 20, 16);
     column->setSpacing(12);
-    column->addWidget(makeTop());
+    QWidget* const top = makeTop();
+    QWidget* const foot = makeFoot();
+    column->addWidget(top);
     column->addWidget(m_pages, 1);
     column->addWidget(m_progress);
-    column->addWidget(makeFoot());
+    column->addWidget(foot);
+    readInOrder({top, m_pages, m_progress, foot});
     setTabOrder(m_list, m_items);
     m_list->setFocus();
 }
@@ -142,14 +136,6 @@ void DuplicatesWindow::layOut()
 QWidget* DuplicatesWindow::makeTop()
 {
     auto* const top = new QWidget(this);
-    QFont font = m_heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.15);
-    font.setWeight(QFont::DemiBold);
-    m_heading->setFont(font);
-    m_filter->setPlaceholderText(tr("Filter by name or folder"));
-    m_filter->setAccessibleName(tr("Filter"));
-    m_filter->setClearButtonEnabled(true);
-    m_rules->setText(tr("Choose by Rule"));
     fillRules();
 
     auto* const row = new QHBoxLayout;
@@ -188,6 +174,7 @@ void DuplicatesWindow::fillRules()
     menu->addAction(tr("Choose Nothing"), this, [this] {
         m_groups.chooseNothing();
         showChoice();
+        LinuxDesktop::announce(*m_sum, m_sum->text());
     });
     connect(menu, &QMenu::aboutToShow, this, [this] {
         const auto item = currentItem();
@@ -227,6 +214,8 @@ QWidget* DuplicatesWindow::makeDetails()
     header.resizeSection(ItemListModel::SizeColumn, fontMetrics().horizontalAdvance(sizeText(999'900)) + aroundText);
     header.resizeSection(ItemListModel::DateColumn, fontMetrics().horizontalAdvance(dateText(longest)) + aroundText);
     header.setMinimumSectionSize(60);
+    // Three of a group are to be seen at least.
+    m_items->setMinimumHeight(header.sizeHint().height() + 4 * (fontMetrics().height() + 6));
     // What a finder tells of its own is what its items are chosen by.
     for (int column = ItemListModel::FirstOwnColumn, place = 1; column < m_itemsModel->columnCount();
          ++column, ++place)
@@ -234,8 +223,8 @@ QWidget* DuplicatesWindow::makeDetails()
     constexpr int charactersOfReason = 24;
     if (m_presentation.proposal)
         header.resizeSection(m_itemsModel->columnCount() - 1, charactersOfReason * fontMetrics().averageCharWidth());
-    m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setWordWrap(true);
+    LinuxDesktop::tieWords(*m_hint, *m_items);
 
     auto* const details = new QWidget(this);
     auto* const column = new QVBoxLayout(details);
@@ -253,6 +242,7 @@ QWidget* DuplicatesWindow::makeFoot()
     m_troubleButton->setFlat(true);
     m_troubleButton->hide();
     m_sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    LinuxDesktop::tieWords(*m_sum, *m_remove);
     auto* const row = new QHBoxLayout(foot);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);
@@ -327,6 +317,8 @@ void DuplicatesWindow::takeFindings()
         showGroups();
         showChoice();
     }
+    if (batch.hasEnded && !m_isSearching)
+        LinuxDesktop::announce(*this, m_pages->currentIndex() == NothingPage ? m_nothing->text() : m_heading->text());
     // Of the time no more than a part is spent on showing what is found.
     m_pause = std::max(betweenTakings, std::chrono::milliseconds(8 * duration.elapsed()));
     m_sinceTaking.start();
@@ -347,6 +339,7 @@ void DuplicatesWindow::choose(const KeepRule& rule)
         return;
     m_groups.choose(m_listModel->groups(), rule);
     showChoice();
+    LinuxDesktop::announce(*m_sum, m_sum->text());
 }
 
 void DuplicatesWindow::remove()
@@ -354,6 +347,9 @@ void DuplicatesWindow::remove()
     if (m_isRemoving || m_groups.chosen().items == 0)
         return;
     m_isRemoving = true;
+    // The button goes off, and the keyboard would go anywhere.
+    if (m_remove->hasFocus())
+        m_list->setFocus();
     m_itemsModel->setChangeable(false);
     m_removal = std::make_unique<RemovalState>();
     m_removal->total = m_groups.chosen().items;
@@ -397,6 +393,8 @@ void DuplicatesWindow::endRemoval()
         bytes += m_groups.item(number).state.size;
     for (const auto& [number, why] : state->kept)
         addTrouble(m_groups.item(number).path, why);
+    const int row = m_list->currentIndex().row();
+    const auto group = m_itemsModel->group();
     selectGroup(std::nullopt);
     m_groups.forget(state->removed);
     m_itemsModel->setChangeable(true);
@@ -405,9 +403,15 @@ void DuplicatesWindow::endRemoval()
         m_progress->start(tr("Looking for duplicates"));
     showTroubleCount();
     showGroups();
+    // Else the one that has taken its place.
+    if (group && std::ranges::count(m_listModel->groups(), *group) > 0)
+        selectGroup(group);
+    else
+        m_list->setCurrentIndex(m_listModel->index(std::min(row, m_listModel->rowCount() - 1)));
     showChoice();
     const auto removed = static_cast<qulonglong>(state->removed.size());
-    m_sum->setText(tr("Moved to the trash: %1, %2").arg(m_presentation.counted(removed), sizeText(bytes)));
+    showSum(tr("Moved to the trash: %1, %2").arg(m_presentation.counted(removed), sizeText(bytes)));
+    LinuxDesktop::announce(*m_sum, m_sum->text());
     if (std::exchange(m_isToSearchAgain, m_isToSearchAgain && m_isSearching) && !m_isSearching)
         search();
     takeLater();
@@ -456,8 +460,20 @@ void DuplicatesWindow::showCurrentGroup()
     m_itemsModel->setGroup(group);
     if (!m_items->currentIndex().isValid() && m_itemsModel->rowCount() > 0)
         m_items->setCurrentIndex(m_itemsModel->index(0, 0));
-    m_hint->setText(tr("What is checked goes to the trash. One of a group always stays."));
+    showHint(tr("What is checked goes to the trash. One of a group always stays."));
     showCurrentItem();
+}
+
+void DuplicatesWindow::showHint(const QString& words)
+{
+    m_hint->setText(words);
+    LinuxDesktop::describeByWords(*m_items);
+}
+
+void DuplicatesWindow::showSum(const QString& words)
+{
+    m_sum->setText(words);
+    LinuxDesktop::describeByWords(*m_remove);
 }
 
 void DuplicatesWindow::showCurrentItem()
@@ -485,9 +501,9 @@ void DuplicatesWindow::showChoice()
                       : chosen.items == 1 ? tr("Move 1 Item to Trash")
                                           : tr("Move %1 Items to Trash", nullptr, pluralCount(chosen.items))
                                                 .arg(QLocale().toString(static_cast<qulonglong>(chosen.items))));
-    m_sum->setText(chosen.items == 0
-                       ? tr("Nothing is chosen.")
-                       : tr("Chosen: %1, %2").arg(m_presentation.counted(chosen.items), sizeText(chosen.bytes)));
+    showSum(chosen.items == 0
+                ? tr("Nothing is chosen.")
+                : tr("Chosen: %1, %2").arg(m_presentation.counted(chosen.items), sizeText(chosen.bytes)));
     m_listModel->refresh();
     m_itemsModel->refresh();
 }
@@ -519,6 +535,7 @@ void DuplicatesWindow::showHeading()
 void DuplicatesWindow::addTrouble(const std::string& path, const std::string& why)
 {
     if (m_troubles.size() < mostTroubles)
+        //: A file's name, and why nothing was done with it: “/home/a/b is the last copy that is left.”
         m_troubles.append(tr("%1 %2.").arg(LinuxDesktop::fileNameText(path), LinuxDesktop::fileNameText(why)));
     else
         ++m_moreTroubles;

@@ -68,6 +68,8 @@ private:
     void showGroups();
     void showCurrentGroup();
     void showCurrentItem();
+    void showHint(const QString& words);
+    void showSum(const QString& words);
     void showChoice();
     void showHeading();
     void selectGroup(std::optional<GroupNumber> group);

@@ -95,8 +95,15 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
     const ItemNumber number = m_items[static_cast<std::size_t>(index.row())];
     if (role == Qt::CheckStateRole && index.column() == NameColumn)
         return m_groups.isChosen(number) ? Qt::Checked : Qt::Unchecked;
-    if (role == Qt::DisplayRole)
-        return text(m_groups.item(number), index.row(), index.column());
+    if (role == Qt::DisplayRole) {
+        const QString shown = text(m_groups.item(number), index.row(), index.column());
+        // A path begins on the left in every language.
+        return index.column() == FolderColumn ? u'\u2066' + shown + u'\u2069' : shown;
+    }
+    if (role == Qt::AccessibleTextRole) {
+        const QString shown = text(m_groups.item(number), index.row(), index.column());
+        return shown.isEmpty() ? tr("Not the best") : shown;
+    }
     if (role == Qt::ToolTipRole)
         return LinuxDesktop::fileNameText(m_groups.item(number).path);
     if (role == Qt::TextAlignmentRole && index.column() == SizeColumn)

@@ -1,5 +1,6 @@
 #include "extension/actions/duplicates/ItemView.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 
 namespace MenuExtension::Duplicates {
@@ -25,6 +26,23 @@ void ItemView::keyPressEvent(QKeyEvent* event)
     }
     const bool isChecked = box.data(Qt::CheckStateRole).toInt() == Qt::Checked;
     model()->setData(box, isChecked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+}
+
+/// The toolkit tells assistive programs of no box in a list that is checked.
+void ItemView::dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles)
+{
+    QTreeView::dataChanged(first, last, roles);
+    if (!QAccessible::isActive() || !roles.contains(Qt::CheckStateRole))
+        return;
+    QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(this);
+    QAccessible::State changed;
+    changed.checked = true;
+    for (int row = first.row(); row <= last.row(); ++row) {
+        if (QAccessibleInterface* const cell = list->tableInterface()->cellAt(row, first.column())) {
+            QAccessibleStateChangeEvent event(cell, changed);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
 }
 
 } // namespace MenuExtension::Duplicates

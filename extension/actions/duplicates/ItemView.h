@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QTreeView>
 
 namespace MenuExtension::Duplicates {
@@ -13,6 +14,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
 };
 
 } // namespace MenuExtension::Duplicates

@@ -1,6 +1,8 @@
 #include "extension/actions/duplicates/PreviewPane.h"
 
 #include "extension/actions/duplicates/ItemTexts.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/text/SizeText.h"
 
 #include <QFontDatabase>
@@ -49,16 +51,14 @@ PreviewPane::~PreviewPane() = default;
 PreviewPane::Tile PreviewPane::makeTile()
 {
     auto* const box = new QWidget(this);
-    auto* const content = new QLabel(box);
-    content->setTextFormat(Qt::PlainText);
+    QLabel* const content = makeText(box);
     content->setFrameShape(QFrame::StyledPanel);
     content->setMargin(frame);
     content->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    auto* const caption = new QLabel(box);
-    caption->setTextFormat(Qt::PlainText);
+    QLabel* const caption = makeNote(box);
+    LinuxDesktop::tieWords(*caption, *content);
     caption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    caption->setForegroundRole(QPalette::PlaceholderText);
     auto* const column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(content, 1);
@@ -105,7 +105,8 @@ void PreviewPane::showCaptions()
         for (const QString& line : lines)
             shown.append(fontMetrics().elidedText(line, Qt::ElideMiddle, tileWidth()));
         caption.setText(shown.join(u'\n'));
-        caption.setAccessibleName(lines.join(QStringLiteral(", ")));
+        LinuxDesktop::setAccessibleName(caption, lines.join(QStringLiteral(", ")));
+        LinuxDesktop::describeByWords(*m_tiles[index].content);
     }
 }
 
@@ -156,8 +157,11 @@ void PreviewPane::show(unsigned number, std::size_t index, const Item& item, con
     if (number != m_number)
         return;
     QLabel& content = *m_tiles[index].content;
-    content.setAccessibleName(tr("Preview of %1").arg(nameText(item)));
-    if (preview.picture.isNull() && !preview.text.isEmpty()) {
+    const bool isText = preview.picture.isNull() && !preview.text.isEmpty();
+    // A text is read itself.
+    LinuxDesktop::setAccessibleRole(content, isText ? QAccessible::Paragraph : QAccessible::Graphic);
+    LinuxDesktop::setAccessibleName(content, isText ? QString() : tr("Preview of %1").arg(nameText(item)));
+    if (isText) {
         content.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
         content.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignTop);
         content.setText(preview.text);

@@ -1,6 +1,8 @@
 #include "SimilarityRow.h"
 
 #include "Collection.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -32,10 +34,13 @@ SimilarityRow::SimilarityRow(float limit, std::function<void(float limit)> chang
     m_slider->setToolTip(tr("How much alike photos have to be to count as duplicates"));
     auto* const label = new QLabel(tr("Similarity"), this);
     label->setBuddy(m_slider);
-    auto* const loose = new QLabel(tr("Alike"), this);
-    auto* const strict = new QLabel(tr("The Same"), this);
-    for (QLabel* const end : {loose, strict})
-        end->setForegroundRole(QPalette::PlaceholderText);
+    QLabel* const loose = makeNote(this);
+    loose->setText(tr("Alike"));
+    QLabel* const strict = makeNote(this);
+    strict->setText(tr("The Same"));
+    // The slider tells its value itself.
+    for (QLabel* const beside : {loose, strict, m_value})
+        LinuxDesktop::setAccessibleRole(*beside, QAccessible::NoRole);
     m_value->setMinimumWidth(
         m_value->fontMetrics().horizontalAdvance(QLocale().toString(100) + QStringLiteral(" %")));
 

@@ -2,6 +2,8 @@
 
 #include "PictureView.h"
 #include "Texts.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/text/SizeText.h"
 
 #include <QHBoxLayout>
@@ -25,6 +27,13 @@ QImage imageOf(const Pixels& pixels)
     return image.copy();
 }
 
+/// A text with places for width, height and size, and maybe more.
+template<class... More>
+QString sized(const QString& words, const Size& size, const More&... more)
+{
+    return words.arg(QString::number(size.width), QString::number(size.height), sizeText(size.bytes), more...);
+}
+
 } // namespace
 
 ComparePane::ComparePane(QWidget* parent) : QWidget(parent)
@@ -38,40 +47,47 @@ ComparePane::ComparePane(QWidget* parent) : QWidget(parent)
 
 ComparePane::Side ComparePane::makeSide(const QString& title)
 {
-    auto* const heading = new QLabel(title, this);
+    QLabel* const heading = makeText(this);
+    heading->setText(title);
     QFont font = heading->font();
     font.setWeight(QFont::DemiBold);
     heading->setFont(font);
     auto* const picture = new PictureView(this);
     picture->setAccessibleName(title);
-    auto* const words = new QLabel(this);
-    words->setTextFormat(Qt::PlainText);
+    heading->setBuddy(picture);
+    QLabel* const words = makeNote(this);
     words->setWordWrap(true);
-    words->setForegroundRole(QPalette::PlaceholderText);
+    // Both pictures are as high, and words that take a second line do not move them.
+    words->setAlignment((words->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignTop);
+    words->setMinimumHeight(2 * words->fontMetrics().lineSpacing());
+    LinuxDesktop::tieWords(*words, *picture);
     auto* const column = new QVBoxLayout;
     column->setSpacing(6);
     column->addWidget(heading);
     column->addWidget(picture, 1);
     column->addWidget(words);
     static_cast<QHBoxLayout*>(layout())->addLayout(column, 1);
-    return {title, picture, words};
+    return {picture, words};
 }
 
-void ComparePane::show(const Side& side, const Size& size, const Pixels& pixels, const QString& more)
+void ComparePane::show(const Side& side, const Pixels& pixels, const QString& words)
 {
-    const QString words = tr("%1 × %2 pixels · %3")
-                              .arg(QString::number(size.width), QString::number(size.height), sizeText(size.bytes)) +
-                          more;
-    side.words->setText(words);
+    say(side, words);
     side.picture->show(imageOf(pixels));
-    side.picture->setAccessibleDescription(words);
 }
 
 void ComparePane::refuse(const Side& side, const QString& words)
 {
-    side.words->setText(words);
+    say(side, words);
     side.picture->show({});
-    side.picture->setAccessibleDescription(words);
+}
+
+void ComparePane::say(const Side& side, const QString& words)
+{
+    side.words->setText(words);
+    // Nothing is said of what is not known.
+    side.words->setVisible(!words.isEmpty());
+    LinuxDesktop::describeByWords(*side.picture);
 }
 
 void ComparePane::showBefore(const QString& name, const Result& result)
@@ -83,7 +99,7 @@ void ComparePane::showBefore(const QString& name, const Result& result)
         return;
     }
     const auto& photo = std::get<Resized>(result);
-    show(m_before, photo.before, photo.shownBefore);
+    show(m_before, photo.shownBefore, sized(tr("%1 × %2 pixels · %3"), photo.before));
 }
 
 void ComparePane::showAfter(const Result& result)
@@ -94,17 +110,18 @@ void ComparePane::showAfter(const Result& result)
     }
     const auto& photo = std::get<Resized>(result);
     if (photo.before == photo.after) {
-        show(m_after, photo.after, photo.shownBefore, tr(" · small enough already"));
+        show(m_after, photo.shownBefore, sized(tr("%1 × %2 pixels · %3 · small enough already"), photo.after));
         return;
     }
     const double share = 100.0 * static_cast<double>(photo.after.bytes) / static_cast<double>(photo.before.bytes);
-    show(m_after, photo.after, photo.shownAfter,
-         tr(" · %1 %").arg(QLocale().toString(share, 'f', share < 10 ? 1 : 0)));
+    //: The last is how many bytes are left of hundred.
+    show(m_after, photo.shownAfter,
+         sized(tr("%1 × %2 pixels · %3 · %4 %"), photo.after, QLocale().toString(share, 'f', share < 10 ? 1 : 0)));
 }
 
 void ComparePane::showThatItIsWorkedOn()
 {
-    m_after.words->setText(tr("Looking…"));
+    say(m_after, tr("Looking…"));
 }
 
 std::uint32_t ComparePane::room() const

@@ -32,13 +32,13 @@ protected:
 
 private:
     struct Side {
-        QString title;
         PictureView* picture;
         QLabel* words;
     };
     [[nodiscard]] Side makeSide(const QString& title);
-    void show(const Side& side, const Size& size, const Pixels& pixels, const QString& more = {});
+    void show(const Side& side, const Pixels& pixels, const QString& words);
     void refuse(const Side& side, const QString& words);
+    void say(const Side& side, const QString& words);
 
     Side m_before;
     Side m_after;

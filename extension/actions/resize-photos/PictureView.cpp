@@ -1,5 +1,7 @@
 #include "PictureView.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -10,13 +12,14 @@ namespace {
 
 /// Between the outline and the picture.
 constexpr int space = 8;
-constexpr QSize smallest(160, 120);
+constexpr QSize smallest(190, 120);
 
 } // namespace
 
 PictureView::PictureView(QWidget* parent) : QFrame(parent)
 {
     setFrameShape(QFrame::StyledPanel);
+    LinuxDesktop::setAccessibleRole(*this, QAccessible::Graphic);
     setMinimumSize(smallest);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }

@@ -5,6 +5,8 @@
 #include "TargetRows.h"
 #include "Texts.h"
 #include "extension/actions/window/ProgressRow.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/FileNameText.h"
 #include "platform/linux/text/PluralCount.h"
@@ -12,11 +14,9 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QKeySequence>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -34,8 +34,8 @@ constexpr std::chrono::milliseconds still{120};
 } // namespace
 
 ResizeWindow::ResizeWindow(const Request& request)
-    : m_request(request), m_heading(new QLabel(this)), m_photos(new QListView(this)), m_pane(new ComparePane(this)),
-      m_size(new SizeRow(this)), m_choices(new QWidget(this)), m_result(new QLabel(this)), m_previews(request),
+    : m_request(request), m_heading(makeHeading(this)), m_photos(new QListView(this)), m_pane(new ComparePane(this)),
+      m_size(new SizeRow(this)), m_choices(new QWidget(this)), m_result(makeParagraph(this)), m_previews(request),
       m_work(request)
 {
     setWindowTitle(tr("Resize Photos"));
@@ -53,7 +53,7 @@ ResizeWindow::ResizeWindow(const Request& request)
     m_target = new TargetRows(*form, LinuxDesktop::parentFolder(request.paths.front()), this);
     // The keyboard goes through what there is in the order in which it was made.
     m_failures = new QListView(this);
-    m_resize = new QPushButton(tr("Resize"), this);
+    m_resize = makeButton(tr("Resize"), this, true);
     m_progress = new ProgressRow(this);
     layOut();
 
@@ -78,18 +78,12 @@ ResizeWindow::ResizeWindow(const Request& request)
     connect(m_progress, &ProgressRow::cancelled, &m_work, &ResizeWork::cancel);
     connect(&m_work, &ResizeWork::advanced, this, &ResizeWindow::showProgress);
     connect(&m_work, &ResizeWork::ended, this, &ResizeWindow::showEnd);
-    for (const auto& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+    closeByKeyboard(*this);
 }
 
 void ResizeWindow::layOut()
 {
     const bool isOne = m_request.paths.size() == 1;
-    QFont font = m_heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.2);
-    font.setWeight(QFont::DemiBold);
-    m_heading->setFont(font);
-    m_heading->setTextFormat(Qt::PlainText);
     m_heading->setText(isOne ? nameOf(0) : tr("%n photos", nullptr, static_cast<int>(m_request.paths.size())));
     // Long names do not widen the window.
     m_heading->setMinimumWidth(1);
@@ -99,21 +93,16 @@ void ResizeWindow::layOut()
     m_photos->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_photos->setUniformItemSizes(true);
     m_photos->setCurrentIndex(m_names.index(0));
+    m_photos->setMinimumWidth(120);
     m_photos->setVisible(!isOne);
     QWidget* middle = m_pane;
     if (!isOne) {
-        auto* const parts = new QSplitter(this);
-        parts->addWidget(m_photos);
-        parts->addWidget(m_pane);
+        QSplitter* const parts = makeSplitter(m_photos, m_pane, this);
         parts->setStretchFactor(1, 1);
-        parts->setChildrenCollapsible(false);
-        parts->setHandleWidth(12);
         parts->setSizes({180, 600});
         middle = parts;
     }
 
-    m_result->setTextFormat(Qt::PlainText);
-    m_result->setWordWrap(true);
     m_result->hide();
     m_failures->setModel(&m_failureLines);
     m_failures->setAccessibleName(tr("Photos that were left as they are"));
@@ -136,6 +125,7 @@ void ResizeWindow::layOut()
     layout->addWidget(m_failures);
     layout->addLayout(end);
     layout->addWidget(m_progress);
+    readInOrder({m_heading, middle, m_choices, m_failures, m_result, m_resize, m_progress});
     resize(isOne ? 700 : 860, 600);
     m_size->setFocus();
 }
@@ -159,6 +149,13 @@ void ResizeWindow::preview()
     m_previews.show(shownPhoto(), m_size->wish(), m_pane->room());
 }
 
+void ResizeWindow::say(const QString& words)
+{
+    m_result->setText(words);
+    m_result->setVisible(!words.isEmpty());
+    LinuxDesktop::announce(*m_result, words);
+}
+
 void ResizeWindow::setBusy(bool busy)
 {
     m_choices->setEnabled(!busy);
@@ -168,8 +165,7 @@ void ResizeWindow::setBusy(bool busy)
 void ResizeWindow::resizeAll()
 {
     const auto target = m_target->target();
-    m_result->setText(m_target->complaint());
-    m_result->setVisible(!target);
+    say(m_target->complaint());
     if (!target || m_work.isWorking())
         return;
     m_failures->hide();
@@ -204,8 +200,7 @@ void ResizeWindow::showEnd(const ResizeWork::Progress& progress)
                      : tr("%n are small enough already.", nullptr, static_cast<int>(progress.smallAlready));
     if (!progress.failures.empty())
         words += tr("These were left as they are:");
-    m_result->setText(words.join(u' '));
-    m_result->show();
+    say(words.join(u' '));
     QStringList lines;
     for (const auto& [photo, outcome] : progress.failures)
         lines += inWords(nameOf(photo), outcome);

@@ -37,6 +37,7 @@ private:
     void resizeAll();
     void showProgress(const ResizeWork::Progress& progress);
     void showEnd(const ResizeWork::Progress& progress);
+    void say(const QString& words);
     void setBusy(bool busy);
 
     const Request& m_request;

@@ -1,6 +1,8 @@
 #include "TargetRows.h"
 
 #include "ResizedName.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/chooser/FileChooserDialog.h"
 #include "platform/linux/text/FileNameText.h"
 
@@ -25,27 +27,33 @@ QHBoxLayout* makeRow(QWidget* widget)
     return row;
 }
 
-QLabel* makeNote(QWidget* parent)
+/// Words beside a control, which they tell of.
+QLabel* makeNoteOn(QWidget& control)
 {
-    auto* const note = new QLabel(parent);
-    note->setTextFormat(Qt::PlainText);
-    note->setForegroundRole(QPalette::PlaceholderText);
+    QLabel* const note = makeNote(control.parentWidget());
     note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    LinuxDesktop::tieWords(*note, control);
     return note;
+}
+
+void say(QLabel& note, QWidget& control, const QString& words)
+{
+    note.setText(words);
+    LinuxDesktop::describeByWords(control);
 }
 
 } // namespace
 
 TargetRows::TargetRows(QFormLayout& form, std::string folder, QWidget* parent)
     : QObject(parent), m_parent(parent), m_form(form), m_where(new QComboBox(parent)),
-      m_folderRow(new QWidget(parent)), m_folderName(makeNote(m_folderRow)),
-      m_choose(new QPushButton(tr("Choose Folder…"), m_folderRow)), m_patternRow(new QWidget(parent)),
-      m_pattern(new QLineEdit(m_patternRow)), m_example(makeNote(m_patternRow)), m_start(std::move(folder))
+      m_folderRow(new QWidget(parent)), m_choose(makeButton(tr("Choose Folder…"), m_folderRow)),
+      m_folderName(makeNoteOn(*m_choose)), m_patternRow(new QWidget(parent)), m_pattern(new QLineEdit(m_patternRow)),
+      m_example(makeNoteOn(*m_pattern)), m_start(std::move(folder))
 {
     // In the order of Target::Kind.
     m_where->addItems(
         {tr("Beside the originals"), tr("In a folder"), tr("In their place; the originals go to the trash")});
-    m_folderName->setText(tr("None is chosen yet"));
+    say(*m_folderName, *m_choose, tr("None is chosen yet"));
     m_pattern->setText(QString::fromStdString(Target().pattern));
     m_pattern->setAccessibleName(tr("Name"));
     m_pattern->setToolTip(tr("{name} is the photo's own name, {width} and {height} are its new size in pixels."));
@@ -61,6 +69,10 @@ TargetRows::TargetRows(QFormLayout& form, std::string folder, QWidget* parent)
     m_form.addRow(tr("Save"), m_where);
     m_form.addRow(tr("Folder"), m_folderRow);
     m_form.addRow(tr("Name"), m_patternRow);
+    // Who cannot see the labels hears them with what they are for.
+    for (const auto& [row, control] :
+         {std::pair<QWidget*, QWidget*>(m_folderRow, m_choose), {m_patternRow, m_pattern}})
+        static_cast<QLabel*>(m_form.labelForField(row))->setBuddy(control);
 
     connect(m_where, &QComboBox::currentIndexChanged, this, &TargetRows::showWhatApplies);
     connect(m_choose, &QPushButton::clicked, this, &TargetRows::chooseFolder);
@@ -91,9 +103,9 @@ void TargetRows::showWhatApplies()
     }
     const std::string pattern = m_pattern->text().toStdString();
     if (!isNamePattern(pattern))
-        m_example->setText(tr("This is no name yet"));
+        say(*m_example, *m_pattern, tr("This is no name yet"));
     else if (!m_photo.empty())
-        m_example->setText(LinuxDesktop::fileNameText(resizedName(pattern, m_photo, m_size, 1)));
+        say(*m_example, *m_pattern, LinuxDesktop::fileNameText(resizedName(pattern, m_photo, m_size, 1)));
 }
 
 void TargetRows::chooseFolder()
@@ -108,7 +120,7 @@ void TargetRows::chooseFolder()
     if (chooser.exec() != QDialog::Accepted)
         return;
     m_folder = chooser.chosen().front();
-    m_folderName->setText(LinuxDesktop::fileNameText(m_folder));
+    say(*m_folderName, *m_choose, LinuxDesktop::fileNameText(m_folder));
 }
 
 std::optional<Target> TargetRows::target()

@@ -42,8 +42,8 @@ private:
     QFormLayout& m_form;
     QComboBox* m_where;
     QWidget* m_folderRow;
-    QLabel* m_folderName;
     QPushButton* m_choose;
+    QLabel* m_folderName;
     QWidget* m_patternRow;
     QLineEdit* m_pattern;
     QLabel* m_example;

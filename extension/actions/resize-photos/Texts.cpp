@@ -24,6 +24,7 @@ QString reason(int error)
 
 QString sentence(const QString& name, const std::string& end)
 {
+    //: A photo's name, and what is wrong with it: “Harbour.jpg cannot be resized: it is damaged.”
     return Texts::tr("%1 %2.").arg(name, QString::fromStdString(end));
 }
 

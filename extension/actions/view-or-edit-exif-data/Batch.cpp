@@ -75,13 +75,7 @@ void readPhotos(const Request& request, const std::vector<std::string>& paths, c
         });
         if (opened.photos.empty())
             return;
-        std::vector<int> files;
-        std::vector<std::string> names;
-        for (const OpenedFile& photo : opened.photos) {
-            files.push_back(photo.file.get());
-            names.push_back(photo.name);
-        }
-        auto readings = exifTool.read(files, names, stop);
+        auto readings = exifTool.read(opened.photos, stop);
         for (std::size_t place = 0; place < readings.size(); ++place) {
             if (readings[place].trouble.kind != Trouble::Kind::Cancelled)
                 report(opened.indices[place], std::move(readings[place]));

@@ -1,6 +1,8 @@
 #include "EditForm.h"
 
 #include "TagView.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -59,9 +61,9 @@ QHBoxLayout* makeRow()
 EditForm::EditForm(QWidget* parent)
     : QWidget(parent), m_description(new QPlainTextEdit), m_orientation(new QComboBox), m_place(new QLineEdit),
       m_keepsOriginal(new QCheckBox(tr("Keep the original file beside it, with “_original” after its name"))),
-      m_keepsTime(new QCheckBox(tr("Keep the file's date of change"))), m_refusal(new QLabel(this)),
-      m_remove(new QPushButton(tr("Remove Location and Personal Data…"), this)),
-      m_save(new QPushButton(tr("Save"), this)), m_fields(new QWidget)
+      m_keepsTime(new QCheckBox(tr("Keep the file's date of change"))), m_refusal(makeParagraph(this)),
+      m_remove(makeButton(tr("Remove Location and Personal Data…"), this)),
+      m_save(makeButton(tr("Save"), this, true)), m_fields(new QWidget)
 {
     auto* const form = new QFormLayout(m_fields);
     form->setContentsMargins(12, 12, 12, 12);
@@ -70,7 +72,6 @@ EditForm::EditForm(QWidget* parent)
     addLine(*form, Field::Title, tr("Title"));
     m_description->setTabChangesFocus(true);
     m_description->setAccessibleName(tr("Description"));
-    m_description->viewport()->setAccessibleName(tr("Description"));
     m_description->setFixedHeight(4 * fontMetrics().lineSpacing());
     form->addRow(tr("Description"), m_description);
     addLine(*form, Field::Author, tr("Author"));
@@ -90,8 +91,6 @@ EditForm::EditForm(QWidget* parent)
     // The page's own shows.
     area->viewport()->setAutoFillBackground(false);
     m_fields->setAutoFillBackground(false);
-    m_refusal->setWordWrap(true);
-    m_refusal->setTextFormat(Qt::PlainText);
     m_refusal->hide();
 
     QHBoxLayout* const buttons = makeRow();
@@ -104,6 +103,8 @@ EditForm::EditForm(QWidget* parent)
     layout->addWidget(area, 1);
     layout->addWidget(m_refusal);
     layout->addLayout(buttons);
+    readInOrder({area, m_refusal, m_remove, m_save});
+    setTabOrder(m_keepsTime, m_remove);
     setTabOrder(m_remove, m_save);
 
     connect(m_save, &QPushButton::clicked, this, &EditForm::save);
@@ -140,6 +141,7 @@ void EditForm::addShift(QFormLayout& form)
         row->addWidget(box, 1);
     }
     form.addRow(tr("Move date by"), row);
+    static_cast<QLabel*>(form.labelForField(row))->setBuddy(m_shift.front().first);
 }
 
 void EditForm::addOrientation(QFormLayout& form)
@@ -152,11 +154,12 @@ void EditForm::addOrientation(QFormLayout& form)
 void EditForm::addPlace(QFormLayout& form)
 {
     m_place->setAccessibleName(tr("Place"));
-    auto* const remove = new QPushButton(tr("Remove Place"));
+    QPushButton* const remove = makeButton(tr("Remove Place"), nullptr);
     QHBoxLayout* const row = makeRow();
     row->addWidget(m_place, 1);
     row->addWidget(remove);
     form.addRow(tr("Place"), row);
+    static_cast<QLabel*>(form.labelForField(row))->setBuddy(m_place);
     connect(m_place, &QLineEdit::returnPressed, this, &EditForm::save);
     connect(remove, &QPushButton::clicked, this, [this] {
         m_place->clear();
@@ -217,6 +220,7 @@ void EditForm::refuse(QWidget* typed, const QString& why)
 {
     m_refusal->setText(why);
     m_refusal->show();
+    LinuxDesktop::announce(*m_refusal, why);
     typed->setFocus();
 }
 

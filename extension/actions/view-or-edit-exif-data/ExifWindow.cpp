@@ -5,26 +5,31 @@
 #include "TagView.h"
 #include "TroubleWords.h"
 #include "extension/actions/window/ProgressRow.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/text/FileNameText.h"
 #include "platform/linux/text/PluralCount.h"
 
 #include <QHBoxLayout>
-#include <QKeySequence>
 #include <QLabel>
 #include <QListView>
 #include <QShortcut>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace MenuExtension::Exif {
 
 namespace {
 
 constexpr std::chrono::milliseconds still{80};
+/// A few rows of the form are to be seen, and a value beside its name.
+constexpr QSize smallest(480, 460);
 
 QString nameOf(std::string_view path)
 {
@@ -34,8 +39,8 @@ QString nameOf(std::string_view path)
 } // namespace
 
 ExifWindow::ExifWindow(const Request& request)
-    : m_request(request), m_photos(new QListView(this)), m_heading(new QLabel(this)), m_pages(new QTabWidget(this)),
-      m_tags(new TagView(this)), m_form(new EditForm(this)), m_result(new QLabel(this)),
+    : m_request(request), m_photos(new QListView(this)), m_heading(makeHeading(this)), m_pages(new QTabWidget(this)),
+      m_tags(new TagView(this)), m_form(new EditForm(this)), m_result(makeParagraph(this)),
       m_failures(new QListView(this)), m_progress(new ProgressRow(this)), m_work(request)
 {
     setWindowTitle(tr("Exif Data"));
@@ -59,15 +64,17 @@ ExifWindow::ExifWindow(const Request& request)
         m_progress->finish();
         m_photos->setEnabled(true);
         if (wasSaving) {
-            m_result->setText(tr("It was ended; the photos that were not saved yet are as they were."));
-            m_result->show();
+            say(tr("It was ended; the photos that were not saved yet are as they were."));
             m_settled.start();
         }
     });
     connect(m_form, &EditForm::saved, this, &ExifWindow::save);
     connect(m_form, &EditForm::removalAsked, this, &ExifWindow::askToRemove);
-    for (const auto& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+    for (const auto& [key, page] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)})
+        connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, this, [this, page = page] {
+            m_pages->setCurrentIndex((m_pages->currentIndex() + page + m_pages->count()) % m_pages->count());
+        });
+    closeByKeyboard(*this);
 
     m_photos->selectAll();
     m_settled.stop();
@@ -77,25 +84,21 @@ ExifWindow::ExifWindow(const Request& request)
 void ExifWindow::layOut()
 {
     const bool isOne = m_request.paths.size() == 1;
-    QFont font = m_heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.2);
-    font.setWeight(QFont::DemiBold);
-    m_heading->setFont(font);
-    m_heading->setTextFormat(Qt::PlainText);
-
+    // Long names do not widen the window.
+    m_heading->setMinimumWidth(1);
     m_photos->setModel(&m_names);
     m_photos->setAccessibleName(tr("Photos"));
     m_photos->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_photos->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_photos->setUniformItemSizes(true);
+    m_photos->setMinimumWidth(120);
     m_photos->setVisible(!isOne);
     m_pages->addTab(m_tags, tr("Information"));
     m_pages->addTab(m_form, tr("Edit"));
     // No frame within the window's own.
     m_pages->setDocumentMode(true);
+    m_pages->tabBar()->setAccessibleName(tr("Pages"));
 
-    m_result->setTextFormat(Qt::PlainText);
-    m_result->setWordWrap(true);
     m_result->hide();
     m_failures->setModel(&m_failureLines);
     m_failures->setAccessibleName(tr("Photos that failed"));
@@ -104,12 +107,8 @@ void ExifWindow::layOut()
     m_failures->setMaximumHeight(6 * fontMetrics().lineSpacing());
     m_failures->hide();
 
-    auto* const parts = new QSplitter(this);
-    parts->addWidget(m_photos);
-    parts->addWidget(m_pages);
+    QSplitter* const parts = makeSplitter(m_photos, m_pages, this);
     parts->setStretchFactor(1, 1);
-    parts->setChildrenCollapsible(false);
-    parts->setHandleWidth(12);
     parts->setSizes({220, 600});
 
     auto* const layout = new QVBoxLayout(this);
@@ -120,6 +119,8 @@ void ExifWindow::layOut()
     layout->addWidget(m_result);
     layout->addWidget(m_failures);
     layout->addWidget(m_progress);
+    readInOrder({m_heading, parts, m_result, m_failures, m_progress});
+    setMinimumSize(smallest);
     resize(isOne ? 660 : 860, 640);
     (isOne ? static_cast<QWidget*>(m_tags) : m_photos)->setFocus();
 }
@@ -182,17 +183,25 @@ void ExifWindow::showSaved(const PhotoWork::Progress& progress)
     m_photos->setEnabled(true);
     const auto saved = static_cast<int>(progress.done - progress.failures.size());
     const QString words = saved == 1 ? tr("1 photo was saved.") : tr("%n photos were saved.", nullptr, saved);
-    m_result->setText(progress.failures.empty() ? words : words + u' ' + tr("These were left as they were:"));
-    m_result->show();
+    //: The first says how many photos were saved; the others follow as a list.
+    say(progress.failures.empty() ? words : tr("%1 These were left as they were:").arg(words));
     showFailures(progress.failures);
     read();
+}
+
+void ExifWindow::say(const QString& words)
+{
+    m_result->setText(words);
+    m_result->show();
+    LinuxDesktop::announce(*m_result, words);
 }
 
 void ExifWindow::showFailures(const PhotoWork::Failures& failures)
 {
     QStringList lines;
     for (const auto& [photo, trouble] : failures)
-        lines.append(nameOf(m_request.paths[photo]) + QStringLiteral(": ") + inWords(trouble));
+        //: A photo's name, and what is wrong with it, which is a sentence.
+        lines.append(tr("%1: %2").arg(nameOf(m_request.paths[photo]), inWords(trouble)));
     m_failureLines.setStringList(lines);
     m_failures->setVisible(!lines.isEmpty());
 }

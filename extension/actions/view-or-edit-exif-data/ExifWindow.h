@@ -36,6 +36,7 @@ private:
     void showProgress(const PhotoWork::Progress& progress);
     void showRead(const PhotoWork::Progress& progress);
     void showSaved(const PhotoWork::Progress& progress);
+    void say(const QString& words);
     void showFailures(const PhotoWork::Failures& failures);
 
     const Request& m_request;

@@ -2,6 +2,8 @@
 
 #include "PersonalData.h"
 #include "TagView.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -48,17 +50,20 @@ PersonalDataDialog::PersonalDataDialog(const Merged& merged, QWidget* parent) : 
             group = new QTreeWidgetItem(list, {nameOf(*kind)});
         auto* const item = new QTreeWidgetItem(group, {readableName(line.name), shownValue(merged, line.value)});
         item->setToolTip(1, item->text(1));
+        item->setData(1, Qt::AccessibleTextRole, spokenValue(item->text(1)));
     }
+    for (const auto& [kind, group] : groups)
+        group->setData(1, Qt::AccessibleTextRole, countedValues(group->childCount()));
     list->expandAll();
     list->header()->resizeSection(0, 240);
     const bool isAny = !groups.empty();
 
-    auto* const words = new QLabel(isAny ? tr("This is removed for good, unless the original is kept. Title, "
-                                              "description, copyright and date stay.")
-                                         : tr("The photos have no location and no personal data that is known here."),
-                                   this);
-    words->setTextFormat(Qt::PlainText);
-    words->setWordWrap(true);
+    QLabel* const words = makeParagraph(this);
+    words->setText(isAny ? tr("This is removed for good, unless the original is kept. Title, description, copyright "
+                              "and date stay.")
+                         : tr("The photos have no location and no personal data that is known here."));
+    // It is read with the window's title.
+    LinuxDesktop::tieWords(*words, *this);
     list->setVisible(isAny);
 
     auto* const buttons = new QDialogButtonBox(this);
@@ -78,6 +83,7 @@ PersonalDataDialog::PersonalDataDialog(const Merged& merged, QWidget* parent) : 
     layout->addWidget(words);
     layout->addWidget(list, 1);
     layout->addWidget(buttons);
+    readInOrder({words, list, buttons});
     resize(560, isAny ? 440 : sizeHint().height());
 }
 

@@ -228,13 +228,7 @@ private:
 std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile> photos, const Edits& edits,
                                 const SaveOptions& options, const std::stop_token& stop)
 {
-    std::vector<int> files;
-    std::vector<std::string> names;
-    for (const OpenedFile& photo : photos) {
-        files.push_back(photo.file.get());
-        names.push_back(photo.name);
-    }
-    std::vector<Reading> readings = exifTool.read(files, names, stop);
+    std::vector<Reading> readings = exifTool.read(photos, stop);
     std::deque<Save> saves;
     for (std::size_t index = 0; index < photos.size(); ++index)
         saves.emplace_back(photos[index], std::move(readings[index])).write(exifTool, edits, stop);
@@ -248,13 +242,10 @@ std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile>
         return those;
     };
     const auto written = onTheirWay();
-    files.clear();
-    names.clear();
-    for (const Save* save : written) {
-        files.push_back(save->made());
-        names.push_back(save->photo().name);
-    }
-    readings = exifTool.read(files, names, stop);
+    std::vector<TagReader::Source> copies;
+    for (const Save* save : written)
+        copies.push_back({save->made(), save->photo().name});
+    readings = exifTool.read(copies, stop);
     for (std::size_t index = 0; index < written.size(); ++index) {
         written[index]->check(edits, readings[index]);
         if (written[index]->isOnItsWay())

@@ -71,30 +71,32 @@ TagReader::Link TagReader::link(int file, const std::string& name)
     return {m_folder, ++m_links, file, name};
 }
 
-Reading TagReader::read(int file, const std::string& name, const std::stop_token& stop)
+std::vector<Reading> TagReader::read(std::span<const OpenedFile> photos, const std::stop_token& stop)
 {
-    return std::move(read(std::span(&file, 1), std::span(&name, 1), stop).front());
+    std::vector<Source> sources;
+    for (const OpenedFile& photo : photos)
+        sources.push_back({photo.file.get(), photo.name});
+    return read(sources, stop);
 }
 
-std::vector<Reading> TagReader::read(std::span<const int> files, std::span<const std::string> names,
-                                     const std::stop_token& stop)
+std::vector<Reading> TagReader::read(std::span<const Source> sources, const std::stop_token& stop)
 {
-    if (files.empty())
+    if (sources.empty())
         return {};
     std::vector<std::string> arguments{"-json", "-G0:1", "-a", "-c", "%+.6f", "--System:all", "-q", "-q"};
     std::vector<Link> links;
     std::map<std::string, std::size_t> places;
-    for (std::size_t index = 0; index < files.size(); ++index) {
-        links.push_back(link(files[index], names[index]));
+    for (std::size_t index = 0; index < sources.size(); ++index) {
+        links.push_back(link(sources[index].file, sources[index].name));
         arguments.push_back(links.back().path());
         places[links.back().path()] = index;
     }
     const ExifTool::Answer answer = m_exifTool.run(arguments, stop);
-    std::vector<Reading> readings(files.size(), {.trouble = troubleOf(answer.end)});
+    std::vector<Reading> readings(sources.size(), {.trouble = troubleOf(answer.end)});
     if (answer.end != ExifTool::End::Done && answer.end != ExifTool::End::NotThere &&
-        answer.end != ExifTool::End::Cancelled && files.size() > 1) {
-        for (std::size_t index = 0; index < files.size(); ++index)
-            readings[index] = read(files[index], names[index], stop);
+        answer.end != ExifTool::End::Cancelled && sources.size() > 1) {
+        for (std::size_t index = 0; index < sources.size(); ++index)
+            readings[index] = std::move(read(sources.subspan(index, 1), stop).front());
         return readings;
     }
     if (answer.end != ExifTool::End::Done)
@@ -117,13 +119,13 @@ std::vector<Reading> TagReader::read(std::span<const int> files, std::span<const
         reading.tags = std::move(tags);
     });
     // Where one file's tags are no text that can be read, those of the others are asked for again.
-    if (!isWhole && files.size() > 1) {
-        for (std::size_t index = 0; index < files.size(); ++index) {
+    if (!isWhole && sources.size() > 1) {
+        for (std::size_t index = 0; index < sources.size(); ++index) {
             if (readings[index].tags.empty())
-                readings[index] = read(files[index], names[index], stop);
+                readings[index] = std::move(read(sources.subspan(index, 1), stop).front());
         }
     }
-    for (std::size_t index = 0; index < files.size(); ++index) {
+    for (std::size_t index = 0; index < sources.size(); ++index) {
         Trouble& trouble = readings[index].trouble;
         if (trouble.kind == Trouble::Kind::CannotBeRead && trouble.words.empty())
             trouble.words = firstError(answer.complaints, links[index].path());

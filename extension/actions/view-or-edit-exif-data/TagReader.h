@@ -26,11 +26,15 @@ class TagReader {
 public:
     explicit TagReader(Limits limits = {}) : m_exifTool(limits) {}
 
-    /// Reads open files; one that ExifTool does not come back from does no harm to the others. `names` are the
-    /// files' own; their ends say what kind a file is.
-    [[nodiscard]] std::vector<Reading> read(std::span<const int> files, std::span<const std::string> names,
-                                            const std::stop_token& stop);
-    [[nodiscard]] Reading read(int file, const std::string& name, const std::stop_token& stop);
+    /// An open file. Its own name's end says of what kind it is.
+    struct Source {
+        int file;
+        std::string name;
+    };
+
+    /// Reads open files; one that ExifTool does not come back from does no harm to the others.
+    [[nodiscard]] std::vector<Reading> read(std::span<const Source> sources, const std::stop_token& stop);
+    [[nodiscard]] std::vector<Reading> read(std::span<const OpenedFile> photos, const std::stop_token& stop);
 
     /// Writes a copy of the open file `from` to `to`, which does not exist, with the changes that the arguments say.
     [[nodiscard]] Trouble write(int from, const std::string& name, const std::string& to,

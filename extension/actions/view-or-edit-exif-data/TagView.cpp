@@ -1,5 +1,8 @@
 #include "TagView.h"
 
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -67,6 +70,7 @@ void addRow(QStandardItem& group, const QString& name, const QString& value)
 {
     auto* const shown = makeItem(value);
     shown->setToolTip(value);
+    shown->setData(spokenValue(value), Qt::AccessibleTextRole);
     group.appendRow({makeItem(name), shown});
 }
 
@@ -111,12 +115,20 @@ QString shownValue(const Merged& merged, const Merged::Value& value)
     return QString::fromStdString(value.text).simplified();
 }
 
-TagView::TagView(QWidget* parent)
-    : QWidget(parent), m_search(new QLineEdit(this)), m_tree(new QTreeView(this)), m_nothing(new QLabel(this))
+QString spokenValue(const QString& shown)
 {
-    m_search->setPlaceholderText(tr("Search names and values"));
-    m_search->setAccessibleName(tr("Search"));
-    m_search->setClearButtonEnabled(true);
+    return shown.isEmpty() ? TagView::tr("Empty") : shown;
+}
+
+QString countedValues(int count)
+{
+    return count == 1 ? TagView::tr("1 value") : TagView::tr("%n values", nullptr, count);
+}
+
+TagView::TagView(QWidget* parent)
+    : QWidget(parent), m_search(makeSearch(tr("Search"), tr("Search names and values"), this)),
+      m_tree(new QTreeView(this)), m_nothing(makeNote(this))
+{
     m_found.setSourceModel(&m_model);
     m_found.setRecursiveFilteringEnabled(true);
     m_found.setAutoAcceptChildRows(true);
@@ -128,7 +140,7 @@ TagView::TagView(QWidget* parent)
     m_tree->setUniformRowHeights(true);
     m_tree->setTabKeyNavigation(false);
     m_nothing->setText(tr("Nothing is found."));
-    m_nothing->setForegroundRole(QPalette::PlaceholderText);
+    LinuxDesktop::tieWords(*m_nothing, *m_search);
     m_nothing->hide();
 
     auto* const layout = new QVBoxLayout(this);
@@ -162,6 +174,8 @@ void TagView::showTags(const Merged& merged)
             group = addGroup(m_model, groupName(line));
         addRow(*group, readableName(line.name), shownValue(merged, line.value));
     }
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        m_model.item(row, 1)->setData(countedValues(m_model.item(row)->rowCount()), Qt::AccessibleTextRole);
     m_tree->expandAll();
     m_tree->header()->setSectionResizeMode(0, QHeaderView::Interactive);
     m_tree->header()->resizeSection(0, 240);
@@ -174,6 +188,9 @@ void TagView::search(const QString& text)
     m_found.setFilterFixedString(text);
     m_tree->expandAll();
     m_nothing->setVisible(m_found.rowCount() == 0 && !text.isEmpty());
+    LinuxDesktop::describeByWords(*m_search);
+    if (m_nothing->isVisible())
+        LinuxDesktop::announce(*m_nothing, m_nothing->text());
 }
 
 } // namespace MenuExtension::Exif

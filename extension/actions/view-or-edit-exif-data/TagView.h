@@ -35,5 +35,9 @@ private:
 [[nodiscard]] QString readableName(const std::string& tag);
 /// The value, or that the photos have different ones.
 [[nodiscard]] QString shownValue(const Merged& merged, const Merged::Value& value);
+/// What those hear who cannot see that a value is shown as nothing.
+[[nodiscard]] QString spokenValue(const QString& shown);
+/// What they hear beside the name of a group.
+[[nodiscard]] QString countedValues(int count);
 
 } // namespace MenuExtension::Exif

@@ -1,5 +1,8 @@
 #include "extension/actions/window/ProgressRow.h"
 
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -38,12 +41,12 @@ QString remainingTimeText(std::chrono::seconds remaining)
 }
 
 ProgressRow::ProgressRow(QWidget* parent)
-    : QWidget(parent), m_bar(new QProgressBar(this)), m_words(new QLabel(this)), m_cancel(new QPushButton(this))
+    : QWidget(parent), m_bar(new QProgressBar(this)), m_words(makeText(this)),
+      m_cancel(makeButton(tr("Cancel"), this))
 {
     m_bar->setTextVisible(false);
-    m_words->setTextFormat(Qt::PlainText);
     m_words->setMinimumWidth(1);
-    m_cancel->setText(tr("Cancel"));
+    LinuxDesktop::tieWords(*m_words, *m_bar);
     auto* const texts = new QVBoxLayout;
     texts->setSpacing(4);
     texts->addWidget(m_bar);
@@ -105,8 +108,10 @@ void ProgressRow::showWhatIsKnown()
                                          static_cast<double>(m_total) * wholeBar));
     QString text = m_text.isEmpty() ? m_what : m_text;
     if (const auto remaining = m_total > 0 ? m_estimate.remaining() : std::nullopt)
-        text += QStringLiteral(" · ") + remainingTimeText(*remaining);
+        //: How much is done, and how long the rest takes.
+        text = tr("%1 · %2").arg(text, remainingTimeText(*remaining));
     m_words->setText(text);
+    LinuxDesktop::describeByWords(*m_bar);
 }
 
 } // namespace MenuExtension

@@ -8,6 +8,7 @@ from gi.repository import Gio, GLib
 from . import accessibility
 from .deployment import EXTENSION
 from .extension import INTERFACE, OBJECT, Companion, processes_of
+from .reading import Reader
 from .suite import record
 from .waiting import eventually
 
@@ -61,7 +62,7 @@ class ActionWindow:
         self.wait_for_end()
 
 
-class ActionDriver:
+class ActionDriver(Reader):
     """A test case's part that has an action, and its window once that is on view."""
 
     def wait_for_action(self, action):
@@ -80,7 +81,7 @@ class ActionDriver:
         self.window = self.action.active_window(title)
 
     def labels(self):
-        return [label.name for label in self.window.all("label")]
+        return self.window.texts()
 
     def assertTells(self, words):
         eventually(lambda: words in self.labels(), f"the words “{words}”")

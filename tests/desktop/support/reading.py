@@ -4,7 +4,7 @@ from gi.repository import Gio, GLib
 
 from .accessibility import application_of
 from .buses import call, connect
-from .waiting import eventually
+from .waiting import eventually, settled
 
 # Who operates or finds something by them needs their names.
 _NAMED = {"alert message", "check box", "combo box", "dialog", "frame", "heading", "label", "link", "list", "list item",
@@ -29,6 +29,20 @@ def outline(window, depth=0):
     return lines
 
 
+class Reader:
+    """A test case's part that reads windows as a screen reader does, and hears what is told of them."""
+
+    def assertReadsWell(self, window):
+        # What goes while it is read is read anew.
+        found, = settled(lambda: eventually(lambda: (faults(window),), "the window to be read"))
+        self.assertEqual(found, [], "\n".join(["", *outline(window)]))
+
+    def listen(self, program):
+        listener = Listener(self.bus.accessibility_address, program.process_id)
+        self.addCleanup(listener.close)
+        return listener
+
+
 class _Walk:
     def __init__(self, window):
         self.faults = []
@@ -44,8 +58,8 @@ class _Walk:
             self.faults.append(f"the label “{name}” is tied to nothing")
         if role == "filler" and (children or name):
             self.faults.append(f"a filler “{name}” holds {[child.role for child in children]}")
-        # What a window is called is read when it comes, and stands in its title bar.
-        if name and (parent or role == "alert message"):
+        # What a window is called is read when it comes, and stands in its title bar. An announcement repeats what is new.
+        if name and role != "notification" and (parent or role == "alert message"):
             if self._last and self._last.name == name and not self._is_one(self._last, found):
                 self.faults.append(f"“{name}” is said twice, as {self._last.role} and as {role}")
             self._last = found

@@ -10,13 +10,14 @@ from .case import DesktopTestCase
 from .deployment import EXTENSION
 from .extension import INTERFACE, OBJECT, Companion, processes_of
 from .notifications import Notifications
+from .reading import Reader
 from .suite import record
 
 MOVE = "move-to-a-folder"
 COPY = "copy-to-a-folder"
 
 
-class TransferTestCase(DesktopTestCase):
+class TransferTestCase(Reader, DesktopTestCase):
     """A person whose files count, with a folder “to” among them that everything goes to."""
 
     def setUp(self):
@@ -76,7 +77,7 @@ class TransferTestCase(DesktopTestCase):
     def run_action(self, action, *paths, target=None):
         """The action's process, which is the last that was started."""
         before = self.running(action)
-        self.ask(action, *paths, target=target or self.target)
+        self.ask(action, *paths, target=self.target if target is None else target)
         started, = set(self.running(action)) - set(before)
         self.action = ActionWindow(self, started)
 
@@ -85,7 +86,7 @@ class TransferTestCase(DesktopTestCase):
         self.window = self.action.active_window(title)
 
     def labels(self):
-        return [label.name for label in self.window.all("label")]
+        return self.window.texts()
 
     def press(self, button):
         self.action.go_to(button, self.window)

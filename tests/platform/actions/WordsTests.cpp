@@ -47,6 +47,7 @@ TEST(WordsForPeople, ManyTroublesAreCounted)
         troubles.add(sentence);
     EXPECT_EQ(troubles.outcome().words, "One. Two. Three.");
     troubles.add("Four.");
+    EXPECT_EQ(troubles.outcome().words, "One. Two. Three. There was 1 more like these.");
     troubles.add("Five.");
     EXPECT_EQ(troubles.outcome().kind, Outcome::Kind::Failed);
     EXPECT_EQ(troubles.outcome().words, "One. Two. Three. There were 2 more like these.");

@@ -1,6 +1,8 @@
 #include "extension/actions/transfer/window/ItemCard.h"
 
 #include "extension/actions/transfer/window/ItemPicture.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/text/SizeText.h"
 
 #include <QDateTime>
@@ -12,15 +14,17 @@
 namespace MenuExtension::Transfers {
 
 ItemCard::ItemCard(QWidget* parent)
-    : Card(parent), m_picture(new ItemPicture(this)), m_which(new QLabel(this)), m_facts(new QLabel(this))
+    : Card(parent), m_picture(new ItemPicture(this)), m_which(makeText(this)), m_facts(makeText(this))
 {
     QFont bold = m_which->font();
     bold.setWeight(QFont::DemiBold);
     m_which->setFont(bold);
-    for (QLabel* label : {m_which, m_facts}) {
-        label->setTextFormat(Qt::PlainText);
+    for (QLabel* label : {m_which, m_facts})
         label->setWordWrap(true);
-    }
+    LinuxDesktop::setAccessibleRole(*m_picture, QAccessible::NoRole);
+    // It is what the card is called.
+    LinuxDesktop::setAccessibleRole(*m_which, QAccessible::Heading);
+    LinuxDesktop::tieWords(*m_facts, *this);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(4);
     texts->addStretch();
@@ -46,7 +50,7 @@ void ItemCard::show(const QString& which, const Conflict::Side& side)
     m_picture->show(side);
     m_which->setText(which);
     m_facts->setText(size + u'\n' + date);
-    setAccessibleName(which + u' ' + m_facts->text());
+    LinuxDesktop::describeByWords(*this);
 }
 
 } // namespace MenuExtension::Transfers

@@ -3,6 +3,8 @@
 #include "extension/actions/transfer/Progress.h"
 #include "extension/actions/transfer/window/ItemCard.h"
 #include "extension/actions/transfer/window/TransferWords.h"
+#include "extension/actions/window/WindowParts.h"
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/PluralCount.h"
 #include "platform/linux/text/SizeText.h"
@@ -14,7 +16,6 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
@@ -28,29 +29,17 @@ constexpr int initialWidth = 640;
 /// To make a file takes about as long as to copy so much.
 constexpr std::uint64_t bytesOfAFile = std::uint64_t{32} << 10U;
 
-QLabel* makeText(QWidget* parent)
+/// The names of items are long.
+QLabel* makeLongHeading(QWidget* parent)
 {
-    auto* label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
+    QLabel* const heading = makeHeading(parent);
+    heading->setWordWrap(true);
+    return heading;
 }
 
-QLabel* makeHeading(QWidget* parent)
+QPushButton* addButton(QHBoxLayout& row, const QString& title, QWidget* parent, bool isPrimary = false)
 {
-    QLabel* label = makeText(parent);
-    QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * 1.15);
-    font.setWeight(QFont::DemiBold);
-    label->setFont(font);
-    return label;
-}
-
-QPushButton* addButton(QHBoxLayout& row, const QString& title, QWidget* parent)
-{
-    auto* button = new QPushButton(title, parent);
-    // The one that has the keyboard is the one that Return means.
-    button->setAutoDefault(true);
+    QPushButton* const button = makeButton(title, parent, isPrimary);
     row.addWidget(button);
     return button;
 }
@@ -72,15 +61,15 @@ TransferWindow::TransferWindow() : m_pages(new QStackedLayout(this))
     m_wordsPage = makeWordsPage();
     for (QWidget* page : {m_progressPage, m_conflictPage, m_wordsPage})
         m_pages->addWidget(page);
-    for (const auto& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
-    resize(initialWidth, sizeHint().height());
+    closeByKeyboard(*this);
 }
 
 QWidget* TransferWindow::makeProgressPage()
 {
     auto* page = new QWidget(this);
-    m_what = makeHeading(page);
+    m_what = makeLongHeading(page);
+    // The bar and the window are called so.
+    LinuxDesktop::setAccessibleRole(*m_what, QAccessible::NoRole);
     m_progress = new ProgressRow(page);
     connect(m_progress, &ProgressRow::cancelled, this, &TransferWindow::cancelled);
     auto* layout = makePage(page);
@@ -93,7 +82,7 @@ QWidget* TransferWindow::makeProgressPage()
 QWidget* TransferWindow::makeConflictPage()
 {
     auto* page = new QWidget(this);
-    m_question = makeHeading(page);
+    m_question = makeLongHeading(page);
     m_coming = new ItemCard(page);
     m_existing = new ItemCard(page);
     m_forAll = new QCheckBox(tr("Do the same for all the rest"), page);
@@ -108,7 +97,7 @@ QWidget* TransferWindow::makeConflictPage()
     m_skip = addButton(*buttons, tr("Skip"), page);
     m_replace = addButton(*buttons, tr("Replace"), page);
     m_merge = addButton(*buttons, tr("Merge"), page);
-    m_keepBoth = addButton(*buttons, tr("Keep Both"), page);
+    m_keepBoth = addButton(*buttons, tr("Keep Both"), page, true);
     connect(cancel, &QPushButton::clicked, this, &TransferWindow::cancelled);
     connect(m_skip, &QPushButton::clicked, this, [this] { decide(Resolution::Skip); });
     connect(m_replace, &QPushButton::clicked, this, [this] { decide(Resolution::Replace); });
@@ -126,15 +115,15 @@ QWidget* TransferWindow::makeConflictPage()
 QWidget* TransferWindow::makeWordsPage()
 {
     auto* page = new QWidget(this);
-    m_words = makeHeading(page);
-    m_details = makeText(page);
+    m_words = makeLongHeading(page);
+    m_details = makeParagraph(page);
     m_details->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_details->setAlignment(Qt::AlignTop | Qt::AlignLeading);
-    auto* area = new QScrollArea(page);
-    area->setWidget(m_details);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setAccessibleName(tr("What was not done"));
+    m_details->setAlignment((m_details->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignTop);
+    m_detailsArea = new QScrollArea(page);
+    m_detailsArea->setWidget(m_details);
+    m_detailsArea->setWidgetResizable(true);
+    m_detailsArea->setFrameShape(QFrame::NoFrame);
+    m_detailsArea->setAccessibleName(tr("What was not done"));
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(10);
     m_undo = addButton(*buttons, tr("Undo"), page);
@@ -148,7 +137,8 @@ QWidget* TransferWindow::makeWordsPage()
     connect(m_goOn, &QPushButton::clicked, this, &TransferWindow::wentOn);
     auto* layout = makePage(page);
     layout->addWidget(m_words);
-    layout->addWidget(area, 1);
+    layout->addWidget(m_detailsArea, 1);
+    layout->addStretch();
     layout->addLayout(buttons);
     return page;
 }
@@ -159,7 +149,7 @@ void TransferWindow::showProgress(const QString& what)
     m_what->setText(what);
     m_isAtEnd = false;
     m_progress->start(what);
-    m_pages->setCurrentWidget(m_progressPage);
+    turnTo(m_progressPage);
 }
 
 void TransferWindow::advance(const Progress& progress)
@@ -201,6 +191,9 @@ void TransferWindow::ask(const Conflict& conflict)
     m_existing->show(tr("Already there"), conflict.target);
     m_replace->setVisible(conflict.canReplace);
     m_merge->setVisible(conflict.canMerge);
+    // The one that Return means.
+    m_merge->setProperty("primary", conflict.canMerge);
+    m_keepBoth->setProperty("primary", !conflict.canMerge);
     m_forAll->setChecked(false);
     setWindowTitle(m_question->text());
     open(m_conflictPage, conflict.canMerge ? m_merge : m_keepBoth);
@@ -209,7 +202,7 @@ void TransferWindow::ask(const Conflict& conflict)
 void TransferWindow::askToGoOn(const QStringList& problems)
 {
     m_words->setText(tr("Not everything can be done."));
-    m_details->setText(problems.join(u'\n'));
+    showDetails(problems);
     m_undo->hide();
     m_showItem->hide();
     m_goOn->show();
@@ -218,12 +211,18 @@ void TransferWindow::askToGoOn(const QStringList& problems)
     open(m_wordsPage, m_close);
 }
 
+void TransferWindow::showDetails(const QStringList& problems)
+{
+    m_details->setText(problems.join(u'\n'));
+    m_detailsArea->setVisible(!problems.isEmpty());
+}
+
 void TransferWindow::showEnd(const QString& words, const QStringList& problems, bool canBeUndone, bool canBeShown)
 {
     m_progress->finish();
     m_isAtEnd = true;
     m_words->setText(words);
-    m_details->setText(problems.join(u'\n'));
+    showDetails(problems);
     m_undo->setVisible(canBeUndone);
     m_showItem->setVisible(canBeShown);
     m_goOn->hide();
@@ -246,9 +245,21 @@ void TransferWindow::decide(Resolution resolution)
     emit decided({resolution, m_forAll->isChecked()});
 }
 
+/// The window is as high as that page, not as the highest of all.
+void TransferWindow::turnTo(QWidget* page)
+{
+    for (QWidget* each : {m_progressPage, m_conflictPage, m_wordsPage}) {
+        const auto policy = each == page ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        each->setSizePolicy(policy, policy);
+    }
+    m_pages->setCurrentWidget(page);
+    const QSize size = isVisible() ? this->size() : QSize(initialWidth, 0);
+    resize(size.expandedTo({0, page->layout()->totalHeightForWidth(size.width())}));
+}
+
 void TransferWindow::open(QWidget* page, QWidget* focused)
 {
-    m_pages->setCurrentWidget(page);
+    turnTo(page);
     show();
     raise();
     activateWindow();

@@ -9,6 +9,7 @@
 class QCheckBox;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QStackedLayout;
 
 namespace MenuExtension::Transfers {
@@ -50,7 +51,9 @@ private:
     QWidget* makeProgressPage();
     QWidget* makeConflictPage();
     QWidget* makeWordsPage();
+    void showDetails(const QStringList& problems);
     void decide(Resolution resolution);
+    void turnTo(QWidget* page);
     void open(QWidget* page, QWidget* focused);
 
     QStackedLayout* m_pages;
@@ -72,6 +75,7 @@ private:
 
     QLabel* m_words;
     QLabel* m_details;
+    QScrollArea* m_detailsArea;
     QPushButton* m_goOn;
     QPushButton* m_undo;
     QPushButton* m_showItem;

@@ -127,7 +127,9 @@ QStringList problems(bool isMove, const Problems& problems)
     QStringList sentences;
     for (const Problem& one : problems.kept())
         sentences << problem(isMove, one);
-    if (const std::size_t more = problems.count() - problems.kept().size(); more > 0)
+    if (const std::size_t more = problems.count() - problems.kept().size(); more == 1)
+        sentences << Transfer::tr("There was 1 more like these.");
+    else if (more > 0)
         sentences << Transfer::tr("There were %1 more like these.", nullptr, pluralCount(more)).arg(number(more));
     return sentences;
 }

@@ -97,7 +97,9 @@ void describeByWords(QWidget& subject)
         if (!words || words->isHidden())
             continue;
         const auto* label = qobject_cast<const QLabel*>(words);
-        const QString text = label ? label->text() : words->accessibleName();
+        // What is shown of a long name may be cut.
+        const QString named = words->accessibleName();
+        const QString text = named.isEmpty() && label ? label->text() : named;
         if (!description.isEmpty() && !text.isEmpty())
             description += description.back().isLetterOrNumber() ? QStringLiteral(". ") : QStringLiteral(" ");
         description += text;

@@ -110,6 +110,15 @@ QString FolderModel::kindText(const Row& row) const
     return tr("Link to something that is not there");
 }
 
+/// Also where nothing is to be seen: folders have no size.
+QString FolderModel::spokenText(const Row& row, int column) const
+{
+    const QString shown = cellText(row, column);
+    if (!shown.isEmpty())
+        return shown;
+    return column == Size ? kindText(row) : tr("Not known");
+}
+
 QString FolderModel::description(const Row& row) const
 {
     QStringList parts = {kindText(row), cellText(row, Size), cellText(row, Modified)};
@@ -137,6 +146,8 @@ QVariant FolderModel::data(const QModelIndex& index, int role) const
         return index.column() == Name ? QVariant(m_icons.iconFor(row.entry, row.text)) : QVariant();
     case Qt::ToolTipRole:
         return tooltip(row, index.column());
+    case Qt::AccessibleTextRole:
+        return spokenText(row, index.column());
     case Qt::AccessibleDescriptionRole:
         return index.column() == Name ? QVariant(description(row)) : QVariant();
     case Qt::TextAlignmentRole:

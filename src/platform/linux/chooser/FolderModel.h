@@ -49,6 +49,7 @@ private:
     [[nodiscard]] QString cellText(const Row& row, int column) const;
     [[nodiscard]] QString kindText(const Row& row) const;
     /// What the row says after its name, for screen readers.
+    [[nodiscard]] QString spokenText(const Row& row, int column) const;
     [[nodiscard]] QString description(const Row& row) const;
     [[nodiscard]] QString tooltip(const Row& row, int column) const;
     void sortRows();

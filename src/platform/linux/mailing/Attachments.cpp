@@ -22,7 +22,7 @@ constexpr std::size_t bufferSize = std::size_t{256} * 1024;
 std::string fileName(const std::string& path)
 {
     const std::string name = path.substr(path.rfind('/') + 1);
-    return name.empty() ? "Folder" : name;
+    return name.empty() ? NS::LocalizedString("Attachments", "Folder") : name;
 }
 
 AttachingFailure unreadable(const std::string& path, const std::string& reason)

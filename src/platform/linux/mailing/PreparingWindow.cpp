@@ -1,5 +1,6 @@
 #include "platform/linux/mailing/PreparingWindow.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/mailing/MailText.h"
 #include "platform/linux/text/SizeText.h"
 
@@ -24,7 +25,7 @@ constexpr int barHeight = 8;
 } // namespace
 
 PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progress)
-    : m_progress(progress), m_bytes(new QLabel(this))
+    : m_progress(progress), m_bar(new QProgressBar(this)), m_bytes(new QLabel(this))
 {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setWindowTitle(MailText::windowTitle);
@@ -35,12 +36,14 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
     what->setTextFormat(Qt::PlainText);
     what->setWordWrap(true);
     what->setFixedWidth(contentWidth);
-    auto* bar = new QProgressBar(this);
+    // The window is called so.
+    setAccessibleRole(*what, QAccessible::NoRole);
     // How much there is to do is not known beforehand.
-    bar->setRange(0, 0);
-    bar->setTextVisible(false);
-    bar->setFixedHeight(barHeight);
-    bar->setAccessibleName(text);
+    m_bar->setRange(0, 0);
+    m_bar->setTextVisible(false);
+    m_bar->setFixedHeight(barHeight);
+    m_bar->setAccessibleName(tr("Progress"));
+    tieWords(*m_bytes, *m_bar);
     m_bytes->setForegroundRole(QPalette::PlaceholderText);
     auto* cancel = new QPushButton(tr("Cancel"), this);
     connect(cancel, &QPushButton::clicked, this, &PreparingWindow::reject);
@@ -54,7 +57,7 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
     layout->setSpacing(12);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(what);
-    layout->addWidget(bar);
+    layout->addWidget(m_bar);
     layout->addLayout(lower);
 
     auto* tick = new QTimer(this);
@@ -63,13 +66,14 @@ PreparingWindow::PreparingWindow(const QString& names, AttachingProgress& progre
     showProgress();
     // Not every style moves it by itself.
     auto* frame = new QTimer(this);
-    connect(frame, &QTimer::timeout, bar, qOverload<>(&QWidget::update));
+    connect(frame, &QTimer::timeout, m_bar, qOverload<>(&QWidget::update));
     frame->start(40ms);
 }
 
 void PreparingWindow::showProgress()
 {
     m_bytes->setText(sizeText(m_progress.bytes.load()));
+    describeByWords(*m_bar);
 }
 
 void PreparingWindow::reject()

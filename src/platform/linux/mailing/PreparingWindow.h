@@ -5,6 +5,7 @@
 #include <QDialog>
 
 class QLabel;
+class QProgressBar;
 
 namespace LinuxDesktop {
 
@@ -23,6 +24,7 @@ private:
     void showProgress();
 
     AttachingProgress& m_progress;
+    QProgressBar* m_bar;
     QLabel* m_bytes;
 };
 

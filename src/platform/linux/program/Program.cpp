@@ -1,6 +1,5 @@
 #include "platform/linux/program/Program.h"
 
-#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/bus/ActivationToken.h"
 #include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/program/DisplayConnection.h"
@@ -92,7 +91,6 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     if (program.m_name.ownedByAnother())
         return program.activateOther();
 
-    installAccessibleContainers();
     const WindowSurroundings surroundings(program.m_bus, QCoreApplication::applicationDirPath());
     program.whenAskedToEnd([] { QCoreApplication::quit(); });
     // A process that is ending is not the one to be activated.

@@ -1,5 +1,6 @@
 #include "platform/linux/program/WindowSurroundings.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/bus/ActivationToken.h"
 #include "platform/linux/look/Appearance.h"
 #include "platform/linux/program/Resources.h"
@@ -17,6 +18,7 @@ WindowSurroundings::WindowSurroundings(SessionBus& bus, const QString& programs)
                           wishes.reducedMotion || wishes.noAnimations ? Motion::Reduced : Motion::Full);
       })
 {
+    installAccessibleContainers();
     applyAppearance(ColorScheme::Light);
     // It is drawn in many sizes, which can wait until the window shows.
     QTimer::singleShot(0, this, [programs] { QApplication::setWindowIcon(productIcon(programs)); });

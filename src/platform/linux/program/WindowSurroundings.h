@@ -10,9 +10,9 @@
 namespace LinuxDesktop {
 
 /// What a program's windows have of the desktop, as long as this lives: the look, with the colours, the contrast and
-/// the motion that the desktop wishes, the language, the product's icon, and the activation token that the program
-/// was started with, for the first window that shows. Made after the QApplication and before its windows. Main
-/// thread.
+/// the motion that the desktop wishes, the language, the product's icon, what assistive programs are told beyond what
+/// the toolkit tells, and the activation token that the program was started with, for the first window that shows.
+/// Made after the QApplication and before its windows. Main thread.
 class WindowSurroundings : public QObject {
 public:
     /// `programs` is the folder of the programs that users start, from which the installed files are found.

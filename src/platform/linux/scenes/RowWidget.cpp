@@ -16,6 +16,7 @@
 #include <QStyleOption>
 
 #include <array>
+#include <utility>
 
 namespace LinuxDesktop {
 
@@ -55,11 +56,14 @@ void RowWidget::prepare()
         m_stops.prepend(this);
     m_title = findChild<Label*>();
     if (m_title) {
-        connect(m_title, &Label::textChanged, this, [this, controls](const QString& text) {
+        // The scene names a button as “Delete %1”, and what has no name is called as its row.
+        QList<std::pair<QAbstractButton*, QString>> named;
+        for (QAbstractButton* control : controls)
+            named.append({control, control->accessibleName()});
+        connect(m_title, &Label::textChanged, this, [this, named](const QString& text) {
             LinuxDesktop::setAccessibleName(*this, text);
-            for (QAbstractButton* control : controls)
-                LinuxDesktop::setAccessibleName(
-                    *control, control->text().isEmpty() ? text : tr("%1 %2").arg(control->text(), text));
+            for (const auto& [control, name] : named)
+                LinuxDesktop::setAccessibleName(*control, name.isEmpty() ? text : name.arg(text));
         });
         connect(m_title, &Label::toolTipChanged, this, [controls](const QString& text) {
             for (QAbstractButton* control : controls)
