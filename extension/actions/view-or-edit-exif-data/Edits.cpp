@@ -102,6 +102,24 @@ bool isMade(Field field, const std::string& wanted, const Tags& after)
 
 } // namespace
 
+std::vector<std::string> keysFor(const Edits& edits)
+{
+    std::vector<std::string> keys;
+    if (edits.place || edits.removesPersonalData)
+        return keys;
+    const auto add = [&](Field field) {
+        for (const Store& store : storesOf(field))
+            keys.emplace_back(store.key);
+    };
+    for (const auto& text : edits.texts)
+        add(text.first);
+    if (edits.shift.count() != 0)
+        add(Field::Date);
+    if (edits.orientation)
+        add(Field::Orientation);
+    return keys;
+}
+
 std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
 {
     std::vector<std::string> arguments;

@@ -31,6 +31,9 @@ struct Edits {
     }
 };
 
+/// The keys of the tags that the two functions below look at; none where they look at all.
+[[nodiscard]] std::vector<std::string> keysFor(const Edits& edits);
+
 /// What ExifTool is given to make the edits in a file with these tags; nothing where it has nothing to change.
 [[nodiscard]] std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags);
 

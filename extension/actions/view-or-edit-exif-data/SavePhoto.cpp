@@ -228,7 +228,8 @@ private:
 std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile> photos, const Edits& edits,
                                 const SaveOptions& options, const std::stop_token& stop)
 {
-    std::vector<Reading> readings = exifTool.read(photos, stop);
+    const std::vector<std::string> keys = keysFor(edits);
+    std::vector<Reading> readings = exifTool.read(photos, stop, keys);
     std::deque<Save> saves;
     for (std::size_t index = 0; index < photos.size(); ++index)
         saves.emplace_back(photos[index], std::move(readings[index])).write(exifTool, edits, stop);
@@ -245,7 +246,7 @@ std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile>
     std::vector<TagReader::Source> copies;
     for (const Save* save : written)
         copies.push_back({save->made(), save->photo().name});
-    readings = exifTool.read(copies, stop);
+    readings = exifTool.read(copies, stop, keys);
     for (std::size_t index = 0; index < written.size(); ++index) {
         written[index]->check(edits, readings[index]);
         if (written[index]->isOnItsWay())

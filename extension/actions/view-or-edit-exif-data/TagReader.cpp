@@ -71,19 +71,25 @@ TagReader::Link TagReader::link(int file, const std::string& name)
     return {m_folder, ++m_links, file, name};
 }
 
-std::vector<Reading> TagReader::read(std::span<const OpenedFile> photos, const std::stop_token& stop)
+std::vector<Reading> TagReader::read(std::span<const OpenedFile> photos, const std::stop_token& stop,
+                                     std::span<const std::string> keys)
 {
     std::vector<Source> sources;
     for (const OpenedFile& photo : photos)
         sources.push_back({photo.file.get(), photo.name});
-    return read(sources, stop);
+    return read(sources, stop, keys);
 }
 
-std::vector<Reading> TagReader::read(std::span<const Source> sources, const std::stop_token& stop)
+std::vector<Reading> TagReader::read(std::span<const Source> sources, const std::stop_token& stop,
+                                     std::span<const std::string> keys)
 {
     if (sources.empty())
         return {};
     std::vector<std::string> arguments{"-json", "-G0:1", "-a", "-c", "%+.6f", "--System:all", "-q", "-q"};
+    for (const std::string& key : keys)
+        arguments.push_back('-' + key);
+    if (!keys.empty())
+        arguments.insert(arguments.end(), {"-File:all", "-ExifTool:all"});
     std::vector<Link> links;
     std::map<std::string, std::size_t> places;
     for (std::size_t index = 0; index < sources.size(); ++index) {
@@ -96,7 +102,7 @@ std::vector<Reading> TagReader::read(std::span<const Source> sources, const std:
     if (answer.end != ExifTool::End::Done && answer.end != ExifTool::End::NotThere &&
         answer.end != ExifTool::End::Cancelled && sources.size() > 1) {
         for (std::size_t index = 0; index < sources.size(); ++index)
-            readings[index] = std::move(read(sources.subspan(index, 1), stop).front());
+            readings[index] = std::move(read(sources.subspan(index, 1), stop, keys).front());
         return readings;
     }
     if (answer.end != ExifTool::End::Done)
@@ -122,7 +128,7 @@ std::vector<Reading> TagReader::read(std::span<const Source> sources, const std:
     if (!isWhole && sources.size() > 1) {
         for (std::size_t index = 0; index < sources.size(); ++index) {
             if (readings[index].tags.empty())
-                readings[index] = std::move(read(sources.subspan(index, 1), stop).front());
+                readings[index] = std::move(read(sources.subspan(index, 1), stop, keys).front());
         }
     }
     for (std::size_t index = 0; index < sources.size(); ++index) {
