@@ -4,6 +4,7 @@
 #include "platform/linux/bus/ActivationToken.h"
 #include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/program/DisplayConnection.h"
+#include "platform/linux/program/ModalFocus.h"
 #include "platform/linux/program/Resources.h"
 #include "platform/linux/program/TerminationSignals.h"
 #include "platform/linux/program/WindowSurroundings.h"
@@ -93,6 +94,7 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
         return program.activateOther();
 
     installAccessibleContainers();
+    passFocusToModalWindows();
     const WindowSurroundings surroundings(program.m_bus, QCoreApplication::applicationDirPath());
     program.whenAskedToEnd([] { QCoreApplication::quit(); });
     // A process that is ending is not the one to be activated.
