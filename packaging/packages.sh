@@ -91,11 +91,13 @@ packages_tests_desktop=(
   at-spi2-core
   dbus-x11
   gir1.2-gtk-3.0
+  grim
   libglib2.0-bin
   nemo
   python3-dbus
   python3-gi
   python3-pyatspi
+  sway
   util-linux
   xclip
   xdg-desktop-portal

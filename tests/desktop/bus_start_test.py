@@ -33,8 +33,9 @@ class BusStart(DesktopTestCase):
             eventually(lambda: not self.bus.has_owner(APPLICATION), "the panel to have ended")
 
     def activate(self):
+        token = GLib.Variant("s", self.hands.activation_token())
         call(self.bus.connection, APPLICATION, "/" + APPLICATION.replace(".", "/"), "org.freedesktop.Application",
-             "Activate", GLib.Variant("(a{sv})", ({},)))
+             "Activate", GLib.Variant("(a{sv})", ({"activation-token": token},)))
 
     def titles(self):
         application = accessibility.application(self.bus.accessibility_address, self.process_id())

@@ -6,6 +6,7 @@ import unittest
 from support import mounts
 from support.case import DesktopTestCase
 from support.folders import CHOOSER
+from support.panel import MAIN_WINDOW
 from support.waiting import eventually
 
 
@@ -149,6 +150,16 @@ class Chooser(DesktopTestCase):
         self.assertLocation("/")
         self.assertIn(("Projects (last used)", projects), self.places())
         self.assertEventuallyEqual(lambda: self.windows.size(self.windows.active()), (640, 480))
+
+    def test_the_window_behind_it_does_not_take_the_keyboard(self):
+        self.open()
+        in_front = self.windows.active()
+        self.hands.click(self.panel.window(MAIN_WINDOW).find("page tab", "Menu Items").extents)
+        eventually(lambda: self.windows.active() == in_front, "the chooser to have the keyboard")
+        self.hands.press("Escape")
+        eventually(lambda: not self.panel.shows(CHOOSER), "the chooser to go")
+
+        self.panel.main_window()
 
     def test_the_menu_key_opens_a_menu_that_opens_a_folder(self):
         os.makedirs(os.path.join(self.home.files, "outer", "inner"))

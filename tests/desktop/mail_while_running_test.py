@@ -116,8 +116,10 @@ class MailWhileRunning(DesktopTestCase):
         self.notify()
         chooser = self.panel.chooser().extents
         self.assertGreater(row.y, chooser.y + chooser.height)
+        in_front = self.windows.active()
 
         self.hands.click(row)
+        eventually(lambda: self.windows.active() == in_front, "the chooser to have the keyboard")
         self.close_chooser("Escape")
         self.panel.main_window()
         self.hands.click(row)

@@ -37,6 +37,9 @@ _TEXTS = {"heading", "label", "paragraph"}
 
 Extents = namedtuple("Extents", "x y width height")
 
+# Where windows lie, on displays that do not tell the programs: of a process and a window's size.
+place_of_window = None
+
 
 # How often a tree may change while it is read.
 _ROUNDS = 5
@@ -135,7 +138,29 @@ class Accessible:
     @property
     def extents(self):
         """On the screen, in pixels."""
+        told = self._told_extents
+        if not place_of_window:
+            return told
+        x, y = self._offset
+        return told._replace(x=told.x + x, y=told.y + y)
+
+    @property
+    def _told_extents(self):
         return Extents(*self._call(_COMPONENT, "GetExtents", GLib.Variant("(u)", (_SCREEN_COORDINATES,)))[0])
+
+    @property
+    def _offset(self):
+        """From where the program thinks that its window is to where it is."""
+        top = self
+        while (parent := top.parent).role != "application":
+            top = parent
+        process_id = call_bus(self._connection, "GetConnectionUnixProcessID", GLib.Variant("(s)", (self._name,)))[0]
+        # What pops up lies where the program thinks, beside the window that it belongs to.
+        for window in [top] + [each for each in parent.children if each.has("active")]:
+            told = window._told_extents
+            if place := place_of_window(process_id, (told.width, told.height)):
+                return place.x - told.x, place.y - told.y
+        raise LookupError(f"{top} is in no window")
 
     @property
     def text(self):

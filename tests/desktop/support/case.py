@@ -13,13 +13,12 @@ from gi.repository import GLib
 from . import portal, processes
 from .buses import SessionBus, call
 from .deployment import APPLICATION, SUITE
-from .display import VirtualDisplay
+from .display import make_display
 from .home import Home
 from .mail import PortalMessages
 from .panel import Panel
 from .suite import SettingsFile, as_text
 from .waiting import PATIENCE, GaveUp, eventually
-from .windows import Hands, Windows
 
 _TOOL_TIMEOUT = 20
 
@@ -42,13 +41,13 @@ class DesktopTestCase(unittest.TestCase):
         cls.addClassCleanup(shutil.rmtree, cls._folder)
         runtime = os.path.join(cls._folder, "run")
         os.mkdir(runtime, 0o700)
-        cls.display = VirtualDisplay(cls.screen_size)
+        cls.display = make_display(cls.screen_size)
         cls.addClassCleanup(cls.display.close)
         cls.bus = SessionBus(os.path.join(cls._folder, "bus"), {
-            "DISPLAY": cls.display.name, "HOME": cls._folder, "XDG_RUNTIME_DIR": runtime, "PATH": "/usr/bin:/bin"})
+            **cls.display.environment, "HOME": cls._folder, "XDG_RUNTIME_DIR": runtime, "PATH": "/usr/bin:/bin"})
         cls.addClassCleanup(cls.bus.close)
-        cls.hands = Hands(cls.display.name)
-        cls.windows = Windows(cls.display.name)
+        cls.hands = cls.display.hands
+        cls.windows = cls.display.windows
 
     def setUp(self):
         self.become_someone_new()
@@ -79,7 +78,7 @@ class DesktopTestCase(unittest.TestCase):
         return {
             **sanitizers,
             **self.home.environment,
-            "DISPLAY": self.display.name,
+            **self.display.environment,
             "DBUS_SESSION_BUS_ADDRESS": self.bus.address,
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             # A fatal error is told on standard error alone.
@@ -91,6 +90,8 @@ class DesktopTestCase(unittest.TestCase):
     def start_panel(self, program=None, wrapper=(), without=(), **variables):
         """Starts the panel: another build of it, a program to run it with, fewer or more environment variables."""
         environment = {name: value for name, value in self.environment.items() if name not in without}
+        if token := self.hands.activation_token():
+            environment["XDG_ACTIVATION_TOKEN"] = token
         command = [*wrapper, program or os.path.join(self.programs, "orvik-menu")]
         panel = Panel(command, {**environment, **variables}, self.make_folder(), self.bus.accessibility_address)
         self.addCleanup(self._close_panel, panel)

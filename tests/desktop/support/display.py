@@ -4,10 +4,18 @@ import os
 import subprocess
 
 from . import processes
+from .sway import Compositor
 from .waiting import eventually
+from .windows import Hands, Windows
 
 # A property of the root window.
 _STARTED = "_ORVIK_WINDOW_MANAGER_STARTED"
+
+
+def make_display(size):
+    """Of the kind that is tested: X11, or Wayland where the environment says so."""
+    is_wayland = os.environ.get("ORVIK_TEST_DISPLAY") == "wayland"
+    return Compositor(size) if is_wayland else VirtualDisplay(size)
 
 
 class VirtualDisplay:
@@ -31,6 +39,13 @@ class VirtualDisplay:
         self._window_manager = processes.start(["openbox", "--startup", tell_start],
                                                env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         eventually(self._is_managed, "the window manager")
+        self.hands = Hands(self.name)
+        self.windows = Windows(self.name)
+
+    @property
+    def environment(self):
+        """How programs find it, as its log-in tells them."""
+        return {"DISPLAY": self.name}
 
     def _is_managed(self):
         answer = subprocess.run(["xprop", "-display", self.name, "-root", _STARTED], capture_output=True, text=True,

@@ -101,7 +101,7 @@ QString buttonTitle(QString text)
 } // namespace
 
 FileChooserDialog::FileChooserDialog(FileChooserSettings settings, QWidget* parent)
-    : QDialog(parent), m_settings(std::move(settings))
+    : Dialog(parent), m_settings(std::move(settings))
 {
     build();
     connectParts();
@@ -289,7 +289,7 @@ void FileChooserDialog::done(int result)
 {
     m_awaitTimer->stop();
     remember(result);
-    QDialog::done(result);
+    Dialog::done(result);
 }
 
 void FileChooserDialog::remember(int result) const
@@ -621,7 +621,7 @@ void FileChooserDialog::keyPressEvent(QKeyEvent* event)
     if (auto* focused = qobject_cast<QToolButton*>(focusWidget()); focused && enterKey)
         focused->click();
     else
-        QDialog::keyPressEvent(event);
+        Dialog::keyPressEvent(event);
 }
 
 } // namespace LinuxDesktop

@@ -3,8 +3,8 @@
 #include "platform/linux/chooser/ChooserMemory.h"
 #include "platform/linux/chooser/FileKinds.h"
 #include "platform/linux/chooser/FolderListing.h"
+#include "platform/linux/look/Dialog.h"
 
-#include <QDialog>
 #include <QString>
 
 #include <chrono>
@@ -49,7 +49,7 @@ struct FileChooserSettings {
 };
 
 /// The window that files are chosen in. Accepted, it has chosen at least one item. Main thread.
-class FileChooserDialog : public QDialog {
+class FileChooserDialog : public Dialog {
     Q_OBJECT
 
 public:

@@ -19,7 +19,7 @@ namespace LinuxDesktop {
 
 using namespace Qt::StringLiterals;
 
-NewFolderDialog::NewFolderDialog(std::string parent, QWidget* window) : QDialog(window), m_parent(std::move(parent))
+NewFolderDialog::NewFolderDialog(std::string parent, QWidget* window) : Dialog(window), m_parent(std::move(parent))
 {
     setObjectName(u"newFolder"_s);
     setWindowTitle(tr("New Folder"));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "platform/linux/look/Dialog.h"
 
 #include <string>
 
@@ -11,7 +11,7 @@ class QPushButton;
 namespace LinuxDesktop {
 
 /// Asks for a name and makes a folder of it. Accepted, it has made the folder. Main thread.
-class NewFolderDialog : public QDialog {
+class NewFolderDialog : public Dialog {
     Q_OBJECT
 
 public:

@@ -3,6 +3,7 @@
 #include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/bus/ActivationToken.h"
 #include "platform/linux/look/Appearance.h"
+#include "platform/linux/program/ModalFocus.h"
 #include "platform/linux/program/Resources.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@ WindowSurroundings::WindowSurroundings(SessionBus& bus, const QString& programs)
       })
 {
     installAccessibleContainers();
+    passFocusToModalWindows();
     applyAppearance(ColorScheme::Light);
     // It is drawn in many sizes, which can wait until the window shows.
     QTimer::singleShot(0, this, [programs] { QApplication::setWindowIcon(productIcon(programs)); });

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "platform/Window.h"
+#include "platform/linux/look/Dialog.h"
 #include "platform/linux/scenes/PushButton.h"
-
-#include <QDialog>
 
 #include <vector>
 
@@ -14,7 +13,7 @@ namespace LinuxDesktop {
 
 /// The window of an alert, with the application's name and icon. Escape and the window's own close button press the
 /// last button. Main thread.
-class AlertDialog : public QDialog, public NS::Sheet {
+class AlertDialog : public Dialog, public NS::Sheet {
     Q_OBJECT
 
 public:
