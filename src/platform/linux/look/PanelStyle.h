@@ -4,6 +4,9 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionComboBox;
+class QStyleOptionSpinBox;
+
 namespace LinuxDesktop {
 
 /// The panel's own style: quiet outlines, round corners, room around texts, a ring around what has the keyboard while
@@ -22,6 +25,7 @@ public:
     using QProxyStyle::unpolish;
     void polish(QWidget* widget) override;
     void polish(QApplication* application) override;
+    void unpolish(QWidget* widget) override;
     void unpolish(QApplication* application) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
@@ -41,8 +45,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void outlineParts(ComplexControl control, const QStyleOptionComplex& option, QPainter& painter,
-                      const QWidget* widget) const;
+    void drawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, const QWidget* widget) const;
+    void drawComboBox(const QStyleOptionComboBox& box, QPainter& painter, const QWidget* widget) const;
     void followHands(bool keyboardIsUsed);
 
     Motion m_motion = Motion::Full;
