@@ -12,10 +12,12 @@
 #include "extensions/Switch.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStyle>
@@ -185,6 +187,20 @@ Control control(const char* name, std::vector<ControlState> states, std::functio
             }};
 }
 
+/// An icon of one colour, as most of those are that controls have.
+QIcon arrowUp()
+{
+    constexpr int extent = 22;
+    QPixmap arrow(extent * 2, extent * 2);
+    arrow.setDevicePixelRatio(2.0);
+    arrow.fill(Qt::transparent);
+    QPainter painter(&arrow);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QApplication::palette().color(QPalette::WindowText), 2.0));
+    painter.drawPolyline(QPolygonF{{{3.0, 15.0}, {11.0, 7.0}, {19.0, 15.0}}});
+    return arrow;
+}
+
 std::function<void(CheckBox&)> checkBoxThatIs(bool on)
 {
     return [on](CheckBox& box) {
@@ -217,8 +233,7 @@ std::vector<Control> buttons()
         control<QToolButton>(
             "Tool button", allStates,
             [](QToolButton& button) {
-                button.setIcon(
-                    QIcon::fromTheme(QStringLiteral("go-up"), button.style()->standardIcon(QStyle::SP_ArrowUp)));
+                button.setIcon(arrowUp());
                 button.setIconSize({22, 22});
                 button.setMinimumSize(36, 36);
                 button.setAutoRaise(true);

@@ -5,9 +5,7 @@
 #include "platform/linux/look/Appearance.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QPainter>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <iostream>
@@ -70,9 +68,6 @@ int main(int argc, char** argv)
     qputenv("QT_SCALE_FACTOR", "1.5");
     qunsetenv("XDG_CURRENT_DESKTOP");
     const QApplication application(argc, argv);
-    // Which a desktop knows, and nobody does without a display.
-    QIcon::setThemeSearchPaths(QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("icons"),
-                                                         QStandardPaths::LocateDirectory));
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 4) {
         std::cerr << "Usage: orvik_states_sheet light|dark normal|high FILE\n";

@@ -141,6 +141,9 @@ void drawCheckBox(const QStyleOption& option, QPainter& painter)
         pen = QPen(accent, 3.0);
     else if (!isEnabled(option) && !on)
         pen.setColor(mixed(base, palette.color(QPalette::Text), 0.36F));
+    // One in a row of a view that is selected has the colour of what is behind it.
+    if (on && (option.state & QStyle::State_Selected))
+        pen.setColor(palette.color(QPalette::HighlightedText));
     const QRectF box(option.rect);
     painter.setBrush(fill);
     painter.drawRoundedRect(box.adjusted(0.75, 0.75, -0.75, -0.75), smallRadius, smallRadius);

@@ -383,9 +383,9 @@ QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control != CC_ScrollBar || !bar) {
         const QRect rect = QProxyStyle::subControlRect(control, option, subControl, widget);
-        // With its room at the beginning of the words, and the arrow as far from the end.
+        // With room around the words, and the arrow as far from the end.
         if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
-            return rect.translated(option->direction == Qt::RightToLeft ? -comboBoxPadding : comboBoxPadding, 0);
+            return rect.adjusted(comboBoxPadding, 0, -comboBoxPadding, 0);
         if (control == CC_ComboBox && subControl == SC_ComboBoxArrow)
             return rect.translated(option->direction == Qt::RightToLeft ? comboBoxPadding : -comboBoxPadding, 0);
         return rect;
@@ -506,6 +506,20 @@ int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     if (hint == SH_EtchDisabledText)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QPixmap PanelStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    if (mode != QIcon::Disabled)
+        return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    // The base style takes the colour away, of which icons of one colour have none.
+    QPixmap faint(pixmap.size());
+    faint.setDevicePixelRatio(pixmap.devicePixelRatio());
+    faint.fill(Qt::transparent);
+    QPainter painter(&faint);
+    painter.setOpacity(0.4);
+    painter.drawPixmap(0, 0, pixmap);
+    return faint;
 }
 
 } // namespace LinuxDesktop

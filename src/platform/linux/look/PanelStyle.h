@@ -2,6 +2,7 @@
 
 #include "platform/linux/look/Appearance.h"
 
+#include <QIcon>
 #include <QProxyStyle>
 
 class QStyleOptionComboBox;
@@ -41,6 +42,8 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
                   QStyleHintReturn* returned = nullptr) const override;
+
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
