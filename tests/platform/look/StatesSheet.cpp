@@ -68,6 +68,8 @@ int main(int argc, char** argv)
     qputenv("QT_SCALE_FACTOR", "1.5");
     qunsetenv("XDG_CURRENT_DESKTOP");
     const QApplication application(argc, argv);
+    // A picture is not to depend on when it is taken.
+    QApplication::setCursorFlashTime(0);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 4) {
         std::cerr << "Usage: orvik_states_sheet light|dark normal|high FILE\n";
