@@ -1,4 +1,5 @@
-"""Makes pictures of every screen, light and dark, and a sheet of each.
+"""Makes pictures of every screen, light and dark, and a sheet of each; and a sheet of some in twice the size, and from
+right to left.
 
 Usage: screenshots.py FOLDER, with ORVIK_PROGRAMS set to the folder of the programs.
 """
@@ -8,6 +9,10 @@ import subprocess
 import sys
 import unittest
 
+from gi.repository import GLib
+
+from support import portal
+from support.accessibility import Extents
 from support.case import DesktopTestCase
 from support.deployment import EXTENSION
 from support.folders import CHOOSER as FOLDER_CHOOSER
@@ -30,6 +35,8 @@ class Screenshots(DesktopTestCase):
     def picture(self, title, name):
         """The window of that title, without its frame."""
         eventually(lambda: self.windows.title(self.windows.active()) == title, f"the window “{title}”")
+        # Away from what would look different below the pointer.
+        self.hands.move_to(Extents(0, 0, 2, 2))
         give_time(PAINTING)
         path = os.path.join(self.folder, name + ".png")
         subprocess.run(["import", "-display", self.display.name, "-window", str(self.windows.active()), path],
@@ -43,10 +50,28 @@ class Screenshots(DesktopTestCase):
         yield from self.tabs(scheme)
         yield from self.other_windows(scheme)
 
-    def start(self):
-        panel = self.start_panel()
+    def sheet(self, name, paths, size, columns):
+        subprocess.run(
+            ["montage", *paths, "-background", "#7d8590", "-geometry", f"{size}+10+10", "-tile", f"{columns}x",
+             "-depth", "8", "-define", "png:compression-level=9", os.path.join(self.folder, f"all-{name}.png")],
+            check=True, timeout=120)
+
+    def stand_still(self):
+        """Nothing is pictured on its way."""
+        self.start_portal()
+        self.prefer(portal.REDUCED_MOTION, GLib.Variant("u", 1))
+
+    def start(self, tab=None, **variables):
+        if tab is None:
+            panel = self.start_panel(**variables)
+        else:
+            program = os.path.join(self.programs, "orvik-menu")
+            panel = self.start_panel(program=tab, wrapper=[program, "--tab"], **variables)
         panel.complaints()
         return panel, panel.main_window()
+
+    def use_folders(self):
+        self.suite.write(foldersArray=FOLDERS, foldersArraystate=[1, 1, 0, 1, 1], arrCustomFoldersUrls=FOLDERS[:3])
 
     def first_run(self, scheme):
         self.become_a_newcomer()
@@ -56,12 +81,10 @@ class Screenshots(DesktopTestCase):
 
     def tabs(self, scheme):
         self.become_someone_new()
-        self.suite.write(foldersArray=FOLDERS, foldersArraystate=[1, 1, 0, 1, 1], arrCustomFoldersUrls=FOLDERS[:3])
+        self.use_folders()
         panel, window = self.start()
         for tab in TABS:
             self.hands.click(window.find("page tab", tab).extents)
-            # Away from what would look different below the pointer.
-            self.hands.move_to(window.extents._replace(width=2, height=2))
             yield self.picture(window.name, f"{tab.lower().replace(' ', '-')}-{scheme}")
         self.hands.click(window.find("page tab", "Folders").extents)
         self.hands.click(eventually(lambda: window.find("list item", FOLDERS[1]), "the row").extents)
@@ -96,14 +119,37 @@ class Screenshots(DesktopTestCase):
         panel.close()
 
     def test_every_screen_in_both_schemes(self):
-        self.start_portal()
+        self.stand_still()
         for scheme, number in SCHEMES.items():
             self.prefer_color_scheme(number)
             paths = list(self.pictures(scheme))
-            subprocess.run(
-                ["montage", *paths, "-background", "#7d8590", "-geometry", "480x448>+10+10", "-tile", "4x",
-                 "-depth", "8", "-define", "png:compression-level=9",
-                 os.path.join(self.folder, f"all-{scheme}.png")], check=True, timeout=120)
+            self.sheet(scheme, paths, "480x448>", 4)
+
+
+class OtherSurroundings(Screenshots):
+    screen_size = (2048, 2048)
+    # Made above.
+    test_every_screen_in_both_schemes = None
+
+    def pictures(self, name, tabs, **variables):
+        self.become_a_newcomer()
+        panel, window = self.start(**variables)
+        yield self.picture(window.name, f"first-run-{name}")
+        panel.close()
+        for tab in tabs:
+            self.become_someone_new()
+            self.use_folders()
+            panel, window = self.start(tab, **variables)
+            yield self.picture(window.name, f"{tab.lower().replace(' ', '-')}-{name}")
+            panel.close()
+
+    def test_screens_of_twice_the_density(self):
+        self.stand_still()
+        self.sheet("2x", list(self.pictures("2x", TABS[:3], QT_SCALE_FACTOR="2")), "960x896>", 2)
+
+    def test_screens_that_are_read_from_right_to_left(self):
+        self.stand_still()
+        self.sheet("right-to-left", list(self.pictures("right-to-left", TABS, LANGUAGE="ar")), "480x448>", 3)
 
 
 if __name__ == "__main__":

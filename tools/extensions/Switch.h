@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/look/Movement.h"
+
 #include <QCheckBox>
 
 namespace ExtensionsTool {
@@ -23,6 +25,11 @@ protected:
     // The area under the pointer is drawn differently.
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
+
+private:
+    LinuxDesktop::Movement m_movement;
+    /// The knob moves by somebody's hand only: what is found out at the start, or done elsewhere, is just shown.
+    bool m_isOperated = false;
 };
 
 } // namespace ExtensionsTool

@@ -4,6 +4,7 @@
 #include "platform/linux/look/ControlPainting.h"
 
 #include <QPainter>
+#include <QStyle>
 
 namespace MenuExtension::Duplicates {
 
@@ -34,8 +35,7 @@ void GroupDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 {
     painter->save();
     const bool isSelected = option.state & QStyle::State_Selected;
-    if (isSelected)
-        painter->fillRect(option.rect, option.palette.highlight());
+    option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
     const int height = option.fontMetrics.height();
     QRect line = option.rect.adjusted(around, around - 2, -around, 0);
     line.setHeight(height);

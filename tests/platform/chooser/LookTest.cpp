@@ -3,6 +3,7 @@
 
 #include "platform/linux/chooser/FolderModel.h"
 
+#include <QApplication>
 #include <QIcon>
 #include <QScrollBar>
 
@@ -91,6 +92,26 @@ TEST(Look, IconsAreDrawnInOneStyleAtEveryScale)
         for (const qreal scale : {1.25, 1.5, 2.0})
             EXPECT_LT(difference(plain, colorAt(scale, iconIn(model, row))), 4.0) << row << " at " << scale;
     }
+}
+
+TEST(Look, ToolButtonsHaveTheIconsForDarkWindowsOnceTheyAreDark)
+{
+    const BreezeIcons icons;
+    ModalState modal;
+    FileChooser chooser(modal);
+    chooser.setCanChooseDirectories(true);
+    runChooser(chooser, [](const ShownChooser& shown) {
+        const auto* button = shown.dialog().findChild<QToolButton*>(u"upButton"_s);
+        const auto light = colorAt(1.0, button->icon());
+        const QPalette palette = QApplication::palette();
+        QPalette dark = palette;
+        dark.setColor(QPalette::Window, Qt::black);
+        QApplication::setPalette(dark);
+        QIcon::setThemeName(u"breeze-dark"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return difference(light, colorAt(1.0, button->icon())) > 4.0; }));
+        QApplication::setPalette(palette);
+        shown.cancel();
+    });
 }
 
 TEST(Look, ToolButtonsAreDrawnInOneStyleAtEveryScale)

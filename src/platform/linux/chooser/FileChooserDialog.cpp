@@ -68,19 +68,38 @@ QIcon outlinesOf(const QIcon& icon)
     return outlines;
 }
 
-QToolButton* toolButton(const Tool& tool, QWidget* parent)
-{
-    auto* button = new QToolButton(parent);
-    button->setObjectName(QLatin1String(tool.objectName));
-    button->setText(tool.title);
-    button->setToolTip(u"%1 (%2)"_s.arg(tool.title, QKeySequence(tool.keys).toString(QKeySequence::NativeText)));
-    button->setIcon(outlinesOf(QIcon::fromTheme(tool.iconName, parent->style()->standardIcon(tool.fallback))));
-    button->setIconSize(toolIconSize);
-    button->setMinimumSize(toolExtent, toolExtent);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    return button;
-}
+/// A button that is nothing but its picture, which is that for dark windows while they are dark.
+class ToolButton : public QToolButton {
+public:
+    ToolButton(const Tool& tool, QWidget* parent)
+        : QToolButton(parent), m_iconName(tool.iconName), m_fallback(tool.fallback)
+    {
+        setObjectName(QLatin1String(tool.objectName));
+        setText(tool.title);
+        setToolTip(u"%1 (%2)"_s.arg(tool.title, QKeySequence(tool.keys).toString(QKeySequence::NativeText)));
+        setIconSize(toolIconSize);
+        setMinimumSize(toolExtent, toolExtent);
+        setAutoRaise(true);
+        setFocusPolicy(Qt::StrongFocus);
+        showIcon();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QToolButton::changeEvent(event);
+        // The icons change after the colours.
+        if (event->type() == QEvent::PaletteChange)
+            QMetaObject::invokeMethod(
+                this, [this] { showIcon(); }, Qt::QueuedConnection);
+    }
+
+private:
+    void showIcon() { setIcon(outlinesOf(QIcon::fromTheme(m_iconName, style()->standardIcon(m_fallback)))); }
+
+    QString m_iconName;
+    QStyle::StandardPixmap m_fallback;
+};
 
 /// Plain text in as many lines as it needs. A long word is cut rather than widening the window beyond the screen.
 void setUpText(QLabel& label)
@@ -182,22 +201,22 @@ QHBoxLayout* FileChooserDialog::makePathRow()
     const bool leftToRight = isLeftToRight();
     const auto back = leftToRight ? u"go-previous"_s : u"go-next"_s;
     const auto forward = leftToRight ? u"go-next"_s : u"go-previous"_s;
-    m_backButton = toolButton({"backButton", tr("Back"), u"Alt+Left"_s, back, QStyle::SP_ArrowBack}, this);
+    m_backButton = new ToolButton({"backButton", tr("Back"), u"Alt+Left"_s, back, QStyle::SP_ArrowBack}, this);
     connect(m_backButton, &QToolButton::clicked, this, [this] { retrace(Trail::Back); });
     m_forwardButton =
-        toolButton({"forwardButton", tr("Forward"), u"Alt+Right"_s, forward, QStyle::SP_ArrowForward}, this);
+        new ToolButton({"forwardButton", tr("Forward"), u"Alt+Right"_s, forward, QStyle::SP_ArrowForward}, this);
     connect(m_forwardButton, &QToolButton::clicked, this, [this] { retrace(Trail::Forward); });
-    m_upButton = toolButton({"upButton", tr("Up"), u"Alt+Up"_s, u"go-up"_s, QStyle::SP_FileDialogToParent}, this);
+    m_upButton = new ToolButton({"upButton", tr("Up"), u"Alt+Up"_s, u"go-up"_s, QStyle::SP_FileDialogToParent}, this);
     connect(m_upButton, &QToolButton::clicked, this, &FileChooserDialog::goUp);
     auto* homeButton =
-        toolButton({"homeButton", tr("Home"), u"Alt+Home"_s, u"go-home"_s, QStyle::SP_DirHomeIcon}, this);
+        new ToolButton({"homeButton", tr("Home"), u"Alt+Home"_s, u"go-home"_s, QStyle::SP_DirHomeIcon}, this);
     connect(homeButton, &QToolButton::clicked, this, [this] { goTo(homeFolder()); });
     m_location = new LocationField(m_settings.hiddenFiles, *m_settings.kinds, this);
     m_location->setObjectName(u"pathField"_s);
     m_location->setAccessibleName(tr("Location"));
     m_location->setToolTip(
         u"%1 (%2)"_s.arg(tr("Location"), QKeySequence(u"Ctrl+L"_s).toString(QKeySequence::NativeText)));
-    auto* newButton = toolButton(
+    auto* newButton = new ToolButton(
         {"newFolderButton", tr("New Folder"), u"Ctrl+Shift+N"_s, u"folder-new"_s, QStyle::SP_FileDialogNewFolder},
         this);
     connect(newButton, &QToolButton::clicked, this, &FileChooserDialog::makeFolder);

@@ -50,12 +50,58 @@ bool isHovered(const QStyleOption& option)
     return (option.state & QStyle::State_MouseOver) && (option.state & QStyle::State_Enabled);
 }
 
+bool isEnabled(const QStyleOption& option)
+{
+    return option.state & QStyle::State_Enabled;
+}
+
 bool hasFocus(const QStyleOption& option)
 {
     return option.state & QStyle::State_HasFocus;
 }
 
+/// A line round a shape, within it.
+void drawOutline(const QRectF& shape, qreal corner, const QPen& pen, QPainter& painter)
+{
+    const qreal inset = pen.widthF() / 2.0;
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(shape.adjusted(inset, inset, -inset, -inset), corner, corner);
+    painter.setPen(Qt::NoPen);
+}
+
+/// What has no outline has one in high contrast where it is pointed to or pressed, since between black and white
+/// there is no tint.
+void drawStrongState(const QStyleOption& option, const QRectF& shape, QPainter& painter)
+{
+    const QColor& text = option.palette.color(QPalette::Text);
+    if (!isEnabled(option))
+        drawOutline(shape, radius, brokenLine(option.palette), painter);
+    else if (isPressed(option))
+        drawOutline(shape, radius, QPen(text, 4.0), painter);
+    else if (isHovered(option))
+        drawOutline(shape, radius, QPen(text, 2.0), painter);
+}
+
 } // namespace
+
+QPen brokenLine(const QPalette& palette)
+{
+    QPen pen(controlOutline(palette), 1.0);
+    pen.setDashPattern({3.0, 3.0});
+    return pen;
+}
+
+QPen outlineOfControl(const QStyleOption& option)
+{
+    const QPalette& palette = option.palette;
+    const bool isHigh = isHighContrast(palette);
+    if (!isEnabled(option))
+        return isHigh ? brokenLine(palette) : QPen(dividingLine(palette), 1.0);
+    if (isHovered(option) || isPressed(option))
+        return {palette.color(QPalette::Highlight), isHigh ? 3.0 : 1.0};
+    return {controlOutline(palette), 1.0};
+}
 
 void drawSheet(const QRect& rect, const QPalette& palette, QPainter& painter)
 {
@@ -76,82 +122,174 @@ void drawCheckBox(const QStyleOption& option, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
     const QPalette& palette = option.palette;
+    const bool isHigh = isHighContrast(palette);
     const bool on = option.state & QStyle::State_On;
-    QColor fill = on ? palette.color(QPalette::Highlight) : palette.color(QPalette::Base);
-    if (isPressed(option))
-        fill = mixed(fill, palette.color(QPalette::Text), 0.15F);
-    const bool emphasized = on || isHovered(option);
-    painter.setPen(QPen(emphasized ? palette.color(QPalette::Highlight) : controlOutline(palette), 1.5));
+    const QColor& accent = palette.color(QPalette::Highlight);
+    const QColor& base = palette.color(QPalette::Base);
+    const bool isFilled = on && !(isHigh && (isPressed(option) || !isEnabled(option)));
+    QColor fill = isFilled ? accent : base;
+    if (!isHigh && isPressed(option))
+        fill = mixed(fill, palette.color(QPalette::Text), 0.25F);
+    else if (!isHigh && isHovered(option))
+        fill = mixed(fill, palette.color(QPalette::Text), on ? 0.14F : 0.06F);
+    QPen pen(on || isHovered(option) ? accent : controlOutline(palette), 1.5);
+    if (isHigh && !isEnabled(option))
+        pen = brokenLine(palette);
+    else if (isHigh && isPressed(option))
+        pen = QPen(accent, on ? 4.0 : 6.0);
+    else if (isHigh && isHovered(option) && !on)
+        pen = QPen(accent, 3.0);
+    else if (!isEnabled(option) && !on)
+        pen.setColor(mixed(base, palette.color(QPalette::Text), 0.36F));
+    // One in a row of a view that is selected has the colour of what is behind it.
+    if (on && (option.state & QStyle::State_Selected))
+        pen.setColor(palette.color(QPalette::HighlightedText));
+    const QRectF box(option.rect);
     painter.setBrush(fill);
-    const QRectF box = outlineOf(option.rect, 1.5);
-    painter.drawRoundedRect(box, smallRadius, smallRadius);
+    painter.drawRoundedRect(box.adjusted(0.75, 0.75, -0.75, -0.75), smallRadius, smallRadius);
+    drawOutline(box, smallRadius, pen, painter);
     if (!on)
         return;
-    painter.setPen(QPen(palette.color(QPalette::HighlightedText), box.width() / 8.0, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
+    const QColor& mark = isFilled ? palette.color(QPalette::HighlightedText) : controlOutline(palette);
+    if (isHigh && isFilled && isHovered(option))
+        drawOutline(box.adjusted(2.0, 2.0, -2.0, -2.0), smallRadius - 2.0, QPen(mark, 1.5), painter);
+    painter.setPen(QPen(mark, box.width() / 8.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const auto point = [&](qreal x, qreal y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
-    painter.drawPolyline(QPolygonF{{point(0.25, 0.53), point(0.43, 0.71), point(0.76, 0.31)}});
+    painter.drawPolyline(QPolygonF{{point(0.27, 0.53), point(0.43, 0.68), point(0.73, 0.33)}});
+}
+
+QColor buttonText(const QStyleOptionButton& option, bool isPrimary)
+{
+    const QPalette& palette = option.palette;
+    const bool isFilled = isPrimary && isEnabled(option);
+    // In high contrast the one that is pressed is the other way round.
+    if (isHighContrast(palette) && isPressed(option))
+        return palette.color(isFilled ? QPalette::ButtonText : QPalette::Button);
+    return palette.color(isFilled ? QPalette::HighlightedText : QPalette::ButtonText);
 }
 
 void drawButton(const QStyleOptionButton& option, bool isPrimary, QPainter& painter)
 {
     const QPalette& palette = option.palette;
     const bool flat = option.features & QStyleOptionButton::Flat;
-    if (flat && !isHovered(option) && !isPressed(option))
+    const bool isHigh = isHighContrast(palette);
+    if (flat && !isHovered(option) && !isPressed(option) && (!isHigh || isEnabled(option)))
         return;
     const SmoothPainter smooth(painter);
-    const bool isFilled = isPrimary && (option.state & QStyle::State_Enabled);
-    QColor fill = palette.color(isFilled ? QPalette::Highlight : QPalette::Button);
+    const bool isFilled = isPrimary && isEnabled(option);
+    const bool isInverted = isHigh && isPressed(option);
+    QColor fill = palette.color(isFilled ? QPalette::Highlight : flat ? QPalette::Window : QPalette::Button);
     const QColor& text = palette.color(isFilled ? QPalette::WindowText : QPalette::ButtonText);
-    if (isPressed(option))
+    if (isInverted)
+        fill = isFilled ? palette.color(QPalette::Button) : text;
+    else if (!isHigh && isPressed(option))
         fill = mixed(fill, text, isFilled ? 0.3F : 0.16F);
-    else if (isHovered(option))
-        fill = mixed(fill, text, isFilled ? 0.14F : 0.06F);
-    if (!flat && !isFilled) {
-        const QColor outline = isHovered(option) ? palette.color(QPalette::Highlight) : controlOutline(palette);
-        painter.setPen(option.state & QStyle::State_Enabled ? outline : dividingLine(palette));
-    }
+    else if (!isHigh && isHovered(option))
+        fill = mixed(fill, text, isFilled ? 0.14F : flat ? 0.08F : 0.06F);
+    const QRectF shape(option.rect);
     painter.setBrush(fill);
-    painter.drawRoundedRect(isFilled ? QRectF(option.rect) : outlineOf(option.rect, 1.0), radius, radius);
+    painter.drawRoundedRect(isFilled ? shape : shape.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    if (isFilled && isHigh && isHovered(option) && !isPressed(option))
+        drawOutline(shape.adjusted(3.0, 3.0, -3.0, -3.0), radius - 3.0,
+                    QPen(palette.color(QPalette::HighlightedText), 2.0), painter);
+    else if (isInverted ? isFilled : !isFilled && (!flat || isHigh))
+        drawOutline(shape, radius, outlineOfControl(option), painter);
 }
 
 void drawToolButton(const QStyleOption& option, QPainter& painter)
 {
-    const bool isDown = option.state & (QStyle::State_Sunken | QStyle::State_On);
-    if (!isDown && !isHovered(option))
-        return;
     const SmoothPainter smooth(painter);
-    painter.setBrush(mixed(option.palette.color(QPalette::Window), option.palette.color(QPalette::WindowText),
-                           isDown ? 0.16F : 0.08F));
+    const QPalette& palette = option.palette;
+    const bool isOn = option.state & QStyle::State_On;
+    if (isHighContrast(palette)) {
+        drawStrongState(option, option.rect, painter);
+        if (isOn && isEnabled(option)) {
+            const QRectF bar(option.rect.left() + radius, option.rect.bottom() - 5, option.rect.width() - 2 * radius,
+                             4);
+            painter.setBrush(palette.color(QPalette::Highlight));
+            painter.drawRoundedRect(bar, 2.0, 2.0);
+        }
+        return;
+    }
+    const float share = isPressed(option) ? 0.24F : isOn ? 0.16F : isHovered(option) ? 0.08F : 0.0F;
+    if (share <= 0.0F)
+        return;
+    painter.setBrush(mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), share));
     painter.drawRoundedRect(option.rect, radius, radius);
 }
 
-void drawTab(const QStyleOption& option, QPainter& painter)
+QRect markOfTab(const QRect& tab)
+{
+    constexpr int thickness = 3;
+    return {tab.left() + tabPadding, tab.bottom() - thickness, tab.width() - 2 * tabPadding, thickness};
+}
+
+void drawTab(const QStyleOption& option, const QRect& mark, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
     const QPalette& palette = option.palette;
-    if (isHovered(option)) {
-        painter.setBrush(mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.06F));
-        painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 4, -2, -4), radius, radius);
+    const QRectF shape = QRectF(option.rect).adjusted(2, 4, -2, -4);
+    if (isHighContrast(palette)) {
+        drawStrongState(option, shape.adjusted(0, 0, 0, -2), painter);
+    } else if (isHovered(option) || isPressed(option)) {
+        painter.setBrush(mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText),
+                               isPressed(option) ? 0.16F : 0.06F));
+        painter.drawRoundedRect(shape, radius, radius);
     }
     if (option.state & QStyle::State_Selected) {
-        constexpr qreal thickness = 3.0;
-        const QRectF tab(option.rect);
+        const qreal corner = mark.height() / 2.0;
         painter.setBrush(palette.color(QPalette::Highlight));
-        painter.drawRoundedRect(
-            QRectF(tab.left() + tabPadding, tab.bottom() - thickness, tab.width() - 2 * tabPadding, thickness),
-            thickness / 2.0, thickness / 2.0);
+        painter.drawRoundedRect(mark, corner, corner);
     }
+}
+
+void drawItem(const QStyleOptionViewItem& option, QPainter& painter)
+{
+    const QPalette& palette = option.palette;
+    const bool isSelected = option.state & QStyle::State_Selected;
+    const SmoothPainter smooth(painter);
+    painter.setClipRect(option.rect);
+    if (isSelected)
+        painter.fillRect(option.rect, palette.color(palette.currentColorGroup(), QPalette::Highlight));
+    if (!isHighContrast(palette)) {
+        if (isHovered(option)) {
+            QColor tint = palette.color(QPalette::Text);
+            tint.setAlphaF(0.06F);
+            painter.fillRect(option.rect, tint);
+        }
+        return;
+    }
+    if (!isHovered(option) && !isSelected)
+        return;
+    // A row may be of several parts.
+    using Position = QStyleOptionViewItem::ViewItemPosition;
+    const Position position = option.viewItemPosition;
+    const bool leftToRight = option.direction == Qt::LeftToRight;
+    const int beyond = 8;
+    QRectF shape(option.rect);
+    if (position == Position::Middle || position == (leftToRight ? Position::End : Position::Beginning))
+        shape.setLeft(shape.left() - beyond);
+    if (position == Position::Middle || position == (leftToRight ? Position::Beginning : Position::End))
+        shape.setRight(shape.right() + beyond);
+    drawOutline(shape, 1.0, QPen(palette.color(QPalette::Text), isSelected ? 3.0 : 1.5), painter);
 }
 
 void drawLineEdit(const QStyleOption& option, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
     const QPalette& palette = option.palette;
-    const qreal width = hasFocus(option) ? 2.0 : 1.0;
-    painter.setPen(QPen(hasFocus(option) ? palette.color(QPalette::Highlight) : controlOutline(palette), width));
+    const bool isHigh = isHighContrast(palette);
+    // The toolkit calls each field sunken.
+    QStyleOption field(option);
+    field.state &= ~QStyle::State_Sunken;
+    QPen pen = outlineOfControl(field);
+    if (hasFocus(option))
+        pen = QPen(palette.color(QPalette::Highlight), isHigh ? 3.0 : 2.0);
+    else if (isHigh && isHovered(option))
+        pen = QPen(controlOutline(palette), 2.0);
     painter.setBrush(palette.color(QPalette::Base));
-    painter.drawRoundedRect(outlineOf(option.rect, width), radius, radius);
+    painter.drawRoundedRect(outlineOf(option.rect, 1.0), radius, radius);
+    drawOutline(option.rect, radius, pen, painter);
 }
 
 void drawFrame(const QStyleOption& option, QPainter& painter, bool filled)
@@ -165,11 +303,53 @@ void drawFrame(const QStyleOption& option, QPainter& painter, bool filled)
     painter.drawRoundedRect(outlineOf(option.rect, 1.0), 2.0, 2.0);
 }
 
-void drawOutline(const QStyleOption& option, const QRect& part, QPainter& painter)
+void drawArrow(const QRect& place, bool down, const QColor& color, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
-    painter.setPen(QPen(controlOutline(option.palette), 1.0));
-    painter.drawRoundedRect(outlineOf(part, 1.0), smallRadius, smallRadius);
+    painter.setPen(QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF middle = QRectF(place).center();
+    const qreal tip = down ? 2.0 : -2.0;
+    painter.drawPolyline(
+        QPolygonF{{middle + QPointF(-4.0, -tip), middle + QPointF(0.0, tip), middle + QPointF(4.0, -tip)}});
+}
+
+void drawSlider(const QStyleOptionSlider& option, const QRect& handle, bool showsFocus, QPainter& painter)
+{
+    constexpr qreal thickness = 4.0;
+    const SmoothPainter smooth(painter);
+    const QPalette& palette = option.palette;
+    const bool isHigh = isHighContrast(palette);
+    const bool upright = option.orientation == Qt::Vertical;
+    const QRectF whole(option.rect);
+    const QPointF middle = QRectF(handle).center();
+    QRectF groove = upright ? QRectF(middle.x() - thickness / 2, whole.top(), thickness, whole.height())
+                            : QRectF(whole.left(), middle.y() - thickness / 2, whole.width(), thickness);
+    painter.setBrush(mixed(palette.color(QPalette::Window), palette.color(QPalette::Text), isHigh ? 1.0F : 0.28F));
+    if (isHigh && !isEnabled(option))
+        drawOutline(groove, thickness / 2, brokenLine(palette), painter);
+    else
+        painter.drawRoundedRect(groove, thickness / 2, thickness / 2);
+    if (isEnabled(option)) {
+        // As far as the value goes.
+        if (upright)
+            option.upsideDown ? groove.setTop(middle.y()) : groove.setBottom(middle.y());
+        else
+            option.upsideDown ? groove.setLeft(middle.x()) : groove.setRight(middle.x());
+        painter.setBrush(palette.color(QPalette::Highlight));
+        painter.drawRoundedRect(groove, thickness / 2, thickness / 2);
+    }
+    const qreal extent = std::min(handle.width(), handle.height());
+    QRectF knob(0, 0, extent, extent);
+    knob.moveCenter(middle);
+    QColor fill = palette.color(QPalette::Button);
+    if (isEnabled(option) && isPressed(option))
+        fill = isHigh ? palette.color(QPalette::Text) : mixed(fill, palette.color(QPalette::ButtonText), 0.2F);
+    painter.setBrush(fill);
+    painter.drawEllipse(knob.adjusted(0.5, 0.5, -0.5, -0.5));
+    drawOutline(knob, extent / 2, outlineOfControl(option), painter);
+    if (showsFocus)
+        drawOutline(knob.adjusted(-focusRoom, -focusRoom, focusRoom, focusRoom) & whole, extent,
+                    QPen(palette.color(QPalette::Highlight), ringWidth), painter);
 }
 
 void drawFocus(const QStyleOption& option, QPainter& painter)
@@ -192,10 +372,13 @@ void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
 {
     const QPalette& palette = option.palette;
     const QColor& base = palette.color(QPalette::Base);
-    const bool emphasized = isHovered(option) || isPressed(option);
-    painter.fillRect(option.rect, emphasized ? mixed(base, palette.color(QPalette::Text), 0.06F) : base);
+    const bool isHigh = isHighContrast(palette);
+    const float share = isHigh ? 0.0F : isPressed(option) ? 0.16F : isHovered(option) ? 0.06F : 0.0F;
+    painter.fillRect(option.rect, mixed(base, palette.color(QPalette::Text), share));
     const QColor line = dividingLine(palette);
-    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), line);
+    const int thickness = isHigh && isPressed(option) ? 5 : isHigh && isHovered(option) ? 3 : 1;
+    painter.fillRect(QRect(option.rect.left(), option.rect.bottom() + 1 - thickness, option.rect.width(), thickness),
+                     line);
     const bool isLast =
         option.position == QStyleOptionHeader::End || option.position == QStyleOptionHeader::OnlyOneSection;
     if (isLast)
@@ -205,11 +388,21 @@ void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
     painter.fillRect(QRect(edge, option.rect.top() + inset, 1, option.rect.height() - 2 * inset), line);
 }
 
-void drawMenuHighlight(const QStyleOption& option, QPainter& painter)
+QColor drawMenuHighlight(const QStyleOption& option, QPainter& painter)
 {
     const SmoothPainter smooth(painter);
-    painter.setBrush(option.palette.color(QPalette::Highlight));
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(2, 1, -2, -2), smallRadius, smallRadius);
+    const QPalette& palette = option.palette;
+    const QRectF shape = QRectF(option.rect).adjusted(2, 1, -2, -2);
+    QColor fill = palette.color(QPalette::Highlight);
+    if (isPressed(option) && isHighContrast(palette)) {
+        drawOutline(shape, smallRadius, QPen(fill, 3.0), painter);
+        return palette.color(QPalette::Text);
+    }
+    if (isPressed(option))
+        fill = mixed(fill, palette.color(QPalette::WindowText), 0.25F);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(shape, smallRadius, smallRadius);
+    return palette.color(QPalette::HighlightedText);
 }
 
 void drawProgress(const QStyleOptionProgressBar& option, qreal busyWay, QPainter& painter)

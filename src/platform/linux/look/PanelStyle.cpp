@@ -1,11 +1,15 @@
 #include "platform/linux/look/PanelStyle.h"
 
 #include "platform/linux/look/ControlPainting.h"
+#include "platform/linux/look/TabMark.h"
 #include "platform/linux/look/ThemeColors.h"
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QStyleOption>
 #include <QTabBar>
 
@@ -20,8 +24,12 @@ namespace {
 constexpr int boxExtent = 18;
 /// Between a checkbox and its text.
 constexpr int boxSpacing = 8;
+constexpr int comboBoxPadding = 5;
 constexpr int scrollBarExtent = 10;
 constexpr int shortestScrollHandle = 32;
+constexpr int sliderKnobExtent = 18;
+/// Long enough to be followed, and too short to be waited for.
+constexpr std::chrono::milliseconds movementDuration{150};
 
 /// What a scroll bar's groove is filled with: what lies beside it, where that fills itself.
 QBrush grooveOf(const QWidget* scrollBar, const QPalette& palette)
@@ -46,7 +54,11 @@ bool showsFocus(const QStyleOption& option)
 bool isPrimary(const QStyleOptionButton& button, const QWidget* widget)
 {
     const QVariant stated = widget ? widget->property("primary") : QVariant();
-    return stated.isValid() ? stated.toBool() : button.features.testFlag(QStyleOptionButton::DefaultButton);
+    if (stated.isValid() || !widget)
+        return stated.toBool();
+    // Outside of dialogs it is just the one that has the keyboard.
+    return button.features.testFlag(QStyleOptionButton::DefaultButton) &&
+           qobject_cast<const QDialog*>(widget->window());
 }
 
 QRect withoutFocusRoom(const QRect& rect)
@@ -70,13 +82,28 @@ qreal busyWay()
 }
 
 /// The item as it is drawn on the panel's own highlight instead of the base style's.
-QStyleOptionMenuItem onHighlight(const QStyleOptionMenuItem& item)
+QStyleOptionMenuItem onHighlight(const QStyleOptionMenuItem& item, const QColor& color)
 {
     QStyleOptionMenuItem text(item);
     text.state &= ~(QStyle::State_Selected | QStyle::State_Sunken);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        text.palette.setColor(role, item.palette.color(QPalette::HighlightedText));
+        text.palette.setColor(role, color);
     return text;
+}
+
+QStyleOptionButton asButton(const QStyleOptionComboBox& box)
+{
+    QStyleOptionButton button;
+    button.QStyleOption::operator=(box);
+    if (box.state & QStyle::State_On)
+        button.state |= QStyle::State_Sunken;
+    return button;
+}
+
+/// In high contrast a grey alone does not tell that something cannot be used.
+bool isSlanted(const QStyleOption& option)
+{
+    return !(option.state & QStyle::State_Enabled) && isHighContrast(option.palette);
 }
 
 /// The handle's place in a scroll bar that is nothing but its groove.
@@ -120,6 +147,10 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             break;
         ControlPainting::drawLineEdit(*option, *painter);
         break;
+    case PE_PanelItemViewItem:
+        if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option))
+            ControlPainting::drawItem(*item, *painter);
+        break;
     case PE_Frame:
         ControlPainting::drawFrame(*option, *painter, !qobject_cast<const QAbstractScrollArea*>(widget));
         break;
@@ -152,12 +183,15 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
     const auto* menuItem = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    const auto* comboBox = qstyleoption_cast<const QStyleOptionComboBox*>(option);
     const auto* progress = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
     if (element == CE_ProgressBar && progress) {
         // A quarter of the way to and fro is the middle.
         ControlPainting::drawProgress(*progress, m_motion == Motion::Full ? busyWay() : 0.25, *painter);
     } else if (element == CE_TabBarTabShape) {
-        ControlPainting::drawTab(*option, *painter);
+        const TabMark* mark = widget ? widget->findChild<TabMark*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+        ControlPainting::drawTab(*option, mark ? mark->place() : ControlPainting::markOfTab(option->rect), *painter);
     } else if (element == CE_TabBarTabLabel && tab) {
         // The base style would draw a focus of its own.
         QStyleOptionTab label(*tab);
@@ -170,9 +204,12 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
     } else if (element == CE_PushButton && button) {
         QStyleOptionButton part(*button);
         part.rect = subElementRect(SE_PushButtonBevel, button, widget);
-        QProxyStyle::drawControl(CE_PushButtonBevel, &part, painter, widget);
-        if (isPrimary(*button, widget) && (button->state & State_Enabled))
-            part.palette.setColor(QPalette::ButtonText, button->palette.color(QPalette::HighlightedText));
+        // The base style draws a flat one that is pressed only.
+        if (button->features & QStyleOptionButton::Flat)
+            ControlPainting::drawButton(part, false, *painter);
+        else
+            QProxyStyle::drawControl(CE_PushButtonBevel, &part, painter, widget);
+        part.palette.setColor(QPalette::ButtonText, ControlPainting::buttonText(*button, isPrimary(*button, widget)));
         QProxyStyle::drawControl(CE_PushButtonLabel, &part, painter, widget);
         if (showsFocus(*button))
             ControlPainting::drawFocusAround(part, *painter);
@@ -186,12 +223,25 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         part.rect = subElementRect(SE_CheckBoxIndicator, button, widget);
         if (showsFocus(*button))
             ControlPainting::drawFocusAround(part, *painter);
+    } else if (element == CE_ComboBoxLabel && comboBox && !comboBox->editable) {
+        QStyleOptionComboBox label(*comboBox);
+        label.palette.setColor(QPalette::ButtonText, ControlPainting::buttonText(asButton(*comboBox), false));
+        label.state &= ~(State_Sunken | State_On);
+        QProxyStyle::drawControl(element, &label, painter, widget);
     } else if (element == CE_HeaderSection && header) {
         ControlPainting::drawHeaderSection(*header, *painter);
     } else if (element == CE_MenuItem && menuItem && menuItem->menuItemType != QStyleOptionMenuItem::Separator &&
                (menuItem->state & State_Selected) && (menuItem->state & State_Enabled)) {
-        ControlPainting::drawMenuHighlight(*menuItem, *painter);
-        const QStyleOptionMenuItem text = onHighlight(*menuItem);
+        const QStyleOptionMenuItem text =
+            onHighlight(*menuItem, ControlPainting::drawMenuHighlight(*menuItem, *painter));
+        QProxyStyle::drawControl(element, &text, painter, widget);
+    } else if (element == CE_MenuItem && menuItem && isSlanted(*menuItem)) {
+        QStyleOptionMenuItem text(*menuItem);
+        text.font.setItalic(true);
+        QProxyStyle::drawControl(element, &text, painter, widget);
+    } else if (element == CE_ItemViewItem && item && isSlanted(*item)) {
+        QStyleOptionViewItem text(*item);
+        text.font.setItalic(true);
         QProxyStyle::drawControl(element, &text, painter, widget);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
@@ -201,8 +251,20 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
 void PanelStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    if (qobject_cast<QTabBar*>(widget))
+    // What is drawn differently where the pointer is.
+    if (const auto* view = qobject_cast<QAbstractItemView*>(widget))
+        view->viewport()->setAttribute(Qt::WA_Hover);
+    else if (qobject_cast<QTabBar*>(widget) || qobject_cast<QLineEdit*>(widget))
         widget->setAttribute(Qt::WA_Hover);
+    if (auto* bar = qobject_cast<QTabBar*>(widget);
+        bar && !bar->findChild<TabMark*>(QString(), Qt::FindDirectChildrenOnly))
+        new TabMark(*bar);
+}
+
+void PanelStyle::unpolish(QWidget* widget)
+{
+    delete widget->findChild<TabMark*>(QString(), Qt::FindDirectChildrenOnly);
+    QProxyStyle::unpolish(widget);
 }
 
 void PanelStyle::polish(QApplication* application)
@@ -259,17 +321,24 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 {
     const auto* spinBox = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
     if (control == CC_SpinBox && spinBox) {
-        ControlPainting::drawLineEdit(*spinBox, *painter);
-        QStyleOptionSpinBox buttons(*spinBox);
-        buttons.subControls &= ~SC_SpinBoxFrame;
-        QProxyStyle::drawComplexControl(control, &buttons, painter, widget);
+        drawSpinBox(*spinBox, *painter, widget);
+        return;
+    }
+    const auto* comboBox = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_ComboBox && comboBox && !comboBox->editable) {
+        drawComboBox(*comboBox, *painter, widget);
         return;
     }
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_Slider && bar) {
+        ControlPainting::drawSlider(*bar, subControlRect(CC_Slider, bar, SC_SliderHandle, widget), showsFocus(*bar),
+                                    *painter);
+        return;
+    }
+    if (control == CC_ToolButton && isSlanted(*option))
+        ControlPainting::drawToolButton(*option, *painter);
     if (control != CC_ScrollBar || !bar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if (isHighContrast(option->palette))
-            outlineParts(control, *option, *painter, widget);
         return;
     }
     painter->fillRect(bar->rect, grooveOf(widget, bar->palette));
@@ -277,24 +346,50 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         ControlPainting::drawScrollHandle(*bar, handle, *painter);
 }
 
-/// What the base style outlines with a shade of the window only.
-void PanelStyle::outlineParts(ComplexControl control, const QStyleOptionComplex& option, QPainter& painter,
-                              const QWidget* widget) const
+/// A button that says what is chosen.
+void PanelStyle::drawComboBox(const QStyleOptionComboBox& box, QPainter& painter, const QWidget* widget) const
 {
-    if (control == CC_ComboBox) {
-        ControlPainting::drawOutline(option, option.rect, painter);
-    } else if (control == CC_Slider) {
-        for (const SubControl part : {SC_SliderGroove, SC_SliderHandle})
-            ControlPainting::drawOutline(option, subControlRect(control, &option, part, widget), painter);
-    }
+    const QStyleOptionButton button = asButton(box);
+    ControlPainting::drawButton(button, false, painter);
+    ControlPainting::drawArrow(subControlRect(CC_ComboBox, &box, SC_ComboBoxArrow, widget), true,
+                               ControlPainting::buttonText(button, false), painter);
+    if (showsFocus(box))
+        ControlPainting::drawFocus(box, painter);
+}
+
+/// A field with two arrows.
+void PanelStyle::drawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, const QWidget* widget) const
+{
+    ControlPainting::drawLineEdit(box, painter);
+    const auto drawStep = [&](SubControl part, QAbstractSpinBox::StepEnabledFlag step, bool down) {
+        QStyleOption button(box);
+        button.rect = subControlRect(CC_SpinBox, &box, part, widget);
+        const bool isUsable = box.stepEnabled & step;
+        button.state.setFlag(State_Enabled, isUsable);
+        button.state.setFlag(State_MouseOver, isUsable && box.activeSubControls == part);
+        button.state.setFlag(State_Sunken, button.state.testFlag(State_MouseOver) && (box.state & State_Sunken));
+        if (isUsable)
+            ControlPainting::drawToolButton(button, painter);
+        const auto group = isUsable && (box.state & State_Enabled) ? QPalette::Active : QPalette::Disabled;
+        ControlPainting::drawArrow(button.rect, down, box.palette.color(group, QPalette::Text), painter);
+    };
+    drawStep(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, false);
+    drawStep(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, true);
 }
 
 QRect PanelStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl subControl,
                                  const QWidget* widget) const
 {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_ScrollBar || !bar)
-        return QProxyStyle::subControlRect(control, option, subControl, widget);
+    if (control != CC_ScrollBar || !bar) {
+        const QRect rect = QProxyStyle::subControlRect(control, option, subControl, widget);
+        // With room around the words, and the arrow as far from the end.
+        if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
+            return rect.adjusted(comboBoxPadding, 0, -comboBoxPadding, 0);
+        if (control == CC_ComboBox && subControl == SC_ComboBoxArrow)
+            return rect.translated(option->direction == Qt::RightToLeft ? comboBoxPadding : -comboBoxPadding, 0);
+        return rect;
+    }
     const QRect handle = scrollHandle(*bar);
     QRect before = bar->rect;
     QRect after = bar->rect;
@@ -357,6 +452,8 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
         return size + QSize(16 + around, 6 + around);
     case CT_CheckBox:
         return QSize(size.width() + around, std::max(size.height(), boxExtent + around));
+    case CT_ComboBox:
+        return size + QSize(2 * comboBoxPadding, 6);
     case CT_ItemViewItem:
     case CT_LineEdit:
         return size + QSize(0, 6);
@@ -379,6 +476,12 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         return boxSpacing;
     case PM_TabBarTabHSpace:
         return 2 * ControlPainting::tabPadding;
+    // Of a slider: its knob, and the ring around that.
+    case PM_SliderLength:
+        return sliderKnobExtent;
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+        return sliderKnobExtent + 2 * ControlPainting::focusRoom;
     case PM_HeaderMargin:
         return 5;
     case PM_ScrollBarExtent:
@@ -397,9 +500,26 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* returned) const
 {
-    if (hint == SH_Widget_Animation_Duration && m_motion == Motion::Reduced)
+    if (hint == SH_Widget_Animation_Duration)
+        return m_motion == Motion::Reduced ? 0 : static_cast<int>(movementDuration.count());
+    // What cannot be used has a grey of its own, and no shadow.
+    if (hint == SH_EtchDisabledText)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QPixmap PanelStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    if (mode != QIcon::Disabled)
+        return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    // The base style takes the colour away, of which icons of one colour have none.
+    QPixmap faint(pixmap.size());
+    faint.setDevicePixelRatio(pixmap.devicePixelRatio());
+    faint.fill(Qt::transparent);
+    QPainter painter(&faint);
+    painter.setOpacity(0.4);
+    painter.drawPixmap(0, 0, pixmap);
+    return faint;
 }
 
 } // namespace LinuxDesktop

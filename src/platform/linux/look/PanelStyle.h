@@ -2,7 +2,11 @@
 
 #include "platform/linux/look/Appearance.h"
 
+#include <QIcon>
 #include <QProxyStyle>
+
+class QStyleOptionComboBox;
+class QStyleOptionSpinBox;
 
 namespace LinuxDesktop {
 
@@ -22,6 +26,7 @@ public:
     using QProxyStyle::unpolish;
     void polish(QWidget* widget) override;
     void polish(QApplication* application) override;
+    void unpolish(QWidget* widget) override;
     void unpolish(QApplication* application) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
@@ -38,11 +43,13 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
                   QStyleHintReturn* returned = nullptr) const override;
 
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void outlineParts(ComplexControl control, const QStyleOptionComplex& option, QPainter& painter,
-                      const QWidget* widget) const;
+    void drawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, const QWidget* widget) const;
+    void drawComboBox(const QStyleOptionComboBox& box, QPainter& painter, const QWidget* widget) const;
     void followHands(bool keyboardIsUsed);
 
     Motion m_motion = Motion::Full;

@@ -54,11 +54,14 @@ QSize RowList::sizeHint() const
 
 void RowList::reloadData()
 {
-    m_loaded = true;
+    const bool wasLoaded = std::exchange(m_loaded, true);
     const QWidget* focused = window()->focusWidget();
     const bool hadFocus = focused && (focused == this || isAncestorOf(focused));
     const int rowsBefore = m_rowCount;
+    const bool wasOnView = window()->isVisible() && wasLoaded;
     m_rowCount = m_dataSource ? static_cast<int>(m_dataSource->numberOfRowsInTableView(*this)) : 0;
+    // They are added at the end.
+    m_firstNewRow = wasOnView && m_rowCount > rowsBefore ? rowsBefore : -1;
     setSelectedRow(std::min(m_selectedRow, m_rowCount - 1));
     showWhatThereIs();
     fitHeight();
@@ -145,6 +148,7 @@ void RowList::retireRow(int row)
     const QWidget* focused = window()->focusWidget();
     const bool hadFocus = focused && widget->isAncestorOf(focused);
     widget->setCurrent(false);
+    widget->setPressed(false);
     if (hadFocus)
         setFocus(Qt::OtherFocusReason);
     widget->hide();
@@ -177,6 +181,7 @@ void RowList::layOutRows(Refill refill)
         retireRow(row);
 
     for (int row = first; row <= last; ++row) {
+        const bool isNew = m_firstNewRow >= 0 && row >= m_firstNewRow && !m_rows.contains(row);
         if (refill == Refill::AllRows || !m_rows.contains(row))
             fillRow(row);
         const auto shown = m_rows.find(row);
@@ -186,6 +191,8 @@ void RowList::layOutRows(Refill refill)
         widget->setGeometry(0, row * height - top, viewport()->width(), height);
         showState(*widget, row);
         widget->show();
+        if (isNew)
+            widget->appear();
     }
     makeSpareRow(last);
     // The list itself takes the focus only while its current row is out of sight.
@@ -368,6 +375,8 @@ void RowList::comeToRow(int row, const QEvent& event)
 bool RowList::handlePointer(RowWidget& row, const QMouseEvent& event)
 {
     QAbstractButton* const box = m_selectable ? nullptr : row.checkBox();
+    const bool isLeft = event.button() == Qt::LeftButton;
+    row.setPressed(isLeft && event.type() != QEvent::MouseButtonRelease && (box || m_selectable));
     if (event.type() == QEvent::MouseButtonRelease) {
         if (!box || m_pressedRow < 0 || event.button() != Qt::LeftButton)
             return false;
@@ -391,6 +400,8 @@ bool RowList::event(QEvent* event)
 {
     if (event->type() != QEvent::Paint)
         return QAbstractScrollArea::event(event);
+    // By now the list has its height, and what is scrolled to afterwards was there before.
+    m_firstNewRow = -1;
     QPainter painter(this);
     ControlPainting::drawSheet(rect(), palette(), painter);
     return true;

@@ -105,6 +105,8 @@ private:
     int m_selectedRow = -1;
     /// The one that the pointer's button went down on; -1 for none.
     int m_pressedRow = -1;
+    /// The first of those that were added and have not been seen yet; -1 for none.
+    int m_firstNewRow = -1;
     TypeAhead m_typeAhead;
     std::map<int, RowWidget*> m_rows;
     std::vector<RowWidget*> m_spareRows;

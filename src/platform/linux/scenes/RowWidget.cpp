@@ -2,6 +2,7 @@
 
 #include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/look/ControlPainting.h"
+#include "platform/linux/look/Movement.h"
 #include "platform/linux/look/ThemeColors.h"
 #include "platform/linux/scenes/ImageStore.h"
 #include "platform/linux/scenes/ImageWidget.h"
@@ -11,6 +12,7 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QEvent>
+#include <QGraphicsOpacityEffect>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -42,6 +44,8 @@ RowWidget::RowWidget(QWidget* parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_Hover);
 }
+
+RowWidget::~RowWidget() = default;
 
 void RowWidget::prepare()
 {
@@ -162,20 +166,72 @@ void RowWidget::fill(QPainter& painter, int width, const QColor& color) const
     painter.setClipping(false);
 }
 
-void RowWidget::paintEvent(QPaintEvent*)
+void RowWidget::drawState(QPainter& painter) const
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    if (isHighContrast(palette())) {
+        drawStrongState(painter);
+        return;
+    }
     if (m_selected.value_or(false)) {
         QColor selection = palette().color(QPalette::Highlight);
         fill(painter, selectionBarWidth, selection);
         selection.setAlphaF(0.16F);
         fill(painter, width(), selection);
-    } else if (underMouse()) {
+    }
+    if (m_pressed || (underMouse() && isEnabled())) {
         QColor tint = palette().color(QPalette::Text);
-        tint.setAlphaF(0.05F);
+        tint.setAlphaF(m_pressed ? 0.12F : 0.05F);
         fill(painter, width(), tint);
     }
+}
+
+/// Between black and white there is no tint.
+void RowWidget::drawStrongState(QPainter& painter) const
+{
+    if (m_selected.value_or(false))
+        fill(painter, 2 * selectionBarWidth, palette().color(QPalette::Highlight));
+    if (!m_pressed && !(underMouse() && isEnabled()))
+        return;
+    const qreal line = m_pressed ? 4.0 : 2.0;
+    constexpr qreal corner = 6.0;
+    const qreal inset = 3.0 + line / 2;
+    painter.setPen(QPen(palette().color(QPalette::Text), line));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), corner, corner);
+}
+
+void RowWidget::appear()
+{
+    if (!m_appearing)
+        m_appearing = std::make_unique<Movement>(*this, [this] { showAppearing(); });
+    m_appearing->begin();
+}
+
+void RowWidget::showAppearing()
+{
+    const qreal way = m_appearing->way();
+    if (way >= 1.0) {
+        setGraphicsEffect(nullptr);
+        return;
+    }
+    auto* veil = qobject_cast<QGraphicsOpacityEffect*>(graphicsEffect());
+    if (!veil) {
+        veil = new QGraphicsOpacityEffect(this);
+        setGraphicsEffect(veil);
+    }
+    veil->setOpacity(way);
+}
+
+void RowWidget::setPressed(bool pressed)
+{
+    m_pressed = pressed;
+    update();
+}
+
+void RowWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawState(painter);
     if (!m_isLast && m_title) {
         // It begins where the texts do.
         const QRect texts = m_title->geometry();

@@ -12,6 +12,7 @@
 namespace LinuxDesktop {
 
 class Label;
+class Movement;
 
 /// A row of a list: the widgets of the row's scene, and the cell that the list's screen fills. Main thread.
 class RowWidget : public QWidget {
@@ -20,6 +21,7 @@ class RowWidget : public QWidget {
 
 public:
     explicit RowWidget(QWidget* parent = nullptr);
+    ~RowWidget() override;
 
     void setCell(std::unique_ptr<NS::TableCellView> cell) { m_cell = std::move(cell); }
     [[nodiscard]] NS::TableCellView* cell() const { return m_cell.get(); }
@@ -43,6 +45,11 @@ public:
     void setCurrent(bool current);
     [[nodiscard]] bool isCurrent() const { return m_current; }
 
+    /// Call when the row has come into a list that is on view: it comes into sight little by little.
+    void appear();
+    /// Whether the pointer is held down on the row.
+    void setPressed(bool pressed);
+
     /// Nothing in a list whose rows cannot be selected.
     void setSelected(std::optional<bool> selected);
     [[nodiscard]] std::optional<bool> isSelected() const { return m_selected; }
@@ -54,6 +61,9 @@ protected:
 private:
     void showMissing(bool missing);
     void colorMissing();
+    void showAppearing();
+    void drawState(QPainter& painter) const;
+    void drawStrongState(QPainter& painter) const;
     void fill(QPainter& painter, int width, const QColor& color) const;
 
     std::unique_ptr<NS::TableCellView> m_cell;
@@ -62,6 +72,8 @@ private:
     Label* m_title = nullptr;
     bool m_isLast = false;
     bool m_current = false;
+    bool m_pressed = false;
+    std::unique_ptr<Movement> m_appearing;
     std::optional<bool> m_selected;
 };
 
