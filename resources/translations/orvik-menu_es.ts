@@ -841,6 +841,13 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::RowList</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Añadido: %1</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::RowWidget</name>
     <message>
         <source>%1 %2</source>

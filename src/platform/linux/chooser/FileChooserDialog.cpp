@@ -68,12 +68,20 @@ QIcon outlinesOf(const QIcon& icon)
     return outlines;
 }
 
+/// Who hears the control's name is told no more than the keys.
+void sayKeys(QWidget& control, const QString& title, const QString& keys)
+{
+    const QString text = QKeySequence(keys).toString(QKeySequence::NativeText);
+    control.setToolTip(u"%1 (%2)"_s.arg(title, text));
+    control.setAccessibleDescription(text);
+}
+
 QToolButton* toolButton(const Tool& tool, QWidget* parent)
 {
     auto* button = new QToolButton(parent);
     button->setObjectName(QLatin1String(tool.objectName));
     button->setText(tool.title);
-    button->setToolTip(u"%1 (%2)"_s.arg(tool.title, QKeySequence(tool.keys).toString(QKeySequence::NativeText)));
+    sayKeys(*button, tool.title, tool.keys);
     button->setIcon(outlinesOf(QIcon::fromTheme(tool.iconName, parent->style()->standardIcon(tool.fallback))));
     button->setIconSize(toolIconSize);
     button->setMinimumSize(toolExtent, toolExtent);
@@ -195,8 +203,7 @@ QHBoxLayout* FileChooserDialog::makePathRow()
     m_location = new LocationField(m_settings.hiddenFiles, *m_settings.kinds, this);
     m_location->setObjectName(u"pathField"_s);
     m_location->setAccessibleName(tr("Location"));
-    m_location->setToolTip(
-        u"%1 (%2)"_s.arg(tr("Location"), QKeySequence(u"Ctrl+L"_s).toString(QKeySequence::NativeText)));
+    sayKeys(*m_location, tr("Location"), u"Ctrl+L"_s);
     auto* newButton = toolButton(
         {"newFolderButton", tr("New Folder"), u"Ctrl+Shift+N"_s, u"folder-new"_s, QStyle::SP_FileDialogNewFolder},
         this);
@@ -362,10 +369,11 @@ void FileChooserDialog::updateTrail()
 
 void FileChooserDialog::showFolder(const std::string& folder, const std::string& selected)
 {
-    m_folder = folder;
+    const bool isOther = std::exchange(m_folder, folder) != folder;
     // Watched before it is read, so that no change falls between.
     m_watch->setFolder(folder);
     m_refreshTimer->stop();
+    m_list->setFolderText(fileNameText(folder));
     m_list->showListing(readShownFolder(), selected);
     m_location->setFolder(folder);
     m_places->setFolder(folder);
@@ -373,6 +381,9 @@ void FileChooserDialog::showFolder(const std::string& folder, const std::string&
     m_selectionVanished = false;
     notice({});
     updateConfirmButton();
+    // Who does not see it hears of its first row alone.
+    if (isOther)
+        announce(*this, fileNameText(folder == "/" ? folder : fileName(folder)));
 }
 
 FolderListing FileChooserDialog::readShownFolder() const
