@@ -101,7 +101,6 @@ class ExtensionsWindow(DesktopTestCase):
 
     def test_the_keyboard_is_enough(self):
         self.start()
-        self.hands.press("Tab")
         eventually(lambda: self.window.focused() == self.switch, "the switch to have the keyboard")
         self.hands.press("space")
         self.assertShows(ON, on=True)
