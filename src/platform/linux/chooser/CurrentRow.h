@@ -14,8 +14,13 @@ void tellCurrentRow(QAbstractItemView& list, Tell tell)
     QMetaObject::invokeMethod(
         &list,
         [&list, tell = std::move(tell)] {
-            if (list.hasFocus() && list.currentIndex().isValid())
-                tell();
+            if (!list.hasFocus() || !list.currentIndex().isValid())
+                return;
+            // A list that is come back to stays scrolled as it is.
+            const bool scrolls = list.hasAutoScroll();
+            list.setAutoScroll(false);
+            tell();
+            list.setAutoScroll(scrolls);
         },
         Qt::QueuedConnection);
 }
