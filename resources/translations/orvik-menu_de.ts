@@ -853,6 +853,13 @@
     </message>
 </context>
 <context>
+    <name>LinuxDesktop::RowList</name>
+    <message>
+        <source>Added: %1</source>
+        <translation>Hinzugefügt: %1</translation>
+    </message>
+</context>
+<context>
     <name>LinuxDesktop::StepBadge</name>
     <message>
         <source>Step %1, done</source>

@@ -13,7 +13,7 @@ from support.buses import call, call_bus
 from support.case import DesktopTestCase
 from support.deployment import APPLICATION, EXTENSION
 from support.file_managers import FileManager
-from support.waiting import eventually, give_time, throughout
+from support.waiting import eventually, give_time, settled, throughout
 
 WINDOW = "Extensions"
 TITLE = "Orvik Menu Extension"
@@ -101,7 +101,6 @@ class ExtensionsWindow(DesktopTestCase):
 
     def test_the_keyboard_is_enough(self):
         self.start()
-        self.hands.press("Tab")
         eventually(lambda: self.window.focused() == self.switch, "the switch to have the keyboard")
         self.hands.press("space")
         self.assertShows(ON, on=True)
@@ -281,6 +280,24 @@ class ExtensionsWindow(DesktopTestCase):
         thunar.install_bridge()
 
         self.assertTells("Thunar", NOT_RUNNING)
+
+    def test_the_keyboard_comes_by_every_file_manager_and_by_what_is_the_matter(self):
+        self.install("thunar")
+        nemo = self.install("nemo")
+        nemo.install_bridge()
+        nemo.start()
+        self.start()
+        self.assertTells("Thunar", "The menu is missing. Install the package orvik-menu-thunar.")
+        self.assertTells("Nemo", NOT_LOADED)
+        heard = []
+        while (focused := settled(self.window.focused)) not in heard:
+            heard.append(focused)
+            self.hands.press("Tab")
+            eventually(lambda last=focused: self.window.focused() != last, "Tab to lead on")
+
+        self.assertIn(("Thunar", "The menu is missing. Install the package orvik-menu-thunar."),
+                      [(found.name, found.description) for found in heard])
+        self.assertIn(("Restart Nemo", NOT_LOADED), [(found.name, found.description) for found in heard])
 
     def test_a_file_manager_that_is_installed_meanwhile_comes_to_the_list(self):
         self.start()

@@ -213,6 +213,23 @@ class Keyboard(DesktopTestCase):
 
         eventually(lambda: self.has_control(window, "push button", "Web Site"), "the About page")
 
+    def test_the_menu_opens_by_every_key_of_its_button_with_the_keyboard_on_its_first_entry(self):
+        window = self.start_panel().main_window()
+        self.hands.press("Tab")
+        eventually(lambda: self.described(window.focused()) == MENU, "the menu button to have the keyboard")
+        for key in ("Return", "space", "Down", "F10"):
+            with self.subTest(key=key):
+                self.hands.press(key)
+                entry = eventually(lambda: window.find("menu item", "About Orvik Menu"), "the menu")
+                eventually(lambda: entry.has("focused"), "its first entry to have the keyboard")
+                self.hands.press("Escape")
+                eventually(lambda: not window.all("menu item"), "the menu to go")
+
+    def test_the_first_run_begins_at_its_first_step(self):
+        self.become_a_newcomer()
+        window = self.start_panel().main_window()
+        self.assertEqual(self.described(settled(window.focused)), ("push button", "Open Extensions…"))
+
     def test_enter_presses_the_button_that_has_the_keyboard(self):
         panel = self.start_panel()
         window = panel.main_window()

@@ -7,6 +7,8 @@ import unittest
 from support.case import DesktopTestCase
 from support.extension import EXTENSIONS, Companion
 from support.file_managers import FileManager
+from support.folders import CHOOSER as FOLDER_CHOOSER
+from support.folders import choose
 from support.panel import CHOOSER
 from support.reading import Reader
 from support.suite import TITLES
@@ -82,6 +84,12 @@ class Screens(ReadingTestCase):
         self.hands.click(eventually(lambda: self.window.find("list item"), "the rows").extents)
         self.hands.press("Delete")
         self.assertReadsWell(self.panel.active_window("Remove selected folder?"))
+
+    def test_an_empty_list_says_in_words_what_fills_it(self):
+        self.start()
+        self.open_tab("Folders")
+        self.assertEqual(self.window.find("panel", "No Folders Yet").description,
+                         "Orvik Menu shows its actions on items inside the folders that you add.")
 
     def test_the_chooser_reads_well(self):
         self.suite.write_request(self.home.make_file("Report.pdf"))
@@ -235,6 +243,20 @@ class Changes(ReadingTestCase):
         eventually(lambda: len(self.window.all("list item")) == 2, "the row to go")
         self.assertEqual(listener.empty_name_changes(), [])
 
+    def test_a_folder_that_is_added_is_announced(self):
+        self.store_folders()
+        added = os.path.join(self.home.files, "Letters")
+        os.mkdir(added)
+        self.start()
+        self.open_tab("Folders")
+        listener = self.listen(self.panel)
+        listener.note_names()
+        self.hands.press("alt+a")
+        choose(self.hands, self.panel, added)
+        self.panel.output_expected = True
+
+        eventually(lambda: "Added: Letters" in listener.announced(), "the folder to be announced")
+
     def test_the_general_tab_announces_that_the_extension_starts_and_ends(self):
         self.start()
         self.open_tab("General")
@@ -270,6 +292,17 @@ class Changes(ReadingTestCase):
         words = "Orvik Menu Extension: It is set to start at log-in, but it is not running."
         eventually(lambda: words in listener.announced(), "the end to be announced")
 
+    def test_operating_the_switch_is_no_answer_before_there_is_one(self):
+        self.start_extensions_window()
+        companion = Companion(self)
+        self.addCleanup(companion.kill, signal.SIGKILL)
+        listener = self.listen(self.panel)
+        listener.note_names()
+        self.hands.press("space")
+        eventually(lambda: f"Orvik Menu Extension: {RUNNING}" in listener.announced(), "the start to be announced")
+
+        self.assertEqual(listener.heard("StateChanged", "checked"), [("Orvik Menu Extension", True)])
+
     def test_the_extensions_window_announces_how_far_a_file_manager_has_come(self):
         manager = FileManager(self.programs, self.home, "nemo", self.addCleanup)
         manager.install_bridge()
@@ -279,6 +312,67 @@ class Changes(ReadingTestCase):
         listener.note_names()
         manager.start(manager.module)
         eventually(lambda: listener.announced() == ["Nemo: It has loaded the menu."], "the news to be announced")
+
+
+class Places(ReadingTestCase):
+    """What is heard of where the keyboard is and of what it has come to."""
+
+    def open_chooser(self):
+        self.start()
+        self.open_tab("Folders")
+        self.listener = self.listen(self.panel)
+        self.hands.press("alt+a")
+        self.chooser = self.panel.active_window(FOLDER_CHOOSER)
+        eventually(lambda: self.chooser.focused().name == "Files", "the list to have the keyboard")
+
+    def has_heard(self, name):
+        return (name, True) in self.listener.heard("StateChanged", "focused")
+
+    def test_a_list_that_the_keyboard_comes_to_tells_its_current_row(self):
+        self.open_chooser()
+        first = self.chooser.find("tree item").name
+        eventually(lambda: self.has_heard(first), f"“{first}” to be told")
+        self.listener.note_names()
+        self.hands.press("shift+Tab")
+        eventually(lambda: self.has_heard("File System"), "the place to be told")
+
+    def test_a_place_is_not_told_while_another_list_has_the_keyboard(self):
+        self.open_chooser()
+        self.listener.note_names()
+        self.hands.press("alt+Home")
+        first = eventually(lambda: self.chooser.find("tree item", "config"), "the folder").name
+        eventually(lambda: self.has_heard(first), "the first row to be told")
+        eventually(lambda: self.chooser.find("list item", "Home").has("selected"), "the place to be selected")
+
+        self.assertFalse(self.has_heard("Home"))
+        self.assertFalse(self.has_heard("File System"))
+
+    def test_a_folder_that_the_list_goes_to_is_announced_and_describes_the_list(self):
+        self.open_chooser()
+        self.assertEqual(self.chooser.find("tree", "Files").description, "/")
+        self.listener.note_names()
+        self.hands.press("alt+Home")
+        home = os.path.basename(self.home.folder)
+        eventually(lambda: self.listener.announced() == [home], "the folder to be announced")
+        self.assertEqual(self.chooser.find("tree", "Files").description, self.home.folder)
+
+    def test_a_tool_says_its_name_once_and_its_keys(self):
+        self.open_chooser()
+        described = {found.name: found.description for found in self.chooser.descendants()}
+        self.assertEqual((described["Up"], described["Location"]), ("Alt+Up", "Ctrl+L"))
+
+    def test_another_page_is_told_when_the_keyboard_is_beside_the_tabs(self):
+        self.start()
+        self.hands.press("Tab")
+        eventually(lambda: self.window.focused().name == "Orvik Menu", "the menu button to have the keyboard")
+        self.listener = self.listen(self.panel)
+        for keys, tab in (("ctrl+Next", "Folders"), ("F1", "About")):
+            if keys == "F1":
+                self.hands.press("Tab")
+                eventually(lambda: self.window.focused().name == "Orvik Menu", "the menu button to have it again")
+                self.listener.note_names()
+            self.hands.press(keys)
+            eventually(lambda tab=tab: self.has_heard(tab), f"“{tab}” to be told")
 
 
 if __name__ == "__main__":

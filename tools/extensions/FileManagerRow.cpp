@@ -22,7 +22,7 @@ StatusDot::Tone toneOf(const FileManagerStatus& status)
 } // namespace
 
 FileManagerRow::FileManagerRow(FileManagersControl& control, std::size_t index, QWidget* parent)
-    : QWidget(parent), m_control(control), m_index(index)
+    : InformationRow(parent), m_control(control), m_index(index)
 {
     const QString name = nameOf(MenuExtension::fileManagers.at(index));
     // Made in the order in which they are read.
@@ -68,6 +68,8 @@ void FileManagerRow::showStatus()
     if (!offers)
         m_restart->clearFocus();
     m_restart->setVisible(offers);
+    // The button tells the same.
+    setFocusPolicy(offers ? Qt::NoFocus : Qt::TabFocus);
     LinuxDesktop::setAccessibleDescription(*m_restart, words);
     setVisible(isInstalled(status));
 }

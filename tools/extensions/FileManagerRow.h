@@ -1,6 +1,7 @@
 #pragma once
 
 #include "extensions/FileManagersControl.h"
+#include "extensions/InformationRow.h"
 #include "extensions/StatusLine.h"
 
 #include <QPushButton>
@@ -10,7 +11,7 @@ namespace ExtensionsTool {
 
 /// A file manager in the list: how things stand with the menu in it, and a button that restarts it where that helps.
 /// Hidden where the file manager is not installed.
-class FileManagerRow : public QWidget {
+class FileManagerRow : public InformationRow {
     Q_OBJECT
 
 public:

@@ -1,5 +1,6 @@
 #include "extensions/LackingActionsSection.h"
 
+#include "extensions/InformationRow.h"
 #include "extensions/StatusLine.h"
 
 #include <QVBoxLayout>
@@ -15,7 +16,7 @@ constexpr std::chrono::seconds pause{2};
 
 QWidget* makeRow(const LackingAction& action, QWidget* parent)
 {
-    auto* const row = new QWidget(parent);
+    auto* const row = new InformationRow(parent);
     auto* const title = makeHeading(action.title, row);
     QFont font = title->font();
     font.setWeight(QFont::DemiBold);

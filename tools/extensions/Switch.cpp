@@ -27,7 +27,7 @@ constexpr qreal stretch = 5;
 Switch::Switch(QWidget* parent) : QCheckBox(parent), m_movement(*this, [this] { update(); })
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    // Not clicked: assistive programs may toggle it without a click.
+    // Assistive programs may toggle it without a click.
     connect(this, &QCheckBox::toggled, this, [this](bool on) {
         setOn(!on);
         m_isOperated = true;
@@ -48,6 +48,12 @@ QSize Switch::sizeHint() const
 {
     constexpr qreal around = 2 * (ring + 2);
     return (track + QSizeF(around, around)).toSize();
+}
+
+void Switch::nextCheckState()
+{
+    // Nothing is switched yet, and nobody is to hear that it was.
+    emit asked(!isChecked());
 }
 
 bool Switch::hitButton(const QPoint& position) const

@@ -20,6 +20,7 @@ public:
     Q_SIGNAL void asked(bool on);
 
 protected:
+    void nextCheckState() override;
     bool hitButton(const QPoint& position) const override;
     void paintEvent(QPaintEvent* event) override;
     // The area under the pointer is drawn differently.

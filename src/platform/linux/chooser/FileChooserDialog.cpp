@@ -68,6 +68,14 @@ QIcon outlinesOf(const QIcon& icon)
     return outlines;
 }
 
+/// Who hears the control's name is told no more than the keys.
+void sayKeys(QWidget& control, const QString& title, const QString& keys)
+{
+    const QString text = QKeySequence(keys).toString(QKeySequence::NativeText);
+    control.setToolTip(u"%1 (%2)"_s.arg(title, text));
+    control.setAccessibleDescription(text);
+}
+
 /// A button that is nothing but its picture, which is that for dark windows while they are dark.
 class ToolButton : public QToolButton {
 public:
@@ -76,7 +84,7 @@ public:
     {
         setObjectName(QLatin1String(tool.objectName));
         setText(tool.title);
-        setToolTip(u"%1 (%2)"_s.arg(tool.title, QKeySequence(tool.keys).toString(QKeySequence::NativeText)));
+        sayKeys(*this, tool.title, tool.keys);
         setIconSize(toolIconSize);
         setMinimumSize(toolExtent, toolExtent);
         setAutoRaise(true);
@@ -214,8 +222,7 @@ QHBoxLayout* FileChooserDialog::makePathRow()
     m_location = new LocationField(m_settings.hiddenFiles, *m_settings.kinds, this);
     m_location->setObjectName(u"pathField"_s);
     m_location->setAccessibleName(tr("Location"));
-    m_location->setToolTip(
-        u"%1 (%2)"_s.arg(tr("Location"), QKeySequence(u"Ctrl+L"_s).toString(QKeySequence::NativeText)));
+    sayKeys(*m_location, tr("Location"), u"Ctrl+L"_s);
     auto* newButton = new ToolButton(
         {"newFolderButton", tr("New Folder"), u"Ctrl+Shift+N"_s, u"folder-new"_s, QStyle::SP_FileDialogNewFolder},
         this);
@@ -381,10 +388,11 @@ void FileChooserDialog::updateTrail()
 
 void FileChooserDialog::showFolder(const std::string& folder, const std::string& selected)
 {
-    m_folder = folder;
+    const bool isOther = std::exchange(m_folder, folder) != folder;
     // Watched before it is read, so that no change falls between.
     m_watch->setFolder(folder);
     m_refreshTimer->stop();
+    m_list->setFolderText(fileNameText(folder));
     m_list->showListing(readShownFolder(), selected);
     m_location->setFolder(folder);
     m_places->setFolder(folder);
@@ -392,6 +400,9 @@ void FileChooserDialog::showFolder(const std::string& folder, const std::string&
     m_selectionVanished = false;
     notice({});
     updateConfirmButton();
+    // Who does not see it hears of its first row alone.
+    if (isOther)
+        announce(*this, fileNameText(folder == "/" ? folder : fileName(folder)));
 }
 
 FolderListing FileChooserDialog::readShownFolder() const

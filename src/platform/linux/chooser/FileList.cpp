@@ -1,5 +1,7 @@
 #include "platform/linux/chooser/FileList.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
+#include "platform/linux/chooser/CurrentRow.h"
 #include "platform/linux/chooser/ModifiedText.h"
 #include "platform/linux/chooser/RowDelegate.h"
 #include "platform/linux/chooser/SoftSelection.h"
@@ -122,8 +124,20 @@ void FileList::showColumnsThatFit()
 void FileList::setListing(FolderListing listing)
 {
     m_words->setText(wordsFor(listing));
-    setAccessibleDescription(m_words->text());
+    describe();
     m_model->setEntries(std::move(listing.entries));
+}
+
+void FileList::setFolderText(const QString& path)
+{
+    m_folderText = path;
+    describe();
+}
+
+void FileList::describe()
+{
+    const QString& words = m_words->text();
+    LinuxDesktop::setAccessibleDescription(*this, words.isEmpty() ? m_folderText : m_folderText + u". "_s + words);
 }
 
 void FileList::showListing(FolderListing listing, const std::string& selected)
@@ -188,6 +202,15 @@ std::optional<FileEntry> FileList::unselectableEntry() const
     if (!m_currentIsMeant || !current.isValid() || (current.flags() & Qt::ItemIsSelectable))
         return std::nullopt;
     return m_model->entry(current.row());
+}
+
+void FileList::focusInEvent(QFocusEvent* event)
+{
+    QTreeView::focusInEvent(event);
+    // It has had none since it was filled, so the toolkit leaves it at that.
+    if (!currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
+        selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
+    tellCurrentRow(*this, [this] { currentChanged(currentIndex(), currentIndex()); });
 }
 
 void FileList::keyPressEvent(QKeyEvent* event)

@@ -23,6 +23,8 @@ public:
     void setFilesSelectable(bool selectable) { m_model->setFilesSelectable(selectable); }
     /// Shows a folder's items from the top with `selected` selected and in sight, where it is among them.
     void showListing(FolderListing listing, const std::string& selected);
+    /// Says which folder's items they are.
+    void setFolderText(const QString& path);
     /// Shows the same folder's items anew; what is selected stays so and the list stays where it is scrolled to.
     /// Returns the selected items that are gone.
     std::vector<std::string> refreshListing(FolderListing listing);
@@ -48,6 +50,7 @@ signals:
     void pathStarted(const QString& text);
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& search) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
@@ -58,11 +61,13 @@ protected:
 
 private:
     void setListing(FolderListing listing);
+    void describe();
     void sizeColumns();
     void showColumnsThatFit();
 
     FolderModel* m_model;
     QLabel* m_words;
+    QString m_folderText;
     bool m_refreshing = false;
     /// Whether the user went to the current row. Focus alone makes a row current too.
     bool m_currentIsMeant = false;

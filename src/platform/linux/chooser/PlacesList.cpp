@@ -1,6 +1,7 @@
 #include "platform/linux/chooser/PlacesList.h"
 
 #include "platform/linux/chooser/Bookmarks.h"
+#include "platform/linux/chooser/CurrentRow.h"
 #include "platform/linux/chooser/FileIcons.h"
 #include "platform/linux/chooser/FilePath.h"
 #include "platform/linux/chooser/SoftSelection.h"
@@ -123,6 +124,21 @@ void PlacesList::keyPressEvent(QKeyEvent* event)
     default:
         QListWidget::keyPressEvent(event);
     }
+}
+
+void PlacesList::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    // All that the list adds to this is to tell that the row has the keyboard, even where the list has not.
+    if (hasFocus())
+        QListWidget::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void PlacesList::focusInEvent(QFocusEvent* event)
+{
+    QListWidget::focusInEvent(event);
+    tellCurrentRow(*this, [this] { currentChanged(currentIndex(), currentIndex()); });
 }
 
 void PlacesList::initViewItemOption(QStyleOptionViewItem* option) const

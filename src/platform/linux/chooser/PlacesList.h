@@ -31,6 +31,8 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void focusInEvent(QFocusEvent* event) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
 private:

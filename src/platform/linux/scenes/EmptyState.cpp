@@ -55,6 +55,7 @@ void EmptyState::setHeading(const QString& text)
 void EmptyState::setSentence(const QString& text)
 {
     m_sentence->setText(text);
+    describeByWords(*this);
 }
 
 void EmptyState::setButtonText(const QString& text)

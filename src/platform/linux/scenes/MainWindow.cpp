@@ -45,7 +45,12 @@ void MainWindow::noteInFront()
 
 void MainWindow::setContentViewController(std::shared_ptr<NS::ViewController> controller)
 {
-    setCentralWidget(&WidgetScene::rootOf(*controller));
+    QWidget& root = WidgetScene::rootOf(*controller);
+    setCentralWidget(&root);
+    // Else the keyboard would begin at what stands first, a menu for example.
+    const QString begin = root.property("beginsAt").toString();
+    if (auto* first = begin.isEmpty() ? nullptr : root.findChild<QWidget*>(begin))
+        first->setFocus(Qt::OtherFocusReason);
     m_content = std::move(controller);
 }
 

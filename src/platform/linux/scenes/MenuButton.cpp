@@ -1,5 +1,6 @@
 #include "platform/linux/scenes/MenuButton.h"
 
+#include <QKeyEvent>
 #include <QMenu>
 #include <QShortcut>
 #include <QStyleOptionToolButton>
@@ -23,7 +24,30 @@ MenuButton::MenuButton(QWidget* parent) : QToolButton(parent)
     setAutoRaise(true);
     setPopupMode(InstantPopup);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this, &QToolButton::showMenu);
+    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this, &MenuButton::showMenuByKey);
+}
+
+/// With the keyboard on its first entry, which is what is read of a menu that opens.
+void MenuButton::showMenuByKey()
+{
+    // Showing it returns once it has gone.
+    QMetaObject::invokeMethod(
+        menu(), [entries = menu()] { entries->setActiveAction(entries->actions().value(0)); }, Qt::QueuedConnection);
+    showMenu();
+}
+
+void MenuButton::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Down:
+        showMenuByKey();
+        return;
+    default:
+        QToolButton::keyPressEvent(event);
+    }
 }
 
 QSize MenuButton::sizeHint() const

@@ -18,8 +18,12 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void showMenuByKey();
 };
 
 } // namespace LinuxDesktop

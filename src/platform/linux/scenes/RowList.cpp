@@ -1,5 +1,6 @@
 #include "platform/linux/scenes/RowList.h"
 
+#include "platform/linux/accessibility/Accessibility.h"
 #include "platform/linux/look/ControlPainting.h"
 #include "platform/linux/scenes/Label.h"
 #include "platform/linux/scenes/RowWidget.h"
@@ -55,6 +56,8 @@ QSize RowList::sizeHint() const
 void RowList::reloadData()
 {
     const bool wasLoaded = std::exchange(m_loaded, true);
+    // What comes into sight with its rows is no news.
+    const bool isNews = wasLoaded && parentWidget()->isVisible();
     const QWidget* focused = window()->focusWidget();
     const bool hadFocus = focused && (focused == this || isAncestorOf(focused));
     const int rowsBefore = m_rowCount;
@@ -73,6 +76,17 @@ void RowList::reloadData()
     const bool lostRow = m_rowCount < rowsBefore || window()->focusWidget() == this;
     if (lostRow && (hadFocus || m_selectedRow >= 0) && m_rows.contains(m_currentRow))
         moveTo(m_currentRow, 0, Qt::OtherFocusReason);
+    if (isNews && m_rowCount > rowsBefore) {
+        m_added = tr("Added: %1").arg(typedTitleOf(m_rowCount - 1));
+        QMetaObject::invokeMethod(this, &RowList::tellAdded, Qt::QueuedConnection);
+    }
+}
+
+/// Once the window is come back to, and after what has the keyboard there: that is read over all that is said before.
+void RowList::tellAdded()
+{
+    if (isActiveWindow())
+        announce(*this, std::exchange(m_added, {}));
 }
 
 NS::TableCellView* RowList::makeViewWithIdentifier_owner(std::string_view identifier, NS::SceneObject*)
@@ -398,6 +412,8 @@ bool RowList::handlePointer(RowWidget& row, const QMouseEvent& event)
 
 bool RowList::event(QEvent* event)
 {
+    if (event->type() == QEvent::WindowActivate)
+        QMetaObject::invokeMethod(this, &RowList::tellAdded, Qt::QueuedConnection);
     if (event->type() != QEvent::Paint)
         return QAbstractScrollArea::event(event);
     // By now the list has its height, and what is scrolled to afterwards was there before.

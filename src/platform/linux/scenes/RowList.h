@@ -77,6 +77,7 @@ private:
     void updateScrollRange();
     void fitHeight();
     void showWhatThereIs();
+    void tellAdded();
     void setCurrentRow(int row);
     void selectRow(int row);
     void setSelectedRow(int row);
@@ -115,6 +116,8 @@ private:
     QString m_emptyState;
     QString m_hiddenWhenEmpty;
     bool m_showsFolders = false;
+    /// What is to be said of the row that was added last.
+    QString m_added;
 };
 
 } // namespace LinuxDesktop

@@ -27,6 +27,10 @@ TabPages::TabPages(QWidget* parent)
     connect(this, &QTabWidget::currentChanged, this, [this] {
         if (isVisible())
             loadCurrentPage();
+        // Beside the tabs the keyboard stays where it is, and nothing would be read of another page.
+        if (const QWidget* focused = window()->focusWidget();
+            focused && m_afterTabs->parentWidget()->isAncestorOf(focused))
+            tabBar()->setFocus(Qt::OtherFocusReason);
     });
     for (const auto& [keys, step] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
         auto* shortcut = new QShortcut(Qt::ControlModifier | keys, this);
