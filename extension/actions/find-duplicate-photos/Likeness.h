@@ -28,8 +28,8 @@ struct Likeness {
     [[nodiscard]] float difference() const;
 };
 
-/// Compares pictures of which the second is turned by the symmetry first. Which of two is the first changes nothing but
-/// which one `isOtherCut` says.
+/// Compares pictures of which the second is turned by the symmetry first. Which of two is the first changes nothing
+/// but which one `isOtherCut` says.
 [[nodiscard]] Likeness likenessOf(const Thumb& one, const Thumb& other, Symmetry symmetry);
 
 } // namespace MenuExtension::SimilarPhotos
