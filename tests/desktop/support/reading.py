@@ -82,6 +82,7 @@ class Listener:
         self._connection = connect(address)
         self._root = application_of(self._connection, process_id)
         self._events = []
+        self._announced = []
         self._subscription = self._connection.signal_subscribe(
             self._root.bus_name, _OBJECT_EVENTS, None, None, None, Gio.DBusSignalFlags.NONE, self._hear)
         for event in ("object:property-change", "object:state-changed"):
@@ -98,6 +99,9 @@ class Listener:
     def _hear(self, _connection, _sender, path, _interface, member, arguments):
         detail, on = arguments.unpack()[:2]
         self._events.append((path, member, detail, on, self._name_of(path)))
+        # Which has gone by the time that it is asked for.
+        if (member, detail) == ("StateChanged", "showing") and on and self._role_of(path) == "notification":
+            self._announced.append(self._name_of(path))
 
     def _name_of(self, path):
         try:
@@ -110,6 +114,7 @@ class Listener:
         self._take_in()
         self._names = {found.path: found.name for window in self._root.children for found in window.descendants()}
         self._events.clear()
+        self._announced.clear()
 
     def _take_in(self):
         context = GLib.MainContext.default()
@@ -130,8 +135,7 @@ class Listener:
     def announced(self):
         """The words of each notification that came into sight."""
         self._take_in()
-        return [name for path, member, detail, on, name in self._events
-                if (member, detail) == ("StateChanged", "showing") and on and self._role_of(path) == "notification"]
+        return list(self._announced)
 
     def _role_of(self, path):
         try:
