@@ -30,8 +30,7 @@ Switch::Switch(QWidget* parent) : QCheckBox(parent), m_movement(*this, [this] { 
     // Assistive programs may toggle it without a click.
     connect(this, &QCheckBox::toggled, this, [this](bool on) {
         setOn(!on);
-        m_isOperated = true;
-        emit asked(on);
+        ask(on);
     });
 }
 
@@ -53,7 +52,13 @@ QSize Switch::sizeHint() const
 void Switch::nextCheckState()
 {
     // Nothing is switched yet, and nobody is to hear that it was.
-    emit asked(!isChecked());
+    ask(!isChecked());
+}
+
+void Switch::ask(bool on)
+{
+    m_isOperated = true;
+    emit asked(on);
 }
 
 bool Switch::hitButton(const QPoint& position) const

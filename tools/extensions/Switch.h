@@ -28,6 +28,8 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void ask(bool on);
+
     LinuxDesktop::Movement m_movement;
     /// The knob moves by somebody's hand only: what is found out at the start, or done elsewhere, is just shown.
     bool m_isOperated = false;
