@@ -284,6 +284,17 @@ class MoveAndCopy(TransferTestCase):
         self.action.wait_for_end()
         self.assertEqual(self.contents(), {"to/name.txt": b"new"})
 
+    def test_without_notifications_the_window_keeps_the_keyboard_after_a_question(self):
+        self.start(notifications=False)
+        path = self.make("from/name.txt")
+        self.make("to/name.txt", b"old content")
+        self.open_window(MOVE, path, title="There is a file “name.txt” in “to” already.")
+        self.press("Replace")
+        self.window = self.action.active_window("“name.txt” was moved to “to”.")
+        self.hands.press("Escape")
+        self.action.wait_for_end()
+        self.assertEqual(self.contents(), {"to/name.txt": b"new"})
+
     def test_a_long_work_shows_how_far_it_is_and_is_cancelled(self):
         self.start()
         for number in range(30_000):

@@ -75,6 +75,8 @@ void DoneNotice::show(const QString& title, const QString& words, bool canBeUndo
             m_number = reply.value();
         m_isOpen = reply.isValid();
         m_isAwaited = false;
+        if (m_isOpen)
+            emit shown();
         if (m_isOpen && m_gone.contains(m_number))
             takeEnd(m_number, 0);
         m_gone.clear();

@@ -22,6 +22,7 @@ public:
     void show(const QString& title, const QString& words, bool canBeUndone, bool canBeShown);
 
 signals:
+    void shown();
     /// The desktop shows no notifications.
     void notShown();
     void undoAsked();

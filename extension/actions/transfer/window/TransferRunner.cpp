@@ -89,6 +89,8 @@ void TransferRunner::connectEnd()
     connect(&m_window, &TransferWindow::undoAsked, this, &TransferRunner::undo);
     connect(&m_notice, &DoneNotice::showAsked, this, &TransferRunner::showItem);
     connect(&m_window, &TransferWindow::showAsked, this, &TransferRunner::showItem);
+    // Not before: a window that goes and comes again does not get the keyboard back everywhere.
+    connect(&m_notice, &DoneNotice::shown, &m_window, &QWidget::hide);
     connect(&m_notice, &DoneNotice::closed, this, &TransferRunner::quitUnlessShown);
     connect(&m_notice, &DoneNotice::notShown, this, [this] {
         m_window.showEnd(m_words, {}, m_work.canBeUndone(), m_work.canBeUndone());
@@ -187,7 +189,6 @@ void TransferRunner::end()
     } else if (result.done == 0) {
         quit();
     } else {
-        m_window.hide();
         tell(m_isMove ? tr("Moved") : tr("Copied"));
     }
 }
