@@ -12,7 +12,7 @@ from support.deployment import EXTENSION
 from support.extension import AUTOSTART, EXTENSIONS, EXTENSIONS_NAME, Companion, processes_of
 from support.folders import CHOOSER, choose, go_to
 from support.panel import MAIN_WINDOW
-from support.waiting import eventually, throughout
+from support.waiting import eventually, settled, throughout
 
 SUCCESS = ("You have succeessfully enabled Orvik Menu and can see the Orvik Menu items in the Context Menu on right "
            "click for selected folders. You can change these settings in the app anytime.")
@@ -83,7 +83,8 @@ class FirstRun(DesktopTestCase):
         return eventually(find, "the word of success", NEXT_LOOK)
 
     def assertEndsWithTheFirstRunOver(self):
-        self.hands.click(self.success().find("push button", "OK").extents)
+        # A new window may still be on its way to its place.
+        self.hands.click(settled(lambda: self.success().find("push button", "OK").extents))
         self.assertEqual(self.panel.wait_for_end(), 0)
         self.assertEqual(self.own_settings.read(), {"firstRun": True})
 
