@@ -244,6 +244,7 @@ std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile>
     };
     const auto written = onTheirWay();
     std::vector<TagReader::Source> copies;
+    copies.reserve(written.size());
     for (const Save* save : written)
         copies.push_back({save->made(), save->photo().name});
     readings = exifTool.read(copies, stop, keys);
