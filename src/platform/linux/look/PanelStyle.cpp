@@ -502,6 +502,9 @@ int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
 {
     if (hint == SH_Widget_Animation_Duration)
         return m_motion == Motion::Reduced ? 0 : static_cast<int>(movementDuration.count());
+    // The toolkit shapes the letter with the stroke alone, which tears a word of joined letters apart.
+    if (hint == SH_UnderlineShortcut && QGuiApplication::isRightToLeft())
+        return 0;
     // What cannot be used has a grey of its own, and no shadow.
     if (hint == SH_EtchDisabledText)
         return 0;
