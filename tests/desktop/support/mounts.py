@@ -28,8 +28,9 @@ def laid_over(folder, over):
 def mount_for(process_id, folder):
     """Mounts a small disk on a folder for a program that has been started so, while it runs."""
     whose = ["--user", "--preserve-credentials"] if os.getuid() != 0 else []
-    subprocess.run(["nsenter", "--target", str(process_id), *whose, "--mount", "mount", "-t", "tmpfs", "none", folder],
-                   check=True, timeout=20)
+    # The program's root is another than its mounts' in a root of its own.
+    subprocess.run(["nsenter", "--target", str(process_id), *whose, "--mount", "--root",
+                    "mount", "-t", "tmpfs", "none", folder], check=True, timeout=20)
 
 
 def _mounted(kind, folder, options):
