@@ -1,32 +1,15 @@
-#include "platform/linux/look/Appearance.h"
+#include "tests/platform/look/Contrast.h"
 #include "tests/platform/look/Controls.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
-#include <string>
+#include <cstdlib>
 #include <tuple>
 
 namespace {
 
 using namespace LinuxDesktop;
-
-/// Relative luminance, as the Web Content Accessibility Guidelines 2.1 define it.
-double luminance(QRgb color)
-{
-    const auto linear = [](int channel) {
-        const double value = channel / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
-}
-
-double contrast(QRgb one, QRgb other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 int distance(QRgb one, QRgb other)
 {
@@ -89,10 +72,6 @@ TEST_P(ControlStates, AControlLooksTheSameWheneverItIsInAState)
 INSTANTIATE_TEST_SUITE_P(Each, ControlStates,
                          testing::Combine(testing::Values(ColorScheme::Light, ColorScheme::Dark),
                                           testing::Values(Contrast::Normal, Contrast::High)),
-                         [](const auto& tested) {
-                             const bool isLight = std::get<ColorScheme>(tested.param) == ColorScheme::Light;
-                             const bool isHigh = std::get<Contrast>(tested.param) == Contrast::High;
-                             return std::string(isLight ? "Light" : "Dark") + (isHigh ? "WithHighContrast" : "");
-                         });
+                         nameOfScheme);
 
 } // namespace

@@ -1,33 +1,13 @@
 #include "platform/linux/look/ThemeColors.h"
+#include "platform/look/Contrast.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <string>
 #include <tuple>
-#include <vector>
 
 namespace {
 
 using namespace LinuxDesktop;
-
-/// Relative luminance, as the Web Content Accessibility Guidelines 2.1 define it.
-double luminance(const QColor& color)
-{
-    const auto linear = [](float channel) {
-        const auto value = static_cast<double>(channel);
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const double lighter = std::max(luminance(one), luminance(other));
-    const double darker = std::min(luminance(one), luminance(other));
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 class Theme : public testing::TestWithParam<std::tuple<ColorScheme, Contrast>> {
 protected:
@@ -97,10 +77,6 @@ TEST_P(Theme, LinesThatOnlyDivideAreSeenWhereContrastIsHigh)
 INSTANTIATE_TEST_SUITE_P(Each, Theme,
                          testing::Combine(testing::Values(ColorScheme::Light, ColorScheme::Dark),
                                           testing::Values(Contrast::Normal, Contrast::High)),
-                         [](const auto& tested) {
-                             const bool isLight = std::get<ColorScheme>(tested.param) == ColorScheme::Light;
-                             const bool isHigh = std::get<Contrast>(tested.param) == Contrast::High;
-                             return std::string(isLight ? "Light" : "Dark") + (isHigh ? "WithHighContrast" : "");
-                         });
+                         nameOfScheme);
 
 } // namespace
