@@ -1,6 +1,7 @@
 """The first start with the tabs: of a person who has changed nothing yet."""
 
 import os
+import re
 import unittest
 
 from support.case import DesktopTestCase
@@ -18,6 +19,15 @@ class FirstStart(DesktopTestCase):
         self.assertEqual([box.name for box in boxes], TITLES)
         self.assertEqual([box.has("checked") for box in boxes], [True] * len(TITLES))
         self.save_picture("menu-items")
+
+    def test_it_is_drawn_without_a_graphics_driver(self):
+        panel = self.start_panel()
+        panel.main_window()
+
+        with open(f"/proc/{panel.process_id}/maps", encoding="utf-8") as maps:
+            libraries = {os.path.basename(line.split()[-1]) for line in maps if "/" in line}
+        self.assertIn("Qt6Widgets", "".join(libraries))
+        self.assertEqual([name for name in libraries if re.search("EGL_|LLVM|_dri", name)], [])
 
     def test_the_record_is_made_with_every_action_on_and_nothing_else(self):
         self.start_panel().main_window()

@@ -1,6 +1,6 @@
 #include "platform/linux/bus/SessionBus.h"
 
-#include "platform/linux/system/NoSessionBus.h"
+#include "platform/linux/system/OwnEnvironment.h"
 
 #include <QByteArrayList>
 
@@ -52,8 +52,9 @@ SessionBus::SessionBus(std::string complaint) : m_complaint(std::move(complaint)
 
 void SessionBus::keepToolkitFromStartingOne()
 {
+    // Nobody listens there.
     if (busAddress().isEmpty())
-        qputenv("DBUS_SESSION_BUS_ADDRESS", noSessionBus);
+        OwnEnvironment::set("DBUS_SESSION_BUS_ADDRESS", "unix:path=/dev/null");
 }
 
 SessionBus::~SessionBus()

@@ -14,8 +14,8 @@ public:
     /// `complaint` is the line that standard error gets the first time the connection is asked for in vain.
     explicit SessionBus(std::string complaint);
 
-    /// Keeps the toolkit, which looks for a bus of its own accord, from starting one where none runs: it finds
-    /// noSessionBus in the environment. Call before the QCoreApplication is made.
+    /// Keeps the toolkit, which looks for a bus of its own accord, from starting one where none runs: it finds an
+    /// address in the environment, which what this process starts does not. Call before the QCoreApplication is made.
     static void keepToolkitFromStartingOne();
 
     ~SessionBus();

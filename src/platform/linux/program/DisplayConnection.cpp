@@ -1,5 +1,9 @@
 #include "platform/linux/program/DisplayConnection.h"
 
+#include "platform/linux/system/OwnEnvironment.h"
+
+#include <QLoggingCategory>
+
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -21,14 +25,25 @@ void whileConnecting(QtMsgType type, const QMessageLogContext& context, const QS
     heldBack += qFormatLogMessage(type, context, message).toStdString() + '\n';
 }
 
+/// On Wayland the toolkit loads the graphics driver for the first window, which doubles the memory where that
+/// compiles programs. Windows like these are drawn without.
+void keepToolkitFromLoadingGraphicsDrivers()
+{
+    OwnEnvironment::set("QT_WAYLAND_DISABLE_HW_INTEGRATION", "1");
+    OwnEnvironment::set("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
+}
+
 } // namespace
 
 std::unique_ptr<QApplication> connectToDisplay(int& argc, char** argv, const std::function<int()>& withoutDisplay)
 {
     statusWithoutDisplay = &withoutDisplay;
+    keepToolkitFromLoadingGraphicsDrivers();
     const QtMessageHandler usual = qInstallMessageHandler(whileConnecting);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(usual);
+    // It would say that it has found no such driver.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland.warning=false"));
     std::fputs(heldBack.c_str(), stderr);
     heldBack.clear();
     return application;

@@ -1,7 +1,7 @@
 #include "platform/linux/system/Command.h"
 
 #include "platform/linux/system/Complaint.h"
-#include "platform/linux/system/NoSessionBus.h"
+#include "platform/linux/system/OwnEnvironment.h"
 
 #include <algorithm>
 #include <array>
@@ -134,10 +134,8 @@ void Process::kill()
 std::vector<std::string> environment()
 {
     std::vector<std::string> variables;
-    // The program may start a bus where this one must not.
-    const std::string noBus = std::string("DBUS_SESSION_BUS_ADDRESS=") + noSessionBus;
     for (char** variable = environ; *variable; ++variable) {
-        if (*variable != noBus)
+        if (!OwnEnvironment::has(*variable))
             variables.emplace_back(*variable);
     }
     return variables;

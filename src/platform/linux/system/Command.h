@@ -39,7 +39,7 @@ private:
     FileDescriptor m_ended;
 };
 
-/// This process's environment for another program: a session bus that runs, or none mentioned.
+/// This process's environment for another program, without what it has for itself.
 [[nodiscard]] std::vector<std::string> environment();
 /// The same for the desktop's scripts, where what they open is not for a browser: they hand it to one, whatever its
 /// scheme, where nobody else is registered for it.
