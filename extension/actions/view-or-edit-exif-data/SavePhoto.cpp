@@ -12,6 +12,7 @@
 #include <ctime>
 #include <deque>
 #include <fcntl.h>
+#include <map>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -29,6 +30,8 @@ namespace {
 constexpr std::string_view temporaryPrefix = ".orvik-exif-";
 constexpr std::string_view originalSuffix = "_original";
 
+using FolderIdentity = std::pair<dev_t, ino_t>;
+
 /// A name that goes away with this object, unless it has become another.
 class TemporaryName {
 public:
@@ -45,11 +48,6 @@ public:
     TemporaryName& operator=(const TemporaryName&) = delete;
 
     [[nodiscard]] const std::string& name() const { return m_name; }
-    /// The same for another process, whatever the folder's path has in it.
-    [[nodiscard]] std::string path() const
-    {
-        return "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(m_folder.get()) + '/' + m_name;
-    }
 
 private:
     const FileDescriptor& m_folder;
@@ -127,26 +125,36 @@ public:
     /// Whether there is something to go on with.
     [[nodiscard]] bool isOnItsWay() const { return m_made && !m_trouble; }
 
-    /// Makes the new file beside the photo.
-    void write(TagReader& exifTool, const Edits& edits, const std::stop_token& stop)
+    /// What ExifTool is told; nothing where there is nothing to write.
+    [[nodiscard]] std::vector<std::string> prepare(const Edits& edits)
     {
         if (m_trouble)
-            return;
+            return {};
         std::vector<std::string> arguments = argumentsFor(edits, m_before);
         if (!edits.empty())
             m_trouble = obstacle(m_photo, edits, m_before);
-        if (m_trouble || arguments.empty())
-            return;
+        // What ExifTool would say of it is no word for a person.
+        if (!m_trouble && !arguments.empty() &&
+            (::fstat(m_photo.folder.get(), &m_folder) != 0 ||
+             ::faccessat(m_photo.folder.get(), ".", W_OK, AT_EACCESS) != 0))
+            m_trouble = cannotBeSaved();
+        return m_trouble ? std::vector<std::string>{} : arguments;
+    }
+
+    [[nodiscard]] FolderIdentity folder() const { return {m_folder.st_dev, m_folder.st_ino}; }
+
+    /// A new name beside the photo.
+    [[nodiscard]] TagReader::Copy copy()
+    {
         // The file's own name may say that it is of another kind.
         const std::string* const kind = m_before.find("File:FileTypeExtension");
         m_temporary.emplace(m_photo.folder, kind ? extensionOf('.' + *kind) : extensionOf(m_photo.name));
-        // What ExifTool would say of it is no word for a person.
-        if (::faccessat(m_photo.folder.get(), ".", W_OK, AT_EACCESS) != 0) {
-            m_trouble = cannotBeSaved();
-            return;
-        }
-        m_trouble =
-            exifTool.write(m_photo.file.get(), m_temporary->name(), m_temporary->path(), std::move(arguments), stop);
+        return {m_photo.file.get(), m_temporary->name()};
+    }
+
+    void wasWritten(Trouble trouble)
+    {
+        m_trouble = std::move(trouble);
         if (m_trouble)
             return;
         m_made = FileDescriptor(
@@ -203,13 +211,12 @@ public:
     }
 
     /// Makes the new name durable; `flushed` are the folders of which that has been done.
-    void keep(std::set<std::pair<dev_t, ino_t>>& flushed)
+    void keep(std::set<FolderIdentity>& flushed)
     {
-        struct stat status = {};
-        if (::fstat(m_photo.folder.get(), &status) == 0 && flushed.contains({status.st_dev, status.st_ino}))
+        if (flushed.contains(folder()))
             return;
         if (syncFolder(m_photo.folder))
-            flushed.emplace(status.st_dev, status.st_ino);
+            flushed.insert(folder());
         else
             m_trouble = cannotBeSaved();
     }
@@ -221,7 +228,30 @@ private:
     std::optional<TemporaryName> m_temporary;
     FileDescriptor m_made;
     struct stat m_status = {};
+    struct stat m_folder = {};
 };
+
+/// Makes the new files beside the photos: those that lie in one folder and are to be changed alike, at once.
+void write(TagReader& exifTool, std::deque<Save>& saves, const Edits& edits, const std::stop_token& stop)
+{
+    std::map<std::pair<FolderIdentity, std::vector<std::string>>, std::vector<Save*>> alike;
+    for (Save& save : saves) {
+        std::vector<std::string> arguments = save.prepare(edits);
+        if (!arguments.empty())
+            alike[{save.folder(), std::move(arguments)}].push_back(&save);
+    }
+    for (const auto& [key, those] : alike) {
+        std::vector<TagReader::Copy> copies;
+        for (Save* save : those)
+            copies.push_back(save->copy());
+        // For another process, whatever the folder's path has in it.
+        const std::string folder =
+            "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(those.front()->photo().folder.get());
+        auto troubles = exifTool.write(copies, folder, key.second, stop);
+        for (std::size_t index = 0; index < those.size(); ++index)
+            those[index]->wasWritten(std::move(troubles[index]));
+    }
+}
 
 } // namespace
 
@@ -232,7 +262,8 @@ std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile>
     std::vector<Reading> readings = exifTool.read(photos, stop, keys);
     std::deque<Save> saves;
     for (std::size_t index = 0; index < photos.size(); ++index)
-        saves.emplace_back(photos[index], std::move(readings[index])).write(exifTool, edits, stop);
+        saves.emplace_back(photos[index], std::move(readings[index]));
+    write(exifTool, saves, edits, stop);
 
     const auto onTheirWay = [&] {
         std::vector<Save*> those;
@@ -258,7 +289,7 @@ std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile>
         save->flush();
     for (Save* save : onTheirWay())
         save->place(options, stop);
-    std::set<std::pair<dev_t, ino_t>> flushed;
+    std::set<FolderIdentity> flushed;
     std::vector<Trouble> troubles;
     for (Save& save : saves) {
         if (save.isOnItsWay())

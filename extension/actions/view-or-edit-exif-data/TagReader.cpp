@@ -27,32 +27,39 @@ Trouble troubleOf(ExifTool::End end)
     return {};
 }
 
-/// The first complaint, without ExifTool's word before it and the name that it was told after it.
-std::string firstError(std::string_view complaints, std::string_view name)
+/// The first complaint about a file of that name, without ExifTool's word before it and the name after it.
+std::string firstError(std::string_view complaints, const std::string& name)
 {
+    const std::string about = " - " + name + '\n';
     for (const std::string_view word : {"Error: ", "Warning: "}) {
-        const std::size_t begin = complaints.find(word);
-        if (begin == std::string_view::npos)
-            continue;
-        std::string_view line = complaints.substr(begin + word.size());
-        line = line.substr(0, line.find('\n'));
-        line = line.substr(0, line.find(" - " + std::string(name)));
-        for (const std::string_view kind : {"[minor] ", "[Minor] "}) {
-            if (line.starts_with(kind))
-                line.remove_prefix(kind.size());
+        for (std::size_t begin = complaints.find(word); begin != std::string_view::npos;
+             begin = complaints.find(word, begin)) {
+            begin += word.size();
+            std::string_view line = complaints.substr(begin, complaints.find('\n', begin) + 1 - begin);
+            if (!line.ends_with(about))
+                continue;
+            line.remove_suffix(about.size());
+            for (const std::string_view kind : {"[minor] ", "[Minor] "}) {
+                if (line.starts_with(kind))
+                    line.remove_prefix(kind.size());
+            }
+            return std::string(line);
         }
-        return std::string(line);
     }
     return {};
 }
 
+/// Whether each of several is worth a run of its own after a run that ended so.
+bool isOfOneFile(ExifTool::End end)
+{
+    using End = ExifTool::End;
+    return end == End::TooLong || end == End::TooMuch || end == End::Crashed;
+}
+
 } // namespace
 
-TagReader::Link::Link(const std::string& folder, unsigned number, int file, const std::string& name)
-    : m_path(folder + '/' + std::to_string(number))
+TagReader::Link::Link(std::string path, int file) : m_path(std::move(path))
 {
-    if (const std::string extension = extensionOf(name); !extension.empty())
-        m_path += '.' + extension;
     const std::string target = "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(file);
     // A name that is not there is told of by ExifTool.
     static_cast<void>(::symlink(target.c_str(), m_path.c_str()));
@@ -64,11 +71,11 @@ TagReader::Link::~Link()
         ::unlink(m_path.c_str());
 }
 
-TagReader::Link TagReader::link(int file, const std::string& name)
+const std::string& TagReader::folderOfLinks()
 {
     if (m_folder.empty())
         m_folder = m_folders.make().value_or("");
-    return {m_folder, ++m_links, file, name};
+    return m_folder;
 }
 
 std::vector<Reading> TagReader::read(std::span<const OpenedFile> photos, const std::stop_token& stop,
@@ -85,22 +92,28 @@ std::vector<Reading> TagReader::read(std::span<const Source> sources, const std:
 {
     if (sources.empty())
         return {};
-    std::vector<std::string> arguments{"-json", "-G0:1", "-a", "-c", "%+.6f", "--System:all", "-q", "-q"};
+    std::vector<std::string> arguments{"-json", "-G0:1", "-a", "-c", "%+.6f", "-q", "-q"};
     for (const std::string& key : keys)
         arguments.push_back('-' + key);
-    if (!keys.empty())
-        arguments.insert(arguments.end(), {"-File:all", "-ExifTool:all"});
+    // Whole groups beside the keys would take half as long again.
+    if (keys.empty())
+        arguments.emplace_back("--System:all");
+    else
+        arguments.insert(arguments.end(),
+                         {"-File:FileType", "-File:FileTypeExtension", "-File:MIMEType", "-ExifTool:Error"});
     std::vector<Link> links;
     std::map<std::string, std::size_t> places;
     for (std::size_t index = 0; index < sources.size(); ++index) {
-        links.push_back(link(sources[index].file, sources[index].name));
+        const std::string extension = extensionOf(sources[index].name);
+        links.emplace_back(folderOfLinks() + '/' + std::to_string(++m_links) +
+                               (extension.empty() ? "" : '.' + extension),
+                           sources[index].file);
         arguments.push_back(links.back().path());
         places[links.back().path()] = index;
     }
     const ExifTool::Answer answer = m_exifTool.run(arguments, stop);
     std::vector<Reading> readings(sources.size(), {.trouble = troubleOf(answer.end)});
-    if (answer.end != ExifTool::End::Done && answer.end != ExifTool::End::NotThere &&
-        answer.end != ExifTool::End::Cancelled && sources.size() > 1) {
+    if (isOfOneFile(answer.end) && sources.size() > 1) {
         for (std::size_t index = 0; index < sources.size(); ++index)
             readings[index] = std::move(read(sources.subspan(index, 1), stop, keys).front());
         return readings;
@@ -139,19 +152,31 @@ std::vector<Reading> TagReader::read(std::span<const Source> sources, const std:
     return readings;
 }
 
-Trouble TagReader::write(int from, const std::string& name, const std::string& to, std::vector<std::string> arguments,
-                         const std::stop_token& stop)
+std::vector<Trouble> TagReader::write(std::span<const Copy> copies, const std::string& folder,
+                                      const std::vector<std::string>& changes, const std::stop_token& stop)
 {
-    const Link source = link(from, name);
     // Values are escaped; lists are split; what IPTC holds is UTF-8 from now on.
-    arguments.insert(arguments.begin(), {"-E", "-sep", std::string(valueSeparator), "-q", "-o", to});
-    arguments.push_back(source.path());
+    std::vector<std::string> arguments{"-E", "-sep", std::string(valueSeparator), "-q", "-o", folder + '/'};
+    arguments.insert(arguments.end(), changes.begin(), changes.end());
+    std::vector<Link> links;
+    for (const Copy& copy : copies) {
+        links.emplace_back(folderOfLinks() + '/' + copy.name, copy.from);
+        arguments.push_back(links.back().path());
+    }
     const ExifTool::Answer answer = m_exifTool.run(arguments, stop);
-    if (answer.end != ExifTool::End::Done)
-        return troubleOf(answer.end);
-    if (::access(to.c_str(), F_OK) == 0)
-        return {};
-    return {.kind = Trouble::Kind::CannotBeWritten, .words = firstError(answer.complaints, source.path())};
+    std::vector<Trouble> troubles(copies.size(), troubleOf(answer.end));
+    for (std::size_t index = 0; index < copies.size(); ++index) {
+        const std::string made = folder + '/' + copies[index].name;
+        if (isOfOneFile(answer.end) && copies.size() > 1) {
+            // It may be there in part.
+            ::unlink(made.c_str());
+            troubles[index] = std::move(write(copies.subspan(index, 1), folder, changes, stop).front());
+        } else if (answer.end == ExifTool::End::Done && ::access(made.c_str(), F_OK) != 0) {
+            troubles[index] = {.kind = Trouble::Kind::CannotBeWritten,
+                               .words = firstError(answer.complaints, links[index].path())};
+        }
+    }
+    return troubles;
 }
 
 } // namespace MenuExtension::Exif

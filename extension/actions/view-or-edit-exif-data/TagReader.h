@@ -39,15 +39,21 @@ public:
     [[nodiscard]] std::vector<Reading> read(std::span<const OpenedFile> photos, const std::stop_token& stop,
                                             std::span<const std::string> keys = {});
 
-    /// Writes a copy of the open file `from` to `to`, which does not exist, with the changes that the arguments say.
-    [[nodiscard]] Trouble write(int from, const std::string& name, const std::string& to,
-                                std::vector<std::string> arguments, const std::stop_token& stop);
+    /// A copy of an open file, to be made under a name that is not there. Its end says of what kind the file is.
+    struct Copy {
+        int from;
+        std::string name;
+    };
+    /// Makes the copies in a folder with the changes that the arguments say; one that ExifTool does not come back
+    /// from does no harm to the others.
+    [[nodiscard]] std::vector<Trouble> write(std::span<const Copy> copies, const std::string& folder,
+                                             const std::vector<std::string>& changes, const std::stop_token& stop);
 
 private:
     /// A name that ExifTool can be told, for as long as this is there.
     class Link {
     public:
-        Link(const std::string& folder, unsigned number, int file, const std::string& name);
+        Link(std::string path, int file);
         ~Link();
         Link(Link&& other) noexcept : m_path(std::exchange(other.m_path, {})) {}
         Link& operator=(Link&&) = delete;
@@ -56,7 +62,7 @@ private:
     private:
         std::string m_path;
     };
-    [[nodiscard]] Link link(int file, const std::string& name);
+    [[nodiscard]] const std::string& folderOfLinks();
 
     ExifTool m_exifTool;
     LinuxDesktop::TemporaryFolders m_folders;

@@ -116,6 +116,34 @@ TEST_F(ExifToolTest, AFileThatIsNotReadDoesNoHarmToTheOthers)
         EXPECT_EQ(kind != Kind::None, index >= 3 && index <= 5) << index;
 }
 
+TEST_F(ExifToolTest, APhotoThatItDoesNotComeBackFromDoesNoHarmToThoseWrittenWithIt)
+{
+    // It ends over one of them when that is half written.
+    replaceExifTool("PATH='" + std::string(std::getenv("PATH")) + "'\nall='" + (outside() / "all").native() +
+                    "'$$\n: > \"$all\"\nwhile IFS= read -r line; do case $line in\n-execute*)\n"
+                    "  exiftool -config '' -@ \"$all\"\n"
+                    "  if grep -qx -e -o \"$all\"; then for one in $(grep '[.]jpg$' \"$all\"); do\n"
+                    "    grep -q evil \"$one\" || continue\n"
+                    "    made=$(grep -A 1 -x -e -o \"$all\" | tail -n 1)\n"
+                    "    for file in \"$made\".orvik*; do : > \"$file\"; done; exit 3\n"
+                    "  done; fi\n"
+                    "  : > \"$all\"; echo \"{ready${line#-execute}}\";;\n"
+                    "*) printf '%s\\n' \"$line\" >> \"$all\";;\nesac; done\n");
+    std::vector<std::string> paths;
+    for (int number = 0; number < 10; ++number)
+        paths.push_back(photo("jpg", std::to_string(number) + ".jpg"));
+    Files::write(paths[4], Files::read(paths[4]) + "evil");
+    Edits edits;
+    edits.texts = {{Field::Title, "title"}};
+    std::map<std::size_t, Kind> found;
+    savePhotos(request(), paths, edits, {}, [&](std::size_t place, auto trouble) { found[place] = trouble.kind; },
+               {});
+    ASSERT_EQ(found.size(), paths.size());
+    for (const auto& [place, kind] : found)
+        EXPECT_EQ(kind, place == 4 ? Kind::ExifToolCrashed : Kind::None) << place;
+    EXPECT_EQ(names().size(), paths.size()) << "nothing is left beside them";
+}
+
 TEST_F(ExifToolTest, WhatIsNoJsonIsAFailureOfThatFile)
 {
     replaceExifTool(

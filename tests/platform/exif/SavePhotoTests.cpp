@@ -39,6 +39,16 @@ protected:
         return edits;
     }
 
+    /// The troubles by the paths' places.
+    [[nodiscard]] std::map<std::size_t, Trouble> saveAll(const std::vector<std::string>& paths,
+                                                         const Edits& edits) const
+    {
+        std::map<std::size_t, Trouble> found;
+        savePhotos(request(), paths, edits, {},
+                   [&](std::size_t place, auto trouble) { found[place] = std::move(trouble); }, {});
+        return found;
+    }
+
     /// Saves in a process that has done something to itself before.
     [[nodiscard]] Kind inChild(const Path& path, const std::function<void()>& before) const
     {
@@ -275,6 +285,56 @@ TEST_F(SavePhotoTest, AFileThatCannotBeWrittenIsLeftAloneWithItsReason)
     EXPECT_EQ(save(other, everything()), Kind::None) << "a wrong name harms nothing: " << lastWords();
     EXPECT_NE(Files::read(other), before);
     EXPECT_EQ(names().size(), 4U) << "nothing is left beside them";
+}
+
+TEST_F(SavePhotoTest, OneThatCannotBeWrittenDoesNoHarmToTheOthersAndHasItsOwnReason)
+{
+    std::vector<std::string> paths;
+    for (int number = 0; number < 24; ++number)
+        paths.push_back(photo(number % 8 == 5 ? "webp" : "jpg", std::to_string(number) + ".jpg"));
+    Files::write(paths[2], Files::read(paths[2]).substr(0, 300));
+    const auto troubles = saveAll(paths, everything());
+    ASSERT_EQ(troubles.size(), paths.size());
+    for (std::size_t place = 0; place < paths.size(); ++place) {
+        const bool isWritten = place % 8 != 5 && place != 2;
+        EXPECT_EQ(troubles.at(place).kind == Kind::None, isWritten) << place << troubles.at(place).words;
+        EXPECT_EQ(text(Field::Copyright, paths[place]) == "© 2026 Ada", isWritten) << place;
+    }
+    EXPECT_EQ(names().size(), paths.size()) << "nothing is left beside them";
+}
+
+TEST_F(SavePhotoTest, PhotosOfSeveralFoldersAreEachWrittenWhereTheyLie)
+{
+    std::vector<std::string> paths;
+    for (const std::string folder : {"a", "b", "c % %f $"}) {
+        fs::create_directory(listed() / folder);
+        for (const std::string name : {"1.jpg", "2.jpg", "3.jpg"})
+            paths.push_back(photo("jpg", folder + '/' + name));
+    }
+    for (const auto& [place, trouble] : saveAll(paths, everything())) {
+        EXPECT_EQ(trouble.kind, Kind::None) << trouble.words;
+        expectEverything(paths[place]);
+    }
+    for (const auto& folder : fs::directory_iterator(listed()))
+        EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 3) << folder.path();
+}
+
+TEST_F(SavePhotoTest, WhatDiffersFromPhotoToPhotoIsWrittenIntoEach)
+{
+    std::vector<std::string> paths;
+    for (int number = 0; number < 6; ++number) {
+        paths.push_back(photo("jpg", std::to_string(number) + ".jpg"));
+        Edits edits;
+        // Two are alike.
+        edits.texts = {{Field::Date, "2024:02:0" + std::to_string(1 + number / 2) + " 12:00:00"}};
+        ASSERT_EQ(save(paths.back(), edits), Kind::None);
+    }
+    Edits edits;
+    edits.shift = 24h;
+    for (const auto& [place, trouble] : saveAll(paths, edits)) {
+        EXPECT_EQ(trouble.kind, Kind::None) << trouble.words;
+        EXPECT_EQ(text(Field::Date, paths[place]), "2024:02:0" + std::to_string(2 + place / 2) + " 12:00:00");
+    }
 }
 
 TEST_F(SavePhotoTest, WhatIsNoFileOrHasGoneOrLeadsOutIsNotTouched)
