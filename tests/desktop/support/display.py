@@ -25,8 +25,11 @@ class VirtualDisplay:
         readable, writable = os.pipe()
         # Else it starts anew, and drops those who are just connecting, whenever its last client leaves.
         keep = "-noreset"
+        # On a machine with much to do a key may be down for long.
+        no_repeats = "-r"
         self._server = processes.start(
-            ["Xvfb", "-displayfd", str(writable), "-screen", "0", "%dx%dx24" % size, "-nolisten", "tcp", keep],
+            ["Xvfb", "-displayfd", str(writable), "-screen", "0", "%dx%dx24" % size, "-nolisten", "tcp", keep,
+             no_repeats],
             pass_fds=[writable], stderr=subprocess.DEVNULL)
         os.close(writable)
         # The server picks a free number and tells it when it is ready.

@@ -14,7 +14,8 @@ from .accessibility import Extents
 from .waiting import eventually
 from .wayland_hands import WaylandHands
 
-# Windows have the sizes that they ask for, as on other desktops, and the keyboard is where a person has put it.
+# Windows have the sizes that they ask for, as on other desktops, and the keyboard is where a person has put it. On a
+# machine with much to do a key may be down for long.
 _CONFIGURATION = """\
 xwayland disable
 output * resolution {width}x{height} position 0 0 scale {scale}
@@ -24,6 +25,7 @@ for_window [title=".*"] floating enable
 focus_on_window_activation focus
 focus_follows_mouse no
 mouse_warping none
+input * repeat_rate 0
 bindsym Mod1+F4 kill
 """
 
