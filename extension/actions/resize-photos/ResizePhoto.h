@@ -59,7 +59,8 @@ public:
     explicit PhotoResizer(std::string worker = Photos::programBeside("resize-photos-worker"));
 
     /// Resizes a photo, writes the result to the disk, and only then gives it its name, which nothing has. A photo
-    /// that it takes the place of goes to the trash. Whatever fails or ends on the way, the photo stays as it was.
+    /// that it takes the place of goes to the trash. Whatever fails or ends on the way, the photo stays as it was, or
+    /// is in the trash.
     [[nodiscard]] Outcome resize(const OpenedFile& photo, const Goal& goal, const Target& target,
                                  const std::stop_token& stop);
 

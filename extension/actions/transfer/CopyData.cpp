@@ -11,9 +11,9 @@ namespace {
 
 constexpr std::size_t bufferSize = std::size_t{256} << 10U;
 /// Between two looks at whether to go on.
-constexpr off_t chunk = off_t{8} << 20U;
+constexpr off_t chunk = off_t{16} << 20U;
 /// The disk may lag behind by so much: what is flushed in the end is little, and a copy that is left ends soon.
-constexpr off_t mostUnwritten = off_t{128} << 20U;
+constexpr off_t mostUnwritten = off_t{256} << 20U;
 constexpr blksize_t blockOfStatus = 512;
 
 bool isSparse(const struct stat& source)
