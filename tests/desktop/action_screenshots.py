@@ -49,8 +49,8 @@ class ActionScreenshots(TransferTestCase):
         self.leave()
 
     def progress(self, scheme):
-        for number in range(30_000):
-            self.make(f"Letters/{number % 30}/{number}", b"")
+        for number in range(120_000):
+            self.make(f"Letters/{number % 120}/{number}", b"")
         self.open_window(COPY, os.path.join(self.home.files, "Letters"), target=self.folder("Holiday"),
                          title="Copying “Letters” to “Holiday”")
         eventually(lambda: any(re.match("[0-9]+,[0-9]+ of", words) for words in self.labels()),

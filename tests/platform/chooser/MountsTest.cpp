@@ -23,6 +23,7 @@ constexpr std::string_view table = "22 1 8:1 / / rw,relatime - ext4 /dev/sda1 rw
                                    "35 22 0:53 / /net rw - autofs auto rw\n"
                                    "36 22 0:54 / /run/user/1000/gvfs rw - fuse.gvfsd-fuse gvfsd-fuse rw\n"
                                    "37 22 0:55 / /var/lib/data rw - ext4 /dev/sdd1 rw\n"
+                                   "39 22 0:56 / /mnt/memory rw - tmpfs none rw\n"
                                    "38 22 8:33 / /home rw - nfs server:/home rw\n";
 
 std::vector<std::string> foldersOf(const std::vector<Place>& places)

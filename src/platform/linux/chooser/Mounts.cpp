@@ -42,8 +42,8 @@ bool liesIn(std::string_view path, std::string_view folder)
 
 bool isShown(const Mount& mount, const std::string& home)
 {
-    // One is not mounted yet, the other a place of the desktop's own.
-    constexpr std::array<std::string_view, 2> hidden = {"autofs", "fuse.gvfsd-fuse"};
+    // What is not mounted yet, a place of the desktop's own, and the memory.
+    constexpr std::array<std::string_view, 4> hidden = {"autofs", "fuse.gvfsd-fuse", "ramfs", "tmpfs"};
     if (std::ranges::find(hidden, mount.type) != hidden.end() || mount.folder == "/" || liesIn(home, mount.folder) ||
         mount.folder.find("/.") != std::string::npos)
         return false;
