@@ -204,13 +204,16 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
     } else if (element == CE_PushButton && button) {
         QStyleOptionButton part(*button);
         part.rect = subElementRect(SE_PushButtonBevel, button, widget);
-        // The base style draws a flat one that is pressed only.
-        if (button->features & QStyleOptionButton::Flat)
-            ControlPainting::drawButton(part, false, *painter);
-        else
-            QProxyStyle::drawControl(CE_PushButtonBevel, &part, painter, widget);
-        part.palette.setColor(QPalette::ButtonText, ControlPainting::buttonText(*button, isPrimary(*button, widget)));
+        const bool isFilled = isPrimary(*button, widget);
+        ControlPainting::drawButton(part, isFilled && !(button->features & QStyleOptionButton::Flat), *painter);
+        part.palette.setColor(QPalette::ButtonText, ControlPainting::buttonText(*button, isFilled));
         QProxyStyle::drawControl(CE_PushButtonLabel, &part, painter, widget);
+        if (button->features & QStyleOptionButton::HasMenu) {
+            const int width = pixelMetric(PM_MenuButtonIndicator, button, widget);
+            const QRect place(part.rect.right() - width - 4, part.rect.top(), width, part.rect.height());
+            ControlPainting::drawArrow(visualRect(button->direction, part.rect, place), true,
+                                       part.palette.color(QPalette::ButtonText), *painter);
+        }
         if (showsFocus(*button))
             ControlPainting::drawFocusAround(part, *painter);
     } else if (element == CE_CheckBox && button) {
@@ -472,6 +475,8 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
         return boxExtent;
+    case PM_MenuButtonIndicator:
+        return 16;
     case PM_CheckBoxLabelSpacing:
         return boxSpacing;
     case PM_TabBarTabHSpace:
