@@ -24,15 +24,6 @@ const NS::Value::Array* arrayIn(const NS::Value::Dictionary& suite, std::string_
     return value ? value->array() : nullptr;
 }
 
-/// Each flag as it stands where it is a number; 1 in the place of every other.
-NS::Value::Array flagsOf(const NS::Value::Array& stored, const ListSetting<std::int64_t>& setting)
-{
-    NS::Value::Array flags;
-    for (const NS::Value& element : stored)
-        flags.push_back(setting.decode(element) ? element : NS::Value(on));
-    return flags;
-}
-
 /// The paths and their flags, which go by their places.
 void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
 {
@@ -43,12 +34,15 @@ void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
 
     NS::Value::Array paths;
     NS::Value::Array flags;
+    // Not by comparison: a number that is none is no other's equal.
+    bool isFlagMissing = !storedFlags;
     for (std::size_t place = 0; storedPaths && place < storedPaths->size(); ++place) {
         if (!isPath((*storedPaths)[place]))
             continue;
         paths.push_back((*storedPaths)[place]);
         const bool hasFlag = storedFlags && place < storedFlags->size() && isFlag((*storedFlags)[place]);
         flags.push_back(hasFlag ? (*storedFlags)[place] : NS::Value(on));
+        isFlagMissing = isFlagMissing || !hasFlag;
     }
 
     if (!storedPaths && valueIn(suite, pathsKey)) {
@@ -65,7 +59,7 @@ void mendFolders(const NS::Value::Dictionary& suite, std::vector<Mend>& mends)
              LocalizedString("Repair", "What is no path is removed.")});
     }
     const bool noFlags = flags.empty() && !valueIn(suite, flagsKey);
-    if (!noFlags && !(storedFlags && *storedFlags == flags))
+    if (!noFlags && (isFlagMissing || storedFlags->size() != flags.size()))
         mends.push_back(
             {flagsKey, flags,
              LocalizedString("Repair",
@@ -86,8 +80,15 @@ void mendOlderRecord(const NS::Value::Dictionary& suite, std::vector<Mend>& mend
                              LocalizedString("Repair", "What is no list is removed.")});
         return;
     }
-    NS::Value::Array flags = flagsOf(*stored, Settings::save14);
-    if (flags != *stored)
+    NS::Value::Array flags;
+    bool isFlagMissing = false;
+    // Each as it stands where it is a number.
+    for (const NS::Value& element : *stored) {
+        const bool isFlag = Settings::save14.decode(element).has_value();
+        flags.push_back(isFlag ? element : NS::Value(on));
+        isFlagMissing = isFlagMissing || !isFlag;
+    }
+    if (isFlagMissing)
         mends.push_back({key, std::move(flags),
                          LocalizedString("Repair", "The older list of menu items has entries that are no numbers."),
                          LocalizedString("Repair", "A menu item without a number is switched on.")});

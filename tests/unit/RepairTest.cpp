@@ -6,11 +6,14 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <limits>
 
 namespace {
 
 using Array = NS::Value::Array;
 using Dictionary = NS::Value::Dictionary;
+
+constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 
 Dictionary mended(Dictionary suite)
 {
@@ -35,7 +38,8 @@ TEST(Repair, FindsNothingInSettingsThatThePanelCanWorkWith)
 {
     for (const Dictionary& sound :
          {Dictionary{}, folders(Array{}, Array{}), folders(Array{"/a", "/b"}, Array{1, 7}),
-          folders(Array{"/a"}, Array{1.0}), Dictionary{{"save14", Array{1, 0.5, 2}}},
+          folders(Array{"/a"}, Array{1.0}), folders(Array{"/a"}, Array{noNumber}),
+          Dictionary{{"save14", Array{noNumber}}}, Dictionary{{"save14", Array{1, 0.5, 2}}},
           Dictionary{{"menuArrayDic", "of the wrong kind"}, {"arrCustomFoldersUrls", 1}, {"somebodyElses", true}}})
         EXPECT_TRUE(mendsOf(sound).empty()) << testing::PrintToString(NS::Value(sound));
 }
