@@ -33,6 +33,7 @@ TEST_P(Theme, EveryTextStandsOutFromWhatIsBehindIt)
         expectContrast("a button's title", color(QPalette::ButtonText), color(QPalette::Button));
         expectContrast("secondary text on the window", color(QPalette::PlaceholderText), color(QPalette::Window));
         expectContrast("secondary text in a card", color(QPalette::PlaceholderText), color(QPalette::Base));
+        expectContrast("a warning in a card", warningText(palette), color(QPalette::Base));
         expectContrast("a tool tip", color(QPalette::ToolTipText), color(QPalette::ToolTipBase));
         expectContrast("a link on the window", color(QPalette::Link), color(QPalette::Window));
         expectContrast("a visited link on the window", color(QPalette::LinkVisited), color(QPalette::Window));

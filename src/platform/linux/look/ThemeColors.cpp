@@ -99,7 +99,9 @@ QColor dividingLine(const QPalette& palette)
 QColor warningText(const QPalette& palette)
 {
     const bool dark = palette.color(QPalette::Base).lightness() < 128;
-    return QColor::fromRgb(dark ? 0xfff0b24a : 0xff8f5200);
+    if (dark)
+        return QColor::fromRgb(0xfff0b24a);
+    return QColor::fromRgb(isHighContrast(palette) ? 0xff6e3f00 : 0xff8f5200);
 }
 
 QColor mixed(const QColor& one, const QColor& other, float share)
