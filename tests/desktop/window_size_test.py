@@ -4,10 +4,13 @@ import os
 import unittest
 
 from support.case import DesktopTestCase
+from support.catalogues import LANGUAGES
 from support.waiting import eventually
 
 
 class WindowSizeTestCase(DesktopTestCase):
+    panel = None
+
     @property
     def file(self):
         return os.path.join(self.home.folder, ".local/state/orvik-menu/window-sizes")
@@ -30,6 +33,13 @@ class WindowSizeTestCase(DesktopTestCase):
     def resize(self, width, height):
         self.hands.resize(self.window, width, height)
         eventually(lambda: self.windows.size(self.window) == (width, height), "the window's new size")
+
+    def assertOnTheScreen(self):
+        for window in self.windows.of_process(self.panel.process_id):
+            place = self.windows.place(window)
+            self.assertGreaterEqual(min(place.x, place.y), 0)
+            self.assertLessEqual(place.x + place.width, self.screen_size[0])
+            self.assertLessEqual(place.y + place.height, self.screen_size[1])
 
     def quit(self):
         self.hands.press("ctrl+q")
@@ -96,6 +106,28 @@ class WindowSize(WindowSizeTestCase):
         self.assertEqual(self.start(), designed)
 
 
+class NarrowScreen(WindowSizeTestCase):
+    screen_size = (440, 640)
+
+    def test_questions_fit_and_every_tab_is_in_sight(self):
+        self.suite.write(foldersArray=["/srv"], foldersArraystate=[1])
+        for language in ["en", *LANGUAGES]:
+            with self.subTest(language=language):
+                if self.panel:
+                    self.panel.close()
+                self.panel = self.start_panel(wrapper=[os.path.join(self.programs, "orvik-menu"), "--tab"],
+                                              program="Folders", LANGUAGE=language, LANG="C.UTF-8")
+                window = self.panel.main_window()
+                tabs = window.find("page tab list").extents
+                for tab in window.all("page tab"):
+                    self.assertLessEqual(tabs.x, tab.extents.x)
+                    self.assertLessEqual(tab.extents.x + tab.extents.width, tabs.x + tabs.width)
+                self.hands.click(window.find("list item").extents)
+                self.hands.press("Delete")
+                eventually(lambda: any(each.role == "alert message" for each in self.panel.windows()), "the question")
+                self.assertOnTheScreen()
+
+
 class SmallScreen(WindowSizeTestCase):
     screen_size = (640, 480)
 
@@ -115,13 +147,6 @@ class SmallScreen(WindowSizeTestCase):
 
         self.assertOnTheScreen()
         self.save_picture("extensions-small-screen")
-
-    def assertOnTheScreen(self):
-        for window in self.windows.of_process(self.panel.process_id):
-            place = self.windows.place(window)
-            self.assertGreaterEqual(min(place.x, place.y), 0)
-            self.assertLessEqual(place.x + place.width, self.screen_size[0])
-            self.assertLessEqual(place.y + place.height, self.screen_size[1])
 
 
 if __name__ == "__main__":

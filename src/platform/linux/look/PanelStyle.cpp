@@ -21,6 +21,7 @@ namespace LinuxDesktop {
 
 namespace {
 
+constexpr int narrowWindow = 470;
 constexpr int boxExtent = 18;
 /// Between a checkbox and its text.
 constexpr int boxSpacing = 8;
@@ -480,7 +481,9 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_CheckBoxLabelSpacing:
         return boxSpacing;
     case PM_TabBarTabHSpace:
-        return 2 * ControlPainting::tabPadding;
+        // All five shall be in sight, also where a screen has no more room.
+        return widget && widget->window()->width() < narrowWindow ? ControlPainting::tabPadding - 2
+                                                                  : 2 * ControlPainting::tabPadding;
     // Of a slider: its knob, and the ring around that.
     case PM_SliderLength:
         return sliderKnobExtent;

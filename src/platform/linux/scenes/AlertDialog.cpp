@@ -1,6 +1,7 @@
 #include "platform/linux/scenes/AlertDialog.h"
 
 #include "platform/linux/accessibility/Accessibility.h"
+#include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/scenes/Label.h"
 
 #include <QApplication>
@@ -8,18 +9,21 @@
 #include <QIcon>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace LinuxDesktop {
 
 namespace {
 
 constexpr int iconExtent = 64;
+constexpr int between = 20;
 constexpr int textWidth = 380;
 
 QLabel* textLabel(QWidget* parent)
 {
     auto* label = new Label(parent);
     label->setWordWrap(true);
-    label->setFixedWidth(textWidth);
+    label->setFixedWidth(std::min(textWidth, roomOnScreen(*parent).width() - iconExtent - 3 * between));
     label->hide();
     return label;
 }
@@ -50,15 +54,15 @@ AlertDialog::AlertDialog() : m_message(textLabel(this)), m_information(textLabel
     texts->addWidget(m_information);
     texts->addStretch();
     auto* upper = new QHBoxLayout;
-    upper->setSpacing(20);
+    upper->setSpacing(between);
     upper->addWidget(icon, 0, Qt::AlignTop);
     upper->addLayout(texts);
 
     m_buttonRow->setSpacing(8);
     m_buttonRow->addStretch();
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(20, 20, 20, 16);
-    layout->setSpacing(20);
+    layout->setContentsMargins(between, between, between, 16);
+    layout->setSpacing(between);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(upper);
     layout->addLayout(m_buttonRow);
