@@ -189,6 +189,13 @@ class Problem(DesktopTestCase):
         self.assertEqual({button.name for button in window.all("push button")}, {"Close", "Open Again"})
         self.save_picture("problem-unexplained")
 
+    def test_a_second_error_is_told_of_beside_the_first(self):
+        for words in ("there is no tab 98", "there is no tab 99"):
+            program = self.start_panel(program=os.path.join(self.programs, "orvik-menu-problem"), without=[SWITCH],
+                                       ORVIK_MENU_FATAL_ERROR=words)
+            eventually(lambda: any("What it said: " + words in self.texts(window) for window in program.windows()),
+                       words)
+
     def test_no_cure_is_promised_of_what_the_settings_do_not_explain(self):
         self.store_what_does_not_match()
         self.start_panel(program=os.path.join(self.programs, "orvik-menu-problem"), without=[SWITCH],

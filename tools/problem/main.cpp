@@ -21,6 +21,8 @@ The panel starts it when it cannot go on.
 )",
     .noDisplay = "there is no display to show the window on",
     .noSessionBus = "there is no session bus",
+    // Each tells of an error of its own.
+    .runsOnce = false,
 };
 
 } // namespace

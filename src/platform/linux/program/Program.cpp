@@ -88,7 +88,7 @@ int Program::run(const ProgramDescription& description, int argc, char** argv, c
     Program program(description, platformData, terminationSignals);
     program.m_option = option;
     // The running one comes to the front, and takes on what this start may have been made for.
-    if (program.m_name.ownedByAnother())
+    if (description.runsOnce && program.m_name.ownedByAnother())
         return program.activateOther();
 
     const WindowSurroundings surroundings(program.m_bus, QCoreApplication::applicationDirPath());
@@ -125,7 +125,7 @@ int Program::show(QWidget& window)
         bringToFront(panel ? *panel : window);
     });
     // Another process may have become the program since this one looked.
-    if (m_name.claim() == ApplicationName::Claim::OwnedByAnother)
+    if (m_name.claim() == ApplicationName::Claim::OwnedByAnother && m_description.runsOnce)
         return activateOther();
     fitToScreen(window);
     bringToFront(window);

@@ -31,9 +31,11 @@ struct ProgramDescription {
     const char* option = nullptr;
     /// What that value is, in a message: "a title".
     const char* optionValue = nullptr;
+    /// Whether a second start brings the first one's window to the front. Else each has a window of its own.
+    bool runsOnce = true;
 };
 
-/// A program with windows, of which one process runs: what it has of the desktop before it makes its first window.
+/// A program with windows: what it has of the desktop before it makes its first window.
 /// Main thread.
 class Program {
 public:
