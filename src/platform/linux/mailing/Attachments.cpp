@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 
 namespace LinuxDesktop {
@@ -54,9 +55,14 @@ void Attachments::makeMailable()
     for (auto& path : m_paths) {
         if (isMailablePath(path))
             continue;
-        auto mailable = copy(path);
+        auto mailable = temporaryFile(mailableName(fileName(path)));
         if (!mailable)
             return;
+        // At once, however large it is.
+        if (::symlink(path.c_str(), mailable->c_str()) != 0) {
+            fail(AttachingFailure::unwritable(errno));
+            return;
+        }
         path = std::move(*mailable);
     }
 }

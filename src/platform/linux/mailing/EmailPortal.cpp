@@ -13,7 +13,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds startPatience = 5s;
+/// The panel waits for it. What has not answered by then is there, and slow.
+constexpr std::chrono::milliseconds startPatience = 500ms;
 /// Half of the time that the process has after a hand-over, so that there is some left for another way.
 constexpr std::chrono::milliseconds composePatience = 10s;
 
