@@ -93,6 +93,16 @@ class CustomFolders(DesktopTestCase):
 
         throughout(lambda: self.rows() == ["two", "three"], "the others stay", A_MOMENT)
 
+    def test_after_the_last_deletion_something_has_the_keyboard(self):
+        self.suite.write(arrCustomFoldersUrls=["/one"])
+        self.start()
+        self.hands.press("Tab", "Tab", "Tab")
+        eventually(lambda: self.window.focused().name == "Delete one", "the button to have the keyboard")
+        self.hands.press("Return")
+
+        self.assertEventuallyEqual(self.rows, [])
+        self.assertEqual(eventually(self.window.focused, "something to have the keyboard").role, "page tab list")
+
     def test_a_double_click_deletes_one_entry(self):
         self.suite.write(arrCustomFoldersUrls=["/one", "/two", "/three"])
         self.start()

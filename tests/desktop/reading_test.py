@@ -12,8 +12,10 @@ from support.folders import choose
 from support.panel import CHOOSER
 from support.reading import Reader
 from support.suite import TITLES
-from support.waiting import eventually
+from support.waiting import eventually, throughout
 
+# How long is listened for what must not be said.
+A_MOMENT = 0.7
 TABS = ["Menu Items", "Folders", "General", "About", "Custom Folders"]
 # What shows that a tab's screen is there.
 SIGNS = {"Menu Items": ["Open Terminal"], "Folders": ["Add Folder…"], "General": ["Open Extensions…"],
@@ -242,6 +244,17 @@ class Changes(ReadingTestCase):
         self.window.find("push button", "Delete Photos").act("Press")
         eventually(lambda: len(self.window.all("list item")) == 2, "the row to go")
         self.assertEqual(listener.empty_name_changes(), [])
+
+    def test_what_a_tab_is_opened_with_is_not_announced_as_added(self):
+        self.store_folders()
+        self.start()
+        listener = self.listen(self.panel)
+        listener.note_names()
+        for tab in TABS:
+            self.open_tab(tab)
+        self.assertEqual(len(self.window.all("list item")), 3)
+        throughout(lambda: not any(words.startswith("Added") for words in listener.announced()),
+                   "nothing is announced", A_MOMENT)
 
     def test_a_folder_that_is_added_is_announced(self):
         self.store_folders()

@@ -419,6 +419,21 @@ TEST_F(RowListFixture, AfterADeletionTheKeyboardIsOnTheRowThatFollowsAndNotOnIts
     EXPECT_EQ(QApplication::focusWidget(), list.rowsInSight().at(0));
 }
 
+TEST_F(RowListFixture, AfterTheDeletionOfTheLastTheKeyboardIsOnWhatComesAfterTheList)
+{
+    list.setProperty("hiddenInRows", QStringLiteral("checkbox"));
+    QWidget empty(&window);
+    empty.setObjectName(QStringLiteral("empty"));
+    QWidget explanation(&window);
+    explanation.setObjectName(QStringLiteral("explanation"));
+    show(1);
+    auto* button = list.rowsInSight().at(0)->findChild<PushButton*>();
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Return);
+    ASSERT_TRUE(states.empty());
+    EXPECT_EQ(QApplication::focusWidget(), &after);
+}
+
 TEST_F(RowListFixture, AfterTheDeletionOfTheSelectedRowTheKeyboardIsOnTheRowThatFollows)
 {
     list.setProperty("selectable", true);

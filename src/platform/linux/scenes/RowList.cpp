@@ -57,7 +57,7 @@ void RowList::reloadData()
 {
     const bool wasLoaded = std::exchange(m_loaded, true);
     // What comes into sight with its rows is no news.
-    const bool isNews = wasLoaded && parentWidget()->isVisible();
+    const bool isNews = m_wasInSight && parentWidget()->isVisible();
     const QWidget* focused = window()->focusWidget();
     const bool hadFocus = focused && (focused == this || isAncestorOf(focused));
     const int rowsBefore = m_rowCount;
@@ -74,7 +74,7 @@ void RowList::reloadData()
     // The row that had the focus or was selected may have gone, and another is current in its place. The keyboard is
     // on that row then, and not on a button of it.
     const bool lostRow = m_rowCount < rowsBefore || window()->focusWidget() == this;
-    if (lostRow && (hadFocus || m_selectedRow >= 0) && m_rows.contains(m_currentRow))
+    if (lostRow && m_rowCount > 0 && (hadFocus || m_selectedRow >= 0) && m_rows.contains(m_currentRow))
         moveTo(m_currentRow, 0, Qt::OtherFocusReason);
     if (isNews && m_rowCount > rowsBefore) {
         m_added = tr("Added: %1").arg(typedTitleOf(m_rowCount - 1));
@@ -503,6 +503,8 @@ void RowList::showEvent(QShowEvent* event)
         reloadData();
     else
         layOutRows(Refill::NewRows);
+    QMetaObject::invokeMethod(
+        this, [this] { m_wasInSight = true; }, Qt::QueuedConnection);
 }
 
 void RowList::changeEvent(QEvent* event)

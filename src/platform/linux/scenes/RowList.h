@@ -98,6 +98,7 @@ private:
 
     int m_rowCount = 0;
     bool m_loaded = false;
+    bool m_wasInSight = false;
     /// Reloaded while out of sight: every row is to be filled anew when it comes into sight.
     bool m_stale = false;
     int m_rowHeight = 0;
