@@ -4,6 +4,7 @@
 #include <bit>
 #include <climits>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 namespace MenuExtension {
@@ -17,6 +18,11 @@ constexpr char terminator = '\0';
 /// Of the table, that a folder may be away from its home on average. One or two are usual; somebody who has chosen
 /// paths that meet in one place would have the host go through all of them for each.
 constexpr std::size_t mostSteps = 32;
+
+bool areSlashes(char one, char next)
+{
+    return one == '/' && next == '/';
+}
 
 std::string_view withoutSlashesAtEnd(std::string_view path)
 {
@@ -53,10 +59,11 @@ std::string bytesOf(const std::vector<Folder>& folders)
 {
     std::string bytes;
     for (const Folder& folder : folders) {
-        if (folder.path.find(terminator) != std::string::npos)
+        if (folder.path.find(terminator) != std::string::npos || folder.path.size() >= PATH_MAX)
             continue;
         bytes += folder.active ? active : inactive;
-        bytes.append(folder.path).push_back(terminator);
+        std::ranges::unique_copy(folder.path, std::back_inserter(bytes), areSlashes);
+        bytes += terminator;
     }
     return bytes;
 }

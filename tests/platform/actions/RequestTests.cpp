@@ -24,6 +24,14 @@ TEST(Request, SlashesAtTheEndCountForNothing)
     EXPECT_EQ(requestFrom({}, "//\0"s)->paths.front(), "/");
 }
 
+TEST(Request, SlashesInARowAreOne)
+{
+    const auto request = requestFrom({"--target", "//t///u"}, "//a//b/c\0"s);
+    ASSERT_TRUE(request);
+    EXPECT_EQ(request->paths.front(), "/a/b/c");
+    EXPECT_EQ(request->target, "/t/u");
+}
+
 TEST(Request, TheOptionsSayWhoAsksAndWhereTo)
 {
     const auto request = requestFrom({"--target", "/t/", "--caller", ":1.7", "--background"}, "/a\0"s);
@@ -74,7 +82,8 @@ TEST_F(AskedAction, WhatIsOutOfScopeIsLeftAlone)
     EXPECT_EQ(run("create-new-text-file", {listed()}).kind, '1');
     const Path inner = folder("inner");
     storeFolders({{listed(), true}, {inner, false}});
-    EXPECT_EQ(run("create-new-text-file", {inner}, {.background = true}).kind, '1');
+    for (const std::string& path : {inner.native(), listed().native() + "//inner", inner.native() + "//"})
+        EXPECT_EQ(run("create-new-text-file", {path}, {.background = true}).kind, '1') << path;
     EXPECT_EQ(namesIn(inner), std::vector<std::string>{});
 }
 
