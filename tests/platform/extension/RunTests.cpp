@@ -243,6 +243,9 @@ TEST_F(Run, TellsOnTheDesktopWhatNobodyWaitsFor)
     ASSERT_TRUE(waitUntil([&] { return desktop.shown().size() == 1; }));
     EXPECT_TRUE(desktop.shown()[0].startsWith(QStringLiteral("0 Hide")));
     EXPECT_TRUE(desktop.shown()[0].contains(QStringLiteral("\"b\""))) << desktop.shown()[0].toStdString();
+    connection().send(callOf("format-disk", {path("in/a")}));
+    ASSERT_TRUE(waitUntil([&] { return desktop.shown().size() == 2; }));
+    EXPECT_EQ(desktop.shown()[1], QStringLiteral("0 Orvik Menu: Orvik Menu has no action of that name."));
 }
 
 TEST_F(Run, FailsWhereTheActionsProgramIsNotThere)
