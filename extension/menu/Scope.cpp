@@ -19,9 +19,12 @@ constexpr char terminator = '\0';
 /// paths that meet in one place would have the host go through all of them for each.
 constexpr std::size_t mostSteps = 32;
 
-bool areSlashes(char one, char next)
+std::string withSingleSlashes(std::string_view path)
 {
-    return one == '/' && next == '/';
+    std::string text;
+    std::ranges::unique_copy(path, std::back_inserter(text),
+                             [](char one, char next) { return one == '/' && next == '/'; });
+    return text;
 }
 
 std::string_view withoutSlashesAtEnd(std::string_view path)
@@ -62,8 +65,7 @@ std::string bytesOf(const std::vector<Folder>& folders)
         if (folder.path.find(terminator) != std::string::npos || folder.path.size() >= PATH_MAX)
             continue;
         bytes += folder.active ? active : inactive;
-        std::ranges::unique_copy(folder.path, std::back_inserter(bytes), areSlashes);
-        bytes += terminator;
+        bytes.append(withSingleSlashes(folder.path)).push_back(terminator);
     }
     return bytes;
 }
@@ -120,6 +122,8 @@ std::optional<std::string_view> Scope::innermostFrom(std::string_view folder) co
 {
     if (m_table.empty())
         return std::nullopt;
+    if (folder.find("//") != std::string_view::npos)
+        return innermostFrom(withSingleSlashes(folder));
     for (;; folder = folderAbove(folder)) {
         if (const std::size_t begin = m_table[slotOf(folder)]; begin != 0)
             return m_bytes[begin - 1] == active ? std::optional(folderAt(begin)) : std::nullopt;

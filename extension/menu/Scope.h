@@ -21,8 +21,8 @@ struct Folder {
 [[nodiscard]] std::string bytesOf(const std::vector<Folder>& folders);
 
 /// Where the actions are offered. Looking a path up takes a step for each of its components, however many folders
-/// there are. Paths are bytes, compared by whole components; a slash at the end counts for nothing, and no link is
-/// resolved. Any thread, once made.
+/// there are. Paths are bytes, compared by whole components; a slash at the end counts for nothing, slashes in a
+/// row for one, and no link is resolved. Any thread, once made.
 class Scope {
 public:
     Scope() = default;
