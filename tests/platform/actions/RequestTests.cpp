@@ -4,10 +4,17 @@
 
 #include <QTemporaryDir>
 
+#include <array>
+#include <cerrno>
+#include <cstddef>
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 
 namespace {
 
@@ -189,6 +196,34 @@ TEST_F(AskedAction, WhatIsOutOfScopeIsLeftAlone)
     for (const std::string& path : {inner.native(), listed().native() + "//inner", inner.native() + "//"})
         EXPECT_EQ(run("create-new-text-file", {path}, {.background = true}).kind, '1') << path;
     EXPECT_EQ(namesIn(inner), std::vector<std::string>{});
+}
+
+/// For ActionOptions::before: the kernel does not know how to stay beneath a folder.
+void haveAnOldKernel()
+{
+    std::array filter{sock_filter BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+                      sock_filter BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat2, 0, 1),
+                      sock_filter BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS),
+                      sock_filter BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+    const sock_fprog program{filter.size(), filter.data()};
+    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program);
+}
+
+TEST_F(AskedAction, ALinkIsFollowedInAnActiveFolderAloneOnAnOldKernelToo)
+{
+    const Path docs = folder("docs");
+    fs::create_directory_symlink(docs, listed() / "absolute");
+    fs::create_directory_symlink("docs", listed() / "relative");
+    fs::create_directory_symlink(outside(), listed() / "out");
+    const auto create = [this](const char* link) {
+        return run("create-new-text-file", {listed() / link}, {.background = true, .before = haveAnOldKernel}).kind;
+    };
+    EXPECT_EQ(create("absolute"), '0');
+    EXPECT_EQ(create("relative"), '0');
+    EXPECT_EQ(create("out"), '1');
+    EXPECT_EQ(namesIn(docs).size(), 2U);
+    EXPECT_EQ(namesIn(outside()), std::vector<std::string>{});
 }
 
 TEST_F(AskedAction, OneItemOutOfScopeStopsThemAll)
