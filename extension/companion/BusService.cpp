@@ -127,18 +127,29 @@ std::vector<const char*> changedProperties(std::tuple<Property...>, const Compan
 
 /// What the library calls.
 struct BusService::Object {
+    static bool isTrusted(sd_bus_message* call, BusService& service)
+    {
+        const char* caller = sd_bus_message_get_sender(call);
+        return caller && service.trusts(caller);
+    }
+
+    static int refuse(sd_bus_message* call)
+    {
+        return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_ACCESS_DENIED, "Only its own user may ask for this.");
+    }
+
     static int answer(Extension::Quit, sd_bus_message* call, BusService& service)
     {
+        if (!isTrusted(call, service))
+            return refuse(call);
         service.m_requests.quit();
         return sd_bus_reply_method_return(call, Extension::Quit::gives);
     }
 
     static int answer(Extension::Run, sd_bus_message* call, BusService& service)
     {
-        const char* caller = sd_bus_message_get_sender(call);
-        if (!caller || !service.trusts(caller))
-            return sd_bus_reply_method_errorf(call, SD_BUS_ERROR_ACCESS_DENIED,
-                                              "Only its own user may ask for this.");
+        if (!isTrusted(call, service))
+            return refuse(call);
         RunCall asked;
         const auto wrong = parse(*call, asked);
         service.m_requests.run(

@@ -6,9 +6,11 @@
 #include "platform/LocalizedString.h"
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <ctime>
+#include <malloc.h>
 #include <sys/epoll.h>
 #include <utility>
 
@@ -20,6 +22,8 @@ namespace {
 constexpr std::chrono::milliseconds settlingTime{200};
 constexpr std::chrono::milliseconds pauseWithoutWatches{5000};
 constexpr std::chrono::milliseconds accuracy{10};
+/// In paths. The allocator keeps what those took.
+constexpr std::size_t largeRequest = 4096;
 
 constexpr std::uint64_t microseconds(std::chrono::microseconds time)
 {
@@ -47,6 +51,16 @@ int Companion::start()
     int result =
         sd_event_add_time_relative(&m_event, &timer, CLOCK_MONOTONIC, 0, microseconds(accuracy), lookAgain, this);
     m_nextLook.reset(timer);
+    sd_event_source* idle = nullptr;
+    const auto giveMemoryBack = [](sd_event_source*, void*) {
+        ::malloc_trim(0);
+        return 0;
+    };
+    if (result >= 0)
+        result = sd_event_add_defer(&m_event, &idle, giveMemoryBack, nullptr);
+    m_memoryReturn.reset(idle);
+    if (result >= 0)
+        result = sd_event_source_set_priority(idle, SD_EVENT_PRIORITY_IDLE);
     if (result >= 0)
         result = listen();
     if (result < 0)
@@ -166,8 +180,15 @@ void Companion::quit()
     sd_event_exit(&m_event, EXIT_SUCCESS);
 }
 
-void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Finished finished)
+void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Finished answer)
 {
+    const bool isLarge = call.request.paths.size() >= largeRequest;
+    const Finished finished = [this, isLarge, answer = std::move(answer)](const std::optional<Refusal>& refusal) {
+        answer(refusal);
+        // By then nothing of the request is left.
+        if (isLarge)
+            sd_event_source_set_enabled(m_memoryReturn.get(), SD_EVENT_ONESHOT);
+    };
     // By the settings that were stored before the call.
     if (m_watch.isWhole())
         followEvents();
@@ -186,7 +207,7 @@ void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Fi
         finished(refusal);
         return;
     }
-    m_runner.run(call, [this, action = call.action, finished = std::move(finished)](const Outcome& outcome) {
+    m_runner.run(call, [this, action = call.action, finished](const Outcome& outcome) {
         if (outcome.kind == Outcome::Kind::Done) {
             finished(std::nullopt);
             return;

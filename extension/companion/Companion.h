@@ -40,7 +40,7 @@ private:
     void waitToLookAgain();
     void watchDirectories(const std::vector<std::string>& addresses);
     void quit() override;
-    void run(const RunCall& call, const std::optional<Refusal>& wrong, Finished finished) override;
+    void run(const RunCall& call, const std::optional<Refusal>& wrong, Finished answer) override;
 
     sd_event& m_event;
     sd_bus& m_bus;
@@ -55,6 +55,8 @@ private:
     NeedsWatch m_needs;
     EventSource m_settingsChanges;
     EventSource m_nextLook;
+    /// Once, when there is nothing else to do: at the beginning, and after a large request.
+    EventSource m_memoryReturn;
     /// Whether what was found last counts only if it is still so at the next look.
     bool m_inDoubt = false;
     BusSlot m_busEnd;

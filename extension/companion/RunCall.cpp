@@ -160,7 +160,7 @@ std::optional<Refusal> refusalOf(const ActionRequest& request, const Scope& scop
 std::string titleOf(std::string_view action)
 {
     const CatalogueRow* row = rowOf(action);
-    return row ? NS::LocalizedString("MenuCatalogue", row->title) : std::string();
+    return row ? NS::LocalizedString("MenuCatalogue", row->title) : submenuTitle;
 }
 
 } // namespace MenuExtension

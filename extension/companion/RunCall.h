@@ -42,7 +42,7 @@ struct Refusal {
 /// Why not with what the request is about. Looks at no file: what lies at the paths is for the action to see.
 [[nodiscard]] std::optional<Refusal> refusalOf(const ActionRequest& request, const Scope& scope);
 
-/// The title of an action; empty where there is none of that identifier.
+/// The title of an action; the product's own where there is none of that identifier.
 [[nodiscard]] std::string titleOf(std::string_view action);
 
 } // namespace MenuExtension

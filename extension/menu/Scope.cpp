@@ -4,6 +4,7 @@
 #include <bit>
 #include <climits>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 namespace MenuExtension {
@@ -17,6 +18,14 @@ constexpr char terminator = '\0';
 /// Of the table, that a folder may be away from its home on average. One or two are usual; somebody who has chosen
 /// paths that meet in one place would have the host go through all of them for each.
 constexpr std::size_t mostSteps = 32;
+
+std::string withSingleSlashes(std::string_view path)
+{
+    std::string text;
+    std::ranges::unique_copy(path, std::back_inserter(text),
+                             [](char one, char next) { return one == '/' && next == '/'; });
+    return text;
+}
 
 std::string_view withoutSlashesAtEnd(std::string_view path)
 {
@@ -53,10 +62,10 @@ std::string bytesOf(const std::vector<Folder>& folders)
 {
     std::string bytes;
     for (const Folder& folder : folders) {
-        if (folder.path.find(terminator) != std::string::npos)
+        if (folder.path.find(terminator) != std::string::npos || folder.path.size() >= PATH_MAX)
             continue;
         bytes += folder.active ? active : inactive;
-        bytes.append(folder.path).push_back(terminator);
+        bytes.append(withSingleSlashes(folder.path)).push_back(terminator);
     }
     return bytes;
 }
@@ -113,6 +122,8 @@ std::optional<std::string_view> Scope::innermostFrom(std::string_view folder) co
 {
     if (m_table.empty())
         return std::nullopt;
+    if (folder.find("//") != std::string_view::npos)
+        return innermostFrom(withSingleSlashes(folder));
     for (;; folder = folderAbove(folder)) {
         if (const std::size_t begin = m_table[slotOf(folder)]; begin != 0)
             return m_bytes[begin - 1] == active ? std::optional(folderAt(begin)) : std::nullopt;

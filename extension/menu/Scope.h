@@ -16,13 +16,13 @@ struct Folder {
     friend bool operator==(const Folder&, const Folder&) = default;
 };
 
-/// As the companion publishes them, in their order: of each '+' where it is active and '-' where it is not, its path,
-/// and a zero.
+/// As the companion publishes them, in their order: of each '+' where it is active and '-' where it is not, its path
+/// with slashes in a row as one, and a zero. What is longer than the system takes is left out.
 [[nodiscard]] std::string bytesOf(const std::vector<Folder>& folders);
 
 /// Where the actions are offered. Looking a path up takes a step for each of its components, however many folders
-/// there are. Paths are bytes, compared by whole components; a slash at the end counts for nothing, and no link is
-/// resolved. Any thread, once made.
+/// there are. Paths are bytes, compared by whole components; a slash at the end counts for nothing, slashes in a
+/// row for one, and no link is resolved. Any thread, once made.
 class Scope {
 public:
     Scope() = default;

@@ -17,15 +17,18 @@ std::optional<std::string> plainPath(std::string_view path)
 {
     if (!path.starts_with('/') || path.size() >= PATH_MAX || path.find('\0') != std::string_view::npos)
         return std::nullopt;
+    std::string plain;
     for (std::size_t begin = 0; begin < path.size();) {
         const std::size_t end = std::min(path.find('/', begin), path.size());
         const std::string_view name = path.substr(begin, end - begin);
         if (name == "." || name == "..")
             return std::nullopt;
+        // Between slashes in a row there is nothing, and a scope would take that for a folder.
+        if (!name.empty())
+            plain.append(1, '/').append(name);
         begin = end + 1;
     }
-    const std::size_t length = path.find_last_not_of('/') + 1;
-    return length == 0 ? "/" : std::string(path.substr(0, length));
+    return plain.empty() ? "/" : plain;
 }
 
 bool isWhole(const ActionRequest& request)

@@ -7,8 +7,8 @@
 
 namespace MenuExtension {
 
-/// What an action is asked to work on. Paths are absolute, as bytes, without a slash at the end and without the names
-/// "." and "..".
+/// What an action is asked to work on. Paths are absolute, as bytes, without a slash at the end, slashes in a row
+/// and the names "." and "..".
 struct ActionRequest {
     /// The items, or the one folder whose background was clicked.
     std::vector<std::string> paths;

@@ -79,6 +79,18 @@ TEST(Scope, TakesNoNoticeOfSlashesAtTheEnd)
     EXPECT_TRUE(Scope({{"///", true}}).containsItem("/a"));
 }
 
+TEST(Scope, TakesSlashesInARowForOne)
+{
+    const Scope scope({{"//a///b", true}, {"/a/b//c", false}});
+    EXPECT_TRUE(scope.containsItem("/a/b/x"));
+    EXPECT_FALSE(scope.containsItem("/a/b/c/x"));
+    EXPECT_FALSE(scope.containsItem("/a/b//c/x"));
+    EXPECT_FALSE(scope.containsBackground("//a/b//c"));
+    EXPECT_TRUE(scope.containsItem("/a//b//c"));
+    EXPECT_EQ(scope.folderOfItem("/a/b/x"), "/a/b");
+    EXPECT_EQ(bytesOf({{"//a///b//", true}}), std::string("+/a/b/\0", 7));
+}
+
 TEST(Scope, ComparesBytes)
 {
     const Scope scope({{"/caf\u00e9", true}, {"/\xff", true}});

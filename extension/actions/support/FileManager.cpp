@@ -12,6 +12,8 @@ namespace {
 
 /// A file manager may have to be started first.
 constexpr std::chrono::seconds patience{10};
+/// Whoever asks does run. A script that waits for its answer, or a shell's command, answers nothing meanwhile.
+constexpr std::chrono::seconds patienceWithCaller{1};
 constexpr const char* interface = "org.freedesktop.FileManager1";
 
 /// So that the window comes to the front.
@@ -29,6 +31,14 @@ BusAnswer show(sd_bus& bus, const char* manager, const char* member, const std::
     return call(bus, message, patience);
 }
 
+/// Whether the program answers at all. It shows nothing for that: another can still be asked to, without two windows.
+bool answers(sd_bus& bus, const char* program)
+{
+    const Message question =
+        newCall(bus, {program, "/org/freedesktop/FileManager1", "org.freedesktop.DBus.Peer", "Ping"});
+    return !call(bus, question, patienceWithCaller).isLate();
+}
+
 Shown show(const char* member, const std::string& path, const std::string& caller)
 {
     const Bus bus = openSessionBus();
@@ -38,7 +48,7 @@ Shown show(const char* member, const std::string& path, const std::string& calle
     BusAnswer answer;
     // Only a program can be asked that has asked; a name may be anybody's.
     const bool knowsCaller = caller.starts_with(':');
-    if (knowsCaller)
+    if (knowsCaller && answers(*bus, caller.c_str()))
         answer = show(*bus, caller.c_str(), member, address);
     if (!answer.reply && !answer.isLate())
         answer = show(*bus, interface, member, address);

@@ -15,8 +15,8 @@ struct Request : ActionRequest {
 };
 
 /// Opens an item, or the folder whose background was clicked, for as long as it lies in the listed folder that
-/// decides about it: a link that leads out of that is not followed. Nothing, with errno, which is then EXDEV or
-/// ELOOP.
+/// decides about it. A link is followed to what lies in a listed folder that is active, and nowhere else, whenever it
+/// came there. Nothing, with errno, which is then EXDEV, ELOOP or, where a folder is wanted, ENOTDIR.
 [[nodiscard]] LinuxDesktop::FileDescriptor openItem(const Request& request, std::string_view path, int flags);
 /// The same for the folder that an item lies in.
 [[nodiscard]] LinuxDesktop::FileDescriptor openFolderOfItem(const Request& request, std::string_view item, int flags);
@@ -26,8 +26,8 @@ struct OpenedFolder {
     std::string path;
     LinuxDesktop::FileDescriptor descriptor;
 };
-/// The folder that the request's first path stands for: that folder itself, or the one that the file lies in. As
-/// openItem().
+/// The folder that the request's first path stands for: that folder itself, or the one that the file lies in, or the
+/// link to no folder. As openItem().
 [[nodiscard]] OpenedFolder openFolderOf(const Request& request);
 
 } // namespace MenuExtension

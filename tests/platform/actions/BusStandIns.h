@@ -1,5 +1,7 @@
 #pragma once
 
+#include "extension/bus/Handles.h"
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusContext>
@@ -12,9 +14,11 @@
 #include <QTimer>
 #include <QVariantMap>
 
+#include <gtest/gtest.h>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 /// A connection of its own, as another program has.
 class OtherProgram {
@@ -35,6 +39,43 @@ private:
     inline static int s_count = 0;
     QString m_name;
     QDBusConnection m_connection;
+};
+
+/// On the bus, and answers nothing: as a script does while it waits for what it has asked for.
+class SilentProgram {
+public:
+    explicit SilentProgram(const QByteArray& busAddress)
+    {
+        sd_bus* made = nullptr;
+        EXPECT_GE(sd_bus_new(&made), 0);
+        m_bus.reset(made);
+        EXPECT_GE(sd_bus_set_address(made, busAddress.constData()), 0);
+        EXPECT_GE(sd_bus_set_bus_client(made, 1), 0);
+        EXPECT_GE(sd_bus_start(made), 0);
+    }
+
+    [[nodiscard]] std::string name() const
+    {
+        const char* name = nullptr;
+        EXPECT_GE(sd_bus_get_unique_name(m_bus.get(), &name), 0);
+        return name ? name : "";
+    }
+
+    /// What it has been asked for until now, but for what any program on the bus answers.
+    [[nodiscard]] std::vector<std::string> takeCalls()
+    {
+        std::vector<std::string> calls;
+        sd_bus_message* came = nullptr;
+        while (sd_bus_process(m_bus.get(), &came) > 0) {
+            if (came && sd_bus_message_is_method_call(came, nullptr, nullptr) > 0)
+                calls.emplace_back(sd_bus_message_get_member(came));
+            sd_bus_message_unref(std::exchange(came, nullptr));
+        }
+        return calls;
+    }
+
+private:
+    MenuExtension::Bus m_bus;
 };
 
 /// Notes what it is asked to show: the method, the one address, and the token.

@@ -46,6 +46,17 @@ TEST_F(OpenNewFinderWindow, WhereThatShowsNothingTheDesktopsOwnDoes)
     }
 }
 
+TEST_F(OpenNewFinderWindow, AProgramThatOnlyWaitsForItsAnswerIsNotWaitedFor)
+{
+    SilentProgram script(busAddress());
+    FileManagerStandIn manager(busAddress());
+    manager.takeName();
+    EXPECT_EQ(open(folder("docs"), false, script.name()), done);
+    EXPECT_EQ(manager.takeCalls(), shows(listed() / "docs"));
+    // It would do that later.
+    EXPECT_EQ(script.takeCalls(), std::vector<std::string>{});
+}
+
 TEST_F(OpenNewFinderWindow, NoNameOfAFolderIsTakenForSomethingElse)
 {
     FileManagerStandIn manager(busAddress());

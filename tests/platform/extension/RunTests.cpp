@@ -243,6 +243,9 @@ TEST_F(Run, TellsOnTheDesktopWhatNobodyWaitsFor)
     ASSERT_TRUE(waitUntil([&] { return desktop.shown().size() == 1; }));
     EXPECT_TRUE(desktop.shown()[0].startsWith(QStringLiteral("0 Hide")));
     EXPECT_TRUE(desktop.shown()[0].contains(QStringLiteral("\"b\""))) << desktop.shown()[0].toStdString();
+    connection().send(callOf("format-disk", {path("in/a")}));
+    ASSERT_TRUE(waitUntil([&] { return desktop.shown().size() == 2; }));
+    EXPECT_EQ(desktop.shown()[1], QStringLiteral("0 Orvik Menu: Orvik Menu has no action of that name."));
 }
 
 TEST_F(Run, FailsWhereTheActionsProgramIsNotThere)
@@ -277,8 +280,10 @@ TEST_F(Run, TakesAThousandAtOnceAndRefusesWhatIsTooMuch)
     EXPECT_EQ(outcomeOf(calls[100]), "done");
 }
 
+enum class Asked { Run, Quit };
+
 /// The error's name that another user gets who asks on that bus.
-static std::string askAs(uid_t user, const QByteArray& address)
+static std::string askAs(uid_t user, const QByteArray& address, Asked asked = Asked::Run)
 {
     std::array<int, 2> ends{};
     EXPECT_EQ(::pipe(ends.data()), 0);
@@ -290,10 +295,16 @@ static std::string askAs(uid_t user, const QByteArray& address)
         sd_bus_error error{};
         const std::string name(Deployment::extensionIdentifier);
         if (::setuid(user) == 0 && sd_bus_new(&bus) >= 0 && sd_bus_set_address(bus, address.constData()) >= 0 &&
-            sd_bus_set_bus_client(bus, 1) >= 0 && sd_bus_start(bus) >= 0)
-            sd_bus_call_method(bus, name.c_str(), companionPath().toUtf8().constData(),
-                               interface.toUtf8().constData(), "Run", &error, nullptr, "saaya{sv}", "open-terminal",
-                               0, 0);
+            sd_bus_set_bus_client(bus, 1) >= 0 && sd_bus_start(bus) >= 0) {
+            const auto call = [&](const char* method, const char* types, auto... arguments) {
+                sd_bus_call_method(bus, name.c_str(), companionPath().toUtf8().constData(),
+                                   interface.toUtf8().constData(), method, &error, nullptr, types, arguments...);
+            };
+            if (asked == Asked::Run)
+                call("Run", "saaya{sv}", "open-terminal", 0, 0);
+            else
+                call("Quit", "");
+        }
         const std::string_view answer = error.name ? error.name : "none";
         static_cast<void>(::write(writing.get(), answer.data(), answer.size()));
         ::_exit(0);
@@ -314,6 +325,10 @@ TEST_F(Run, IsForItsOwnUserAlone)
     ::chmod(QFileInfo(QString::fromUtf8(m_daemon.socketPath())).path().toUtf8().constData(), 0755);
     EXPECT_EQ(askAs(65534, m_daemon.address()), "org.freedesktop.DBus.Error.AccessDenied");
     EXPECT_EQ(askAs(0, m_daemon.address()), "com.orvikstudio.FinderSyncExtension.Error.BadArguments");
+    EXPECT_EQ(askAs(65534, m_daemon.address(), Asked::Quit), "org.freedesktop.DBus.Error.AccessDenied");
+    EXPECT_TRUE(nameIsOwned());
+    EXPECT_EQ(askAs(0, m_daemon.address(), Asked::Quit), "none");
+    EXPECT_TRUE(waitUntil([&] { return !nameIsOwned(); }));
 }
 
 TEST_F(Run, IsThereForAShellToo)
