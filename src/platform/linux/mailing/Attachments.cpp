@@ -11,7 +11,6 @@
 #include <filesystem>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 #include <utility>
 
 namespace LinuxDesktop {
@@ -55,14 +54,9 @@ void Attachments::makeMailable()
     for (auto& path : m_paths) {
         if (isMailablePath(path))
             continue;
-        auto mailable = temporaryFile(mailableName(fileName(path)));
+        auto mailable = copy(path);
         if (!mailable)
             return;
-        // At once, however large it is.
-        if (::symlink(path.c_str(), mailable->c_str()) != 0) {
-            fail(AttachingFailure::unwritable(errno));
-            return;
-        }
         path = std::move(*mailable);
     }
 }
