@@ -181,6 +181,40 @@ TEST_F(ResizePhotoTest, EveryFormatStaysWithItsMetadataProfileAndOrientation)
     }
 }
 
+TEST_F(ResizePhotoTest, WhatIsForPrintingStaysInItsInks)
+{
+    VipsImage* inks = nullptr;
+    ASSERT_EQ(vips_icc_transform(open(photo("screen.jpg", 400, 300, 1)).get(), &inks, "cmyk", nullptr), 0);
+    const Path path = listed() / "print.jpg";
+    EXPECT_EQ(vips_image_write_to_file(inks, path.c_str(), nullptr), 0);
+    g_object_unref(inks);
+    const auto profileOf = [](const Image& image) {
+        const void* bytes = nullptr;
+        std::size_t length = 0;
+        vips_image_get_blob(image.get(), VIPS_META_ICC_NAME, &bytes, &length);
+        return std::string(static_cast<const char*>(bytes), length);
+    };
+    // The second takes several tries.
+    const std::uint64_t profile = profileOf(open(path)).size();
+    const Goal few{Goal::Kind::Bytes, profile + (fs::file_size(path) - profile) / 5};
+    for (const Goal& goal : {small, few}) {
+        const auto outcome = resize(path, goal);
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        const Image original = open(path);
+        const Image made = open(listed() / outcome.name);
+        ASSERT_TRUE(made);
+        EXPECT_LT(vips_image_get_width(made.get()), 400);
+        EXPECT_EQ(vips_image_get_interpretation(made.get()), VIPS_INTERPRETATION_CMYK);
+        EXPECT_EQ(vips_image_get_bands(made.get()), 4);
+        EXPECT_TRUE(profileOf(made) == profileOf(original));
+        double before = 0;
+        double after = 0;
+        vips_avg(original.get(), &before, nullptr);
+        vips_avg(made.get(), &after, nullptr);
+        EXPECT_NEAR(before, after, 3.0) << "and its inks are not turned into their opposite";
+    }
+}
+
 TEST_F(ResizePhotoTest, SizesAreToldAsThePhotoIsShown)
 {
     const auto turned = resize(photo("turned.jpg", 400, 300, 6), {Goal::Kind::Percent, 50});
