@@ -192,6 +192,23 @@ class Exif(ExifWindow, DesktopTestCase):
         eventually(lambda: not self.failures() and not any("saved" in label for label in self.labels()),
                    "what was said of the others to go")
 
+    def test_what_is_written_in_the_form_is_saved_with_the_removal(self):
+        path = self.photo(Artist="Ada")
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Title")
+        self.hands.type("A hill")
+        self.go_to("Remove Location and Personal Data…")
+        self.hands.press("space")
+        dialog = self.action.active_window("Remove Location and Personal Data")
+        self.action.go_to("Remove", dialog)
+        self.hands.press("space")
+        self.action.active_window(TITLE)
+        self.assertTells("1 photo was saved.")
+        tags = self.tags(path)
+        self.assertEqual(tags.get("Title"), "A hill")
+        self.assertNotIn("Artist", tags)
+
     def test_what_is_not_to_be_understood_is_told_and_nothing_is_written(self):
         path = self.photo()
         with open(path, "rb") as file:

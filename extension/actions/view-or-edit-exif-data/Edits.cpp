@@ -137,14 +137,16 @@ std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
             arguments.push_back(assignment(entry->removed, set, {}));
     }
     for (const auto& [field, value] : edits.texts) {
-        if (!isMade(field, value, tags))
+        // What is there already may go with the rest.
+        if (edits.removesPersonalData || !isMade(field, value, tags))
             assign(arguments, field, tags, value);
     }
     if (edits.shift.count() != 0)
         shift(arguments, tags, edits.shift);
     if (edits.orientation && edits.orientation != orientationOf(tags))
         assign(arguments, Field::Orientation, tags, std::to_string(*edits.orientation));
-    const bool movesPlace = edits.place && (!edits.place->place || !isSame(edits.place->place, placeOf(tags)));
+    const bool movesPlace = edits.place && (edits.removesPersonalData || !edits.place->place ||
+                                            !isSame(edits.place->place, placeOf(tags)));
     if (movesPlace)
         assignPlace(arguments, tags, edits.place->place);
     // Else what is no ASCII is lost there.

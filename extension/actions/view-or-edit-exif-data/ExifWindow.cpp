@@ -220,12 +220,11 @@ void ExifWindow::clearResult()
     m_failures->hide();
 }
 
-void ExifWindow::askToRemove()
+void ExifWindow::askToRemove(Edits edits)
 {
     PersonalDataDialog dialog(m_merged, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    Edits edits;
     edits.removesPersonalData = true;
     save(edits);
 }

@@ -36,7 +36,8 @@ private:
     void readSelected();
     void read();
     void save(const Edits& edits);
-    void askToRemove();
+    /// What else was typed is saved with it.
+    void askToRemove(Edits edits);
     void showProgress(const PhotoWork::Progress& progress);
     void showRead(const PhotoWork::Progress& progress);
     void showSaved(const PhotoWork::Progress& progress);

@@ -293,6 +293,16 @@ TEST_F(SavePhotoTest, AnAuthorGivenWithTheRemovalStays)
     EXPECT_EQ(text(Field::Place, path), "");
 }
 
+TEST_F(SavePhotoTest, WhatIsGivenWithTheRemovalStaysWhereItWasThereBefore)
+{
+    const Path path = photo("jpg");
+    ASSERT_EQ(save(path, everything()), Kind::None);
+    Edits edits = everything();
+    edits.removesPersonalData = true;
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+    expectEverything(path);
+}
+
 TEST_F(SavePhotoTest, KeepsPermissionsAndExtendedAttributesAndTheTimeIfAsked)
 {
     const Path path = photo("jpg");
