@@ -1671,8 +1671,8 @@
         <translation>الصور</translation>
     </message>
     <message>
-        <source>Photos that were left as they are</source>
-        <translation>الصور التي تُركت كما هي</translation>
+        <source>Photos that failed</source>
+        <translation>الصور التي فشلت معالجتها</translation>
     </message>
     <message>
         <source>Resizing photos</source>
@@ -1726,6 +1726,10 @@
     <message>
         <source>These were left as they are:</source>
         <translation>تُركت هذه كما هي:</translation>
+    </message>
+    <message>
+        <source>Photos that failed:</source>
+        <translation>الصور التي فشلت معالجتها:</translation>
     </message>
 </context>
 <context>

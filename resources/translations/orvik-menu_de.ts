@@ -1607,8 +1607,8 @@
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Photos that were left as they are</source>
-        <translation>Unverändert gebliebene Fotos</translation>
+        <source>Photos that failed</source>
+        <translation>Fehlgeschlagene Fotos</translation>
     </message>
     <message>
         <source>Resizing photos</source>
@@ -1650,6 +1650,10 @@
     <message>
         <source>These were left as they are:</source>
         <translation>Unverändert blieben:</translation>
+    </message>
+    <message>
+        <source>Photos that failed:</source>
+        <translation>Fehlgeschlagene Fotos:</translation>
     </message>
 </context>
 <context>

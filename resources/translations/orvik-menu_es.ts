@@ -1607,8 +1607,8 @@
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Photos that were left as they are</source>
-        <translation>Fotos que quedaron como estaban</translation>
+        <source>Photos that failed</source>
+        <translation>Fotos con errores</translation>
     </message>
     <message>
         <source>Resizing photos</source>
@@ -1650,6 +1650,10 @@
     <message>
         <source>These were left as they are:</source>
         <translation>Estas quedaron como estaban:</translation>
+    </message>
+    <message>
+        <source>Photos that failed:</source>
+        <translation>Fotos con errores:</translation>
     </message>
 </context>
 <context>

@@ -1607,8 +1607,8 @@
         <translation>Photos</translation>
     </message>
     <message>
-        <source>Photos that were left as they are</source>
-        <translation>Photos laissées telles quelles</translation>
+        <source>Photos that failed</source>
+        <translation>Photos en échec</translation>
     </message>
     <message>
         <source>Resizing photos</source>
@@ -1650,6 +1650,10 @@
     <message>
         <source>These were left as they are:</source>
         <translation>Ces photos sont restées telles quelles&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Photos that failed:</source>
+        <translation>Photos en échec&#xa0;:</translation>
     </message>
 </context>
 <context>

@@ -1591,8 +1591,8 @@
         <translation>照片</translation>
     </message>
     <message>
-        <source>Photos that were left as they are</source>
-        <translation>保持原样的照片</translation>
+        <source>Photos that failed</source>
+        <translation>处理失败的照片</translation>
     </message>
     <message>
         <source>Resizing photos</source>
@@ -1631,6 +1631,10 @@
     <message>
         <source>These were left as they are:</source>
         <translation>以下照片保持原样：</translation>
+    </message>
+    <message>
+        <source>Photos that failed:</source>
+        <translation>处理失败的照片：</translation>
     </message>
 </context>
 <context>

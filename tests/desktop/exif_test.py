@@ -169,6 +169,46 @@ class Exif(ExifWindow, DesktopTestCase):
         self.save_picture("exif-failure")
         self.assertReadsWell(self.window)
 
+    def failures(self):
+        return sorted(item.name.partition(":")[0] for found in self.window.all("list")
+                      if found.name == "Photos that failed" for item in found.all("list item"))
+
+    def test_what_failed_stays_told_until_others_are_chosen(self):
+        paths = [self.photo("good.jpg"), self.photo("kept.webp", kind="webp"), self.photo("vanishes.jpg")]
+        self.open(*paths)
+        self.to_edit_page()
+        os.remove(paths[2])
+        self.go_to("Title")
+        self.hands.type("x")
+        self.save()
+        self.assertTells("1 photo was saved. These were left as they were:")
+        eventually(lambda: self.window.find("text", "Title").has("enabled"), "the photos to be read again")
+        self.assertEqual(self.failures(), ["kept.webp", "vanishes.jpg"])
+
+        self.go_to("Photos")
+        self.hands.press("End")
+        self.hands.press("Home")
+        eventually(lambda: "good.jpg" in self.labels(), "the one that was chosen")
+        eventually(lambda: not self.failures() and not any("saved" in label for label in self.labels()),
+                   "what was said of the others to go")
+
+    def test_what_is_written_in_the_form_is_saved_with_the_removal(self):
+        path = self.photo(Artist="Ada")
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Title")
+        self.hands.type("A hill")
+        self.go_to("Remove Location and Personal Data…")
+        self.hands.press("space")
+        dialog = self.action.active_window("Remove Location and Personal Data")
+        self.action.go_to("Remove", dialog)
+        self.hands.press("space")
+        self.action.active_window(TITLE)
+        self.assertTells("1 photo was saved.")
+        tags = self.tags(path)
+        self.assertEqual(tags.get("Title"), "A hill")
+        self.assertNotIn("Artist", tags)
+
     def test_what_is_not_to_be_understood_is_told_and_nothing_is_written(self):
         path = self.photo()
         with open(path, "rb") as file:

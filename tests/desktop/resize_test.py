@@ -178,7 +178,7 @@ class ResizePhotos(ActionDriver, DesktopTestCase):
         self.press_button("Resize")
         self.assertTells("2 photos were resized: ")
         self.assertTells("1 is small enough already. These were left as they are:")
-        failures = [item.name for item in self.window.find("list", "Photos that were left as they are").all("list item")]
+        failures = [item.name for item in self.window.find("list", "Photos that failed").all("list item")]
         self.assertEqual(len(failures), 3, failures)
         self.assertIn("truncated.jpg cannot be resized: it is damaged or ends too early.", failures)
         self.assertIn("large.png is too large: it has 60000 × 60000 pixels.", failures)

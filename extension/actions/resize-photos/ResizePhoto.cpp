@@ -3,13 +3,13 @@
 #include "ResizedName.h"
 #include "extension/actions/files/Trash.h"
 #include "extension/actions/placing/Attributes.h"
+#include "extension/actions/transfer/Placing.h"
 
 #include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <mutex>
@@ -39,23 +39,22 @@ Outcome cannotBeSaved()
 /// A file in a folder that has no name yet, or one that goes with it.
 class Unnamed {
 public:
-    explicit Unnamed(const FileDescriptor& folder) : m_folder(folder)
+    Unnamed(Transfers::SystemCalls& calls, const FileDescriptor& folder) : m_calls(calls), m_folder(folder)
     {
-        m_file = FileDescriptor(::openat(folder.get(), ".", O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
+        m_file = m_calls.open(folder.get(), "", O_TMPFILE | O_RDWR, 0600);
         if (m_file || (errno != EOPNOTSUPP && errno != EISDIR && errno != ENOENT))
             return;
         std::uint64_t number = 0;
         static_cast<void>(::getrandom(&number, sizeof(number), 0));
         m_name = ".orvik-resize-" + std::to_string(number);
-        m_file = FileDescriptor(
-            ::openat(folder.get(), m_name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+        m_file = m_calls.open(folder.get(), m_name.c_str(), O_RDWR | O_CREAT | O_EXCL, 0600);
         if (!m_file)
             m_name.clear();
     }
     ~Unnamed()
     {
         if (!m_name.empty())
-            ::unlinkat(m_folder.get(), m_name.c_str(), 0);
+            static_cast<void>(m_calls.remove(m_folder.get(), m_name.c_str(), 0));
     }
     Unnamed(const Unnamed&) = delete;
     Unnamed& operator=(const Unnamed&) = delete;
@@ -69,13 +68,14 @@ public:
             const std::string itself = "/proc/self/fd/" + std::to_string(m_file.get());
             return ::linkat(AT_FDCWD, itself.c_str(), m_folder.get(), name.c_str(), AT_SYMLINK_FOLLOW) == 0;
         }
-        if (::renameat2(m_folder.get(), m_name.c_str(), m_folder.get(), name.c_str(), RENAME_NOREPLACE) != 0)
+        if (!Transfers::placeNew(m_calls, {m_folder.get(), m_name}, {m_folder.get(), name}, false))
             return false;
         m_name.clear();
         return true;
     }
 
 private:
+    Transfers::SystemCalls& m_calls;
     const FileDescriptor& m_folder;
     FileDescriptor m_file;
     std::string m_name;
@@ -117,19 +117,26 @@ Outcome nameByPattern(Unnamed& made, const OpenedFile& photo, const Target& targ
     return cannotBeSaved();
 }
 
-Outcome takePlaceOf(Unnamed& made, const OpenedFile& photo, Outcome outcome)
+Outcome takePlaceOf(Unnamed& made, const OpenedFile& photo, const Target& target, Outcome outcome)
 {
     if (!photo.isUnchanged())
         return {.kind = Outcome::Kind::Changed};
     if (auto words = moveToTrash(pathOf(photo.folder) + '/' + photo.name))
         return {.kind = Outcome::Kind::CannotBeTrashed, .words = *std::move(words)};
     outcome.name = photo.name;
-    return made.take(photo.name) ? outcome : Outcome{.kind = Outcome::Kind::OnlyInTrash, .error = errno};
+    if (made.take(photo.name))
+        return outcome;
+    const int error = errno;
+    // It is not lost: what was made of the photo lies beside where that was.
+    outcome = nameByPattern(made, photo, target, std::move(outcome));
+    return {.kind = Outcome::Kind::OnlyInTrash, .name = std::move(outcome.name), .error = error};
 }
 
 } // namespace
 
-PhotoResizer::PhotoResizer(std::string worker) : m_worker(std::move(worker), limits) {}
+PhotoResizer::PhotoResizer(std::string worker, std::unique_ptr<Transfers::SystemCalls> calls)
+    : m_worker(std::move(worker), limits), m_calls(std::move(calls))
+{}
 
 Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Target& target,
                              const std::stop_token& stop)
@@ -141,7 +148,7 @@ Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Ta
             return cannotBeSaved();
     }
     const FileDescriptor& folder = elsewhere ? elsewhere : photo.folder;
-    Unnamed made(folder);
+    Unnamed made(*m_calls, folder);
     if (!made.file())
         return cannotBeSaved();
     const std::array files{photo.file.get(), made.file().get()};
@@ -166,9 +173,10 @@ Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Ta
         return cannotBeSaved();
     if (stop.stop_requested())
         return {.kind = Outcome::Kind::Cancelled};
-    outcome = target.kind == Target::Kind::InPlace ? takePlaceOf(made, photo, std::move(outcome))
+    outcome = target.kind == Target::Kind::InPlace ? takePlaceOf(made, photo, target, std::move(outcome))
                                                    : nameByPattern(made, photo, target, std::move(outcome));
-    if (outcome.kind == Outcome::Kind::Done && !syncFolder(folder))
+    const bool isDurable = syncFolder(folder);
+    if (outcome.kind == Outcome::Kind::Done && !isDurable)
         return cannotBeSaved();
     return outcome;
 }

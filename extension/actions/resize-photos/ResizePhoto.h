@@ -3,8 +3,10 @@
 #include "ResizeJob.h"
 #include "extension/actions/photos/Worker.h"
 #include "extension/actions/placing/OpenedFile.h"
+#include "extension/actions/transfer/SystemCalls.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <stop_token>
 #include <string>
@@ -18,7 +20,7 @@ struct Target {
     Kind kind = Kind::Beside;
     /// The path of the folder, for that.
     std::string folder = {};
-    /// Of the names, for all but InPlace; one that isNamePattern() takes.
+    /// Of the names; for InPlace, of what could not take the photo's place. One that isNamePattern() takes.
     std::string pattern = "{name}-{width}x{height}";
 };
 
@@ -34,7 +36,8 @@ struct Outcome {
         CannotBeSaved,
         /// The desktop's own words are in `words`.
         CannotBeTrashed,
-        /// The photo is in the trash, but the resized one could not take its place, for errno's reason in `error`.
+        /// The photo is in the trash, but the resized one could not take its place, for errno's reason in `error`. It
+        /// has a name by the pattern, in `name`, unless that could not be given to it either.
         OnlyInTrash,
         /// The end of a sentence that begins with the name is in `words`.
         Refused,
@@ -56,7 +59,8 @@ struct Outcome {
 /// Has photos resized by a worker. One thread at a time.
 class PhotoResizer {
 public:
-    explicit PhotoResizer(std::string worker = Photos::programBeside("resize-photos-worker"));
+    explicit PhotoResizer(std::string worker = Photos::programBeside("resize-photos-worker"),
+                          std::unique_ptr<Transfers::SystemCalls> calls = std::make_unique<Transfers::SystemCalls>());
 
     /// Resizes a photo, writes the result to the disk, and only then gives it its name, which nothing has. A photo
     /// that it takes the place of goes to the trash. Whatever fails or ends on the way, the photo stays as it was, or
@@ -70,6 +74,7 @@ public:
 
 private:
     Photos::Worker m_worker;
+    std::unique_ptr<Transfers::SystemCalls> m_calls;
 };
 
 /// A goal of so many bytes for all the photos together, as one that each of them can have: those that are small

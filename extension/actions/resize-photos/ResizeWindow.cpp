@@ -105,7 +105,7 @@ void ResizeWindow::layOut()
 
     m_result->hide();
     m_failures->setModel(&m_failureLines);
-    m_failures->setAccessibleName(tr("Photos that were left as they are"));
+    m_failures->setAccessibleName(tr("Photos that failed"));
     m_failures->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_failures->setWordWrap(true);
     m_failures->setMaximumHeight(6 * fontMetrics().lineSpacing());
@@ -198,8 +198,10 @@ void ResizeWindow::showEnd(const ResizeWork::Progress& progress)
         words += progress.smallAlready == 1
                      ? tr("1 is small enough already.")
                      : tr("%n are small enough already.", nullptr, static_cast<int>(progress.smallAlready));
+    const bool areAsTheyWere = std::ranges::none_of(
+        progress.failures, [](const auto& failure) { return failure.second.kind == Outcome::Kind::OnlyInTrash; });
     if (!progress.failures.empty())
-        words += tr("These were left as they are:");
+        words += areAsTheyWere ? tr("These were left as they are:") : tr("Photos that failed:");
     say(words.join(u' '));
     QStringList lines;
     for (const auto& [photo, outcome] : progress.failures)

@@ -132,7 +132,10 @@ std::optional<Target> TargetRows::target()
         m_choose->setFocus();
         return std::nullopt;
     }
-    if (target.kind != Target::Kind::InPlace && !isNamePattern(target.pattern)) {
+    // One that is not to be seen is no matter of the person's.
+    if (target.kind == Target::Kind::InPlace) {
+        target.pattern = Target().pattern;
+    } else if (!isNamePattern(target.pattern)) {
         m_complaint = tr("The name needs {name} in it, which is the photo's own name, and no slash.");
         m_pattern->setFocus();
         return std::nullopt;

@@ -116,10 +116,12 @@ bool writeAll(int file, const Encoded& picture)
     return true;
 }
 
-/// Photos of more than eight bits a band lose nothing of them.
-bool hasDeepBands(VipsImage* header)
+/// Whether a photo would lose some of what it is as a thumbnail, which is for screens: it has more than eight bits a
+/// band, or bands for inks.
+bool isMoreThanForScreens(VipsImage* header)
 {
-    return vips_image_get_format(header) != VIPS_FORMAT_UCHAR;
+    return vips_image_get_format(header) != VIPS_FORMAT_UCHAR ||
+           vips_image_get_interpretation(header) == VIPS_INTERPRETATION_CMYK;
 }
 
 /// The library's reader of HEIF frees what was beside the picture with its own one, whatever else refers to it.
@@ -137,12 +139,17 @@ void ownMetadata(VipsImage* image)
 Image scaled(const Photos::OpenedPhoto& photo, std::uint32_t width, std::uint32_t height)
 {
     VipsImage* made = nullptr;
-    if (!hasDeepBands(photo.header.get())) {
+    if (!isMoreThanForScreens(photo.header.get())) {
         vips_thumbnail_source(photo.source.get(), &made, static_cast<int>(width), "height", static_cast<int>(height),
                               "size", VIPS_SIZE_FORCE, "no_rotate", TRUE, "option_string", "fail_on=truncated",
                               nullptr);
     } else {
-        VipsImage* in = photo.header.get();
+        // The pixels come in order, once; each try needs them anew.
+        const Image read(vips_image_new_from_source(photo.source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL,
+                                                    "fail_on", VIPS_FAIL_ON_TRUNCATED, nullptr));
+        if (!read)
+            return nullptr;
+        VipsImage* in = read.get();
         VipsImage* premultiplied = nullptr;
         VipsImage* resized = nullptr;
         VipsImage* flat = nullptr;

@@ -108,7 +108,7 @@ EditForm::EditForm(QWidget* parent)
     setTabOrder(m_remove, m_save);
 
     connect(m_save, &QPushButton::clicked, this, &EditForm::save);
-    connect(m_remove, &QPushButton::clicked, this, &EditForm::removalAsked);
+    connect(m_remove, &QPushButton::clicked, this, &EditForm::askForRemoval);
 }
 
 void EditForm::addLine(QFormLayout& form, Field field, const QString& name)
@@ -272,6 +272,13 @@ void EditForm::save()
         refuse(m_lines[Field::Title], tr("Nothing has been changed yet."));
     else
         emit saved(*made);
+}
+
+void EditForm::askForRemoval()
+{
+    m_refusal->hide();
+    if (const auto made = edits())
+        emit removalAsked(*made);
 }
 
 } // namespace MenuExtension::Exif

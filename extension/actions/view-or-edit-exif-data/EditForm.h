@@ -36,7 +36,8 @@ public:
 
 signals:
     void saved(const MenuExtension::Exif::Edits& edits);
-    void removalAsked();
+    /// With what was typed.
+    void removalAsked(const MenuExtension::Exif::Edits& edits);
 
 private:
     void addLine(QFormLayout& form, Field field, const QString& name);
@@ -44,6 +45,7 @@ private:
     void addOrientation(QFormLayout& form);
     void addPlace(QFormLayout& form);
     void save();
+    void askForRemoval();
     /// Nothing where something typed is not to be understood; then it is said.
     [[nodiscard]] std::optional<Edits> edits();
     void refuse(QWidget* typed, const QString& why);

@@ -4,6 +4,7 @@
 #include "PersonalData.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace MenuExtension::Exif {
@@ -91,6 +92,13 @@ std::string asRead(std::string text)
     return text;
 }
 
+/// Whether it says where the photo was taken, whoever has written it and however it is removed.
+bool isPosition(const Tag& tag)
+{
+    return std::ranges::any_of(std::array{"GPSLatitude", "GPSLongitude", "GPSPosition"},
+                               [&](const char* name) { return tag.name.ends_with(name); });
+}
+
 bool isMade(Field field, const std::string& wanted, const Tags& after)
 {
     if (field == Field::Date) {
@@ -129,14 +137,16 @@ std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
             arguments.push_back(assignment(entry->removed, set, {}));
     }
     for (const auto& [field, value] : edits.texts) {
-        if (!isMade(field, value, tags))
+        // What is there already may go with the rest.
+        if (edits.removesPersonalData || !isMade(field, value, tags))
             assign(arguments, field, tags, value);
     }
     if (edits.shift.count() != 0)
         shift(arguments, tags, edits.shift);
     if (edits.orientation && edits.orientation != orientationOf(tags))
         assign(arguments, Field::Orientation, tags, std::to_string(*edits.orientation));
-    const bool movesPlace = edits.place && (!edits.place->place || !isSame(edits.place->place, placeOf(tags)));
+    const bool movesPlace = edits.place && (edits.removesPersonalData || !edits.place->place ||
+                                            !isSame(edits.place->place, placeOf(tags)));
     if (movesPlace)
         assignPlace(arguments, tags, edits.place->place);
     // Else what is no ASCII is lost there.
@@ -155,7 +165,7 @@ bool areMade(const Edits& edits, const Tags& before, const Tags& after)
     const bool isTurned = !edits.orientation || edits.orientation == orientationOf(after);
     const bool isPlaced = !edits.place || isSame(edits.place->place, placeOf(after));
     const bool isRemoved = std::ranges::none_of(after, [&](const Tag& tag) {
-        const auto kind = PersonalData::kindOf(tag);
+        const auto kind = isPosition(tag) ? std::optional(Kind::Place) : PersonalData::kindOf(tag);
         const bool goesWithPlace = kind == Kind::Place && edits.place && !edits.place->place;
         const bool isSetAnew =
             (kind == Kind::Place && edits.place) || (kind == Kind::People && edits.texts.contains(Field::Author));

@@ -52,7 +52,7 @@ ExifWindow::ExifWindow(const Request& request)
 
     m_settled.setSingleShot(true);
     m_settled.setInterval(still);
-    connect(&m_settled, &QTimer::timeout, this, &ExifWindow::read);
+    connect(&m_settled, &QTimer::timeout, this, &ExifWindow::readSelected);
     connect(m_photos->selectionModel(), &QItemSelectionModel::selectionChanged, &m_settled,
             qOverload<>(&QTimer::start));
     connect(&m_work, &PhotoWork::advanced, this, &ExifWindow::showProgress);
@@ -65,7 +65,7 @@ ExifWindow::ExifWindow(const Request& request)
         m_photos->setEnabled(true);
         if (wasSaving) {
             say(tr("It was ended; the photos that were not saved yet are as they were."));
-            m_settled.start();
+            read();
         }
     });
     connect(m_form, &EditForm::saved, this, &ExifWindow::save);
@@ -134,6 +134,12 @@ std::vector<std::size_t> ExifWindow::selected() const
     return photos;
 }
 
+void ExifWindow::readSelected()
+{
+    clearResult();
+    read();
+}
+
 void ExifWindow::read()
 {
     const auto photos = selected();
@@ -164,16 +170,14 @@ void ExifWindow::showRead(const PhotoWork::Progress& progress)
     m_tags->showTags(m_merged);
     m_form->showFields(m_merged);
     m_form->setBusy(m_merged.photos() == 0);
-    if (!progress.failures.empty())
-        showFailures(progress.failures);
+    addFailures(progress.failures);
 }
 
 void ExifWindow::save(const Edits& edits)
 {
     m_form->setBusy(true);
     m_photos->setEnabled(false);
-    m_result->hide();
-    m_failures->hide();
+    clearResult();
     m_progress->start(tr("Saving photos"));
     m_work.save(selected(), edits, m_form->options());
 }
@@ -185,7 +189,7 @@ void ExifWindow::showSaved(const PhotoWork::Progress& progress)
     const QString words = saved == 1 ? tr("1 photo was saved.") : tr("%n photos were saved.", nullptr, saved);
     //: The first says how many photos were saved; the others follow as a list.
     say(progress.failures.empty() ? words : tr("%1 These were left as they were:").arg(words));
-    showFailures(progress.failures);
+    addFailures(progress.failures);
     read();
 }
 
@@ -196,22 +200,31 @@ void ExifWindow::say(const QString& words)
     LinuxDesktop::announce(*m_result, words);
 }
 
-void ExifWindow::showFailures(const PhotoWork::Failures& failures)
+void ExifWindow::addFailures(const PhotoWork::Failures& failures)
 {
-    QStringList lines;
-    for (const auto& [photo, trouble] : failures)
-        //: A photo's name, and what is wrong with it, which is a sentence.
-        lines.append(tr("%1: %2").arg(nameOf(m_request.paths[photo]), inWords(trouble)));
+    QStringList lines = m_failureLines.stringList();
+    for (const auto& [photo, trouble] : failures) {
+        if (m_failed.insert(photo).second)
+            //: A photo's name, and what is wrong with it, which is a sentence.
+            lines.append(tr("%1: %2").arg(nameOf(m_request.paths[photo]), inWords(trouble)));
+    }
     m_failureLines.setStringList(lines);
     m_failures->setVisible(!lines.isEmpty());
 }
 
-void ExifWindow::askToRemove()
+void ExifWindow::clearResult()
+{
+    m_result->hide();
+    m_failed.clear();
+    m_failureLines.setStringList({});
+    m_failures->hide();
+}
+
+void ExifWindow::askToRemove(Edits edits)
 {
     PersonalDataDialog dialog(m_merged, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    Edits edits;
     edits.removesPersonalData = true;
     save(edits);
 }

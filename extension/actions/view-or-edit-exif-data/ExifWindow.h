@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <set>
+
 class QLabel;
 class QListView;
 class QTabWidget;
@@ -30,18 +32,24 @@ public:
 private:
     void layOut();
     [[nodiscard]] std::vector<std::size_t> selected() const;
+    /// What was said of others goes.
+    void readSelected();
     void read();
     void save(const Edits& edits);
-    void askToRemove();
+    /// What else was typed is saved with it.
+    void askToRemove(Edits edits);
     void showProgress(const PhotoWork::Progress& progress);
     void showRead(const PhotoWork::Progress& progress);
     void showSaved(const PhotoWork::Progress& progress);
     void say(const QString& words);
-    void showFailures(const PhotoWork::Failures& failures);
+    /// Beside those that are shown; a photo is there once.
+    void addFailures(const PhotoWork::Failures& failures);
+    void clearResult();
 
     const Request& m_request;
     QStringListModel m_names;
     QStringListModel m_failureLines;
+    std::set<std::size_t> m_failed;
     QListView* m_photos;
     QLabel* m_heading;
     QTabWidget* m_pages;

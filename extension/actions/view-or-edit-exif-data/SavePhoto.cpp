@@ -133,6 +133,9 @@ public:
         std::vector<std::string> arguments = argumentsFor(edits, m_before);
         if (!edits.empty())
             m_trouble = obstacle(m_photo, edits, m_before);
+        // What is there and cannot be removed is no less there.
+        if (!m_trouble && arguments.empty() && !areMade(edits, m_before, m_before))
+            m_trouble = {.kind = Trouble::Kind::EditsNotKept};
         // What ExifTool would say of it is no word for a person.
         if (!m_trouble && !arguments.empty() &&
             (::fstat(m_photo.folder.get(), &m_folder) != 0 ||

@@ -198,6 +198,89 @@ TEST_F(SavePhotoTest, RemovesLocationAndPersonalData)
     EXPECT_EQ(save(path, edits), Kind::None) << "there is nothing more to do";
 }
 
+TEST_F(SavePhotoTest, WhatOtherProgramsAndDronesNoteOfPlacesAndPeopleIsRemovedToo)
+{
+    const Path path = photo("jpg");
+    const std::vector<std::string> personal{
+        "XMP-drone-dji:GPSLatitude=+48.1",
+        "XMP-drone-dji:GPSLongitude=+11.5",
+        "XMP-drone-dji:GPSLongtitude=+11.5",
+        "XMP-drone-dji:Latitude=48.1",
+        "XMP-drone-dji:Longitude=11.5",
+        "XMP-iptcExt:RatingRegionGPSLatitude=48.1",
+        "XMP-dwc:DCDecimalLatitude=48.1",
+        "XMP-dwc:DCVerbatimLongitude=11.5",
+        "XMP-mediapro:Location=Munich",
+        "XMP-expressionmedia:People=Ada",
+        "XMP-mediapro:People=Ada",
+        "XMP-exifEX:OwnerName=Ada",
+        "XMP-xmpRights:Owner=Ada",
+        "XMP-dc:Contributor=Ada",
+        "XMP-digiKam:TagsList=People/Ada",
+        "XMP-digiKam:CaptionsAuthorNames=Ada",
+        "XMP-lr:HierarchicalSubject=People|Ada",
+        "XMP-acdsee:Author=Ada",
+        "XMP-iptcExt:ContributorName=Ada",
+        "XMP-iptcExt:PersonHeardName=Ada",
+        "XMP-prism:Person=Ada",
+        "XMP-pdf:Author=Ada",
+        "XMP-xmp:Author=Ada",
+        "XMP-xmpDM:Artist=Ada",
+        "XMP-getty:Personality=Ada",
+        "XMP-plus:ImageCreatorName=Ada",
+        "XMP-getty:CameraSerialNumber=1",
+        "XMP-microsoft:CameraSerialNumber=1",
+        "XMP-iptcExt:RecDeviceSerialNumber=1",
+        "XMP-exif:ImageUniqueID=1",
+        "XMP-digiKam:ImageUniqueID=1",
+    };
+    std::string command = "exiftool -q -overwrite_original";
+    for (const std::string& tag : personal)
+        command += " '-" + tag + '\'';
+    ASSERT_EQ(std::system((command + " -XMP-xmp:Rating=3 '" + path.native() + '\'').c_str()), 0);
+    const auto tagsOf = [&] {
+        std::vector<std::string> found;
+        const Tags tags = read(path).tags;
+        for (const std::string& tag : personal) {
+            if (tags.find(tag.substr(0, tag.find('='))))
+                found.push_back(tag);
+        }
+        return found;
+    };
+    ASSERT_EQ(tagsOf(), personal);
+    Edits edits;
+    edits.removesPersonalData = true;
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+    EXPECT_EQ(tagsOf(), std::vector<std::string>{});
+    EXPECT_TRUE(read(path).tags.find("XMP-xmp:Rating"));
+}
+
+TEST_F(SavePhotoTest, APlaceThatCannotBeRemovedIsToldOf)
+{
+    const Path path = photo("jpg");
+    const Path packet = outside() / "packet.xmp";
+    const auto say = [&](const std::string& space) {
+        Files::write(packet, "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+                             "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about='' "
+                             "xmlns:own='" +
+                                 space + "' own:GPSLatitude='48.1' own:GPSLongitude='11.5'/></rdf:RDF></x:xmpmeta>");
+        return std::system(
+            ("exiftool -q -overwrite_original '-xmp<=" + packet.native() + "' '" + path.native() + '\'').c_str());
+    };
+    Edits edits;
+    edits.removesPersonalData = true;
+    ASSERT_EQ(say("http://ns.nikon.com/asteroid/1.0/"), 0);
+    EXPECT_EQ(save(path, edits), Kind::None) << lastWords();
+    EXPECT_FALSE(read(path).tags.find("XMP:GPSLatitude"));
+
+    ASSERT_EQ(say("http://nobody.example/"), 0);
+    const std::string before = Files::read(path);
+    EXPECT_EQ(save(path, edits), Kind::EditsNotKept);
+    edits.texts = {{Field::Title, "Harbour"}};
+    EXPECT_EQ(save(path, edits), Kind::EditsNotKept);
+    EXPECT_TRUE(Files::read(path) == before);
+}
+
 TEST_F(SavePhotoTest, AnAuthorGivenWithTheRemovalStays)
 {
     const Path path = photo("jpg");
@@ -208,6 +291,16 @@ TEST_F(SavePhotoTest, AnAuthorGivenWithTheRemovalStays)
     ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
     EXPECT_EQ(text(Field::Author, path), "Agency");
     EXPECT_EQ(text(Field::Place, path), "");
+}
+
+TEST_F(SavePhotoTest, WhatIsGivenWithTheRemovalStaysWhereItWasThereBefore)
+{
+    const Path path = photo("jpg");
+    ASSERT_EQ(save(path, everything()), Kind::None);
+    Edits edits = everything();
+    edits.removesPersonalData = true;
+    ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+    expectEverything(path);
 }
 
 TEST_F(SavePhotoTest, KeepsPermissionsAndExtendedAttributesAndTheTimeIfAsked)

@@ -7,6 +7,8 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
@@ -18,6 +20,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 #include <vips/vips.h>
 
@@ -25,6 +28,7 @@ namespace fs = std::filesystem;
 using namespace MenuExtension;
 using namespace MenuExtension::Resizing;
 using Kind = Resizing::Outcome::Kind;
+using LinuxDesktop::FileDescriptor;
 
 namespace {
 
@@ -89,12 +93,14 @@ protected:
         return Image(vips_image_new_from_file(path.c_str(), nullptr));
     }
 
-    [[nodiscard]] Resizing::Outcome resize(const Path& path, const Goal& goal, const Target& target = {}) const
+    [[nodiscard]] Resizing::Outcome
+    resize(const Path& path, const Goal& goal, const Target& target = {},
+           std::unique_ptr<Transfers::SystemCalls> calls = std::make_unique<Transfers::SystemCalls>()) const
     {
         const auto photo = openWithFolder(m_request, path);
         if (!photo)
             return {.kind = Kind::CannotBeOpened, .error = errno};
-        PhotoResizer resizer(ORVIK_RESIZE_WORKER);
+        PhotoResizer resizer(ORVIK_RESIZE_WORKER, std::move(calls));
         return resizer.resize(*photo, goal, target, {});
     }
 
@@ -114,6 +120,43 @@ private:
 };
 
 constexpr Goal small{Goal::Kind::Length, 100};
+
+/// A file system that is reached over the network: it renames only plainly, and has no file without a name.
+class PlainCalls : public Transfers::SystemCalls {
+public:
+    explicit PlainCalls(bool hasLinks, std::string refused = {}) : m_hasLinks(hasLinks), m_refused(std::move(refused))
+    {}
+
+    FileDescriptor open(int folder, const char* name, int flags, mode_t mode) override
+    {
+        if ((flags & O_TMPFILE) != O_TMPFILE)
+            return SystemCalls::open(folder, name, flags, mode);
+        errno = EOPNOTSUPP;
+        return {};
+    }
+    int rename(int from, const char* name, int to, const char* newName, unsigned flags) override
+    {
+        errno = EINVAL;
+        return flags != 0 || isRefused(newName) ? -1 : SystemCalls::rename(from, name, to, newName, flags);
+    }
+    int link(int from, const char* name, int to, const char* newName) override
+    {
+        errno = EPERM;
+        return !m_hasLinks || isRefused(newName) ? -1 : SystemCalls::link(from, name, to, newName);
+    }
+
+private:
+    [[nodiscard]] bool isRefused(const char* name) const
+    {
+        if (m_refused != name)
+            return false;
+        errno = EIO;
+        return true;
+    }
+
+    bool m_hasLinks;
+    std::string m_refused;
+};
 
 } // namespace
 
@@ -135,6 +178,40 @@ TEST_F(ResizePhotoTest, EveryFormatStaysWithItsMetadataProfileAndOrientation)
             EXPECT_EQ(vips_image_get_typeof(image.get(), field), vips_image_get_typeof(original.get(), field))
                 << kind << field;
         EXPECT_EQ(vips_image_get_orientation(image.get()), vips_image_get_orientation(original.get())) << kind;
+    }
+}
+
+TEST_F(ResizePhotoTest, WhatIsForPrintingStaysInItsInks)
+{
+    VipsImage* inks = nullptr;
+    ASSERT_EQ(vips_icc_transform(open(photo("screen.jpg", 400, 300, 1)).get(), &inks, "cmyk", nullptr), 0);
+    const Path path = listed() / "print.jpg";
+    EXPECT_EQ(vips_image_write_to_file(inks, path.c_str(), nullptr), 0);
+    g_object_unref(inks);
+    const auto profileOf = [](const Image& image) {
+        const void* bytes = nullptr;
+        std::size_t length = 0;
+        vips_image_get_blob(image.get(), VIPS_META_ICC_NAME, &bytes, &length);
+        return std::string(static_cast<const char*>(bytes), length);
+    };
+    // The second takes several tries.
+    const std::uint64_t profile = profileOf(open(path)).size();
+    const Goal few{Goal::Kind::Bytes, profile + (fs::file_size(path) - profile) / 5};
+    for (const Goal& goal : {small, few}) {
+        const auto outcome = resize(path, goal);
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        const Image original = open(path);
+        const Image made = open(listed() / outcome.name);
+        ASSERT_TRUE(made);
+        EXPECT_LT(vips_image_get_width(made.get()), 400);
+        EXPECT_EQ(vips_image_get_interpretation(made.get()), VIPS_INTERPRETATION_CMYK);
+        EXPECT_EQ(vips_image_get_bands(made.get()), 4);
+        EXPECT_TRUE(profileOf(made) == profileOf(original));
+        double before = 0;
+        double after = 0;
+        vips_avg(original.get(), &before, nullptr);
+        vips_avg(made.get(), &after, nullptr);
+        EXPECT_NEAR(before, after, 3.0) << "and its inks are not turned into their opposite";
     }
 }
 
@@ -200,6 +277,38 @@ TEST_F(ResizePhotoTest, InItsPlaceTheOriginalGoesToTheTrash)
         isInTrash =
             isInTrash || (entry.path() != path && entry.is_regular_file() && Files::read(entry.path()) == before);
     EXPECT_TRUE(isInTrash);
+}
+
+TEST_F(ResizePhotoTest, AFileSystemThatRenamesOnlyPlainlyHasNamesToo)
+{
+    for (const bool hasLinks : {true, false}) {
+        const Path path = photo("a.jpg", 400, 300, 1);
+        const auto before = fs::file_size(path);
+        const auto inPlace =
+            resize(path, small, {.kind = Target::Kind::InPlace}, std::make_unique<PlainCalls>(hasLinks));
+        ASSERT_EQ(inPlace.kind, Kind::Done) << inPlace.words << std::strerror(inPlace.error);
+        EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a.jpg"});
+        EXPECT_LT(fs::file_size(path), before);
+
+        Files::write(listed() / "a-50x38.jpg", "mine");
+        const auto beside = resize(path, {Goal::Kind::Length, 50}, {}, std::make_unique<PlainCalls>(hasLinks));
+        EXPECT_EQ(beside.kind, Kind::Done) << std::strerror(beside.error);
+        EXPECT_EQ(namesIn(listed()), (std::vector<std::string>{"a-50x38 (2).jpg", "a-50x38.jpg", "a.jpg"}));
+        EXPECT_EQ(Files::read(listed() / "a-50x38.jpg"), "mine");
+        for (const std::string& name : namesIn(listed()))
+            fs::remove(listed() / name);
+    }
+}
+
+TEST_F(ResizePhotoTest, WhatCannotTakeThePlaceOfATrashedPhotoLiesBesideIt)
+{
+    const auto outcome = resize(photo("a.jpg", 400, 300, 1), small, {.kind = Target::Kind::InPlace},
+                                std::make_unique<PlainCalls>(true, "a.jpg"));
+    EXPECT_EQ(outcome.kind, Kind::OnlyInTrash) << outcome.words;
+    EXPECT_EQ(outcome.error, EIO);
+    EXPECT_EQ(outcome.name, "a-100x75.jpg");
+    EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a-100x75.jpg"});
+    EXPECT_EQ(vips_image_get_width(open(listed() / "a-100x75.jpg").get()), 100);
 }
 
 TEST_F(ResizePhotoTest, PermissionsStay)
