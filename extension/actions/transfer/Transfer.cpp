@@ -240,7 +240,7 @@ void Transfer::merge(const Task& task)
         Task inner{.source = source, .name = name, .target = target, .newName = name};
         if (m_calls.status(source->get(), name, inner.status) != 0)
             fail(inner, errno);
-        else
+        else if (!S_ISDIR(inner.status.st_mode) || !isStagingName(name))
             transfer(std::move(inner));
     }
     if (entries.error() != 0)

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <optional>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
 #include <tuple>
@@ -362,6 +363,75 @@ TEST_P(Transfers, GoTogetherWithOthersToTheSameFolder)
     EXPECT_EQ(answers.asked.size(), 1U);
     EXPECT_EQ(contentOf(target() / "name"), "one");
     EXPECT_EQ(contentOf(target() / "name 2"), "other");
+}
+
+/// A folder with what somebody else keeps for an undo in it.
+class Kept {
+public:
+    Kept(SystemCalls& calls, const fs::path& folder, const fs::path& records)
+        : m_record(calls, {records}),
+          m_staging(Staging::make(
+              calls, shareFolder(calls, calls.open(AT_FDCWD, folder.c_str(), O_RDONLY | O_DIRECTORY), folder),
+              m_record)),
+          m_name(namesIn(folder).at(0))
+    {
+        Files::write(folder / m_name / "1", "kept");
+    }
+    [[nodiscard]] const std::string& name() const { return m_name; }
+
+private:
+    StagingRecord m_record;
+    std::optional<Staging> m_staging;
+    std::string m_name;
+};
+
+TEST_P(Transfers, LeaveWhatIsKeptForAnUndoToItsOwner)
+{
+    const fs::path album = folder(source() / "album");
+    {
+        const Kept kept(systemCalls, album, records());
+        file(album / "photo");
+        file(album / "deep/photo");
+        const Result result = run({album});
+        if (isMove() && !isBetweenTwo()) {
+            // It goes with the folder, and its owner has it open.
+            EXPECT_EQ(contentOf(target() / "album" / kept.name() / "1"), "kept");
+        } else {
+            EXPECT_EQ(namesIn(target() / "album"), (std::vector<std::string>{"deep", "photo"}));
+            EXPECT_EQ(contentOf(album / kept.name() / "1"), "kept");
+            EXPECT_EQ(kindsOf(result), isMove() ? std::vector{Kind::NotRemoved} : std::vector<Kind>{});
+            EXPECT_EQ(namesIn(album).size(), isMove() ? 1U : 3U);
+        }
+        EXPECT_EQ(progress.files, progress.totalFiles);
+    }
+    forget();
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, MergeNothingThatIsKeptForAnUndo)
+{
+    const fs::path album = folder(source() / "album");
+    file(target() / "album/old");
+    {
+        const Kept kept(systemCalls, album, records());
+        file(album / "photo");
+        answers.always = {Resolution::Merge};
+        expectDone(run({album}));
+        EXPECT_EQ(namesIn(target() / "album"), (std::vector<std::string>{"old", "photo"}));
+        EXPECT_EQ(contentOf(album / kept.name() / "1"), "kept");
+    }
+    forget();
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, TakeAPersonsOwnItemsOfASimilarName)
+{
+    file(source() / "album/.orvik-menu-pictures/1", "own");
+    file(source() / "album/.orvik-menu-0123456789abcdef", "own");
+    expectDone(run({source() / "album"}));
+    EXPECT_EQ(contentOf(target() / "album/.orvik-menu-pictures/1"), "own");
+    EXPECT_EQ(contentOf(target() / "album/.orvik-menu-0123456789abcdef"), "own");
+    expectAtSource(source() / "album", !isMove());
 }
 
 class Copies : public TransferTest {};
