@@ -219,6 +219,7 @@ bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
     if (resolution == Resolution::Skip && task.isOuter)
         ++m_result.skipped;
     task.resolution = resolution;
+    task.existing = LinuxDesktop::FileStamp::of(existing);
     return resolution != Resolution::Cancel && resolution != Resolution::Skip;
 }
 
@@ -395,8 +396,10 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
     }
     struct stat existing = {};
     if (task.resolution == Resolution::Replace && staging) {
-        const bool wasFolder =
-            m_calls.status(target.folder, target.name.c_str(), existing) == 0 && S_ISDIR(existing.st_mode);
+        const bool isThere = m_calls.status(target.folder, target.name.c_str(), existing) == 0;
+        if (isThere && LinuxDesktop::FileStamp::of(existing) != task.existing)
+            return placeAnew(task, existing, item, staging, free);
+        const bool wasFolder = isThere && S_ISDIR(existing.st_mode);
         const Place old{m_stagings[*staging].get(), free};
         const Replacing replacing = placeInstead(m_calls, item, target, isFolder, old);
         if (replacing == Replacing::Replaced)
@@ -409,6 +412,12 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
     // Somebody was quicker.
     if (errno != EEXIST || m_calls.status(target.folder, target.name.c_str(), existing) != 0)
         return false;
+    return placeAnew(task, existing, item, staging, free);
+}
+
+bool Transfer::placeAnew(Task& task, const struct stat& existing, const Place& item,
+                         const std::optional<std::size_t>& staging, const std::string& free)
+{
     if (!decide(task, existing, false)) {
         errno = 0;
         return false;

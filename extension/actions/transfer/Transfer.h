@@ -7,6 +7,7 @@
 #include "extension/actions/transfer/Progress.h"
 #include "extension/actions/transfer/Staging.h"
 #include "extension/actions/transfer/Survey.h"
+#include "platform/linux/system/FileStamp.h"
 
 #include <array>
 #include <chrono>
@@ -77,6 +78,8 @@ private:
         bool isOuter = false;
         /// What was decided about the name; Cancel as long as it is free.
         Resolution resolution = Resolution::Cancel;
+        /// What had the name when that was decided.
+        LinuxDesktop::FileStamp existing = {};
     };
     /// A copy that is whole and waits to be flushed.
     struct Staged {
@@ -115,6 +118,9 @@ private:
     /// False, with errno, which is 0 where it was decided that the item stays.
     [[nodiscard]] bool place(Task& task, const Place& item, const std::optional<std::size_t>& staging,
                              const std::string& free);
+    /// The same where something has the name that nothing was decided about.
+    [[nodiscard]] bool placeAnew(Task& task, const struct stat& existing, const Place& item,
+                                 const std::optional<std::size_t>& staging, const std::string& free);
     void notePlaced(const Task& task, const Identity& identity, bool isMoved);
     void noteChanged(const SharedFolder& folder);
     [[nodiscard]] bool flushChanged();

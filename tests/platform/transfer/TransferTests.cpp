@@ -261,6 +261,36 @@ TEST_P(Transfers, AskOnceForAllTheRestOfAKind)
         EXPECT_EQ(contentOf(target() / name), "new");
 }
 
+TEST_P(Transfers, ReplaceNothingButWhatWasAskedAbout)
+{
+    const std::vector items{file(source() / "1", "new"), file(source() / "2", "new")};
+    file(target() / "1", "old");
+    file(target() / "2", "old");
+    // While the first questions are open.
+    answers.each = [&](const Conflict& conflict) {
+        if (S_ISDIR(conflict.target.status.st_mode))
+            return Decision{Resolution::KeepBoth};
+        if (conflict.target.status.st_size > 3)
+            return Decision{Resolution::Skip};
+        if (conflict.target.path.ends_with('1')) {
+            fs::remove(target() / "1");
+            file(target() / "1/another", "precious");
+        } else {
+            file(target() / "2", "written meanwhile");
+        }
+        return Decision{Resolution::Replace};
+    };
+    const Result result = run(items);
+    EXPECT_EQ(answers.asked.size(), 4U);
+    EXPECT_EQ(result.done, 1U);
+    EXPECT_EQ(result.skipped, 1U);
+    EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"1", "1 2", "2"}));
+    EXPECT_EQ(contentOf(target() / "1/another"), "precious");
+    EXPECT_EQ(contentOf(target() / "1 2"), "new");
+    EXPECT_EQ(contentOf(target() / "2"), "written meanwhile");
+    EXPECT_EQ(contentOf(items[1]), "new");
+}
+
 TEST_P(Transfers, EndWhereAQuestionIsCancelled)
 {
     const fs::path one = file(source() / "1", "new");
