@@ -50,7 +50,7 @@ SharedPath shared(SharedPath& last, const std::string& path)
 Transfer::Transfer(SystemCalls& calls, StagingRecord& record, OpenFolderOf openFolderOf, Progress& progress,
                    Asked& asked)
     : m_calls(calls), m_record(record), m_openFolderOf(std::move(openFolderOf)), m_progress(progress), m_asked(asked),
-      m_copier(calls, progress, m_result.problems)
+      m_copier(calls, progress, m_result.problems), m_attributes(calls)
 {}
 
 std::string Transfer::firstPlaced() const
@@ -236,6 +236,9 @@ void Transfer::merge(const Task& task)
         fail(task, errno);
         return;
     }
+    Emptied emptied{.path = source->path, .status = std::make_shared<const struct stat>(task.status), .extended = {}};
+    if (m_isMove)
+        static_cast<void>(m_attributes.read(source->get(), emptied.extended));
     FolderEntries entries(m_calls, source->descriptor);
     while (const char* name = m_isStopped || m_progress.cancelled ? nullptr : entries.next()) {
         Task inner{.source = source, .name = name, .target = target, .newName = name};
@@ -247,7 +250,7 @@ void Transfer::merge(const Task& task)
     if (entries.error() != 0)
         fail(task, entries.error());
     if (m_isMove)
-        m_toBeEmptied.push_back({source->path, task.status.st_mode & 07777U});
+        m_toBeEmptied.push_back(std::move(emptied));
     if (task.isOuter)
         ++m_result.done;
 }
@@ -471,11 +474,11 @@ bool Transfer::flushChanged()
 
 void Transfer::removeEmptied()
 {
-    for (const Emptied& folder : m_toBeEmptied) {
+    for (Emptied& folder : m_toBeEmptied) {
         const FileDescriptor parent = m_openFolderOf(folder.path);
         // What was left in it keeps it.
         if (parent && m_calls.remove(parent.get(), nameOf(folder.path).c_str(), AT_REMOVEDIR) == 0)
-            m_journal.emplace_back(folder);
+            m_journal.emplace_back(std::move(folder));
     }
     m_toBeEmptied.clear();
 }

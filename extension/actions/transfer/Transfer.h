@@ -128,6 +128,7 @@ private:
 
     [[nodiscard]] std::vector<Returning> bringOutReplaced(Problems& problems);
     [[nodiscard]] std::string placeOf(const Placed& placed, std::vector<Returning>& returning) const;
+    [[nodiscard]] bool restore(const Emptied& emptied);
 
     [[nodiscard]] std::optional<std::size_t> stagingFor(const SharedFolder& target);
     void fail(const Task& task, int error);
@@ -140,6 +141,7 @@ private:
     Asked& m_asked;
     Result m_result;
     TreeCopier m_copier;
+    AttributeCopier m_attributes;
     std::optional<Target> m_target;
     bool m_isMove = false;
     bool m_flushesTogether = false;

@@ -2,11 +2,13 @@
 #include "support/Files.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <optional>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <tuple>
 #include <unistd.h>
 
@@ -245,6 +247,26 @@ TEST_P(Transfers, MergeFoldersSoThatNothingIsLeft)
     EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
     EXPECT_EQ(treeOf(source(), false), before);
     EXPECT_EQ(namesIn(target() / "album/deep"), (std::vector<std::string>{"old"}));
+}
+
+TEST_P(Transfers, GiveMergedFoldersBackAsTheyWere)
+{
+    const fs::path album = source() / "album";
+    file(album / "deep/new");
+    file(target() / "album/deep/old");
+    constexpr std::array old{timespec{1'000'000'000, 5}, timespec{1'000'000'000, 5}};
+    for (const fs::path& each : {album / "deep", album}) {
+        // Where the file system has them.
+        static_cast<void>(::setxattr(each.c_str(), "user.orvik", "a value", 7, 0));
+        fs::permissions(each, fs::perms(01777));
+        ASSERT_EQ(::utimensat(AT_FDCWD, each.c_str(), old.data(), 0), 0);
+    }
+    const Tree before = treeOf(album);
+    answers.always = {Resolution::Merge, true};
+    expectDone(run({album}));
+    expectAtSource(album, !isMove());
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(treeOf(album), before);
 }
 
 TEST_P(Transfers, AskOnceForAllTheRestOfAKind)
