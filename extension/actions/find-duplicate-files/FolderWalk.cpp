@@ -1,6 +1,7 @@
 #include "extension/actions/find-duplicate-files/FolderWalk.h"
 
 #include "extension/actions/find-duplicate-files/SystemPlaces.h"
+#include "extension/actions/transfer/Staging.h"
 #include "extension/protocol/Words.h"
 #include "platform/LocalizedString.h"
 #include "platform/linux/system/ParentFolder.h"
@@ -168,7 +169,8 @@ void FolderWalk::look(const OpenFolder& folder, const char* name)
     if (::fstatat(folder.descriptor.get(), name, &status, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) != 0)
         return tell(folder.number, name, errno);
     if (S_ISDIR(status.st_mode)) {
-        if (!m_choices.system && mayBeSystemFolder(name) && isOfSystem(folder.number, name))
+        if (Transfers::isStagingName(name) ||
+            (!m_choices.system && mayBeSystemFolder(name) && isOfSystem(folder.number, name)))
             return;
         if (const auto added = m_tree.addFolder(folder.number, name, status))
             m_waiting.push_back(*added);

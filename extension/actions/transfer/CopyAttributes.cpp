@@ -1,5 +1,6 @@
 #include "extension/actions/transfer/CopyAttributes.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -25,11 +26,16 @@ bool isImpossible(int error)
 
 bool AttributeCopier::copy(int from, const struct stat& source, int to, const struct stat& made)
 {
+    return read(from, m_extended) && give(source, m_extended, to, made);
+}
+
+bool AttributeCopier::give(const struct stat& source, const Extended& extended, int to, const struct stat& made)
+{
     mode_t mode = source.st_mode & permissions;
     const bool hasOwner = source.st_uid == made.st_uid && source.st_gid == made.st_gid;
     if (!hasOwner && !copyOwner(source, to, "", mode))
         return false;
-    if (!copyExtended(from, to))
+    if (!giveExtended(extended, to))
         return false;
     // A change of the owner may have taken some of them.
     if ((hasOwner && mode == (made.st_mode & permissions)) || m_calls.setMode(to, mode) == 0 || isImpossible(errno))
@@ -59,8 +65,9 @@ bool AttributeCopier::copyOwner(const struct stat& source, int folder, const cha
     return m_calls.setOwner(folder, name, static_cast<uid_t>(-1), source.st_gid) == 0 || isImpossible(errno);
 }
 
-bool AttributeCopier::copyExtended(int from, int to)
+bool AttributeCopier::read(int from, Extended& extended)
 {
+    extended.clear();
     m_names.resize(longest);
     const ssize_t length = m_calls.listAttributes(from, m_names.data(), m_names.size());
     if (length < 0)
@@ -70,11 +77,19 @@ bool AttributeCopier::copyExtended(int from, int to)
         const ssize_t size = m_calls.attribute(from, name, m_value.data(), m_value.size());
         if (size < 0 && (errno == ENODATA || isImpossible(errno)))
             continue;
-        if (size < 0 || (m_calls.setAttribute(to, name, m_value.data(), static_cast<std::size_t>(size)) != 0 &&
-                         !isImpossible(errno)))
+        if (size < 0)
             return false;
+        extended.emplace_back(name, std::string(m_value.data(), static_cast<std::size_t>(size)));
     }
     return true;
+}
+
+bool AttributeCopier::giveExtended(const Extended& extended, int to)
+{
+    return std::ranges::all_of(extended, [&](const auto& attribute) {
+        const auto& [name, value] = attribute;
+        return m_calls.setAttribute(to, name.c_str(), value.data(), value.size()) == 0 || isImpossible(errno);
+    });
 }
 
 bool AttributeCopier::copyTimes(const struct stat& source, int folder, const char* name)

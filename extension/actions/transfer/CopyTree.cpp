@@ -1,6 +1,7 @@
 #include "extension/actions/transfer/CopyTree.h"
 
 #include "extension/actions/transfer/FolderEntries.h"
+#include "extension/actions/transfer/Staging.h"
 
 #include <array>
 #include <cerrno>
@@ -81,6 +82,8 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
     struct stat source = {};
     bool isMade = false;
     if (m_calls.status(from, name, source) == 0) {
+        if (S_ISDIR(source.st_mode) && m_depth > 0 && isStagingName(name))
+            return false;
         if (S_ISDIR(source.st_mode))
             return copyFolder(from, name, to, newName);
         if (linkToCopy(source, to, newName))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "extension/actions/transfer/CopyAttributes.h"
 #include "extension/actions/transfer/Folder.h"
 
 #include <cstddef>
@@ -38,7 +39,9 @@ struct Replaced {
 /// A folder has gone, since all that was in it was moved into another.
 struct Emptied {
     std::string path;
-    mode_t mode;
+    /// As it was with all that was in it; by itself, so that the many other steps take no room for it.
+    std::shared_ptr<const struct stat> status;
+    AttributeCopier::Extended extended;
 };
 
 /// What was done, in its order.

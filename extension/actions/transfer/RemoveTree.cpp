@@ -1,6 +1,7 @@
 #include "extension/actions/transfer/RemoveTree.h"
 
 #include "extension/actions/transfer/FolderEntries.h"
+#include "extension/actions/transfer/Staging.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -21,10 +22,11 @@ public:
         if (m_calls.status(folder, name, status) != 0) {
             if (errno != ENOENT)
                 note(errno);
+        } else if (m_copied &&
+                   (S_ISDIR(status.st_mode) ? isStagingName(name) : !m_copied->contains(status, inFolder, name))) {
+            note(EBUSY);
         } else if (S_ISDIR(status.st_mode)) {
             removeFolder(folder, name, status);
-        } else if (m_copied && !m_copied->contains(status, inFolder, name)) {
-            note(EBUSY);
         } else if (m_calls.remove(folder, name, 0) != 0) {
             note(errno);
         }

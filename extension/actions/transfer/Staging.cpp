@@ -21,6 +21,7 @@ using LinuxDesktop::FileDescriptor;
 namespace {
 
 constexpr std::string_view stagingPrefix = ".orvik-menu-";
+constexpr std::size_t randomLength = 16;
 constexpr std::string_view recordPrefix = "transfer-";
 constexpr std::size_t longestRecord = std::size_t{1} << 20U;
 
@@ -30,7 +31,7 @@ std::string randomText()
     std::uint64_t number = 0;
     if (::getrandom(&number, sizeof(number), 0) != static_cast<ssize_t>(sizeof(number)))
         number = static_cast<std::uint64_t>(::getpid());
-    std::array<char, 17> text{};
+    std::array<char, randomLength + 1> text{};
     std::snprintf(text.data(), text.size(), "%016llx", static_cast<unsigned long long>(number));
     return text.data();
 }
@@ -78,6 +79,12 @@ std::string readAll(const FileDescriptor& file)
 }
 
 } // namespace
+
+bool isStagingName(std::string_view name)
+{
+    return name.starts_with(stagingPrefix) && name.size() == stagingPrefix.size() + randomLength &&
+           name.find_first_not_of("0123456789abcdef", stagingPrefix.size()) == std::string_view::npos;
+}
 
 std::vector<std::string> recordPlaces()
 {

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -74,6 +75,10 @@ private:
     LinuxDesktop::FileDescriptor m_folder;
     unsigned long m_names = 0;
 };
+
+/// Whether a folder of that name is such a hidden one. Its owner removes it: nobody else copies or offers what it
+/// holds.
+[[nodiscard]] bool isStagingName(std::string_view name);
 
 /// Where the records of this user's transfers are kept.
 [[nodiscard]] std::vector<std::string> recordPlaces();

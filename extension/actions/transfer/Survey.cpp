@@ -1,6 +1,7 @@
 #include "extension/actions/transfer/Survey.h"
 
 #include "extension/actions/transfer/FolderEntries.h"
+#include "extension/actions/transfer/Staging.h"
 
 #include <algorithm>
 #include <array>
@@ -158,6 +159,8 @@ void Survey::lookAt(int folder, const char* name)
     struct stat status = {};
     if (m_calls.status(folder, name, status) != 0)
         return refuse(Problem::Kind::SourceUnusable, name, errno);
+    if (S_ISDIR(status.st_mode) && m_depth > 0 && isStagingName(name))
+        return;
     ++m_files;
     if (std::string_view(name).size() > m_target.longestName())
         return refuse(Problem::Kind::NameTooLong, name);

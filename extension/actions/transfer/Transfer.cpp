@@ -50,7 +50,7 @@ SharedPath shared(SharedPath& last, const std::string& path)
 Transfer::Transfer(SystemCalls& calls, StagingRecord& record, OpenFolderOf openFolderOf, Progress& progress,
                    Asked& asked)
     : m_calls(calls), m_record(record), m_openFolderOf(std::move(openFolderOf)), m_progress(progress), m_asked(asked),
-      m_copier(calls, progress, m_result.problems)
+      m_copier(calls, progress, m_result.problems), m_attributes(calls)
 {}
 
 std::string Transfer::firstPlaced() const
@@ -219,6 +219,7 @@ bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
     if (resolution == Resolution::Skip && task.isOuter)
         ++m_result.skipped;
     task.resolution = resolution;
+    task.existing = LinuxDesktop::FileStamp::of(existing);
     return resolution != Resolution::Cancel && resolution != Resolution::Skip;
 }
 
@@ -235,18 +236,21 @@ void Transfer::merge(const Task& task)
         fail(task, errno);
         return;
     }
+    Emptied emptied{.path = source->path, .status = std::make_shared<const struct stat>(task.status), .extended = {}};
+    if (m_isMove)
+        static_cast<void>(m_attributes.read(source->get(), emptied.extended));
     FolderEntries entries(m_calls, source->descriptor);
     while (const char* name = m_isStopped || m_progress.cancelled ? nullptr : entries.next()) {
         Task inner{.source = source, .name = name, .target = target, .newName = name};
         if (m_calls.status(source->get(), name, inner.status) != 0)
             fail(inner, errno);
-        else
+        else if (!S_ISDIR(inner.status.st_mode) || !isStagingName(name))
             transfer(std::move(inner));
     }
     if (entries.error() != 0)
         fail(task, entries.error());
     if (m_isMove)
-        m_toBeEmptied.push_back({source->path, task.status.st_mode & 07777U});
+        m_toBeEmptied.push_back(std::move(emptied));
     if (task.isOuter)
         ++m_result.done;
 }
@@ -395,8 +399,10 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
     }
     struct stat existing = {};
     if (task.resolution == Resolution::Replace && staging) {
-        const bool wasFolder =
-            m_calls.status(target.folder, target.name.c_str(), existing) == 0 && S_ISDIR(existing.st_mode);
+        const bool isThere = m_calls.status(target.folder, target.name.c_str(), existing) == 0;
+        if (isThere && LinuxDesktop::FileStamp::of(existing) != task.existing)
+            return placeAnew(task, existing, item, staging, free);
+        const bool wasFolder = isThere && S_ISDIR(existing.st_mode);
         const Place old{m_stagings[*staging].get(), free};
         const Replacing replacing = placeInstead(m_calls, item, target, isFolder, old);
         if (replacing == Replacing::Replaced)
@@ -409,6 +415,12 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
     // Somebody was quicker.
     if (errno != EEXIST || m_calls.status(target.folder, target.name.c_str(), existing) != 0)
         return false;
+    return placeAnew(task, existing, item, staging, free);
+}
+
+bool Transfer::placeAnew(Task& task, const struct stat& existing, const Place& item,
+                         const std::optional<std::size_t>& staging, const std::string& free)
+{
     if (!decide(task, existing, false)) {
         errno = 0;
         return false;
@@ -462,11 +474,11 @@ bool Transfer::flushChanged()
 
 void Transfer::removeEmptied()
 {
-    for (const Emptied& folder : m_toBeEmptied) {
+    for (Emptied& folder : m_toBeEmptied) {
         const FileDescriptor parent = m_openFolderOf(folder.path);
         // What was left in it keeps it.
         if (parent && m_calls.remove(parent.get(), nameOf(folder.path).c_str(), AT_REMOVEDIR) == 0)
-            m_journal.emplace_back(folder);
+            m_journal.emplace_back(std::move(folder));
     }
     m_toBeEmptied.clear();
 }

@@ -7,6 +7,7 @@
 #include "extension/actions/transfer/Progress.h"
 #include "extension/actions/transfer/Staging.h"
 #include "extension/actions/transfer/Survey.h"
+#include "platform/linux/system/FileStamp.h"
 
 #include <array>
 #include <chrono>
@@ -77,6 +78,8 @@ private:
         bool isOuter = false;
         /// What was decided about the name; Cancel as long as it is free.
         Resolution resolution = Resolution::Cancel;
+        /// What had the name when that was decided.
+        LinuxDesktop::FileStamp existing = {};
     };
     /// A copy that is whole and waits to be flushed.
     struct Staged {
@@ -115,6 +118,9 @@ private:
     /// False, with errno, which is 0 where it was decided that the item stays.
     [[nodiscard]] bool place(Task& task, const Place& item, const std::optional<std::size_t>& staging,
                              const std::string& free);
+    /// The same where something has the name that nothing was decided about.
+    [[nodiscard]] bool placeAnew(Task& task, const struct stat& existing, const Place& item,
+                                 const std::optional<std::size_t>& staging, const std::string& free);
     void notePlaced(const Task& task, const Identity& identity, bool isMoved);
     void noteChanged(const SharedFolder& folder);
     [[nodiscard]] bool flushChanged();
@@ -122,6 +128,7 @@ private:
 
     [[nodiscard]] std::vector<Returning> bringOutReplaced(Problems& problems);
     [[nodiscard]] std::string placeOf(const Placed& placed, std::vector<Returning>& returning) const;
+    [[nodiscard]] bool restore(const Emptied& emptied);
 
     [[nodiscard]] std::optional<std::size_t> stagingFor(const SharedFolder& target);
     void fail(const Task& task, int error);
@@ -134,6 +141,7 @@ private:
     Asked& m_asked;
     Result m_result;
     TreeCopier m_copier;
+    AttributeCopier m_attributes;
     std::optional<Target> m_target;
     bool m_isMove = false;
     bool m_flushesTogether = false;

@@ -132,17 +132,29 @@ std::string Transfer::placeOf(const Placed& placed, std::vector<Returning>& retu
     return pathOf(*placed.targetFolder, placed.targetName);
 }
 
+/// Gives a folder that was made anew, and has all its items by now, what it had beside them.
+bool Transfer::restore(const Emptied& emptied)
+{
+    const FileDescriptor folder = m_calls.open(AT_FDCWD, emptied.path.c_str(), O_RDONLY | O_DIRECTORY);
+    struct stat made = {};
+    return folder && m_calls.status(folder.get(), "", made) == 0 &&
+           m_attributes.give(*emptied.status, emptied.extended, folder.get(), made);
+}
+
 Result Transfer::undo(const MoveToTrash& moveToTrash)
 {
     Result result;
     MovesByFolder moves;
+    std::vector<const Emptied*> made;
     m_progress.cancelled = false;
     std::vector<Returning> returning = bringOutReplaced(result.problems);
     for (std::size_t left = m_journal.size(); left > 0; --left) {
         const auto& step = m_journal[left - 1];
         if (const auto* emptied = std::get_if<Emptied>(&step)) {
             // Those above come first, since they were emptied last.
-            if (::mkdir(emptied->path.c_str(), emptied->mode) != 0 && errno != EEXIST)
+            if (::mkdir(emptied->path.c_str(), (emptied->status->st_mode & 0777U) | S_IRWXU) == 0)
+                made.push_back(emptied);
+            else if (errno != EEXIST)
                 result.problems.add({Problem::Kind::NotUndone, emptied->path, errno});
             continue;
         }
@@ -172,6 +184,12 @@ Result Transfer::undo(const MoveToTrash& moveToTrash)
         result.done += moved.done;
         for (const Problem& problem : moved.problems.kept())
             result.problems.add(problem);
+    }
+    // Those within others come first, since others may be closed afterwards.
+    std::ranges::reverse(made);
+    for (const Emptied* emptied : made) {
+        if (!restore(*emptied))
+            result.problems.add({Problem::Kind::NotUndone, emptied->path, errno});
     }
     for (const Returning& item : returning) {
         const FileDescriptor folder = openFolder(*item.replaced->folder);

@@ -107,6 +107,15 @@ TEST_F(FolderWalkTest, HiddenEmptyAndSystemFilesAreAChoice)
               (Names{"usual", ".hidden", ".hidden file", ".hidden folder/a", "listed/a", "listed too"}));
 }
 
+TEST_F(FolderWalkTest, OffersNothingThatATransferKeepsForItsUndo)
+{
+    m_folder.folder(".orvik-menu-0123456789abcdef");
+    m_folder.folder(".orvik-menu-pictures");
+    m_folder.file(".orvik-menu-0123456789abcdef/1", 1);
+    m_folder.file(".orvik-menu-pictures/1", 1);
+    EXPECT_EQ(collected({.hidden = true, .system = true}), Names{".orvik-menu-pictures/1"});
+}
+
 TEST_F(FolderWalkTest, AHiddenFolderThatWasAskedForIsLookedInto)
 {
     m_folder.folder(".config");

@@ -2,10 +2,13 @@
 #include "support/Files.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <optional>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <tuple>
 #include <unistd.h>
 
@@ -246,6 +249,26 @@ TEST_P(Transfers, MergeFoldersSoThatNothingIsLeft)
     EXPECT_EQ(namesIn(target() / "album/deep"), (std::vector<std::string>{"old"}));
 }
 
+TEST_P(Transfers, GiveMergedFoldersBackAsTheyWere)
+{
+    const fs::path album = source() / "album";
+    file(album / "deep/new");
+    file(target() / "album/deep/old");
+    constexpr std::array old{timespec{1'000'000'000, 5}, timespec{1'000'000'000, 5}};
+    for (const fs::path& each : {album / "deep", album}) {
+        // Where the file system has them.
+        static_cast<void>(::setxattr(each.c_str(), "user.orvik", "a value", 7, 0));
+        fs::permissions(each, fs::perms(01777));
+        ASSERT_EQ(::utimensat(AT_FDCWD, each.c_str(), old.data(), 0), 0);
+    }
+    const Tree before = treeOf(album);
+    answers.always = {Resolution::Merge, true};
+    expectDone(run({album}));
+    expectAtSource(album, !isMove());
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(treeOf(album), before);
+}
+
 TEST_P(Transfers, AskOnceForAllTheRestOfAKind)
 {
     std::vector<fs::path> items;
@@ -258,6 +281,36 @@ TEST_P(Transfers, AskOnceForAllTheRestOfAKind)
     EXPECT_EQ(answers.asked.size(), 1U);
     for (const char* name : {"1", "2", "3"})
         EXPECT_EQ(contentOf(target() / name), "new");
+}
+
+TEST_P(Transfers, ReplaceNothingButWhatWasAskedAbout)
+{
+    const std::vector items{file(source() / "1", "new"), file(source() / "2", "new")};
+    file(target() / "1", "old");
+    file(target() / "2", "old");
+    // While the first questions are open.
+    answers.each = [&](const Conflict& conflict) {
+        if (S_ISDIR(conflict.target.status.st_mode))
+            return Decision{Resolution::KeepBoth};
+        if (conflict.target.status.st_size > 3)
+            return Decision{Resolution::Skip};
+        if (conflict.target.path.ends_with('1')) {
+            fs::remove(target() / "1");
+            file(target() / "1/another", "precious");
+        } else {
+            file(target() / "2", "written meanwhile");
+        }
+        return Decision{Resolution::Replace};
+    };
+    const Result result = run(items);
+    EXPECT_EQ(answers.asked.size(), 4U);
+    EXPECT_EQ(result.done, 1U);
+    EXPECT_EQ(result.skipped, 1U);
+    EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"1", "1 2", "2"}));
+    EXPECT_EQ(contentOf(target() / "1/another"), "precious");
+    EXPECT_EQ(contentOf(target() / "1 2"), "new");
+    EXPECT_EQ(contentOf(target() / "2"), "written meanwhile");
+    EXPECT_EQ(contentOf(items[1]), "new");
 }
 
 TEST_P(Transfers, EndWhereAQuestionIsCancelled)
@@ -362,6 +415,75 @@ TEST_P(Transfers, GoTogetherWithOthersToTheSameFolder)
     EXPECT_EQ(answers.asked.size(), 1U);
     EXPECT_EQ(contentOf(target() / "name"), "one");
     EXPECT_EQ(contentOf(target() / "name 2"), "other");
+}
+
+/// A folder with what somebody else keeps for an undo in it.
+class Kept {
+public:
+    Kept(SystemCalls& calls, const fs::path& folder, const fs::path& records)
+        : m_record(calls, {records}),
+          m_staging(Staging::make(
+              calls, shareFolder(calls, calls.open(AT_FDCWD, folder.c_str(), O_RDONLY | O_DIRECTORY), folder),
+              m_record)),
+          m_name(namesIn(folder).at(0))
+    {
+        Files::write(folder / m_name / "1", "kept");
+    }
+    [[nodiscard]] const std::string& name() const { return m_name; }
+
+private:
+    StagingRecord m_record;
+    std::optional<Staging> m_staging;
+    std::string m_name;
+};
+
+TEST_P(Transfers, LeaveWhatIsKeptForAnUndoToItsOwner)
+{
+    const fs::path album = folder(source() / "album");
+    {
+        const Kept kept(systemCalls, album, records());
+        file(album / "photo");
+        file(album / "deep/photo");
+        const Result result = run({album});
+        if (isMove() && !isBetweenTwo()) {
+            // It goes with the folder, and its owner has it open.
+            EXPECT_EQ(contentOf(target() / "album" / kept.name() / "1"), "kept");
+        } else {
+            EXPECT_EQ(namesIn(target() / "album"), (std::vector<std::string>{"deep", "photo"}));
+            EXPECT_EQ(contentOf(album / kept.name() / "1"), "kept");
+            EXPECT_EQ(kindsOf(result), isMove() ? std::vector{Kind::NotRemoved} : std::vector<Kind>{});
+            EXPECT_EQ(namesIn(album).size(), isMove() ? 1U : 3U);
+        }
+        EXPECT_EQ(progress.files, progress.totalFiles);
+    }
+    forget();
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, MergeNothingThatIsKeptForAnUndo)
+{
+    const fs::path album = folder(source() / "album");
+    file(target() / "album/old");
+    {
+        const Kept kept(systemCalls, album, records());
+        file(album / "photo");
+        answers.always = {Resolution::Merge};
+        expectDone(run({album}));
+        EXPECT_EQ(namesIn(target() / "album"), (std::vector<std::string>{"old", "photo"}));
+        EXPECT_EQ(contentOf(album / kept.name() / "1"), "kept");
+    }
+    forget();
+    expectNoLeftovers();
+}
+
+TEST_P(Transfers, TakeAPersonsOwnItemsOfASimilarName)
+{
+    file(source() / "album/.orvik-menu-pictures/1", "own");
+    file(source() / "album/.orvik-menu-0123456789abcdef", "own");
+    expectDone(run({source() / "album"}));
+    EXPECT_EQ(contentOf(target() / "album/.orvik-menu-pictures/1"), "own");
+    EXPECT_EQ(contentOf(target() / "album/.orvik-menu-0123456789abcdef"), "own");
+    expectAtSource(source() / "album", !isMove());
 }
 
 class Copies : public TransferTest {};

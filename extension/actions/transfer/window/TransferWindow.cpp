@@ -9,6 +9,7 @@
 #include "platform/linux/text/PluralCount.h"
 #include "platform/linux/text/SizeText.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -61,6 +62,10 @@ TransferWindow::TransferWindow() : m_pages(new QStackedLayout(this))
     m_wordsPage = makeWordsPage();
     for (QWidget* page : {m_progressPage, m_conflictPage, m_wordsPage})
         m_pages->addWidget(page);
+    for (const QWidget* page : {m_conflictPage, m_wordsPage}) {
+        for (QPushButton* button : page->findChildren<QPushButton*>())
+            button->installEventFilter(this);
+    }
     closeByKeyboard(*this);
 }
 
@@ -240,6 +245,13 @@ void TransferWindow::closeEvent(QCloseEvent* event)
         emit cancelled();
 }
 
+/// The second press of a double click was meant for the page before.
+bool TransferWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isPress = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    return (isPress && !m_unseen.hasExpired()) || QWidget::eventFilter(watched, event);
+}
+
 void TransferWindow::decide(Resolution resolution)
 {
     emit decided({resolution, m_forAll->isChecked()});
@@ -260,6 +272,9 @@ void TransferWindow::turnTo(QWidget* page)
 void TransferWindow::open(QWidget* page, QWidget* focused)
 {
     turnTo(page);
+    // In place of another.
+    if (isVisible())
+        m_unseen.setRemainingTime(QApplication::doubleClickInterval());
     show();
     raise();
     activateWindow();

@@ -3,6 +3,7 @@
 #include "extension/actions/transfer/Conflict.h"
 #include "extension/actions/window/ProgressRow.h"
 
+#include <QDeadlineTimer>
 #include <QStringList>
 #include <QWidget>
 
@@ -46,6 +47,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* makeProgressPage();
@@ -81,6 +83,8 @@ private:
     QPushButton* m_showItem;
     QPushButton* m_close;
     bool m_isAtEnd = false;
+    /// Until then nobody can have seen what the page in front asks.
+    QDeadlineTimer m_unseen;
 };
 
 } // namespace MenuExtension::Transfers
