@@ -42,14 +42,17 @@ bool liesIn(std::string_view path, std::string_view folder)
 
 bool isShown(const Mount& mount, const std::string& home)
 {
-    // What is not mounted yet, a place of the desktop's own, and the memory.
-    constexpr std::array<std::string_view, 4> hidden = {"autofs", "fuse.gvfsd-fuse", "ramfs", "tmpfs"};
+    // One is not mounted yet, the other a place of the desktop's own.
+    constexpr std::array<std::string_view, 2> hidden = {"autofs", "fuse.gvfsd-fuse"};
     if (std::ranges::find(hidden, mount.type) != hidden.end() || mount.folder == "/" || liesIn(home, mount.folder) ||
         mount.folder.find("/.") != std::string::npos)
         return false;
     constexpr std::array<std::string_view, 3> places = {"/media", "/run/media", "/mnt"};
+    // Memory is no disk, but where a person has put it into the home.
+    const bool isMemory = mount.type == "tmpfs" || mount.type == "ramfs";
     return mount.isNetwork() || liesIn(mount.folder, home) ||
-           std::ranges::any_of(places, [&](std::string_view place) { return liesIn(mount.folder, place); });
+           (!isMemory &&
+            std::ranges::any_of(places, [&](std::string_view place) { return liesIn(mount.folder, place); }));
 }
 
 QStringList iconsOf(const Mount& mount)
