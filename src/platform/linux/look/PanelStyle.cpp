@@ -21,7 +21,11 @@ namespace LinuxDesktop {
 
 namespace {
 
+/// Below this width the tabs stand closer together.
 constexpr int narrowWindow = 470;
+constexpr int narrowTabSpace = 6;
+/// Of a button's arrow that tells of its menu.
+constexpr int menuArrowExtent = 16;
 constexpr int boxExtent = 18;
 /// Between a checkbox and its text.
 constexpr int boxSpacing = 8;
@@ -477,13 +481,12 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_IndicatorHeight:
         return boxExtent;
     case PM_MenuButtonIndicator:
-        return 16;
+        return menuArrowExtent;
     case PM_CheckBoxLabelSpacing:
         return boxSpacing;
     case PM_TabBarTabHSpace:
         // All five shall be in sight, also where a screen has no more room.
-        return widget && widget->window()->width() < narrowWindow ? ControlPainting::tabPadding - 2
-                                                                  : 2 * ControlPainting::tabPadding;
+        return widget && widget->window()->width() < narrowWindow ? narrowTabSpace : 2 * ControlPainting::tabPadding;
     // Of a slider: its knob, and the ring around that.
     case PM_SliderLength:
         return sliderKnobExtent;

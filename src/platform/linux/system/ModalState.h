@@ -8,7 +8,7 @@
 namespace LinuxDesktop {
 
 /// Whether a modal panel is running. Panels hold a Session while they run; whoever must not act meanwhile asks
-/// active() and is told when the last session ended. Main thread.
+/// active() and is told when the last one has gone. Main thread.
 class ModalState {
 public:
     using Callback = std::function<void()>;
@@ -29,7 +29,7 @@ public:
     };
 
     [[nodiscard]] bool active() const { return m_depth > 0; }
-    /// Calls `ended` at the end of every last session, as long as the caller keeps what it gets. It must return to
+    /// Calls `ended` whenever the last panel has gone, as long as the caller keeps what it gets. It must return to
     /// the event loop before it runs another panel.
     [[nodiscard]] std::shared_ptr<const Callback> whenEnded(Callback ended)
     {
