@@ -33,6 +33,8 @@ struct Replaced {
     std::string name;
     std::size_t staging;
     std::string keptName;
+    /// As it was in its place.
+    Identity identity;
     bool isFolder;
 };
 

@@ -274,7 +274,7 @@ bool Transfer::rename(Task& task)
             fail(task, errno);
         return true;
     }
-    notePlaced(task, identityOf(task.status), true);
+    notePlaced(task, true);
     noteChanged(task.source);
     ++m_progress.files;
     return true;
@@ -359,16 +359,13 @@ void Transfer::placeStaged(std::size_t number)
         drop(staged);
         return;
     }
-    struct stat placed = {};
-    if (m_calls.status(task.target->get(), task.newName.c_str(), placed) != 0)
-        placed = {};
     if (staged.finalMode) {
         const FileDescriptor folder = m_calls.open(task.target->get(), task.newName.c_str(), O_RDONLY | O_DIRECTORY);
         if (!folder || m_calls.setMode(folder.get(), *staged.finalMode) != 0)
             m_result.problems.add({Problem::Kind::NotTransferred, task.source->pathOf(task.name), errno});
     }
     m_placed.emplace_back(number, m_journal.size());
-    notePlaced(task, identityOf(placed), false);
+    notePlaced(task, false);
 }
 
 void Transfer::removeOriginals()
@@ -406,8 +403,8 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
         const Place old{m_stagings[*staging].get(), free};
         const Replacing replacing = placeInstead(m_calls, item, target, isFolder, old);
         if (replacing == Replacing::Replaced)
-            m_journal.emplace_back(
-                Replaced{shared(m_lastTarget, task.target->path), task.newName, *staging, free, wasFolder});
+            m_journal.emplace_back(Replaced{shared(m_lastTarget, task.target->path), task.newName, *staging, free,
+                                            identityOf(existing), wasFolder});
         return replacing != Replacing::Failed;
     }
     if (placeNew(m_calls, item, target, isFolder))
@@ -431,13 +428,17 @@ bool Transfer::placeAnew(Task& task, const struct stat& existing, const Place& i
     return made && place(task, item, made, m_stagings[*made].newName());
 }
 
-void Transfer::notePlaced(const Task& task, const Identity& identity, bool isMoved)
+void Transfer::notePlaced(const Task& task, bool isMoved)
 {
+    // Some file systems give an item another number on its way.
+    struct stat placed = {};
+    if (m_calls.status(task.target->get(), task.newName.c_str(), placed) != 0)
+        placed = {};
     m_journal.emplace_back(Placed{.sourceFolder = shared(m_lastSource, task.source->path),
                                   .sourceName = task.name,
                                   .targetFolder = shared(m_lastTarget, task.target->path),
                                   .targetName = task.newName,
-                                  .identity = identity,
+                                  .identity = identityOf(placed),
                                   .isFolder = S_ISDIR(task.status.st_mode),
                                   .isMoved = isMoved});
     noteChanged(task.target);

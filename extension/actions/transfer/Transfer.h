@@ -94,7 +94,6 @@ private:
         const Replaced* replaced;
         /// Its name beside its place; empty where it could not come out.
         std::string spare;
-        Identity identity;
     };
 
     [[nodiscard]] bool prepare(const Order& order);
@@ -121,7 +120,7 @@ private:
     /// The same where something has the name that nothing was decided about.
     [[nodiscard]] bool placeAnew(Task& task, const struct stat& existing, const Place& item,
                                  const std::optional<std::size_t>& staging, const std::string& free);
-    void notePlaced(const Task& task, const Identity& identity, bool isMoved);
+    void notePlaced(const Task& task, bool isMoved);
     void noteChanged(const SharedFolder& folder);
     [[nodiscard]] bool flushChanged();
     void removeEmptied();

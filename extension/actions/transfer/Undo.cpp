@@ -89,7 +89,7 @@ std::vector<Transfer::Returning> Transfer::bringOutReplaced(Problems& problems)
         const auto* replaced = std::get_if<Replaced>(&step);
         if (!replaced)
             continue;
-        Returning item{.replaced = replaced, .spare = {}, .identity = {}};
+        Returning item{.replaced = replaced, .spare = {}};
         const FileDescriptor folder = openFolder(*replaced->folder);
         const Place kept{m_stagings[replaced->staging].get(), replaced->keptName};
         if (folder)
@@ -100,8 +100,6 @@ std::vector<Transfer::Returning> Transfer::bringOutReplaced(Problems& problems)
             // Its folder has gone, say. It is wanted all the same.
             static_cast<void>(placeBeside(m_calls, kept, {m_stagings[replaced->staging].parent(), replaced->name},
                                           replaced->isFolder, m_target->longestName()));
-        } else {
-            item.identity = identityAt(m_calls, *replaced->folder, item.spare).value_or(Identity());
         }
         returning.push_back(std::move(item));
     }
@@ -113,7 +111,7 @@ std::vector<Transfer::Returning> Transfer::bringOutReplaced(Problems& problems)
 std::string Transfer::placeOf(const Placed& placed, std::vector<Returning>& returning) const
 {
     const auto isBeside = [&](const Returning& item) {
-        return !item.spare.empty() && placed.identity != Identity() && item.identity == placed.identity &&
+        return !item.spare.empty() && placed.identity != Identity() && item.replaced->identity == placed.identity &&
                *item.replaced->folder == *placed.targetFolder && item.replaced->name == placed.targetName;
     };
     if (const auto beside = std::ranges::find_if(returning, isBeside); beside != returning.end()) {

@@ -699,6 +699,28 @@ TEST_P(UnusualTransfers, ManageWithoutTheNewerKindsOfRenaming)
     }
 }
 
+/// Some file systems of a network tell the second name of a file from its first.
+TEST_P(UnusualTransfers, AreUndoneWhereAnItemIsAnotherByAnotherName)
+{
+    unusual.canExchange = unusual.canRenameNew = false;
+    unusual.changeStatus = [&](const std::string&, struct stat& status) {
+        struct stat placed = {};
+        if (::lstat((target() / "item").c_str(), &placed) == 0 && placed.st_dev == status.st_dev &&
+            placed.st_ino == status.st_ino)
+            status.st_ino += 1;
+    };
+    file(source() / "one/item", "first");
+    file(source() / "other/item", "second");
+    const Tree before = treeOf(source(), false);
+    answers.always = {Resolution::Replace};
+    expectDone(run({source() / "one/item", source() / "other/item"}), 2);
+    EXPECT_EQ(contentOf(target() / "item"), "second");
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    forget();
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+    EXPECT_EQ(treeOf(source(), false), before);
+}
+
 TEST_P(UnusualTransfers, NeitherOverwriteWhatComesMeanwhile)
 {
     unusual.canRenameNew = false;
