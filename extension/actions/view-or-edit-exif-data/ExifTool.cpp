@@ -52,8 +52,13 @@ bool ExifTool::start()
     if (!path || !input.writing || !output.reading || !complaints.reading)
         return false;
     // Without what the user has added to the program, which could change what is read here.
+    std::vector<std::string> command{*path, "-config", "", "-stay_open", "True", "-@", "-"};
+    // Where this program is killed it would wait for more to do for ever.
+    const auto endsWithParent = Command::find("setpriv");
+    if (endsWithParent)
+        command.insert(command.begin(), {"setpriv", "--pdeathsig", "KILL"});
     m_process = Command::start(
-        *path, {program, "-config", "", "-stay_open", "True", "-@", "-"}, Command::environment(),
+        endsWithParent.value_or(*path), std::move(command), Command::environment(),
         {.input = input.reading.get(), .output = output.writing.get(), .complaints = complaints.writing.get()});
     if (!m_process)
         return false;

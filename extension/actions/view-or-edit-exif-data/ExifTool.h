@@ -21,7 +21,7 @@ struct Limits {
 };
 
 /// ExifTool as a process that is kept open, started with the first run, and again after one that it did not come back
-/// from. One thread at a time.
+/// from. One thread, with which the process ends, also where it is killed.
 class ExifTool {
 public:
     enum class End {

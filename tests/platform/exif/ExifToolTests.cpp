@@ -6,7 +6,10 @@
 #include <chrono>
 #include <csignal>
 #include <fstream>
+#include <sys/prctl.h>
+#include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 using namespace MenuExtension::Exif;
@@ -44,6 +47,29 @@ TEST_F(ExifToolTest, OneProcessAnswersOneAfterTheOther)
     const auto failure = tool.run({"/nowhere/x.jpg"}, {});
     EXPECT_EQ(failure.output, "");
     EXPECT_TRUE(failure.complaints.starts_with("Error: File not found")) << failure.complaints;
+}
+
+TEST_F(ExifToolTest, DoesNotOutliveAnActionThatIsKilled)
+{
+    // What the action leaves behind becomes a child of this one.
+    ASSERT_EQ(::prctl(PR_SET_CHILD_SUBREAPER, 1), 0);
+    const pid_t action = ::fork();
+    if (action == 0) {
+        ExifTool tool;
+        if (tool.run({"-ver"}, {}).end == ExifTool::End::Done)
+            ::raise(SIGKILL);
+        ::_exit(1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(action, &status, 0), action);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    pid_t left = 0;
+    for (int tries = 0; tries < 500 && left == 0; ++tries) {
+        left = ::waitpid(-1, &status, WNOHANG);
+        std::this_thread::sleep_for(10ms);
+    }
+    ::prctl(PR_SET_CHILD_SUBREAPER, 0);
+    EXPECT_GT(left, 0);
 }
 
 TEST_F(ExifToolTest, WithoutTheProgramItSaysSo)
