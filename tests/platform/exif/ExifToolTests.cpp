@@ -2,6 +2,7 @@
 
 #include "extension/actions/view-or-edit-exif-data/ExifTool.h"
 #include "extension/actions/view-or-edit-exif-data/Merged.h"
+#include "support/ProgramPath.h"
 
 #include <chrono>
 #include <csignal>
@@ -21,19 +22,15 @@ namespace {
 /// Programs in the place of ExifTool.
 class ExifToolTest : public PhotosTest {
 protected:
-    ExifToolTest() : m_path(std::getenv("PATH")) {}
-    ~ExifToolTest() override { ::setenv("PATH", m_path.c_str(), 1); }
-
-    void replaceExifTool(const std::string& script) const
+    void replaceExifTool(const std::string& script)
     {
         fs::create_directories(outside() / "bin");
         Files::write(outside() / "bin/exiftool", "#!/bin/sh\n" + script);
         fs::permissions(outside() / "bin/exiftool", fs::perms::owner_all);
-        ::setenv("PATH", ((outside() / "bin").native() + ':' + m_path).c_str(), 1);
+        programs.set((outside() / "bin").native() + ':' + programs.before());
     }
 
-private:
-    std::string m_path;
+    ProgramPath programs;
 };
 
 } // namespace
@@ -74,14 +71,14 @@ TEST_F(ExifToolTest, DoesNotOutliveAnActionThatIsKilled)
 
 TEST_F(ExifToolTest, WithoutTheProgramItSaysSo)
 {
-    ::setenv("PATH", "/nowhere", 1);
+    programs.set("/nowhere");
     EXPECT_FALSE(ExifTool::isInstalled());
     EXPECT_EQ(read(photo("jpg")).trouble.kind, Kind::NoExifTool);
 }
 
 TEST_F(ExifToolTest, AProcessThatHangsIsEndedInTimeAndStartedAgain)
 {
-    replaceExifTool("PATH='" + std::string(std::getenv("PATH")) + "'\nif [ -e '" + (outside() / "again").native() +
+    replaceExifTool("PATH='" + programs.before() + "'\nif [ -e '" + (outside() / "again").native() +
                     "' ]; then exec exiftool \"$@\"; fi\n: > '" + (outside() / "again").native() +
                     "'\nexec sleep 100\n");
     ExifTool tool({.time = 500ms});
@@ -145,7 +142,7 @@ TEST_F(ExifToolTest, AFileThatIsNotReadDoesNoHarmToTheOthers)
 TEST_F(ExifToolTest, APhotoThatItDoesNotComeBackFromDoesNoHarmToThoseWrittenWithIt)
 {
     // It ends over one of them when that is half written.
-    replaceExifTool("PATH='" + std::string(std::getenv("PATH")) + "'\nall='" + (outside() / "all").native() +
+    replaceExifTool("PATH='" + programs.before() + "'\nall='" + (outside() / "all").native() +
                     "'$$\n: > \"$all\"\nwhile IFS= read -r line; do case $line in\n-execute*)\n"
                     "  exiftool -config '' -@ \"$all\"\n"
                     "  if grep -qx -e -o \"$all\"; then for one in $(grep '[.]jpg$' \"$all\"); do\n"

@@ -2,10 +2,10 @@
 #include "extension/companion/OfferedActions.h"
 
 #include "support/Files.h"
+#include "support/ProgramPath.h"
 
 #include <QTemporaryDir>
 
-#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <systemd/sd-event.h>
@@ -23,7 +23,6 @@ protected:
     {
         fs::create_directory(programs);
         fs::create_directory(system);
-        ::setenv("PATH", ("relative:" + system.string() + ":/nonexistent").c_str(), 1);
     }
 
     static void makeProgram(const fs::path& path)
@@ -44,6 +43,7 @@ protected:
     const fs::path root{temporary.path().toStdString()};
     const fs::path programs = root / "programs";
     const fs::path system = root / "system";
+    const ProgramPath path{"relative:" + system.string() + ":/nonexistent"};
     const std::vector<MenuItem> items{{"Resize Photos", true}, {"Open Terminal", true}, {"Resize Photos", true}};
 };
 

@@ -1,6 +1,7 @@
 #include "extension/filemanagers/Places.h"
 
-#include <cstdlib>
+#include "support/ProgramPath.h"
+
 #include <gtest/gtest.h>
 
 using namespace MenuExtension;
@@ -9,12 +10,8 @@ namespace {
 
 std::vector<std::string> programFoldersWith(const char* path)
 {
-    const char* variable = std::getenv("PATH");
-    const std::string before = variable ? variable : "";
-    ::setenv("PATH", path, 1);
-    const Places places = usualPlaces();
-    ::setenv("PATH", before.c_str(), 1);
-    return places.programFolders;
+    const ProgramPath programs{path};
+    return usualPlaces().programFolders;
 }
 
 } // namespace
