@@ -16,8 +16,9 @@ AUTOSTART = f"autostart/{EXTENSION}.desktop"
 
 
 def processes_of(program, environment_mark):
-    """The processes of a program that were started for one person, by an entry of their environment."""
-    found = []
+    """The processes of a program that were started for one person, by an entry of their environment. What such a
+    process has made to start another program is that program soon, and not counted."""
+    found = {}
     for entry in os.listdir("/proc"):
         if not entry.isdigit():
             continue
@@ -26,10 +27,11 @@ def processes_of(program, environment_mark):
                 variables = file.read().split(b"\0")
             if (os.path.basename(os.readlink(f"/proc/{entry}/exe")) == program
                     and os.fsencode(environment_mark) in variables):
-                found.append(int(entry))
+                with open(f"/proc/{entry}/stat", encoding="ascii", errors="replace") as file:
+                    found[int(entry)] = int(file.read().rpartition(")")[2].split()[1])
         except OSError:
             continue
-    return found
+    return [process for process, parent in found.items() if parent not in found]
 
 
 class Companion:
