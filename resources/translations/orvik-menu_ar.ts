@@ -2779,6 +2779,18 @@
         <source>There was 1 more like these.</source>
         <translation>وهناك مشكلة واحدة أخرى مماثلة.</translation>
     </message>
+    <message>
+        <source>A part of %1 was moved to %2.</source>
+        <translation>نُقل جزء من %1 إلى %2.</translation>
+    </message>
+    <message>
+        <source>A part of %1 was copied to %2.</source>
+        <translation>نُسخ جزء من %1 إلى %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not put back.</source>
+        <translation>لم يُعَد %1 إلى مكانه.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

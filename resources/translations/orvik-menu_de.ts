@@ -2667,6 +2667,18 @@
         <source>There was 1 more like these.</source>
         <translation>Es gab 1 weiteres Problem dieser Art.</translation>
     </message>
+    <message>
+        <source>A part of %1 was moved to %2.</source>
+        <translation>Ein Teil von %1 wurde nach %2 verschoben.</translation>
+    </message>
+    <message>
+        <source>A part of %1 was copied to %2.</source>
+        <translation>Ein Teil von %1 wurde nach %2 kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 was not put back.</source>
+        <translation>%1 wurde nicht zurückgelegt.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

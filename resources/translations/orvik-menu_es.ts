@@ -2667,6 +2667,18 @@
         <source>There was 1 more like these.</source>
         <translation>Hubo 1 problema más como estos.</translation>
     </message>
+    <message>
+        <source>A part of %1 was moved to %2.</source>
+        <translation>Se ha movido una parte de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>A part of %1 was copied to %2.</source>
+        <translation>Se ha copiado una parte de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not put back.</source>
+        <translation>%1 no se ha devuelto a su lugar.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

@@ -2667,6 +2667,18 @@
         <source>There was 1 more like these.</source>
         <translation>Il y a eu 1 autre problème du même genre.</translation>
     </message>
+    <message>
+        <source>A part of %1 was moved to %2.</source>
+        <translation>Une partie de %1 a été déplacée vers %2.</translation>
+    </message>
+    <message>
+        <source>A part of %1 was copied to %2.</source>
+        <translation>Une partie de %1 a été copiée vers %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not put back.</source>
+        <translation>%1 n’a pas été remis en place.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

@@ -2639,6 +2639,18 @@
         <source>There was 1 more like these.</source>
         <translation>另有 1 个类似问题。</translation>
     </message>
+    <message>
+        <source>A part of %1 was moved to %2.</source>
+        <translation>已将%1的一部分移动到%2。</translation>
+    </message>
+    <message>
+        <source>A part of %1 was copied to %2.</source>
+        <translation>已将%1的一部分复制到%2。</translation>
+    </message>
+    <message>
+        <source>%1 was not put back.</source>
+        <translation>%1未放回原处。</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

@@ -203,6 +203,51 @@ class MoveAndCopy(TransferTestCase):
         self.action.wait_for_end()
         self.assertEqual(self.contents(), before)
 
+    def answer(self, name, button):
+        self.window = self.action.active_window(f"There is a file “{name}” in “album” already.")
+        self.press(button)
+
+    def asked_about(self, names):
+        title = self.action.windows()[0].name
+        return next((name for name in names if title == f"There is a file “{name}” in “album” already."), None)
+
+    def test_of_a_merged_folder_it_is_said_how_much_of_it_is_there(self):
+        self.start()
+        names = ("a", "b")
+        for replaced, words in ((names, "“album” was moved to “to”."), ("a", "A part of “album” was moved to “to”."),
+                                ((), None)):
+            with self.subTest(replaced=replaced):
+                for name in names:
+                    self.make("from/album/" + name), self.make("to/album/" + name, b"old")
+                self.open_window(MOVE, os.path.join(self.home.files, "from/album"),
+                                 title="There is a folder “album” in “to” already.")
+                self.press("Merge")
+                first = eventually(lambda: self.asked_about(names), "a question")
+                second, = set(names) - {first}
+                for name in (first, second):
+                    self.answer(name, "Replace" if name in replaced else "Skip")
+                if words:
+                    told = self.notifications.only()
+                    self.assertEqual(told["words"], words)
+                    self.notifications.dismiss(told)
+                self.action.wait_for_end()
+                self.assertEqual(self.notifications.shown(), [])
+
+    def test_an_undo_that_is_cancelled_says_what_is_not_back(self):
+        self.start()
+        paths = [self.make(f"from/{number}") for number in range(2000)]
+        self.run_action(COPY, *paths)
+        told = self.notifications.only()
+        self.notifications.press(told, "undo")
+        self.window = self.action.active_window("Putting everything back")
+        self.hands.press("Escape")
+        self.window = self.action.active_window("Not everything could be put back.")
+        left = os.listdir(self.target)
+        self.assertTrue(left)
+        self.assertIn(f"“{min(left, key=lambda name: -int(name))}” was not put back.", " ".join(self.labels()))
+        self.hands.press("Escape")
+        self.action.wait_for_end()
+
     def test_what_cannot_be_done_is_said_before_anything_is_written(self):
         self.start()
         self.make("to/inner"), self.make("from/one")

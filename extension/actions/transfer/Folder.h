@@ -2,6 +2,7 @@
 
 #include "extension/actions/transfer/SystemCalls.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <utility>
@@ -25,6 +26,7 @@ struct Folder {
     LinuxDesktop::FileDescriptor descriptor;
     std::string path;
     Identity identity;
+    std::uint64_t mount = 0;
 
     [[nodiscard]] int get() const { return descriptor.get(); }
     [[nodiscard]] std::string pathOf(const std::string& name) const { return (path == "/" ? "" : path) + '/' + name; }
@@ -40,7 +42,8 @@ using SharedFolder = std::shared_ptr<const Folder>;
     struct stat status = {};
     if (!opened || calls.status(opened.get(), "", status) != 0)
         return nullptr;
-    return std::make_shared<const Folder>(Folder{std::move(opened), std::move(path), identityOf(status)});
+    const std::uint64_t mount = calls.mount(opened.get());
+    return std::make_shared<const Folder>(Folder{std::move(opened), std::move(path), identityOf(status), mount});
 }
 
 } // namespace MenuExtension::Transfers

@@ -22,6 +22,15 @@ struct Progress {
     std::atomic<std::uint64_t> totalBytes = 0;
     /// Set to leave it: what is not whole goes, what is done stays.
     std::atomic<bool> cancelled = false;
+
+    /// For something new to do.
+    void start(std::uint64_t files)
+    {
+        cancelled = false;
+        this->files = bytes = totalBytes = 0;
+        totalFiles = files;
+        phase = Phase::Working;
+    }
 };
 
 } // namespace MenuExtension::Transfers

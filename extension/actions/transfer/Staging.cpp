@@ -198,6 +198,8 @@ std::optional<Staging> Staging::make(SystemCalls& calls, const SharedFolder& tar
         errno = error;
         return std::nullopt;
     }
+    // Else copies would get rights from the target that their originals do not give.
+    static_cast<void>(calls.removeAttribute(folder.get(), "system.posix_acl_default"));
     return Staging(calls, record, target, std::move(name), std::move(folder));
 }
 

@@ -47,6 +47,12 @@ int SystemCalls::fileSystem(int file, struct statfs& status)
     return untilNotInterrupted([&] { return ::fstatfs(file, &status); });
 }
 
+std::uint64_t SystemCalls::mount(int file)
+{
+    struct statx status = {};
+    return ::statx(file, "", AT_EMPTY_PATH, STATX_MNT_ID, &status) == 0 ? status.stx_mnt_id : 0;
+}
+
 const dirent* SystemCalls::nextEntry(DIR* folder)
 {
     errno = 0;
@@ -151,6 +157,11 @@ ssize_t SystemCalls::attribute(int file, const char* name, void* value, std::siz
 int SystemCalls::setAttribute(int file, const char* name, const void* value, std::size_t size)
 {
     return ::fsetxattr(file, name, value, size, 0);
+}
+
+int SystemCalls::removeAttribute(int file, const char* name)
+{
+    return ::fremovexattr(file, name);
 }
 
 int SystemCalls::flush(int file)

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <dirent.h>
 #include <sys/stat.h>
 #include <sys/types.h>
@@ -25,6 +26,9 @@ public:
     [[nodiscard]] virtual LinuxDesktop::FileDescriptor open(int folder, const char* name, int flags, mode_t mode = 0);
     [[nodiscard]] virtual int status(int folder, const char* name, struct stat& status);
     [[nodiscard]] virtual int fileSystem(int file, struct statfs& status);
+    /// Which mount an open item was reached by: one file system may have several, between which nothing can be
+    /// renamed. 0 where the system does not tell.
+    [[nodiscard]] virtual std::uint64_t mount(int file);
     /// The next entry of a folder; null at its end, and with errno where it cannot be read.
     [[nodiscard]] virtual const dirent* nextEntry(DIR* folder);
 
@@ -52,6 +56,7 @@ public:
     [[nodiscard]] virtual ssize_t listAttributes(int file, char* names, std::size_t size);
     [[nodiscard]] virtual ssize_t attribute(int file, const char* name, void* value, std::size_t size);
     [[nodiscard]] virtual int setAttribute(int file, const char* name, const void* value, std::size_t size);
+    [[nodiscard]] virtual int removeAttribute(int file, const char* name);
 
     /// A file or a folder. A file system that has no such operation for folders counts as having done it.
     [[nodiscard]] virtual int flush(int file);

@@ -75,6 +75,7 @@ Result Transfer::run(const Order& order)
             Task task{.source = folderOf(item.path), .name = nameOf(item.path), .target = m_target->folder()};
             task.newName = item.newName.empty() ? task.name : item.newName;
             task.isOuter = true;
+            m_isPartLeft = false;
             if (!task.source || m_calls.status(task.source->get(), task.name.c_str(), task.status) != 0)
                 m_result.problems.add({Problem::Kind::SourceUnusable, item.path, errno});
             else
@@ -92,6 +93,7 @@ Result Transfer::run(const Order& order)
     if (std::ranges::none_of(m_journal, [](const auto& step) { return std::holds_alternative<Replaced>(step); }))
         m_stagings.clear();
     m_result.isCancelled = m_progress.cancelled;
+    m_result.isInPart = m_result.done == 0 && !m_journal.empty();
     return m_result;
 }
 
@@ -150,7 +152,8 @@ bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t
         return refuse(Problem::Kind::NameTooLong);
     if (m_isMove && ::faccessat(folder->get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
         return refuse(Problem::Kind::CannotLeave, errno);
-    if (m_isMove && folder->identity.device == m_target->folder()->identity.device) {
+    if (m_isMove && folder->identity.device == m_target->folder()->identity.device &&
+        folder->mount == m_target->folder()->mount) {
         ++m_progress.totalFiles;
         return true;
     }
@@ -218,6 +221,7 @@ bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
         m_progress.cancelled = true;
     if (resolution == Resolution::Skip && task.isOuter)
         ++m_result.skipped;
+    m_isPartLeft |= resolution == Resolution::Skip;
     task.resolution = resolution;
     task.existing = LinuxDesktop::FileStamp::of(existing);
     return resolution != Resolution::Cancel && resolution != Resolution::Skip;
@@ -251,7 +255,7 @@ void Transfer::merge(const Task& task)
         fail(task, entries.error());
     if (m_isMove)
         m_toBeEmptied.push_back(std::move(emptied));
-    if (task.isOuter)
+    if (task.isOuter && !m_isPartLeft && !m_isStopped && !m_progress.cancelled)
         ++m_result.done;
 }
 

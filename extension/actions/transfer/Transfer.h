@@ -12,8 +12,10 @@
 #include <array>
 #include <chrono>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace MenuExtension::Transfers {
@@ -43,6 +45,8 @@ struct Result {
     /// Those that the person wanted to be left.
     std::size_t skipped = 0;
     Problems problems;
+    /// No item is there as a whole, but a part of one.
+    bool isInPart = false;
     /// Nothing was written: the problems say why.
     bool isRefused = false;
     bool isCancelled = false;
@@ -60,7 +64,7 @@ public:
     [[nodiscard]] Result run(const Order& order);
 
     /// Puts everything back: what was moved is moved back, what was copied goes to the trash, what was replaced comes
-    /// back. Once.
+    /// back. Once. Where it is cancelled the problems say of what is not back.
     [[nodiscard]] Result undo(const MoveToTrash& moveToTrash);
     [[nodiscard]] bool canBeUndone() const { return !m_journal.empty(); }
     /// The first item that came to the target, by its path there; empty where none did.
@@ -95,6 +99,8 @@ private:
         /// Its name beside its place; empty where it could not come out.
         std::string spare;
     };
+    /// Items that go back, by the folder that they go back to.
+    using MovesByFolder = std::map<std::string_view, Order>;
 
     [[nodiscard]] bool prepare(const Order& order);
     [[nodiscard]] bool lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t& room);
@@ -127,7 +133,9 @@ private:
 
     [[nodiscard]] std::vector<Returning> bringOutReplaced(Problems& problems);
     [[nodiscard]] std::string placeOf(const Placed& placed, std::vector<Returning>& returning) const;
+    void moveBack(MovesByFolder& moves, Result& result);
     [[nodiscard]] bool restore(const Emptied& emptied);
+    void putInPlace(const Returning& item, Problems& problems) const;
 
     [[nodiscard]] std::optional<std::size_t> stagingFor(const SharedFolder& target);
     void fail(const Task& task, int error);
@@ -146,6 +154,8 @@ private:
     bool m_flushesTogether = false;
 
     bool m_isStopped = false;
+    /// Something in the present item of the order was left, as the person wished.
+    bool m_isPartLeft = false;
     std::vector<bool> m_isImpossible;
 
     SharedFolder m_lastFolder;

@@ -67,8 +67,8 @@ public:
     [[nodiscard]] bool goesOnWithout(const Problems&) override { return true; }
 };
 
-/// Items that go back to one folder.
-using MovesByFolder = std::map<std::string_view, Order>;
+/// So many take little memory at once.
+constexpr std::size_t mostMovedBackAtOnce = 10'000;
 
 std::optional<Identity> identityAt(SystemCalls& calls, const std::string& folder, const std::string& name)
 {
@@ -139,12 +139,37 @@ bool Transfer::restore(const Emptied& emptied)
            m_attributes.give(*emptied.status, emptied.extended, folder.get(), made);
 }
 
+/// Moves items back to where they were; of those that it was told to leave it is said that they are not there.
+void Transfer::moveBack(MovesByFolder& moves, Result& result)
+{
+    for (const auto& [folder, order] : moves) {
+        // They are counted anew, with what is in them.
+        m_progress.totalFiles -= order.items.size();
+        KeepingBoth asked;
+        Transfer back(
+            m_calls, m_record, [](const std::string& item) { return openFolder(LinuxDesktop::parentFolder(item)); },
+            m_progress, asked);
+        const Result moved = back.run(order);
+        result.done += moved.done;
+        for (const Problem& problem : moved.problems.kept())
+            result.problems.add(problem);
+        struct stat status = {};
+        for (const Order::Item& item : order.items) {
+            if (moved.isCancelled && m_calls.status(AT_FDCWD, item.path.c_str(), status) == 0)
+                result.problems.add({Problem::Kind::NotUndone, item.path, ECANCELED});
+        }
+    }
+    moves.clear();
+}
+
 Result Transfer::undo(const MoveToTrash& moveToTrash)
 {
     Result result;
     MovesByFolder moves;
+    std::size_t gathered = 0;
     std::vector<const Emptied*> made;
-    m_progress.cancelled = false;
+    m_progress.start(
+        std::ranges::count_if(m_journal, [](const auto& step) { return std::holds_alternative<Placed>(step); }));
     std::vector<Returning> returning = bringOutReplaced(result.problems);
     for (std::size_t left = m_journal.size(); left > 0; --left) {
         const auto& step = m_journal[left - 1];
@@ -161,46 +186,50 @@ Result Transfer::undo(const MoveToTrash& moveToTrash)
             continue;
         const std::string path = placeOf(*placed, returning);
         if (path.empty()) {
+            --m_progress.totalFiles;
             result.problems.add({Problem::Kind::NotUndone, pathOf(*placed->targetFolder, placed->targetName)});
         } else if (placed->isMoved || (m_isMove && placed->isFolder)) {
             Order& order = moves[*placed->sourceFolder];
             order.isMove = true;
             order.target = *placed->sourceFolder;
             order.items.push_back({path, placed->sourceName});
+            if (++gathered % mostMovedBackAtOnce == 0)
+                moveBack(moves, result);
+        } else if (m_progress.cancelled) {
+            result.problems.add({Problem::Kind::NotUndone, path, ECANCELED});
         } else if (auto words = moveToTrash(path)) {
             result.problems.add({Problem::Kind::NotTrashed, path, 0, *std::move(words)});
         } else {
+            ++m_progress.files;
             ++result.done;
         }
     }
-    for (const auto& [folder, order] : moves) {
-        KeepingBoth asked;
-        Transfer back(
-            m_calls, m_record, [](const std::string& item) { return openFolder(LinuxDesktop::parentFolder(item)); },
-            m_progress, asked);
-        const Result moved = back.run(order);
-        result.done += moved.done;
-        for (const Problem& problem : moved.problems.kept())
-            result.problems.add(problem);
-    }
+    moveBack(moves, result);
     // Those within others come first, since others may be closed afterwards.
     std::ranges::reverse(made);
     for (const Emptied* emptied : made) {
         if (!restore(*emptied))
             result.problems.add({Problem::Kind::NotUndone, emptied->path, errno});
     }
-    for (const Returning& item : returning) {
-        const FileDescriptor folder = openFolder(*item.replaced->folder);
-        // Where its name is taken by now it stays beside what has it.
-        if (!item.spare.empty() &&
-            (!folder || (!placeNew(m_calls, {folder.get(), item.spare}, {folder.get(), item.replaced->name},
-                                   item.replaced->isFolder) &&
-                         errno != EEXIST)))
-            result.problems.add(
-                {Problem::Kind::NotUndone, pathOf(*item.replaced->folder, item.replaced->name), errno});
-    }
+    for (const Returning& item : returning)
+        putInPlace(item, result.problems);
     m_journal.clear();
+    result.isCancelled = m_progress.cancelled;
     return result;
+}
+
+/// What was replaced gets its name. Where that is taken by now it stays beside what has it.
+void Transfer::putInPlace(const Returning& item, Problems& problems) const
+{
+    const Replaced& replaced = *item.replaced;
+    const FileDescriptor folder = openFolder(*replaced.folder);
+    if (item.spare.empty() ||
+        (folder && placeNew(m_calls, {folder.get(), item.spare}, {folder.get(), replaced.name}, replaced.isFolder)))
+        return;
+    if (m_progress.cancelled)
+        problems.add({Problem::Kind::NotUndone, pathOf(*replaced.folder, item.spare), ECANCELED});
+    else if (!folder || errno != EEXIST)
+        problems.add({Problem::Kind::NotUndone, pathOf(*replaced.folder, replaced.name), errno});
 }
 
 } // namespace MenuExtension::Transfers

@@ -4,8 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
+#include <cstring>
 #include <fcntl.h>
 #include <optional>
+#include <set>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -218,7 +221,9 @@ TEST_P(Transfers, MergeFolders)
                : conflict.source.path.ends_with("deep/both") ? Decision{Resolution::Skip}
                                                              : Decision{Resolution::Replace};
     };
-    expectDone(run({source() / "album"}));
+    const Result result = run({source() / "album"});
+    expectDone(result, 0);
+    EXPECT_TRUE(result.isInPart);
     EXPECT_EQ(answers.asked.size(), 3U);
     EXPECT_EQ(namesIn(target() / "album"), (std::vector<std::string>{"both", "deep", "new", "old"}));
     EXPECT_EQ(contentOf(target() / "album/both"), "newer");
@@ -233,6 +238,39 @@ TEST_P(Transfers, MergeFolders)
     EXPECT_EQ(treeOf(source(), false), sourceBefore);
     EXPECT_EQ(treeOf(target(), false), targetBefore);
     expectNoLeftovers();
+}
+
+TEST_P(Transfers, AreNoneWhereAllOfAMergedFolderIsLeft)
+{
+    file(source() / "album/both", "newer");
+    file(target() / "album/both", "old");
+    for (const Resolution resolution : {Resolution::Skip, Resolution::Cancel}) {
+        answers.each = [&](const Conflict& conflict) {
+            return Decision{conflict.canMerge ? Resolution::Merge : resolution};
+        };
+        const Result result = run({source() / "album"});
+        EXPECT_EQ(result.done, 0U);
+        EXPECT_FALSE(result.isInPart);
+        EXPECT_EQ(contentOf(source() / "album/both"), "newer");
+        EXPECT_EQ(contentOf(target() / "album/both"), "old");
+    }
+}
+
+TEST_P(Transfers, OfPartsOfFoldersComeBackManyAtATime)
+{
+    constexpr int many = 10'050;
+    for (int number = 0; number < many; ++number)
+        file(source() / "album" / std::to_string(number), "");
+    file(target() / "album/old", "old");
+    answers.always = {Resolution::Merge};
+    expectDone(run({source() / "album"}));
+    const Result undone = undo();
+    EXPECT_EQ(kindsOf(undone), std::vector<Kind>{});
+    EXPECT_EQ(undone.done, static_cast<std::size_t>(many));
+    EXPECT_EQ(progress.files, static_cast<std::uint64_t>(many));
+    EXPECT_EQ(progress.totalFiles, static_cast<std::uint64_t>(many));
+    EXPECT_EQ(namesIn(source() / "album").size(), static_cast<std::size_t>(many));
+    EXPECT_EQ(namesIn(target() / "album"), std::vector<std::string>{"old"});
 }
 
 TEST_P(Transfers, MergeFoldersSoThatNothingIsLeft)
@@ -572,7 +610,13 @@ public:
     bool canExchange = true;
     bool canRenameNew = true;
     bool canLink = true;
+    bool hasMountsByFolder = false;
 
+    std::uint64_t mount(int file) override
+    {
+        struct stat status = {};
+        return hasMountsByFolder && ::fstat(file, &status) == 0 ? status.st_ino : SystemCalls::mount(file);
+    }
     int fileSystem(int file, struct statfs& status) override
     {
         const int result = SystemCalls::fileSystem(file, status);
@@ -719,6 +763,61 @@ TEST_P(UnusualTransfers, AreUndoneWhereAnItemIsAnotherByAnotherName)
     forget();
     EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
     EXPECT_EQ(treeOf(source(), false), before);
+}
+
+TEST_P(UnusualTransfers, SayWhatIsNotBackWhereTheUndoIsCancelled)
+{
+    std::vector<fs::path> items;
+    for (const char* name : {"1", "2", "3"})
+        items.push_back(file(source() / name, name));
+    file(target() / "1", "old");
+    answers.always = {Resolution::Replace};
+    expectDone(run(items), items.size());
+    unusual.changeStatus = [&](const std::string&, struct stat&) {
+        const auto isBack = [](const fs::path& item) { return fs::exists(item); };
+        progress.cancelled =
+            progress.cancelled || !trashed.empty() || (isMove() && std::ranges::any_of(items, isBack));
+    };
+    const Result undone = undo();
+    EXPECT_TRUE(undone.isCancelled);
+    std::set<std::string> told;
+    for (const Problem& problem : undone.problems.kept()) {
+        EXPECT_EQ(problem.kind, Kind::NotUndone);
+        EXPECT_EQ(problem.error, ECANCELED);
+        told.insert(problem.path);
+    }
+    EXPECT_FALSE(told.empty());
+    forget();
+    std::set<std::string> left;
+    for (const std::string& name : namesIn(target()))
+        left.insert((target() / name).native());
+    EXPECT_EQ(told, left);
+    for (const fs::path& item : items)
+        EXPECT_EQ(fs::exists(item), !isMove() || !told.contains((target() / item.filename()).native())) << item;
+}
+
+TEST_P(UnusualTransfers, AreCountedBetweenTwoMountsOfOneFileSystem)
+{
+    for (const char* name : {"folder/1", "folder/2", "folder/3"})
+        file(source() / name);
+    unusual.hasMountsByFolder = true;
+    expectDone(run({source() / "folder"}));
+    EXPECT_EQ(progress.totalFiles, 3U);
+}
+
+TEST_P(Transfers, GiveNobodyRightsThatTheTargetGives)
+{
+    // Version 2; the kind, the rights and the user of each entry.
+    constexpr std::array<std::uint32_t, 11> everythingForNobody{
+        2, 0x70001, 0xffffffff, 0x70002, 65534, 0x50004, 0xffffffff, 0x70010, 0xffffffff, 0x50020, 0xffffffff};
+    if (::setxattr(target().c_str(), "system.posix_acl_default", everythingForNobody.data(),
+                   sizeof everythingForNobody, 0) != 0)
+        GTEST_FAIL() << strerrorname_np(errno);
+    fs::permissions(file(source() / "folder/item"), fs::perms(0640));
+    expectDone(run({source() / "folder"}));
+    std::array<char, 256> names{};
+    for (const char* name : {"folder", "folder/item"})
+        EXPECT_EQ(::listxattr((target() / name).c_str(), names.data(), names.size()), 0) << name << names.data();
 }
 
 TEST_P(UnusualTransfers, NeitherOverwriteWhatComesMeanwhile)

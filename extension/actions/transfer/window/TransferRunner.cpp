@@ -175,7 +175,7 @@ void TransferRunner::end()
     const Result& result = m_work.result();
     const QStringList problems = Words::problems(m_isMove, result.problems);
     m_words = Words::done(m_isMove, m_request.paths, m_target, result);
-    if (result.isCancelled && result.done == 0) {
+    if (result.isCancelled && result.done == 0 && !result.isInPart) {
         quit();
     } else if (result.isRefused && !m_isAnswered) {
         // Whoever asked tells it.
@@ -186,7 +186,7 @@ void TransferRunner::end()
                                           : m_words,
                          problems, m_work.canBeUndone(), m_work.canBeUndone());
         showWindow();
-    } else if (result.done == 0) {
+    } else if (result.done == 0 && !result.isInPart) {
         quit();
     } else {
         tell(m_isMove ? tr("Moved") : tr("Copied"));

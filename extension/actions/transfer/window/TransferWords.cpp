@@ -61,6 +61,10 @@ QString doing(bool isMove, const std::vector<std::string>& paths, const std::str
 
 QString done(bool isMove, const std::vector<std::string>& paths, const std::string& target, const Result& result)
 {
+    if (result.isInPart)
+        return (isMove ? Transfer::tr("A part of %1 was moved to %2.")
+                       : Transfer::tr("A part of %1 was copied to %2."))
+            .arg(items(paths), name(target));
     if (result.done == paths.size() && paths.size() == 1)
         return (isMove ? Transfer::tr("%1 was moved to %2.") : Transfer::tr("%1 was copied to %2."))
             .arg(name(paths.front()), name(target));
@@ -112,6 +116,8 @@ QString problem(bool isMove, const Problem& problem)
                    : Transfer::tr("%1 was copied, but not all of it could be removed from where it was: %2.")
                          .arg(item, why);
     case Kind::NotUndone:
+        if (problem.error == ECANCELED)
+            return Transfer::tr("%1 was not put back.").arg(item);
         return problem.error == 0
                    ? Transfer::tr("%1 could not be put back, since it is not where it was put.").arg(item)
                    : Transfer::tr("%1 could not be put back: %2.").arg(item, why);
