@@ -4,10 +4,10 @@
 #include "extension/actions/transfer/Folder.h"
 
 #include <cstddef>
+#include <deque>
 #include <memory>
 #include <string>
 #include <variant>
-#include <vector>
 
 namespace MenuExtension::Transfers {
 
@@ -46,7 +46,7 @@ struct Emptied {
     AttributeCopier::Extended extended;
 };
 
-/// What was done, in its order.
-using Journal = std::vector<std::variant<Placed, Replaced, Emptied>>;
+/// What was done, in its order. There may be very many: it grows without a second copy of it.
+using Journal = std::deque<std::variant<Placed, Replaced, Emptied>>;
 
 } // namespace MenuExtension::Transfers
