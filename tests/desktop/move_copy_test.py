@@ -109,6 +109,22 @@ class MoveAndCopy(TransferTestCase):
         self.assertEqual(self.contents(self.target), {"name.txt": b"old content"})
         self.assertTrue(os.path.exists(path))
 
+    def test_a_question_about_a_long_name_is_as_wide_as_any_and_says_all_of_it(self):
+        self.start()
+        self.conflict(COPY)
+        width = self.window.extents.width
+        self.hands.press("Escape")
+        self.action.wait_for_end()
+        name = "n" * 251 + ".txt"
+        self.conflict(COPY, name)
+        self.save_picture("copy-conflict-long-name")
+        self.assertEqual(self.window.extents.width, width)
+        self.assertReadsWell(self.window)
+        self.assertIn(f"There is a file “{name}” in “to” already.", self.labels())
+        self.press("Keep Both")
+        self.notifications.only()
+        self.assertEqual(len(self.contents(self.target)), 3)
+
     def test_a_question_about_pictures_shows_what_is_in_them(self):
         self.start()
         for folder, colour in (("from", "#ff0000"), ("to", "#0000ff")):

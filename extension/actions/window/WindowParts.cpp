@@ -1,5 +1,6 @@
 #include "extension/actions/window/WindowParts.h"
 
+#include "extension/actions/window/LongHeading.h"
 #include "platform/linux/accessibility/Accessibility.h"
 
 #include <QCoreApplication>
@@ -20,11 +21,18 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(WindowParts)
 };
 
-} // namespace
-
-QLabel* makeHeading(QWidget* parent)
+QLabel* setUpText(QLabel* text)
 {
-    QLabel* const heading = makeText(parent);
+    text->setTextFormat(Qt::PlainText);
+    // The toolkit puts a name in Latin letters on the left in every window.
+    text->setAlignment(QStyle::visualAlignment(text->layoutDirection(), Qt::AlignLeading) | Qt::AlignAbsolute |
+                       Qt::AlignVCenter);
+    return text;
+}
+
+QLabel* setUpHeading(QLabel* heading)
+{
+    setUpText(heading);
     QFont font = heading->font();
     font.setPointSizeF(font.pointSizeF() * 1.2);
     font.setWeight(QFont::DemiBold);
@@ -33,14 +41,21 @@ QLabel* makeHeading(QWidget* parent)
     return heading;
 }
 
+} // namespace
+
+QLabel* makeHeading(QWidget* parent)
+{
+    return setUpHeading(new QLabel(parent));
+}
+
+QLabel* makeLongHeading(QWidget* parent)
+{
+    return setUpHeading(new LongHeading(parent));
+}
+
 QLabel* makeText(QWidget* parent)
 {
-    auto* const text = new QLabel(parent);
-    text->setTextFormat(Qt::PlainText);
-    // The toolkit puts a name in Latin letters on the left in every window.
-    text->setAlignment(QStyle::visualAlignment(text->layoutDirection(), Qt::AlignLeading) | Qt::AlignAbsolute |
-                       Qt::AlignVCenter);
-    return text;
+    return setUpText(new QLabel(parent));
 }
 
 QLabel* makeParagraph(QWidget* parent)

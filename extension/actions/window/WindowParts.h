@@ -17,6 +17,8 @@ namespace MenuExtension {
 /// What a window or a page of it is about, in letters that say so; readers of the screen are told that it is a
 /// heading.
 [[nodiscard]] QLabel* makeHeading(QWidget* parent);
+/// The same in more lines than one where it is long, as the names in it may be.
+[[nodiscard]] QLabel* makeLongHeading(QWidget* parent);
 /// A text that is shown as it is.
 [[nodiscard]] QLabel* makeText(QWidget* parent);
 /// The same in more lines than one where it is long.

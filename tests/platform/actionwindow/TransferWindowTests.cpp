@@ -1,11 +1,16 @@
 #include "extension/actions/transfer/window/TransferWindow.h"
 
+#include "extension/actions/transfer/window/TransferWords.h"
+#include "platform/linux/look/FitToScreen.h"
+
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <string>
 #include <vector>
 
 namespace MenuExtension::Transfers {
@@ -23,11 +28,12 @@ protected:
     }
     ~TransferWindowTest() override { QApplication::setDoubleClickInterval(interval); }
 
-    void ask()
+    void ask(const std::string& folder = "to", const std::string& name = "name")
     {
         struct stat status = {};
         status.st_mode = S_IFREG | 0600;
-        window.ask({.source = {"/from/name", status}, .target = {"/to/name", status}});
+        const std::string target = "/" + folder + "/" + name;
+        window.ask({.source = {"/from/" + name, status}, .target = {target, status}});
     }
     [[nodiscard]] QPushButton* replace() const
     {
@@ -66,6 +72,59 @@ TEST_F(TransferWindowTest, TakesAClickOnTheNextQuestionThatCanHaveBeenSeen)
     clickReplace();
     EXPECT_EQ(decisions.size(), 2U);
 }
+
+class LongNames : public TransferWindowTest, public testing::WithParamInterface<std::string> {
+protected:
+    /// A page that says `words`, its title too, has the usual width, its buttons in sight, and room for the words.
+    void expectPage(const QString& words)
+    {
+        EXPECT_EQ(window.windowTitle(), words);
+        EXPECT_EQ(window.width(), 640);
+        EXPECT_LE(window.height(), LinuxDesktop::roomOnScreen(window).height());
+        for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+            if (button->isVisible()) {
+                EXPECT_TRUE(window.rect().contains(QRect(button->mapTo(&window, QPoint()), button->size())))
+                    << button->text().toStdString();
+            }
+        }
+        int headings = 0;
+        for (const QLabel* label : window.findChildren<QLabel*>()) {
+            if (!label->isVisible() || label->text() != words)
+                continue;
+            ++headings;
+            const QFontMetrics letters = label->fontMetrics();
+            EXPECT_GE(label->height() / letters.height() * label->width(), letters.horizontalAdvance(words));
+        }
+        EXPECT_EQ(headings, 1);
+    }
+};
+
+TEST_P(LongNames, LeaveTheQuestionAsWideAsItIs)
+{
+    ask(GetParam(), GetParam());
+    const QString name = Words::name(GetParam());
+    expectPage(QStringLiteral("There is a file %1 in %1 already.").arg(name));
+}
+
+TEST_P(LongNames, LeaveTheProgressAsWideAsItIs)
+{
+    const QString words = Words::doing(true, {"/from/" + GetParam()}, "/" + GetParam());
+    window.showProgress(words);
+    window.show();
+    expectPage(words);
+}
+
+TEST_P(LongNames, LeaveTheEndAsWideAsItIs)
+{
+    Result result;
+    result.done = 1;
+    const QString words = Words::done(true, {"/from/" + GetParam()}, "/" + GetParam(), result);
+    window.showEnd(words, {}, true, true);
+    expectPage(words);
+}
+
+INSTANTIATE_TEST_SUITE_P(TransferWindow, LongNames,
+                         testing::Values("name", std::string(64, 'n'), std::string(255, 'n'), std::string(255, 'W')));
 
 } // namespace
 

@@ -60,14 +60,14 @@ TransferRunner::~TransferRunner() = default;
 
 void TransferRunner::connectWork()
 {
-    connect(&m_work, &TransferWork::conflictMet, this, [this] {
+    connect(&m_work, &TransferWork::conflictMet, this, [this](const Conflict& conflict) {
         m_delay.stop();
-        m_window.ask(m_work.conflict());
+        m_window.ask(conflict);
         showWindow();
     });
-    connect(&m_work, &TransferWork::problemsFound, this, [this] {
+    connect(&m_work, &TransferWork::problemsFound, this, [this](const Problems& problems) {
         m_delay.stop();
-        m_window.askToGoOn(Words::problems(m_isMove, m_work.problems()));
+        m_window.askToGoOn(Words::problems(m_isMove, problems));
         showWindow();
     });
     connect(&m_window, &TransferWindow::decided, this, [this](const Decision& decision) {

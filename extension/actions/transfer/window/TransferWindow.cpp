@@ -5,6 +5,7 @@
 #include "extension/actions/transfer/window/TransferWords.h"
 #include "extension/actions/window/WindowParts.h"
 #include "platform/linux/accessibility/Accessibility.h"
+#include "platform/linux/look/FitToScreen.h"
 #include "platform/linux/system/ParentFolder.h"
 #include "platform/linux/text/PluralCount.h"
 #include "platform/linux/text/SizeText.h"
@@ -29,14 +30,6 @@ namespace {
 constexpr int initialWidth = 640;
 /// To make a file takes about as long as to copy so much.
 constexpr std::uint64_t bytesOfAFile = std::uint64_t{32} << 10U;
-
-/// The names of items are long.
-QLabel* makeLongHeading(QWidget* parent)
-{
-    QLabel* const heading = makeHeading(parent);
-    heading->setWordWrap(true);
-    return heading;
-}
 
 QPushButton* addButton(QHBoxLayout& row, const QString& title, QWidget* parent, bool isPrimary = false)
 {
@@ -265,8 +258,9 @@ void TransferWindow::turnTo(QWidget* page)
         each->setSizePolicy(policy, policy);
     }
     m_pages->setCurrentWidget(page);
-    const QSize size = isVisible() ? this->size() : QSize(initialWidth, 0);
-    resize(size.expandedTo({0, page->layout()->totalHeightForWidth(size.width())}));
+    const QSize room = LinuxDesktop::roomOnScreen(*this);
+    const QSize size = isVisible() ? this->size() : QSize(initialWidth, 0).boundedTo(room);
+    resize(size.expandedTo(QSize(0, page->layout()->totalHeightForWidth(size.width())).boundedTo(room)));
 }
 
 void TransferWindow::open(QWidget* page, QWidget* focused)

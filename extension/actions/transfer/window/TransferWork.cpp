@@ -93,16 +93,26 @@ void TransferWork::cancel()
 
 Decision TransferWork::decide(const Conflict& conflict)
 {
-    m_conflict = &conflict;
-    QMetaObject::invokeMethod(this, &TransferWork::conflictMet, Qt::QueuedConnection);
-    return waitForAnswer();
+    return ask(conflict, &TransferWork::conflictMet);
 }
 
 bool TransferWork::goesOnWithout(const Problems& problems)
 {
-    m_problems = &problems;
-    QMetaObject::invokeMethod(this, &TransferWork::problemsFound, Qt::QueuedConnection);
-    return waitForAnswer().resolution != Resolution::Cancel;
+    return ask(problems, &TransferWork::problemsFound).resolution != Resolution::Cancel;
+}
+
+template<class Matter>
+Decision TransferWork::ask(const Matter& matter, void (TransferWork::*question)(const Matter&))
+{
+    // A copy: where it is cancelled before the question has come, this thread has gone on.
+    QMetaObject::invokeMethod(
+        this,
+        [this, matter, question] {
+            if (!m_progress.cancelled)
+                emit(this->*question)(matter);
+        },
+        Qt::QueuedConnection);
+    return waitForAnswer();
 }
 
 Decision TransferWork::waitForAnswer()

@@ -36,9 +36,6 @@ public:
 
     [[nodiscard]] const Progress& progress() const { return m_progress; }
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
-    /// What is asked about.
-    [[nodiscard]] const Conflict& conflict() const { return *m_conflict; }
-    [[nodiscard]] const Problems& problems() const { return *m_problems; }
     /// How it ended.
     [[nodiscard]] const Result& result() const { return m_result; }
     [[nodiscard]] bool canBeUndone() const { return m_canBeUndone; }
@@ -46,15 +43,18 @@ public:
     [[nodiscard]] const std::string& firstPlaced() const { return m_firstPlaced; }
 
 signals:
-    void conflictMet();
+    // What is cancelled asks nothing more.
+    void conflictMet(const Conflict& conflict);
     /// Before anything is written: some items cannot be transferred.
-    void problemsFound();
+    void problemsFound(const Problems& problems);
     void finished();
     void undone();
 
 private:
     [[nodiscard]] Decision decide(const Conflict& conflict) override;
     [[nodiscard]] bool goesOnWithout(const Problems& problems) override;
+    template<class Matter>
+    [[nodiscard]] Decision ask(const Matter& matter, void (TransferWork::*question)(const Matter&));
     [[nodiscard]] Decision waitForAnswer();
     template<class Work>
     void run(Work work, void (TransferWork::*ended)());
@@ -73,9 +73,6 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_answered;
     std::optional<Decision> m_answer;
-    /// The thread that asks waits while they are looked at.
-    const Conflict* m_conflict = nullptr;
-    const Problems* m_problems = nullptr;
 };
 
 } // namespace MenuExtension::Transfers
