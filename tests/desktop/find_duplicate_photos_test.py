@@ -57,6 +57,13 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
         self.assertReadsWell(self.window)
         self.hands.press("Home")
         eventually(lambda: len(self.groups()) == 1, "the group again")
+        self.choose_by_rule("Down")
+        chosen = eventually(lambda: [label for label in self.labels() if label.startswith("Chosen: 1 photo")], "the choice")
+        self.go_to("Similarity")
+        self.hands.press("End")
+        self.assertTells("No two photos show the same.")
+        self.hands.press("Home")
+        self.assertTells(*chosen)
 
     def test_what_cannot_be_read_is_told_of_and_the_others_are_found(self):
         self.paint("a.jpg", 4)

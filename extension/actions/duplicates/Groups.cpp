@@ -38,7 +38,20 @@ GroupNumber Groups::add(std::uint64_t key, const std::vector<Item>& items)
         m_groups.add({.bytes = 0, .largest = 0, .first = none, .last = none, .count = 0, .chosen = 0});
     for (const Item& item : items)
         append(number, item);
+    if (!m_toChooseAgain.empty())
+        chooseAgain(number);
     return number;
+}
+
+/// One for which the group had too few items may be among those that were there.
+void Groups::chooseAgain(GroupNumber group)
+{
+    for (const ItemNumber number : itemsOf(group)) {
+        const Item added = item(number);
+        const auto found = m_toChooseAgain.find(added.path);
+        if (found != m_toChooseAgain.end() && found->second == added.state && setChosen(number, true))
+            m_toChooseAgain.erase(found);
+    }
 }
 
 void Groups::append(GroupNumber number, const Item& item)
@@ -88,6 +101,12 @@ std::uint32_t Groups::deviceIndex(dev_t device)
 
 void Groups::clear()
 {
+    for (ItemNumber number = 0; number < m_items.size(); ++number) {
+        if (!isChosen(number))
+            continue;
+        Item chosen = item(number);
+        m_toChooseAgain.insert_or_assign(std::move(chosen.path), chosen.state);
+    }
     m_texts.clear();
     m_items.clear();
     m_groups.clear();
@@ -240,6 +259,7 @@ void Groups::choose(const std::vector<GroupNumber>& groups, const KeepRule& rule
 
 void Groups::chooseNothing()
 {
+    m_toChooseAgain.clear();
     for (const StoredItem& item : m_items) {
         if (item.chosen)
             setChosen(static_cast<ItemNumber>(&item - m_items.begin()), false);

@@ -28,7 +28,8 @@ public:
         friend bool operator==(const Sum&, const Sum&) = default;
     };
 
-    /// Adds a group, or items to the one that was added under that key, where it is not 0. They are not chosen.
+    /// Adds a group, or items to the one that was added under that key, where it is not 0. They are not chosen, but
+    /// for those that were when all was cleared, and are the same still.
     GroupNumber add(std::uint64_t key, const std::vector<Item>& items);
     void clear();
     /// Forgets items that are gone. A group with one left is none any more.
@@ -84,6 +85,7 @@ private:
     };
 
     void append(GroupNumber group, const Item& item);
+    void chooseAgain(GroupNumber group);
     [[nodiscard]] std::uint64_t folderText(std::string_view folder);
     [[nodiscard]] std::uint32_t deviceIndex(dev_t device);
     [[nodiscard]] bool contains(GroupNumber group, std::string_view text) const;
@@ -99,6 +101,8 @@ private:
     /// Folders that were met lately.
     std::unordered_map<std::string, std::uint64_t> m_folders;
     Sum m_chosen;
+    /// Those that were chosen when all was cleared, and have not been added again.
+    std::unordered_map<std::string, FileState> m_toChooseAgain;
 };
 
 } // namespace MenuExtension::Duplicates

@@ -186,3 +186,28 @@ TEST(Groups, ForgetWhatHasGone)
     EXPECT_EQ(groups.bySaving().size(), 1);
     EXPECT_EQ(groups.chosen(), Groups::Sum()) << "the last of a group stays";
 }
+
+TEST(Groups, WhatWasChosenIsChosenAgainWhereItIsTheSame)
+{
+    Groups groups;
+    const Item same = itemAt("/same");
+    const Item lone = itemAt("/lone");
+    const Item changed = itemAt("/changed");
+    const auto choose = [&](GroupNumber group) {
+        EXPECT_TRUE(groups.setChosen(groups.itemsOf(group).front(), true));
+    };
+    choose(groups.add(0, {same, itemAt("/a")}));
+    choose(groups.add(0, {lone, itemAt("/b")}));
+    choose(groups.add(0, {changed, itemAt("/c")}));
+    groups.clear();
+    EXPECT_EQ(groups.chosen(), Groups::Sum());
+    EXPECT_EQ(chosenIn(groups, groups.add(0, {itemAt("/d"), same})), Paths{"/same"});
+    EXPECT_EQ(chosenIn(groups, groups.add(0, {itemAt("/changed"), itemAt("/c")})), Paths{});
+    // One always stays.
+    EXPECT_EQ(chosenIn(groups, groups.add(1, {lone})), Paths{});
+    EXPECT_EQ(chosenIn(groups, groups.add(1, {itemAt("/b")})), Paths{"/lone"});
+    EXPECT_EQ(groups.chosen().items, 2U);
+    groups.chooseNothing();
+    groups.clear();
+    EXPECT_EQ(chosenIn(groups, groups.add(0, {itemAt("/d"), same})), Paths{});
+}
