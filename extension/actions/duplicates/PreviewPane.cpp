@@ -36,8 +36,8 @@ QIcon iconOf(const Item& item)
 
 } // namespace
 
-PreviewPane::PreviewPane(const Presentation& presentation, QWidget* parent)
-    : QWidget(parent), m_presentation(presentation)
+PreviewPane::PreviewPane(Presentation presentation, QWidget* parent)
+    : QWidget(parent), m_presentation(std::move(presentation))
 {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
