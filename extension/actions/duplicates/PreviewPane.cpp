@@ -144,7 +144,7 @@ void PreviewPane::read(const std::stop_token& stop)
             if (m_presentation.picture)
                 preview.picture = m_presentation.picture(item.path, wish.pixels, stop);
             else
-                preview = readPreview(item.path, wish.pixels);
+                preview = readPreview(item.path, wish.pixels, stop);
             QMetaObject::invokeMethod(
                 this, [this, number = wish.number, index, item, preview] { show(number, index, item, preview); },
                 Qt::QueuedConnection);
