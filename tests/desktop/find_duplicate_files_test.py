@@ -241,6 +241,22 @@ class FindDuplicateFiles(DuplicatesWindowTestCase):
         self.hands.press("Escape")
         self.action.active_window(self.title)
 
+    def test_what_others_have_removed_leaves_the_list(self):
+        for name, contents in ("a", b"x"), ("c", b"yy"):
+            self.make(name + " stays", contents, modified=1_000_000_000)
+            self.make(name + " goes", contents, modified=1_500_000_000)
+        self.open()
+        self.assertTells("2 groups, 3 bytes could be saved")
+        self.choose_by_rule("Down")
+        self.assertTells("Chosen: 2 files, 3 bytes")
+        for name in "a stays", "c goes":
+            os.remove(os.path.join(self.home.files, name))
+        self.press_button("Move 2 Items to Trash")
+        self.assertTells("Moved to the trash: 0 files, 0 bytes")
+        self.assertTells("No two files hold the same.")
+        self.window.find("push button", "2 Items Were Left Out…")
+        self.assertEqual(self.left(), [b"a goes", b"c stays"])
+
     def test_what_cannot_be_looked_at_is_told_of_and_the_others_are_found(self):
         for name in "ab":
             self.make(name, b"x")

@@ -32,6 +32,7 @@
 #include <algorithm>
 #include <chrono>
 #include <mutex>
+#include <set>
 
 namespace MenuExtension::Duplicates {
 
@@ -54,6 +55,8 @@ struct DuplicatesWindow::RemovalState {
     std::mutex mutex;
     std::vector<ItemNumber> removed;
     std::vector<std::pair<ItemNumber, std::string>> kept;
+    /// Of the removal's thread, until that has ended.
+    std::set<ItemNumber> missing;
     /// Of the window's thread.
     std::uint64_t total = 0;
     QTimer timer;
@@ -358,17 +361,19 @@ void DuplicatesWindow::remove()
     m_progress->start(tr("Moving to the trash"));
     showChoice();
     m_removing = std::jthread([this, state = m_removal.get()](const std::stop_token& stop) {
-        removeChosen(
-            m_groups, m_presentation.removal,
-            [state](ItemNumber number) {
-                const std::scoped_lock lock(state->mutex);
-                state->removed.push_back(number);
-            },
-            [state](ItemNumber number, const std::string& why) {
-                const std::scoped_lock lock(state->mutex);
-                state->kept.emplace_back(number, why);
-            },
-            stop);
+        removeChosen(m_groups, m_presentation.removal,
+                     {.removed =
+                          [state](ItemNumber number) {
+                              const std::scoped_lock lock(state->mutex);
+                              state->removed.push_back(number);
+                          },
+                      .kept =
+                          [state](ItemNumber number, const std::string& why) {
+                              const std::scoped_lock lock(state->mutex);
+                              state->kept.emplace_back(number, why);
+                          },
+                      .missing = [state](ItemNumber number) { state->missing.insert(number); }},
+                     stop);
         QMetaObject::invokeMethod(this, &DuplicatesWindow::endRemoval, Qt::QueuedConnection);
     });
 }
@@ -397,6 +402,7 @@ void DuplicatesWindow::endRemoval()
     const auto group = m_itemsModel->group();
     selectGroup(std::nullopt);
     m_groups.forget(state->removed);
+    m_groups.forget({state->missing.begin(), state->missing.end()});
     m_itemsModel->setChangeable(true);
     m_progress->finish();
     if (m_isSearching)

@@ -47,7 +47,7 @@ struct Presentation {
     /// anew; what was found goes when the first of the new is there, or at its end. May be empty.
     std::function<QWidget*(QWidget* parent, const std::function<void()>& searchAgain)> makeControl = {};
     /// A picture of the file that fits into `pixels`; null for none. In a thread of its own, one at a time. Without
-    /// this, pictures are read as the toolkit does, and texts are shown by their beginning.
+    /// this, what is a picture by its name is read, and texts are shown by their beginning.
     std::function<QImage(const std::string& path, QSize pixels, const std::stop_token& stop)> picture = {};
     /// Whether the items of a group look different, so that the preview shows them side by side.
     bool isSideBySide = false;

@@ -1,13 +1,14 @@
 #include "extension/actions/duplicates/Preview.h"
 
+#include "extension/actions/window/PictureReading.h"
 #include "platform/linux/system/FileDescriptor.h"
 #include "platform/linux/text/FileNameText.h"
 
 #include <QFile>
-#include <QImageReader>
 #include <QStringDecoder>
 #include <QStringList>
 
+#include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -17,27 +18,19 @@ namespace {
 
 constexpr qsizetype longestText = 4096;
 constexpr qsizetype mostLines = 40;
-constexpr int mostMegabytes = 128;
 
-QImage readPicture(QFile& file, QSize pixels)
+QImage readPicture(const std::string& path, QSize pixels, const std::stop_token& stop)
 {
-    QImageReader::setAllocationLimit(mostMegabytes);
-    QImageReader reader(&file);
-    reader.setAutoTransform(true);
-    if (!reader.canRead())
+    const QString name = QString::fromStdString(path.substr(path.rfind('/') + 1));
+    if (!PictureReading::isPicture(name) || stop.stop_requested())
         return {};
-    QSize size = reader.size();
-    // The picture may be turned by a quarter.
-    const QSize room =
-        reader.transformation() & QImageIOHandler::TransformationRotate90 ? pixels.transposed() : pixels;
-    if (size.isValid() && (size.width() > room.width() || size.height() > room.height()))
-        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    return reader.read();
+    const QImage picture = PictureReading(path, std::max(pixels.width(), pixels.height())).wait(stop);
+    const bool fits = picture.width() <= pixels.width() && picture.height() <= pixels.height();
+    return fits ? picture : picture.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 QString readText(QFile& file)
 {
-    file.seek(0);
     const QByteArray beginning = file.read(longestText);
     QStringDecoder decode(QStringDecoder::Utf8);
     const QString text = decode(beginning);
@@ -51,7 +44,7 @@ QString readText(QFile& file)
 
 } // namespace
 
-Preview readPreview(const std::string& path, QSize pixels)
+Preview readPreview(const std::string& path, QSize pixels, const std::stop_token& stop)
 {
     const LinuxDesktop::FileDescriptor descriptor(
         ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
@@ -61,7 +54,7 @@ Preview readPreview(const std::string& path, QSize pixels)
     QFile file;
     if (!file.open(descriptor.get(), QIODevice::ReadOnly, QFileDevice::DontCloseHandle))
         return {};
-    Preview preview{.picture = readPicture(file, pixels), .text = {}};
+    Preview preview{.picture = readPicture(path, pixels, stop), .text = {}};
     if (preview.picture.isNull())
         preview.text = readText(file);
     return preview;

@@ -4,6 +4,7 @@
 #include <QSize>
 #include <QString>
 
+#include <stop_token>
 #include <string>
 
 namespace MenuExtension::Duplicates {
@@ -16,8 +17,8 @@ struct Preview {
     QString text;
 };
 
-/// The preview of an ordinary file, with a picture that fits into `pixels`. Neither very large pictures nor anything
-/// that would have to be waited for is opened. Any thread.
-[[nodiscard]] Preview readPreview(const std::string& path, QSize pixels);
+/// The preview of an ordinary file, with a picture that fits into `pixels`. Nothing that would have to be waited for
+/// is opened, and no picture is waited for after a request to stop. Any thread.
+[[nodiscard]] Preview readPreview(const std::string& path, QSize pixels, const std::stop_token& stop);
 
 } // namespace MenuExtension::Duplicates

@@ -36,8 +36,8 @@ QIcon iconOf(const Item& item)
 
 } // namespace
 
-PreviewPane::PreviewPane(const Presentation& presentation, QWidget* parent)
-    : QWidget(parent), m_presentation(presentation)
+PreviewPane::PreviewPane(Presentation presentation, QWidget* parent)
+    : QWidget(parent), m_presentation(std::move(presentation))
 {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -144,7 +144,7 @@ void PreviewPane::read(const std::stop_token& stop)
             if (m_presentation.picture)
                 preview.picture = m_presentation.picture(item.path, wish.pixels, stop);
             else
-                preview = readPreview(item.path, wish.pixels);
+                preview = readPreview(item.path, wish.pixels, stop);
             QMetaObject::invokeMethod(
                 this, [this, number = wish.number, index, item, preview] { show(number, index, item, preview); },
                 Qt::QueuedConnection);

@@ -24,7 +24,7 @@ public:
     /// How many there is room for.
     static constexpr std::size_t mostItems = 4;
 
-    explicit PreviewPane(const Presentation& presentation, QWidget* parent = nullptr);
+    explicit PreviewPane(Presentation presentation, QWidget* parent = nullptr);
     ~PreviewPane() override;
 
     /// At most `mostItems`. What was shown stays until it is replaced.
@@ -54,7 +54,8 @@ private:
     /// Its lines.
     [[nodiscard]] QStringList captionOf(const Item& item) const;
 
-    const Presentation& m_presentation;
+    /// Its own, since a window's members go before its children.
+    const Presentation m_presentation;
     std::vector<Tile> m_tiles;
     std::vector<Item> m_items;
     unsigned m_number = 0;

@@ -12,6 +12,7 @@
 #include <memory>
 #include <sys/file.h>
 #include <unistd.h>
+#include <utility>
 
 namespace MenuExtension::Duplicates {
 
@@ -40,19 +41,26 @@ ssize_t readBlock(int descriptor, char* block, off_t offset)
     return static_cast<ssize_t>(filled);
 }
 
+struct Opened {
+    FileDescriptor file;
+    /// Where there is none.
+    std::string why = {};
+    bool isMissing = false;
+};
+
 /// The file that was found, open for reading and unchanged; else why not.
-FileDescriptor openUnchanged(const Item& item, std::string& why)
+Opened openUnchanged(const Item& item)
 {
     // What is a pipe by now would keep whoever opens it.
     FileDescriptor file(::open(item.path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status = {};
+    if (!file && errno == ENOENT)
+        return {.file = {}, .why = LocalizedString("Duplicates", "is not there any more"), .isMissing = true};
     if (!file || ::fstat(file.get(), &status) != 0)
-        why = errno == ENOENT ? LocalizedString("Duplicates", "is not there any more") : Words::cannotBeRead(errno);
-    else if (!S_ISREG(status.st_mode) || FileState::of(status) != item.state)
-        why = LocalizedString("Duplicates", "has changed since it was found");
-    else
-        return file;
-    return {};
+        return {.file = {}, .why = Words::cannotBeRead(errno)};
+    if (!S_ISREG(status.st_mode) || FileState::of(status) != item.state)
+        return {.file = {}, .why = LocalizedString("Duplicates", "has changed since it was found")};
+    return {.file = std::move(file)};
 }
 
 /// Whether the path leads to the file still, whatever the file holds by now.
@@ -72,8 +80,9 @@ bool lock(const FileDescriptor& file, int operation)
 /// The items of a group of which some are chosen.
 class GroupRemoval {
 public:
-    GroupRemoval(const Groups& groups, GroupNumber group, const RemovalMeans& means, const std::stop_token& stop)
-        : m_groups(groups), m_means(means), m_stop(stop)
+    GroupRemoval(const Groups& groups, GroupNumber group, const RemovalMeans& means, const RemovalReport& report,
+                 const std::stop_token& stop)
+        : m_groups(groups), m_means(means), m_report(report), m_stop(stop)
     {
         for (const ItemNumber number : groups.itemsOf(group)) {
             if (!groups.isChosen(number))
@@ -85,27 +94,26 @@ public:
     std::optional<std::string> remove(ItemNumber number)
     {
         const Item going = m_groups.item(number);
-        std::string why;
-        const FileDescriptor file = openUnchanged(going, why);
-        if (!file)
-            return why;
+        const Opened opened = open(number, going);
+        if (!opened.file)
+            return opened.why;
         // Two such windows may each be about to remove what the other one keeps.
-        if (!lock(file, LOCK_EX))
+        if (!lock(opened.file, LOCK_EX))
             return LocalizedString("Duplicates", "is in use by another program");
-        why = LocalizedString("Duplicates", "is the last copy that is left");
-        for (const ItemNumber other : m_staying) {
-            const Item staying = m_groups.item(other);
-            std::string ignored;
+        std::string why = LocalizedString("Duplicates", "is the last copy that is left");
+        for (const ItemNumber otherNumber : m_staying) {
+            const Item staying = m_groups.item(otherNumber);
             // One file under two names is one copy.
-            const FileDescriptor otherFile =
-                staying.state.isSameFile(going.state) ? FileDescriptor() : openUnchanged(staying, ignored);
-            if (!otherFile)
+            if (staying.state.isSameFile(going.state))
                 continue;
-            if (!lock(otherFile, LOCK_SH)) {
+            const Opened other = open(otherNumber, staying);
+            if (!other.file)
+                continue;
+            if (!lock(other.file, LOCK_SH)) {
                 why = LocalizedString("Duplicates", "has a copy that another program is using");
                 continue;
             }
-            const auto objection = m_means.check({going, file.get()}, {staying, otherFile.get()}, m_stop);
+            const auto objection = m_means.check({going, opened.file.get()}, {staying, other.file.get()}, m_stop);
             if (m_stop.stop_requested())
                 return LocalizedString("Duplicates", "was not reached");
             if (objection)
@@ -118,8 +126,17 @@ public:
     }
 
 private:
+    [[nodiscard]] Opened open(ItemNumber number, const Item& item) const
+    {
+        Opened opened = openUnchanged(item);
+        if (opened.isMissing)
+            m_report.missing(number);
+        return opened;
+    }
+
     const Groups& m_groups;
     const RemovalMeans& m_means;
+    const RemovalReport& m_report;
     const std::stop_token& m_stop;
     std::vector<ItemNumber> m_staying;
 };
@@ -148,8 +165,8 @@ std::optional<std::string> haveEqualBytes(const OpenedItem& going, const OpenedI
     return LocalizedString("Duplicates", "was not compared to its end");
 }
 
-void removeChosen(const Groups& groups, const RemovalMeans& means, const std::function<void(ItemNumber)>& removed,
-                  const std::function<void(ItemNumber, const std::string& why)>& kept, const std::stop_token& stop)
+void removeChosen(const Groups& groups, const RemovalMeans& means, const RemovalReport& report,
+                  const std::stop_token& stop)
 {
     for (const GroupNumber group : groups.bySaving()) {
         std::optional<GroupRemoval> removal;
@@ -159,12 +176,12 @@ void removeChosen(const Groups& groups, const RemovalMeans& means, const std::fu
             if (!groups.isChosen(number))
                 continue;
             if (!removal)
-                removal.emplace(groups, group, means, stop);
+                removal.emplace(groups, group, means, report, stop);
             const auto why = removal->remove(number);
             if (!why)
-                removed(number);
+                report.removed(number);
             else if (!stop.stop_requested())
-                kept(number, *why);
+                report.kept(number, *why);
         }
     }
 }

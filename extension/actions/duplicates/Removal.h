@@ -28,16 +28,26 @@ struct RemovalMeans {
     std::function<std::optional<std::string>(const std::string& path)> trash;
 };
 
+/// Who hears of a removal, from the thread that removes.
+struct RemovalReport {
+    /// A chosen item that has gone to the trash.
+    std::function<void(ItemNumber)> removed;
+    /// A chosen item that stays where it is, and why.
+    std::function<void(ItemNumber, const std::string& why)> kept;
+    /// An item of a group, chosen or not, that is not there any more: maybe more than once. Of a chosen one `kept`
+    /// hears too.
+    std::function<void(ItemNumber)> missing;
+};
+
 /// Finds equal bytes in both, now. What `check` is for files.
 [[nodiscard]] std::optional<std::string> haveEqualBytes(const OpenedItem& going, const OpenedItem& staying,
                                                         const std::stop_token& stop);
 
 /// Moves the chosen items to the trash, and never the last copy: each goes only while an item of its group that is
 /// not chosen is there, unchanged, and `check` has agreed to the two. Several processes may do this at once: both
-/// files are locked meanwhile (flock). Nobody may change `groups` while it goes on. `removed` hears of each that has
-/// gone, `kept` of each that stays and why; both from this thread. Ends within 100 ms of a request to stop, but for
-/// the one item that is on its way to the trash.
-void removeChosen(const Groups& groups, const RemovalMeans& means, const std::function<void(ItemNumber)>& removed,
-                  const std::function<void(ItemNumber, const std::string& why)>& kept, const std::stop_token& stop);
+/// files are locked meanwhile (flock). Nobody may change `groups` while it goes on. Ends within 100 ms of a request
+/// to stop, but for the one item that is on its way to the trash.
+void removeChosen(const Groups& groups, const RemovalMeans& means, const RemovalReport& report,
+                  const std::stop_token& stop);
 
 } // namespace MenuExtension::Duplicates

@@ -45,6 +45,7 @@ class DuplicatesWindowTestCase(DuplicatesWindow, DesktopTestCase):
 
     def setUp(self):
         super().setUp()
+        os.symlink("/usr/bin/gdk-pixbuf-thumbnailer", os.path.join(self.home.programs, "gdk-pixbuf-thumbnailer"))
         start_companion(self)
 
     def open(self, *paths):

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
+#include <set>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -47,10 +48,11 @@ protected:
     /// Names that have gone, and those that stay with the reason.
     void remove()
     {
-        removeChosen(
-            m_groups, {.check = m_check, .trash = m_moveToTrash},
-            [this](ItemNumber number) { m_gone.push_back(nameOf(number)); },
-            [this](ItemNumber number, const std::string& why) { m_kept[nameOf(number)] = why; }, m_stop.get_token());
+        removeChosen(m_groups, {.check = m_check, .trash = m_moveToTrash},
+                     {.removed = [this](ItemNumber number) { m_gone.push_back(nameOf(number)); },
+                      .kept = [this](ItemNumber number, const std::string& why) { m_kept[nameOf(number)] = why; },
+                      .missing = [this](ItemNumber number) { m_missing.insert(nameOf(number)); }},
+                     m_stop.get_token());
     }
     [[nodiscard]] std::string nameOf(ItemNumber number) const
     {
@@ -81,6 +83,7 @@ protected:
     };
     std::vector<std::string> m_gone;
     std::map<std::string, std::string> m_kept;
+    std::set<std::string> m_missing;
 };
 
 using Names = std::vector<std::string>;
@@ -144,6 +147,19 @@ TEST_F(Removal, TakesAnotherCopyForTheOneThatHasGone)
     remove();
     EXPECT_EQ(left(), Names{"b"});
     EXPECT_EQ(m_gone, Names{"c"});
+}
+
+TEST_F(Removal, TellsOfAllThatItDoesNotFindAnyMore)
+{
+    group({"a", "b", "c", "d"}, 2);
+    group({"e", "f"});
+    for (const char* name : {"a", "c", "e"})
+        fs::remove(path(name));
+    Files::write(path("f"), "something else");
+    remove();
+    EXPECT_EQ(m_gone, Names{"d"});
+    EXPECT_EQ(m_kept, (Kept{{"c", "is not there any more"}, {"f", "has changed since it was found"}}));
+    EXPECT_EQ(m_missing, (std::set<std::string>{"a", "c"}));
 }
 
 TEST_F(Removal, DoesNotCountOneFileUnderAnotherNameAsACopy)
@@ -216,9 +232,11 @@ TEST_F(Removal, KeepsOneWhereTwoRemoveWhatTheOtherKeeps)
     groups.setChosen(numbers[0], true);
     std::vector<std::string> othersReasons;
     m_check = [&](const OpenedItem& going, const OpenedItem& staying, const std::stop_token& stop) {
-        removeChosen(
-            groups, {.check = haveEqualBytes, .trash = m_moveToTrash}, [](ItemNumber) { FAIL(); },
-            [&](ItemNumber, const std::string& why) { othersReasons.push_back(why); }, stop);
+        removeChosen(groups, {.check = haveEqualBytes, .trash = m_moveToTrash},
+                     {.removed = [](ItemNumber) { FAIL(); },
+                      .kept = [&](ItemNumber, const std::string& why) { othersReasons.push_back(why); },
+                      .missing = [](ItemNumber) { FAIL(); }},
+                     stop);
         return haveEqualBytes(going, staying, stop);
     };
     remove();

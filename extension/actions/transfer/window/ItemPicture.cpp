@@ -6,14 +6,11 @@
 #include <QCryptographicHash>
 #include <QImage>
 #include <QImageReader>
-#include <QMimeDatabase>
-#include <QProcess>
+#include <QSocketNotifier>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cctype>
-#include <sys/resource.h>
 
 namespace MenuExtension::Transfers {
 
@@ -22,10 +19,6 @@ namespace {
 constexpr int extent = 64;
 /// For twice as many pixels, and a size that the makers of thumbnails have.
 constexpr int imageExtent = 128;
-constexpr int patience = 10'000;
-constexpr rlim_t mostSeconds = 10;
-constexpr rlim_t mostMemory = rlim_t{1} << 30U;
-constexpr rlim_t mostWritten = rlim_t{1} << 20U;
 
 QByteArray addressOf(const std::string& path)
 {
@@ -76,17 +69,6 @@ QIcon iconOf(const Conflict::Side& side)
     return icons.iconFor(entry, nameOf(side));
 }
 
-void boundProcess()
-{
-    const auto bound = [](auto resource, rlim_t most) {
-        const rlimit limit{most, most};
-        static_cast<void>(::setrlimit(resource, &limit));
-    };
-    bound(RLIMIT_AS, mostMemory);
-    bound(RLIMIT_CPU, mostSeconds);
-    bound(RLIMIT_FSIZE, mostWritten);
-}
-
 } // namespace
 
 ItemPicture::ItemPicture(QWidget* parent) : QLabel(parent)
@@ -99,18 +81,16 @@ ItemPicture::~ItemPicture() = default;
 
 void ItemPicture::show(const Conflict::Side& side)
 {
-    m_maker.reset();
+    m_ended.reset();
+    m_reading.reset();
     setPixmap(iconOf(side).pixmap(QSize(extent, extent), devicePixelRatioF()));
     if (!S_ISREG(side.status.st_mode))
         return;
     const QImage thumbnail = thumbnailOf(side);
     if (!thumbnail.isNull())
         showImage(thumbnail);
-    else if (QMimeDatabase()
-                 .mimeTypeForFile(nameOf(side), QMimeDatabase::MatchExtension)
-                 .name()
-                 .startsWith(u"image/"))
-        makeImage(side);
+    else if (PictureReading::isPicture(nameOf(side)))
+        read(side);
 }
 
 void ItemPicture::showImage(const QImage& image)
@@ -122,21 +102,22 @@ void ItemPicture::showImage(const QImage& image)
     setPixmap(pixmap);
 }
 
-/// Another program reads the file, within bounds: anything may be in it.
-void ItemPicture::makeImage(const Conflict::Side& side)
+void ItemPicture::read(const Conflict::Side& side)
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    const QString made = m_folder->filePath(QStringLiteral("picture.png"));
-    m_maker = std::make_unique<QProcess>();
-    m_maker->setChildProcessModifier(boundProcess);
-    connect(m_maker.get(), &QProcess::finished, this, [this, made](int status) {
-        const QImage image = status == 0 ? readImage(made) : QImage();
+    m_reading.emplace(side.path, imageExtent);
+    if (m_reading->ended() < 0)
+        return;
+    m_ended = std::make_unique<QSocketNotifier>(m_reading->ended(), QSocketNotifier::Read);
+    connect(m_ended.get(), &QSocketNotifier::activated, this, [this] {
+        m_ended->setEnabled(false);
+        const QImage image = m_reading->picture();
         if (!image.isNull())
             showImage(image);
     });
-    QTimer::singleShot(patience, m_maker.get(), &QProcess::kill);
-    m_maker->start(QStringLiteral("gdk-pixbuf-thumbnailer"), {QStringLiteral("-s"), QString::number(imageExtent),
-                                                              QString::fromLatin1(addressOf(side.path)), made});
+    QTimer::singleShot(PictureReading::patience, m_ended.get(), [this] {
+        m_ended->setEnabled(false);
+        m_reading.reset();
+    });
 }
 
 } // namespace MenuExtension::Transfers

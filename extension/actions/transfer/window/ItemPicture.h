@@ -1,13 +1,14 @@
 #pragma once
 
 #include "extension/actions/transfer/Conflict.h"
+#include "extension/actions/window/PictureReading.h"
 
 #include <QLabel>
 
 #include <memory>
+#include <optional>
 
-class QProcess;
-class QTemporaryDir;
+class QSocketNotifier;
 
 namespace MenuExtension::Transfers {
 
@@ -24,10 +25,10 @@ public:
 
 private:
     void showImage(const QImage& image);
-    void makeImage(const Conflict::Side& side);
+    void read(const Conflict::Side& side);
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<QProcess> m_maker;
+    std::optional<PictureReading> m_reading;
+    std::unique_ptr<QSocketNotifier> m_ended;
 };
 
 } // namespace MenuExtension::Transfers
