@@ -45,6 +45,8 @@ constexpr QSize initialSize(900, 640);
 constexpr QSize smallest(640, 500);
 constexpr std::chrono::milliseconds betweenTakings{250};
 constexpr qsizetype mostTroubles = 1000;
+/// What the ring of a control that has the keyboard takes around it.
+constexpr int ringRoom = 4;
 
 enum Page { ListPage, NothingPage };
 
@@ -123,13 +125,17 @@ void DuplicatesWindow::layOut()
     m_pages->addWidget(m_nothing);
 
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 16, 20, 16);
-    column->setSpacing(12);
+    column->setContentsMargins(20 - ringRoom, 16 - ringRoom, 20 - ringRoom, 16 - ringRoom);
+    column->setSpacing(12 - ringRoom);
     QWidget* const top = makeTop();
     QWidget* const foot = makeFoot();
+    auto* const middle = new QVBoxLayout;
+    middle->setContentsMargins(ringRoom, 0, ringRoom, 0);
+    middle->setSpacing(12);
+    middle->addWidget(m_pages, 1);
+    middle->addWidget(m_progress);
     column->addWidget(top);
-    column->addWidget(m_pages, 1);
-    column->addWidget(m_progress);
+    column->addLayout(middle, 1);
     column->addWidget(foot);
     readInOrder({top, m_pages, m_progress, foot});
     setTabOrder(m_list, m_items);
@@ -146,7 +152,7 @@ QWidget* DuplicatesWindow::makeTop()
     row->addWidget(m_filter, 1);
     row->addWidget(m_rules);
     auto* const column = new QVBoxLayout(top);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(ringRoom, ringRoom, ringRoom, ringRoom);
     column->setSpacing(10);
     column->addWidget(m_heading);
     if (m_presentation.makeControl)
@@ -247,7 +253,7 @@ QWidget* DuplicatesWindow::makeFoot()
     m_sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     LinuxDesktop::tieWords(*m_sum, *m_remove);
     auto* const row = new QHBoxLayout(foot);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(ringRoom, ringRoom, ringRoom, ringRoom);
     row->setSpacing(12);
     row->addWidget(m_sum, 1);
     row->addWidget(m_troubleButton);
