@@ -37,8 +37,8 @@ void assignPlace(std::vector<std::string>& arguments, const Tags& tags, const st
         }
         return;
     }
-    const std::string latitude = std::to_string(std::abs(place->latitude));
-    const std::string longitude = std::to_string(std::abs(place->longitude));
+    const std::string latitude = degreesText(std::abs(place->latitude));
+    const std::string longitude = degreesText(std::abs(place->longitude));
     const char* const north = place->latitude < 0 ? "S" : "N";
     const char* const east = place->longitude < 0 ? "W" : "E";
     arguments.push_back(assignment("EXIF:GPSLatitude", set, latitude));

@@ -3,7 +3,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace MenuExtension::Exif {
 
@@ -161,9 +160,16 @@ std::optional<Place> placeFrom(std::string_view text)
 
 std::string textOf(const Place& place)
 {
-    std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "%.6f, %.6f", place.latitude, place.longitude);
-    return text.data();
+    return degreesText(place.latitude) + ", " + degreesText(place.longitude);
+}
+
+std::string degreesText(double degrees)
+{
+    std::array<char, 32> text{};
+    constexpr int digits = 6;
+    const auto written =
+        std::to_chars(text.data(), text.data() + text.size(), degrees, std::chars_format::fixed, digits);
+    return {text.data(), written.ptr};
 }
 
 } // namespace MenuExtension::Exif

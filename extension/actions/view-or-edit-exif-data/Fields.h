@@ -43,5 +43,7 @@ struct Place {
 /// Reads "48.5, -2.25"; nothing for what is no place on earth.
 [[nodiscard]] std::optional<Place> placeFrom(std::string_view text);
 [[nodiscard]] std::string textOf(const Place& place);
+/// To a millionth of a degree, with a point in every locale.
+[[nodiscard]] std::string degreesText(double degrees);
 
 } // namespace MenuExtension::Exif

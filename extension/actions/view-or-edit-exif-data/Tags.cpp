@@ -40,7 +40,14 @@ public:
     bool number_integer(number_integer_t value) { return add(std::to_string(value)); }
     bool number_unsigned(number_unsigned_t value) { return add(std::to_string(value)); }
     // As it is written: a title may be 1.50.
-    bool number_float(number_float_t, const string_t& text) { return add(text); }
+    bool number_float(number_float_t, string_t text)
+    {
+        // The library has put the locale's point there.
+        const std::size_t point = text.find_first_not_of("0123456789+-eE");
+        if (point != std::string::npos)
+            text[point] = '.';
+        return add(std::move(text));
+    }
     bool string(string_t& text) { return add(std::move(text)); }
     bool binary(binary_t&) { return false; }
 

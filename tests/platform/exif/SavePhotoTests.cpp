@@ -4,7 +4,9 @@
 #include "extension/actions/view-or-edit-exif-data/PersonalData.h"
 
 #include <chrono>
+#include <clocale>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <linux/capability.h>
 #include <random>
@@ -88,6 +90,30 @@ TEST_F(SavePhotoTest, WritesEveryFieldInEveryKindOfFileThatExifToolWrites)
         expectEverything(path);
     }
     EXPECT_EQ(names().size(), 6U) << "nothing is left beside them";
+}
+
+TEST_F(SavePhotoTest, APlaceIsWrittenAndReadWhereNumbersHaveAComma)
+{
+    Files::write(outside() / "source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\ngrouping -1\n"
+                                       "END LC_NUMERIC\n");
+    // It warns of what else a locale has, and says so at its end.
+    const std::string make = "cd '" + outside().native() + "' && localedef -c -i source ./comma >/dev/null 2>&1";
+    static_cast<void>(std::system(make.c_str()));
+    ::setenv("LOCPATH", outside().c_str(), 1);
+    const bool isThere = std::setlocale(LC_NUMERIC, "comma") != nullptr;
+    ::unsetenv("LOCPATH");
+    ASSERT_TRUE(isThere);
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+
+    for (const std::string kind : {"jpg", "gif"}) {
+        const Path path = photo(kind);
+        EXPECT_EQ(save(path, everything()), Kind::None) << kind << ": " << lastWords();
+        EXPECT_EQ(text(Field::Place, path), "-33.856784, 151.215297");
+        EXPECT_EQ(save(path, {.texts = {{Field::Title, "1.50"}}, .orientation = {}, .place = {}}), Kind::None)
+            << kind;
+        EXPECT_EQ(text(Field::Title, path), "1.50");
+    }
+    std::setlocale(LC_NUMERIC, "C");
 }
 
 TEST_F(SavePhotoTest, KeepsTheTextThatIsThereInEveryPlaceInStep)
