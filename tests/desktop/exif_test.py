@@ -112,6 +112,34 @@ class Exif(ExifWindow, DesktopTestCase):
         for number, path in enumerate(paths):
             self.assertEqual((self.tags(path)["Title"], self.tags(path)["Artist"]), (f"title {number}", "Bo"))
 
+    def test_a_field_that_is_emptied_again_leaves_what_differs_alone(self):
+        places = ("48.5", "50.25")
+        paths = [self.photo(f"{number}.jpg", Title=f"title {number}", Description=f"words {number}", GPSLatitude=place,
+                            GPSLatitudeRef="N", GPSLongitude="2", GPSLongitudeRef="E")
+                 for number, place in enumerate(places)]
+        self.open(*paths)
+        self.to_edit_page()
+        for name, typed in ("Title", "x"), ("Description", "x"), ("Place", "4"):
+            self.go_to(name)
+            self.hands.type(typed)
+            self.hands.press("BackSpace")
+        self.save()
+        self.assertTells("Nothing has been changed yet.")
+        self.go_to("Author")
+        self.hands.type("Ada")
+        self.save()
+
+        self.assertTells("2 photos were saved.")
+        for number, place in enumerate(places):
+            tags = self.tags(paths[number])
+            self.assertEqual((tags["Title"], tags["Description"], tags["GPSLatitude"], tags["Artist"]),
+                             (f"title {number}", f"words {number}", float(place), "Ada"))
+
+        eventually(lambda: self.window.find("text", "Place").has("enabled"), "the form")
+        self.press_button("Remove Place")
+        self.save()
+        eventually(lambda: not any("GPSLatitude" in self.tags(path) for path in paths), "the places to go")
+
     def test_a_date_is_moved_and_the_original_kept(self):
         path = self.photo(DateTimeOriginal="2023:12:31 23:30:00")
         with open(path, "rb") as file:

@@ -15,7 +15,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSpinBox>
-#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <array>
@@ -46,6 +45,21 @@ QString shownDate(const std::string& text)
     shown[4] = u'-';
     shown[7] = u'-';
     return shown;
+}
+
+/// The property of a field that has what was read.
+constexpr const char* stored = "stored";
+
+void setStored(QWidget& field, const QString& text)
+{
+    field.setProperty(stored, text.trimmed());
+}
+
+/// Whether it says something else than what is stored. For values that differ that is nothing.
+bool isChanged(const QWidget& field, const QString& text)
+{
+    const QVariant before = field.property(stored);
+    return !before.isValid() || text.trimmed() != before.toString();
 }
 
 QHBoxLayout* makeRow()
@@ -164,7 +178,8 @@ void EditForm::addPlace(QFormLayout& form)
     connect(remove, &QPushButton::clicked, this, [this] {
         m_place->clear();
         m_place->setPlaceholderText(tr("Is removed when it is saved"));
-        m_place->setModified(true);
+        // Even where there is nothing to be seen of it.
+        m_place->setProperty(stored, QVariant());
     });
 }
 
@@ -177,12 +192,12 @@ void EditForm::showFields(const Merged& merged)
         const QString text = field == Field::Date ? shownDate(value.text) : QString::fromStdString(value.text);
         line->setText(differs ? QString() : text);
         line->setPlaceholderText(differs ? different : field == Field::Date ? tr("2026-12-31 23:59:59") : QString());
-        line->setModified(false);
+        setStored(*line, line->text());
     }
     const Merged::Value& description = merged.field(Field::Description);
     m_description->setPlainText(merged.differs(description) ? QString() : QString::fromStdString(description.text));
     m_description->setPlaceholderText(merged.differs(description) ? different : QString());
-    m_description->document()->setModified(false);
+    setStored(*m_description, m_description->toPlainText());
     for (const auto& [box, length] : m_shift)
         box->setValue(0);
 
@@ -199,9 +214,9 @@ void EditForm::showFields(const Merged& merged)
     const Merged::Value& place = merged.field(Field::Place);
     m_place->setText(merged.differs(place) ? QString() : QString::fromStdString(place.text));
     m_place->setPlaceholderText(merged.differs(place) ? different : tr("48.858370, 2.294481"));
-    m_place->setModified(false);
+    setStored(*m_place, m_place->text());
     m_refusal->hide();
-    m_orientation->setProperty("stored", m_orientation->currentIndex());
+    m_orientation->setProperty(stored, m_orientation->currentIndex());
 }
 
 void EditForm::setBusy(bool busy)
@@ -228,11 +243,12 @@ std::optional<Edits> EditForm::edits()
 {
     Edits edits;
     for (const auto& [field, line] : m_lines) {
-        if (line->isModified())
+        if (isChanged(*line, line->text()))
             edits.texts[field] = line->text().trimmed().toStdString();
     }
-    if (m_description->document()->isModified())
-        edits.texts[Field::Description] = m_description->toPlainText().toStdString();
+    const QString description = m_description->toPlainText();
+    if (isChanged(*m_description, description))
+        edits.texts[Field::Description] = description.toStdString();
     if (const auto date = edits.texts.find(Field::Date); date != edits.texts.end() && !date->second.empty()) {
         const auto time = photoTime(date->second);
         if (!time) {
@@ -248,9 +264,9 @@ std::optional<Edits> EditForm::edits()
         return std::nullopt;
     }
     const int orientation = m_orientation->currentIndex();
-    if (orientation > 0 && orientation != m_orientation->property("stored").toInt())
+    if (orientation > 0 && orientation != m_orientation->property(stored).toInt())
         edits.orientation = orientation;
-    if (m_place->isModified()) {
+    if (isChanged(*m_place, m_place->text())) {
         const std::string text = m_place->text().trimmed().toStdString();
         edits.place = Edits::NewPlace{placeFrom(text)};
         if (!text.empty() && !edits.place->place) {
