@@ -1450,6 +1450,22 @@
         <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>Discard Changes</source>
+        <translation>تجاهل التغييرات</translation>
+    </message>
+    <message>
+        <source>What was typed has not been saved and will be lost.</source>
+        <translation>ما كُتب لم يُحفظ وسيُفقد.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>تجاهل</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ألغِ</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

@@ -1406,6 +1406,22 @@
         <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>Discard Changes</source>
+        <translation>Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>What was typed has not been saved and will be lost.</source>
+        <translation>Die Eingaben sind nicht gespeichert und gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

@@ -1406,6 +1406,22 @@
         <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>Discard Changes</source>
+        <translation>Descartar los cambios</translation>
+    </message>
+    <message>
+        <source>What was typed has not been saved and will be lost.</source>
+        <translation>Lo que se ha escrito no se ha guardado y se perderá.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

@@ -1406,6 +1406,22 @@
         <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>Discard Changes</source>
+        <translation>Abandonner les modifications</translation>
+    </message>
+    <message>
+        <source>What was typed has not been saved and will be lost.</source>
+        <translation>Ce qui a été saisi n’est pas enregistré et sera perdu.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

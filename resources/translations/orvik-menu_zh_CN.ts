@@ -1395,6 +1395,22 @@
         <extracomment>A photo&apos;s name, and what is wrong with it, which is a sentence.</extracomment>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>Discard Changes</source>
+        <translation>放弃更改</translation>
+    </message>
+    <message>
+        <source>What was typed has not been saved and will be lost.</source>
+        <translation>输入的内容尚未保存，将会丢失。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

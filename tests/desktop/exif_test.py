@@ -197,6 +197,52 @@ class Exif(ExifWindow, DesktopTestCase):
         self.save_picture("exif-failure")
         self.assertReadsWell(self.window)
 
+    def test_what_was_typed_stays_where_nothing_was_saved(self):
+        self.open(self.photo("bad.webp", kind="webp"))
+        self.to_edit_page()
+        self.go_to("Title")
+        self.hands.type("a long title")
+        self.save()
+        self.assertTells("0 photos were saved. These were left as they were:")
+        title = eventually(lambda: self.window.find("text", "Title").has("enabled") and
+                           self.window.find("text", "Title"), "the form")
+        self.assertEqual(title.text, "a long title")
+
+    def test_what_was_typed_goes_only_when_it_is_agreed_to(self):
+        self.open(*[self.photo(f"{number}.jpg", Title=f"title {number}") for number in range(2)])
+        self.to_edit_page()
+        self.go_to("Author")
+        self.hands.type("Ada")
+        for agrees in False, True:
+            self.go_to("Photos")
+            self.hands.press("End")
+            self.answer(agrees)
+            self.action.active_window(TITLE)
+            self.assertEqual("2 photos" in self.labels(), not agrees)
+            title = "title 1" if agrees else ""
+            eventually(lambda title=title: self.window.find("text", "Title").text == title, f"the title “{title}”")
+            self.assertEqual(self.window.find("text", "Author").text, "" if agrees else "Ada")
+
+        self.go_to("Author")
+        self.hands.type("Bo")
+        for agrees in False, True:
+            self.hands.press("Escape")
+            self.answer(agrees)
+            if not agrees:
+                self.action.active_window(TITLE)
+        self.action.wait_for_end()
+
+    def answer(self, agrees):
+        """Says whether what was typed is to go."""
+        question = self.action.active_window("Discard Changes")
+        self.assertEqual(question.focused().name, "Cancel")
+        if agrees:
+            self.action.go_to("Discard", question)
+        else:
+            self.assertReadsWell(question)
+            self.save_picture("exif-discard")
+        self.hands.press("space")
+
     def failures(self):
         return sorted(item.name.partition(":")[0] for found in self.window.all("list")
                       if found.name == "Photos that failed" for item in found.all("list item"))

@@ -56,7 +56,7 @@ void setStored(QWidget& field, const QString& text)
 }
 
 /// Whether it says something else than what is stored. For values that differ that is nothing.
-bool isChanged(const QWidget& field, const QString& text)
+bool saysElse(const QWidget& field, const QString& text)
 {
     const QVariant before = field.property(stored);
     return !before.isValid() || text.trimmed() != before.toString();
@@ -239,16 +239,34 @@ void EditForm::refuse(QWidget* typed, const QString& why)
     typed->setFocus();
 }
 
-std::optional<Edits> EditForm::edits()
+bool EditForm::isChanged() const
+{
+    return m_fields->isEnabled() && !written().empty();
+}
+
+Edits EditForm::written() const
 {
     Edits edits;
     for (const auto& [field, line] : m_lines) {
-        if (isChanged(*line, line->text()))
+        if (saysElse(*line, line->text()))
             edits.texts[field] = line->text().trimmed().toStdString();
     }
     const QString description = m_description->toPlainText();
-    if (isChanged(*m_description, description))
+    if (saysElse(*m_description, description))
         edits.texts[Field::Description] = description.toStdString();
+    for (const auto& [box, length] : m_shift)
+        edits.shift += box->value() * length;
+    const int orientation = m_orientation->currentIndex();
+    if (orientation > 0 && orientation != m_orientation->property(stored).toInt())
+        edits.orientation = orientation;
+    if (saysElse(*m_place, m_place->text()))
+        edits.place = Edits::NewPlace{placeFrom(m_place->text().toStdString())};
+    return edits;
+}
+
+std::optional<Edits> EditForm::edits()
+{
+    Edits edits = written();
     if (const auto date = edits.texts.find(Field::Date); date != edits.texts.end() && !date->second.empty()) {
         const auto time = photoTime(date->second);
         if (!time) {
@@ -257,23 +275,13 @@ std::optional<Edits> EditForm::edits()
         }
         date->second = textOf(*time);
     }
-    for (const auto& [box, length] : m_shift)
-        edits.shift += box->value() * length;
     if (edits.shift.count() != 0 && edits.texts.contains(Field::Date)) {
         refuse(m_shift.front().first, tr("Write a new date or move the one that is there, not both."));
         return std::nullopt;
     }
-    const int orientation = m_orientation->currentIndex();
-    if (orientation > 0 && orientation != m_orientation->property(stored).toInt())
-        edits.orientation = orientation;
-    if (isChanged(*m_place, m_place->text())) {
-        const std::string text = m_place->text().trimmed().toStdString();
-        edits.place = Edits::NewPlace{placeFrom(text)};
-        if (!text.empty() && !edits.place->place) {
-            refuse(m_place,
-                   tr("The place is to be written as latitude and longitude in degrees: 48.858370, 2.294481."));
-            return std::nullopt;
-        }
+    if (edits.place && !edits.place->place && !m_place->text().trimmed().isEmpty()) {
+        refuse(m_place, tr("The place is to be written as latitude and longitude in degrees: 48.858370, 2.294481."));
+        return std::nullopt;
     }
     return edits;
 }

@@ -33,6 +33,8 @@ public:
     void setBusy(bool busy);
 
     [[nodiscard]] SaveOptions options() const;
+    /// Whether there is something to save that is not being saved.
+    [[nodiscard]] bool isChanged() const;
 
 signals:
     void saved(const MenuExtension::Exif::Edits& edits);
@@ -46,6 +48,8 @@ private:
     void addPlace(QFormLayout& form);
     void save();
     void askForRemoval();
+    /// As it is written, and no place for what is none.
+    [[nodiscard]] Edits written() const;
     /// Nothing where something typed is not to be understood; then it is said.
     [[nodiscard]] std::optional<Edits> edits();
     void refuse(QWidget* typed, const QString& why);

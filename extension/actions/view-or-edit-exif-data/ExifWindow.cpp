@@ -10,9 +10,13 @@
 #include "platform/linux/text/FileNameText.h"
 #include "platform/linux/text/PluralCount.h"
 
+#include <QCloseEvent>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
+#include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTabBar>
@@ -136,13 +140,52 @@ std::vector<std::size_t> ExifWindow::selected() const
 
 void ExifWindow::readSelected()
 {
-    clearResult();
-    read();
+    if (mayDiscard()) {
+        clearResult();
+        read();
+    } else {
+        m_photos->selectionModel()->select(m_shown, QItemSelectionModel::ClearAndSelect);
+        m_photos->selectionModel()->setCurrentIndex(m_current, QItemSelectionModel::NoUpdate);
+        m_settled.stop();
+    }
+}
+
+bool ExifWindow::mayDiscard()
+{
+    if (!m_form->isChanged())
+        return true;
+    QDialog question(this);
+    question.setWindowTitle(tr("Discard Changes"));
+    QLabel* const words = makeParagraph(&question);
+    words->setText(tr("What was typed has not been saved and will be lost."));
+    // It is read with the window's title.
+    LinuxDesktop::tieWords(*words, question);
+    auto* const buttons = new QDialogButtonBox(&question);
+    buttons->addButton(tr("Discard"), QDialogButtonBox::AcceptRole);
+    QPushButton* const cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    cancel->setDefault(true);
+    cancel->setFocus();
+    connect(buttons, &QDialogButtonBox::accepted, &question, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &question, &QDialog::reject);
+    auto* const layout = new QVBoxLayout(&question);
+    layout->setContentsMargins(20, 18, 20, 18);
+    layout->setSpacing(12);
+    layout->addWidget(words);
+    layout->addWidget(buttons);
+    readInOrder({words, buttons});
+    return question.exec() == QDialog::Accepted;
+}
+
+void ExifWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(mayDiscard());
 }
 
 void ExifWindow::read()
 {
     const auto photos = selected();
+    m_shown = m_photos->selectionModel()->selection();
+    m_current = m_photos->currentIndex();
     m_heading->setText(photos.size() == 1 ? m_names.data(m_names.index(static_cast<int>(photos.front()))).toString()
                                           : tr("%n photos", nullptr, static_cast<int>(photos.size())));
     m_form->setBusy(true);
@@ -190,7 +233,13 @@ void ExifWindow::showSaved(const PhotoWork::Progress& progress)
     //: The first says how many photos were saved; the others follow as a list.
     say(progress.failures.empty() ? words : tr("%1 These were left as they were:").arg(words));
     addFailures(progress.failures);
-    read();
+    if (saved > 0) {
+        read();
+        return;
+    }
+    // What was typed is still to be saved.
+    m_progress->finish();
+    m_form->setBusy(false);
 }
 
 void ExifWindow::say(const QString& words)

@@ -2,6 +2,7 @@
 
 #include "PhotoWork.h"
 
+#include <QItemSelection>
 #include <QStringListModel>
 #include <QTimer>
 #include <QWidget>
@@ -29,11 +30,17 @@ public:
     /// The request outlives it.
     explicit ExifWindow(const Request& request);
 
+protected:
+    /// Not before the person has agreed to lose what was typed.
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void layOut();
     [[nodiscard]] std::vector<std::size_t> selected() const;
-    /// What was said of others goes.
+    /// What was said of others goes, and what was typed, unless the person wants to keep it.
     void readSelected();
+    /// Asks where something was typed that is not saved.
+    [[nodiscard]] bool mayDiscard();
     void read();
     void save(const Edits& edits);
     /// What else was typed is saved with it.
@@ -60,6 +67,9 @@ private:
     ProgressRow* m_progress;
     /// So that going through the list does not read each photo on the way.
     QTimer m_settled;
+    /// Those that are shown.
+    QItemSelection m_shown;
+    QModelIndex m_current;
     Merged m_merged;
     PhotoWork m_work;
 };
