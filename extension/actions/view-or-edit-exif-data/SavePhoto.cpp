@@ -12,6 +12,7 @@
 #include <ctime>
 #include <deque>
 #include <fcntl.h>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -81,21 +82,41 @@ bool copyTo(int from, const FileDescriptor& folder, const std::string& name, con
            ::fsync(copy.get()) == 0;
 }
 
+/// Gives it the first name that is free. False, with errno.
+bool nameOriginal(const OpenedFile& photo, const std::function<bool(const char*)>& give)
+{
+    const std::string original = photo.name + std::string(originalSuffix);
+    if (give(original.c_str()))
+        return true;
+    for (int number = 2; errno == EEXIST; ++number) {
+        if (give((original + ' ' + std::to_string(number)).c_str()))
+            return true;
+    }
+    return false;
+}
+
 /// False, with errno.
 bool keepOriginal(const OpenedFile& photo, const struct stat& status)
 {
-    const std::string original = photo.name + std::string(originalSuffix);
-    if (::linkat(photo.folder.get(), photo.name.c_str(), photo.folder.get(), original.c_str(), 0) == 0 ||
-        errno == EEXIST)
+    const int folder = photo.folder.get();
+    const auto isPhoto = [&](const char* name) {
+        struct stat there = {};
+        return ::fstatat(folder, name, &there, AT_SYMLINK_NOFOLLOW) == 0 && there.st_dev == status.st_dev &&
+               there.st_ino == status.st_ino;
+    };
+    // A save that did not come to its end may have kept it.
+    if (nameOriginal(photo, [&](const char* name) {
+            return ::linkat(folder, photo.name.c_str(), folder, name, 0) == 0 || (errno == EEXIST && isPhoto(name));
+        }))
         return true;
     if (errno != EPERM && errno != EMLINK && !isUnsupported())
         return false;
     // A file has one name there.
     const TemporaryName temporary(photo.folder, {});
     return copyTo(photo.file.get(), photo.folder, temporary.name(), status) &&
-           (::renameat2(photo.folder.get(), temporary.name().c_str(), photo.folder.get(), original.c_str(),
-                        RENAME_NOREPLACE) == 0 ||
-            errno == EEXIST);
+           nameOriginal(photo, [&](const char* name) {
+               return ::renameat2(folder, temporary.name().c_str(), folder, name, RENAME_NOREPLACE) == 0;
+           });
 }
 
 /// What can be known before anything is written.
