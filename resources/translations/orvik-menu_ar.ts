@@ -1521,6 +1521,10 @@
         <source>Close</source>
         <translation>أغلق</translation>
     </message>
+    <message>
+        <source>A file holds more than the picture, such as a second one or a film, which stays and may hold such data too.</source>
+        <translation>يحتوي أحد الملفات على أكثر من الصورة، كصورة ثانية أو مقطع فيديو، وهذا يبقى وقد يحتوي على بيانات كهذه أيضًا.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::TagView</name>
@@ -2881,6 +2885,10 @@
     <message>
         <source>Its orientation is part of the picture and cannot be changed here.</source>
         <translation>اتجاهه جزء من الصورة، ولا يمكن تغييره هنا.</translation>
+    </message>
+    <message>
+        <source>It was saved, but it holds more than the picture, such as a second one or a film, which may hold such data too.</source>
+        <translation>حُفظ، لكنه يحتوي على أكثر من الصورة، كصورة ثانية أو مقطع فيديو، وقد يحتوي ذلك على بيانات كهذه أيضًا.</translation>
     </message>
 </context>
 <context>

@@ -1477,6 +1477,10 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>A file holds more than the picture, such as a second one or a film, which stays and may hold such data too.</source>
+        <translation>Eine Datei enthält mehr als das Bild, etwa ein zweites oder ein Video; das bleibt und kann ebenfalls solche Angaben enthalten.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::TagView</name>
@@ -2769,6 +2773,10 @@
     <message>
         <source>Its orientation is part of the picture and cannot be changed here.</source>
         <translation>Die Ausrichtung ist Teil des Bildes und kann hier nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>It was saved, but it holds more than the picture, such as a second one or a film, which may hold such data too.</source>
+        <translation>Sie wurde gespeichert, enthält aber mehr als das Bild, etwa ein zweites oder ein Video, und darin können ebenfalls solche Angaben sein.</translation>
     </message>
 </context>
 <context>

@@ -1477,6 +1477,10 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>A file holds more than the picture, such as a second one or a film, which stays and may hold such data too.</source>
+        <translation>Un archivo contiene más que la imagen, por ejemplo otra imagen o un vídeo, que se conserva y también puede contener tales datos.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::TagView</name>
@@ -2769,6 +2773,10 @@
     <message>
         <source>Its orientation is part of the picture and cannot be changed here.</source>
         <translation>Su orientación forma parte de la imagen y no se puede cambiar aquí.</translation>
+    </message>
+    <message>
+        <source>It was saved, but it holds more than the picture, such as a second one or a film, which may hold such data too.</source>
+        <translation>Se ha guardado, pero contiene más que la imagen, por ejemplo otra imagen o un vídeo, que también puede contener tales datos.</translation>
     </message>
 </context>
 <context>

@@ -1477,6 +1477,10 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>A file holds more than the picture, such as a second one or a film, which stays and may hold such data too.</source>
+        <translation>Un fichier contient plus que l’image, par exemple une seconde image ou un film, qui reste et peut aussi contenir de telles données.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::TagView</name>
@@ -2769,6 +2773,10 @@
     <message>
         <source>Its orientation is part of the picture and cannot be changed here.</source>
         <translation>Son orientation fait partie de l’image et ne peut pas être modifiée ici.</translation>
+    </message>
+    <message>
+        <source>It was saved, but it holds more than the picture, such as a second one or a film, which may hold such data too.</source>
+        <translation>Elle a été enregistrée, mais elle contient plus que l’image, par exemple une seconde image ou un film, qui peut aussi contenir de telles données.</translation>
     </message>
 </context>
 <context>

@@ -1466,6 +1466,10 @@
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>A file holds more than the picture, such as a second one or a film, which stays and may hold such data too.</source>
+        <translation>有文件除图片外还包含其他内容，例如另一张图片或一段视频；这些内容会保留，也可能含有此类数据。</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::TagView</name>
@@ -2741,6 +2745,10 @@
     <message>
         <source>Its orientation is part of the picture and cannot be changed here.</source>
         <translation>其方向是图像的一部分，无法在此更改。</translation>
+    </message>
+    <message>
+        <source>It was saved, but it holds more than the picture, such as a second one or a film, which may hold such data too.</source>
+        <translation>已保存，但除图片外还包含其他内容，例如另一张图片或一段视频，其中也可能含有此类数据。</translation>
     </message>
 </context>
 <context>

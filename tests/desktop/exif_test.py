@@ -182,6 +182,27 @@ class Exif(ExifWindow, DesktopTestCase):
         self.assertEqual(tags["Title"], "A hill")
         self.assertFalse({"Artist", "GPSLatitude", "SerialNumber"} & set(tags))
 
+    def test_a_second_picture_in_the_file_is_told_of_when_what_is_personal_is_removed(self):
+        path = self.photo(Artist="Ada")
+        with open(path, "rb") as file:
+            picture = file.read()
+        with open(path, "ab") as file:
+            file.write(picture)
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Remove Location and Personal Data…")
+        self.hands.press("space")
+        dialog = self.action.active_window("Remove Location and Personal Data")
+        self.assertTrue(any("A file holds more than the picture" in text for text in dialog.texts()), dialog.texts())
+        self.save_picture("exif-second-picture")
+        self.assertReadsWell(dialog)
+        self.action.go_to("Remove", dialog)
+        self.hands.press("space")
+        self.action.active_window(TITLE)
+        self.assertTells("1 photo was saved.")
+        self.assertEqual(self.failures(), ["photo.jpg"])
+        self.assertNotIn("Artist", self.tags(path))
+
     def test_a_photo_that_cannot_be_changed_is_named_and_the_others_are_saved(self):
         paths = [self.photo("good.jpg"), self.photo("bad.webp", kind="webp")]
         self.open(*paths)

@@ -1,5 +1,7 @@
 #include "Batch.h"
 
+#include "ImageData.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -77,8 +79,11 @@ void readPhotos(const Request& request, const std::vector<std::string>& paths, c
             return;
         auto readings = exifTool.read(opened.photos, stop);
         for (std::size_t place = 0; place < readings.size(); ++place) {
-            if (readings[place].trouble.kind != Trouble::Kind::Cancelled)
-                report(opened.indices[place], std::move(readings[place]));
+            if (readings[place].trouble.kind == Trouble::Kind::Cancelled)
+                continue;
+            ByteSource bytes(opened.photos[place].file.get());
+            readings[place].holdsMore = holdsMore(bytes);
+            report(opened.indices[place], std::move(readings[place]));
         }
     });
 }

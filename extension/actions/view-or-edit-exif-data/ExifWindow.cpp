@@ -228,10 +228,12 @@ void ExifWindow::save(const Edits& edits)
 void ExifWindow::showSaved(const PhotoWork::Progress& progress)
 {
     m_photos->setEnabled(true);
-    const auto saved = static_cast<int>(progress.done - progress.failures.size());
+    const auto failed = std::ranges::count_if(
+        progress.failures, [](const auto& failure) { return failure.second.kind != Trouble::Kind::HoldsMore; });
+    const int saved = static_cast<int>(progress.done) - static_cast<int>(failed);
     const QString words = saved == 1 ? tr("1 photo was saved.") : tr("%n photos were saved.", nullptr, saved);
     //: The first says how many photos were saved; the others follow as a list.
-    say(progress.failures.empty() ? words : tr("%1 These were left as they were:").arg(words));
+    say(failed == 0 ? words : tr("%1 These were left as they were:").arg(words));
     addFailures(progress.failures);
     if (saved > 0) {
         read();

@@ -510,6 +510,12 @@ std::optional<std::vector<Extent>> imageData(ByteSource& file)
     return std::nullopt;
 }
 
+bool holdsMore(ByteSource& file)
+{
+    const auto parts = file.look(0, 3) == "\xff\xd8\xff"sv ? ofJpeg(file) : std::nullopt;
+    return parts && parts->back().length > 0;
+}
+
 std::optional<bool> haveSameImage(ByteSource& one, ByteSource& other)
 {
     const auto ofOne = imageData(one);

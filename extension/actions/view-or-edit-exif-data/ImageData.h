@@ -19,6 +19,9 @@ struct Extent {
 /// other files, and where the file does not hold what it says.
 [[nodiscard]] std::optional<std::vector<Extent>> imageData(ByteSource& file);
 
+/// Whether something follows the picture: in a JPEG's file a second one or a film may, with data of its own.
+[[nodiscard]] bool holdsMore(ByteSource& file);
+
 /// Whether two files hold the same picture, byte by byte; nothing where imageData() does not know.
 [[nodiscard]] std::optional<bool> haveSameImage(ByteSource& one, ByteSource& other);
 

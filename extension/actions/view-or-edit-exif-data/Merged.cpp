@@ -29,7 +29,7 @@ void merge(Merged::Value& value, const std::string& text, bool isFirst)
 
 } // namespace
 
-void Merged::add(const Tags& tags)
+void Merged::add(const Tags& tags, bool holdsMore)
 {
     for (const Tag& tag : tags) {
         const auto [place, isNew] = m_places.try_emplace({tag.family, tag.group, tag.name}, m_lines.size());
@@ -39,6 +39,7 @@ void Merged::add(const Tags& tags)
     }
     for (std::size_t index = 0; index < fields; ++index)
         merge(m_fields[index], textOf(static_cast<Field>(index), tags), m_photos == 0);
+    m_holdsMore = m_holdsMore || holdsMore;
     ++m_photos;
 }
 

@@ -27,9 +27,11 @@ public:
         Value value;
     };
 
-    void add(const Tags& tags);
+    void add(const Tags& tags, bool holdsMore = false);
 
     [[nodiscard]] std::size_t photos() const { return m_photos; }
+    /// Whether a file holds more than the picture.
+    [[nodiscard]] bool holdsMore() const { return m_holdsMore; }
     /// In the order in which they were met. A value that some photos do not have differs.
     [[nodiscard]] const std::vector<Line>& lines() const { return m_lines; }
     /// The photos that do not have it have an empty one.
@@ -40,6 +42,7 @@ private:
     static constexpr std::size_t fields = static_cast<std::size_t>(Field::Place) + 1;
 
     std::size_t m_photos = 0;
+    bool m_holdsMore = false;
     std::vector<Line> m_lines;
     std::map<std::array<std::string, 3>, std::size_t> m_places;
     std::array<Value, fields> m_fields;

@@ -62,6 +62,10 @@ PersonalDataDialog::PersonalDataDialog(const Merged& merged, QWidget* parent) : 
     words->setText(isAny ? tr("This is removed for good, unless the original is kept. Title, description, copyright "
                               "and date stay.")
                          : tr("The photos have no location and no personal data that is known here."));
+    if (merged.holdsMore())
+        words->setText(words->text() + QStringLiteral("\n\n") +
+                       tr("A file holds more than the picture, such as a second one or a film, which stays and may "
+                          "hold such data too."));
     // It is read with the window's title.
     LinuxDesktop::tieWords(*words, *this);
     list->setVisible(isAny);

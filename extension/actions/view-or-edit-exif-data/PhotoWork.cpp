@@ -76,7 +76,7 @@ void PhotoWork::note(std::size_t place, const Reading& reading)
         if (reading.trouble)
             m_progress.failures.emplace_back(m_photos[place], reading.trouble);
         else
-            m_progress.merged.add(reading.tags);
+            m_progress.merged.add(reading.tags, reading.holdsMore);
         const auto now = std::chrono::steady_clock::now();
         if (m_isTelling || now - m_told < pause)
             return;

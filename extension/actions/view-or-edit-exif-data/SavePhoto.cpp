@@ -245,6 +245,14 @@ public:
             m_trouble = cannotBeSaved();
     }
 
+    /// What the removal of personal data did not come to.
+    void tellOfMore()
+    {
+        ByteSource bytes(m_photo.file.get());
+        if (!m_trouble && holdsMore(bytes))
+            m_trouble = {.kind = Trouble::Kind::HoldsMore};
+    }
+
 private:
     const OpenedFile& m_photo;
     Tags m_before;
@@ -318,6 +326,8 @@ std::vector<Trouble> savePhotos(TagReader& exifTool, std::span<const OpenedFile>
     for (Save& save : saves) {
         if (save.isOnItsWay())
             save.keep(flushed);
+        if (edits.removesPersonalData)
+            save.tellOfMore();
         troubles.push_back(save.trouble());
     }
     return troubles;

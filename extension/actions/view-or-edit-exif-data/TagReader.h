@@ -19,6 +19,8 @@ namespace MenuExtension::Exif {
 struct Reading {
     Tags tags = {};
     Trouble trouble = {};
+    /// Than the picture that the tags are of.
+    bool holdsMore = false;
 };
 
 /// Reads what files say by an ExifTool of its own, which sees none of their names. One thread at a time.

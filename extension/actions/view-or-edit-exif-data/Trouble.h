@@ -28,6 +28,8 @@ struct Trouble {
         PictureDiffers,
         EditsNotKept,
         NoDate,
+        /// It was saved, and what follows the picture in the file is as it was.
+        HoldsMore,
         /// Its orientation is part of the picture.
         OrientationInPicture,
     };

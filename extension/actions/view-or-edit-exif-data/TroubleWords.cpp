@@ -64,6 +64,10 @@ QString inWords(const Trouble& trouble)
         return Texts::tr("It does not hold all that was to be written. Nothing was changed.");
     case Kind::NoDate:
         return Texts::tr("It has no date that could be moved.");
+    case Kind::HoldsMore:
+        return Texts::tr(
+            "It was saved, but it holds more than the picture, such as a second one or a film, which may "
+            "hold such data too.");
     case Kind::OrientationInPicture:
         return Texts::tr("Its orientation is part of the picture and cannot be changed here.");
     }

@@ -224,6 +224,23 @@ TEST_F(SavePhotoTest, RemovesLocationAndPersonalData)
     EXPECT_EQ(save(path, edits), Kind::None) << "there is nothing more to do";
 }
 
+TEST_F(SavePhotoTest, SaysWhereMoreThanThePictureMayHoldPersonalData)
+{
+    const Path path = photo("jpg");
+    Edits edits = everything();
+    ASSERT_EQ(save(path, edits), Kind::None);
+    EXPECT_FALSE(read(path).holdsMore);
+    // A second picture that has all of it.
+    Files::write(path, Files::read(path) + Files::read(path));
+    EXPECT_TRUE(read(path).holdsMore);
+    EXPECT_EQ(save(path, {.texts = {{Field::Title, "again"}}, .orientation = {}, .place = {}}), Kind::None);
+    edits = {};
+    edits.removesPersonalData = true;
+    EXPECT_EQ(save(path, edits), Kind::HoldsMore);
+    EXPECT_EQ(text(Field::Place, path), "");
+    EXPECT_EQ(save(path, edits), Kind::HoldsMore) << "there is nothing more to do";
+}
+
 TEST_F(SavePhotoTest, WhatOtherProgramsAndDronesNoteOfPlacesAndPeopleIsRemovedToo)
 {
     const Path path = photo("jpg");
