@@ -1466,6 +1466,10 @@
         <source>Cancel</source>
         <translation>ألغِ</translation>
     </message>
+    <message>
+        <source>Reading was cancelled. Choose photos to read them.</source>
+        <translation>أُلغيت القراءة. اختر صورًا لقراءتها.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

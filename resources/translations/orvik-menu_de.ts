@@ -1422,6 +1422,10 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Reading was cancelled. Choose photos to read them.</source>
+        <translation>Das Lesen wurde abgebrochen. Wählen Sie Fotos aus, um sie zu lesen.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

@@ -1422,6 +1422,10 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>Reading was cancelled. Choose photos to read them.</source>
+        <translation>Se ha cancelado la lectura. Elija fotos para leerlas.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

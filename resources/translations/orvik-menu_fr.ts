@@ -1422,6 +1422,10 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>Reading was cancelled. Choose photos to read them.</source>
+        <translation>La lecture a été annulée. Choisissez des photos pour les lire.</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

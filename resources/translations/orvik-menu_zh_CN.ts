@@ -1411,6 +1411,10 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>Reading was cancelled. Choose photos to read them.</source>
+        <translation>读取已取消。选择照片即可读取。</translation>
+    </message>
 </context>
 <context>
     <name>MenuExtension::Exif::PersonalDataDialog</name>

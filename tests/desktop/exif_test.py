@@ -330,6 +330,47 @@ class Exif(ExifWindow, DesktopTestCase):
         self.hands.press("Escape")
         first.wait_for_end()
 
+    def stall_exiftool(self):
+        """Has it stand still while a file is there, whose name is the answer."""
+        flag = os.path.join(self.home.folder, "stands still")
+        program = os.path.join(self.home.programs, "exiftool")
+        real = os.path.realpath(program)
+        os.unlink(program)
+        with open(program, "w", encoding="utf-8") as file:
+            file.write(f'#!/bin/bash\n[ -e "{flag}" ] && exec /bin/sleep 600\nexec {real} "$@"\n')
+        os.chmod(program, 0o755)
+        return flag
+
+    def cancel(self):
+        eventually(lambda: self.window.find("push button", "Cancel"), "the button")
+        self.press_button("Cancel")
+
+    def test_many_photos_whose_reading_is_cancelled_can_be_read_again(self):
+        flag = self.stall_exiftool()
+        self.open(*[self.photo(f"{number}.jpg", Title=f"title {number}", Artist="Ada") for number in range(2)])
+        eventually(lambda: "Ada" in self.cells(), "the data")
+        self.to_edit_page()
+        self.home.make_file(flag)
+        self.go_to("Photos")
+        self.hands.press("End")
+        self.cancel()
+        self.assertTells("Reading was cancelled. Choose photos to read them.")
+        eventually(lambda: not self.window.find("text", "Title").has("enabled") and
+                   not self.window.find("text", "Author").text, "the form to be empty")
+        self.assertNotIn("1.jpg", self.labels())
+        self.assertReadsWell(self.window)
+
+        os.remove(flag)
+        self.go_to("Photos")
+        self.hands.press("Home")
+        eventually(lambda: self.window.find("text", "Title").text == "title 0", "the photo that is chosen then")
+
+    def test_the_window_of_one_photo_goes_when_its_reading_is_cancelled(self):
+        self.home.make_file(self.stall_exiftool())
+        self.open(self.photo())
+        self.cancel()
+        self.action.wait_for_end()
+
     def test_a_name_that_is_no_text_is_no_hindrance(self):
         name = os.fsencode(self.home.files) + b"/not \xff text\n.jpg"
         shutil.copy(os.path.join(PHOTOS, "photo.jpg"), name)

@@ -70,6 +70,14 @@ ExifWindow::ExifWindow(const Request& request)
         if (wasSaving) {
             say(tr("It was ended; the photos that were not saved yet are as they were."));
             read();
+        } else if (m_request.paths.size() == 1) {
+            close();
+        } else {
+            // Whichever is chosen then is read.
+            m_photos->clearSelection();
+            m_settled.stop();
+            readSelected();
+            say(tr("Reading was cancelled. Choose photos to read them."));
         }
     });
     connect(m_form, &EditForm::saved, this, &ExifWindow::save);
