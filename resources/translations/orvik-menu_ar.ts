@@ -2202,6 +2202,10 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>تعذّر حفظه: لا توجد مساحة له</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>تعذّر تغيير حجمه في مكانه: سيفقد بيانات Exif من دون ExifTool</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

@@ -2114,6 +2114,10 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>kann nicht gespeichert werden: Es ist nicht genug Platz vorhanden</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>kann nicht an seiner Stelle skaliert werden: Ohne ExifTool gingen die Exif-Daten verloren</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

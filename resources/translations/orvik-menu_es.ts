@@ -2114,6 +2114,10 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>no se puede guardar: no hay espacio suficiente</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>no se puede redimensionar en su lugar: sin ExifTool perdería sus datos Exif</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

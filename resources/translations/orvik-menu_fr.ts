@@ -2114,6 +2114,10 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>ne peut pas être enregistré&#xa0;: il n’y a pas assez de place</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>ne peut pas être redimensionné à sa place&#xa0;: sans ExifTool, il perdrait ses données Exif</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

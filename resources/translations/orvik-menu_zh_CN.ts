@@ -2092,6 +2092,10 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>无法保存：空间不足</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>无法就地调整大小：没有 ExifTool 会丢失其 Exif 数据</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

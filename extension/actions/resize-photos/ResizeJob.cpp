@@ -112,6 +112,7 @@ std::string textOf(const Result& result)
     put(text, done.after);
     put(text, done.shownBefore);
     put(text, done.shownAfter);
+    put(text, static_cast<std::uint64_t>(done.data));
     return text;
 }
 
@@ -125,6 +126,7 @@ Result resultFrom(std::string_view text)
     done.after = sizeFrom(reader);
     done.shownBefore = pixelsFrom(reader);
     done.shownAfter = pixelsFrom(reader);
+    done.data = reader.number() == 0 ? Data::Kept : Data::Lost;
     if (!text.starts_with(resized) || !reader.isWhole())
         return Refused{NS::LocalizedString("Photos", "cannot be resized: its worker gave no answer")};
     return done;

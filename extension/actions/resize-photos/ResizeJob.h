@@ -52,6 +52,12 @@ struct Pixels {
     std::string bytes = {};
     friend bool operator==(const Pixels&, const Pixels&) = default;
 };
+/// What is said of a photo.
+enum class Data {
+    Kept,
+    /// The new file has less of it.
+    Lost,
+};
 /// Of a photo that is that small already, and whose file stays as it is, both sizes are the same.
 struct Resized {
     Size before;
@@ -59,6 +65,7 @@ struct Resized {
     /// Where they were asked for.
     Pixels shownBefore = {};
     Pixels shownAfter = {};
+    Data data = Data::Kept;
     friend bool operator==(const Resized&, const Resized&) = default;
 };
 /// Why it was not resized: the end of a sentence that begins with its name, without a full stop.

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -114,6 +115,41 @@ protected:
     }
     [[nodiscard]] Path root() const { return m_root; }
 
+    /// What ExifTool says with these arguments and a file, in order.
+    [[nodiscard]] static std::string exifTool(const std::string& arguments, const Path& path)
+    {
+        const std::string command = "exiftool -config '' " + arguments + " '" + path.string() + "' | sort";
+        FILE* const said = ::popen(command.c_str(), "r");
+        std::string text;
+        std::array<char, 4096> part{};
+        for (std::size_t count = 0; (count = std::fread(part.data(), 1, part.size(), said)) > 0;)
+            text.append(part.data(), count);
+        EXPECT_EQ(::pclose(said), 0) << command;
+        return text;
+    }
+
+    /// Writes into a photo what cameras and people say of one.
+    static void describe(const Path& path)
+    {
+        const bool hasIptc =
+            path.extension() != ".heic" && path.extension() != ".avif" && path.extension() != ".webp";
+        static_cast<void>(exifTool(
+            std::string("-q -m -overwrite_original -Make=Cam -Model=X1 -DateTimeOriginal='2020:01:02 03:04:05' "
+                        "-LensModel=50mm -GPSLatitude=48.5 -GPSLatitudeRef=N -Orientation#=6 -XPTitle=Über "
+                        "-XMP-dc:Title=Titel "
+                        "-XMP-dc:Subject=eins -XMP-dc:Subject=zwei ") +
+                (hasIptc ? "-IPTC:Caption-Abstract=capt -IPTC:Keywords=drei " : "") +
+                (path.extension() == ".png" ? "-PNG:CreationTime='2020:01:02 03:04:05' " : ""),
+            path));
+    }
+    /// That, all of it.
+    [[nodiscard]] static std::string description(const Path& path)
+    {
+        return exifTool("-a -G1 -s -n -Make -Model -DateTimeOriginal -LensModel -GPSLatitude -XPTitle -Artist "
+                        "-Orientation -PNG:CreationTime -XMP:all -IPTC:all",
+                        path);
+    }
+
 private:
     Path m_root;
     Request m_request;
@@ -178,6 +214,37 @@ TEST_F(ResizePhotoTest, EveryFormatStaysWithItsMetadataProfileAndOrientation)
             EXPECT_EQ(vips_image_get_typeof(image.get(), field), vips_image_get_typeof(original.get(), field))
                 << kind << field;
         EXPECT_EQ(vips_image_get_orientation(image.get()), vips_image_get_orientation(original.get())) << kind;
+    }
+}
+
+TEST_F(ResizePhotoTest, WhatIsSaidOfAPhotoStaysInEveryFormat)
+{
+    for (const std::string kind : {"jpg", "png", "webp", "tif", "heic", "avif"}) {
+        const Path path = photo("a." + kind);
+        describe(path);
+        const auto outcome = resize(path, small);
+        ASSERT_EQ(outcome.kind, Kind::Done) << kind << outcome.words;
+        const Path made = listed() / outcome.name;
+        EXPECT_EQ(description(made), description(path)) << kind;
+        EXPECT_NE(description(made).find("[XMP-dc]        Subject"), std::string::npos) << kind;
+        EXPECT_EQ(outcome.after.bytes, fs::file_size(made)) << kind;
+        ASSERT_TRUE(open(made)) << kind;
+        EXPECT_EQ(vips_image_get_orientation(open(made).get()), vips_image_get_orientation(open(path).get())) << kind;
+        EXPECT_EQ(exifTool("-s3 -Error", made), "") << kind;
+    }
+    EXPECT_EQ(namesIn(listed()).size(), 12U) << "and nothing else is left";
+}
+
+TEST_F(ResizePhotoTest, WhatIsSaidOfATiffCountsAmongItsBytes)
+{
+    const Path path = photo("a.tif", 800, 600);
+    describe(path);
+    static_cast<void>(exifTool("-q -overwrite_original -UserComment='" + std::string(20'000, 'x') + "'", path));
+    for (const std::uint64_t most : {300'000U, 100'000U, 60'000U}) {
+        const auto outcome = resize(path, {Goal::Kind::Bytes, most});
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        EXPECT_LE(fs::file_size(listed() / outcome.name), most);
+        EXPECT_EQ(description(listed() / outcome.name), description(path));
     }
 }
 
@@ -309,6 +376,26 @@ TEST_F(ResizePhotoTest, WhatCannotTakeThePlaceOfATrashedPhotoLiesBesideIt)
     EXPECT_EQ(outcome.name, "a-100x75.jpg");
     EXPECT_EQ(namesIn(listed()), std::vector<std::string>{"a-100x75.jpg"});
     EXPECT_EQ(vips_image_get_width(open(listed() / "a-100x75.jpg").get()), 100);
+}
+
+TEST_F(ResizePhotoTest, WithoutExifToolNoTiffTakesThePlaceOfOneThatSaysMore)
+{
+    const Path path = photo("a.tif");
+    const Path plain = photo("plain.tif");
+    static_cast<void>(exifTool("-q -overwrite_original -all=", plain));
+    describe(path);
+    const std::string before = Files::read(path);
+    const std::string programs = std::getenv("PATH");
+    ::setenv("PATH", "/nowhere", 1);
+    const auto inPlace = resize(path, small, {.kind = Target::Kind::InPlace});
+    const auto beside = resize(path, small);
+    const auto ofPlain = resize(plain, small, {.kind = Target::Kind::InPlace});
+    ::setenv("PATH", programs.c_str(), 1);
+    EXPECT_EQ(inPlace.kind, Kind::Refused);
+    EXPECT_NE(inPlace.words.find("ExifTool"), std::string::npos) << inPlace.words;
+    EXPECT_EQ(Files::read(path), before);
+    EXPECT_EQ(beside.kind, Kind::Done) << beside.words;
+    EXPECT_NE(ofPlain.kind, Kind::Refused) << "a scan says nothing that would be lost: " << ofPlain.words;
 }
 
 TEST_F(ResizePhotoTest, PermissionsStay)

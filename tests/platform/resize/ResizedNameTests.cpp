@@ -40,7 +40,7 @@ TEST(ResizeJob, IsUnderstoodByTheOtherEnd)
     EXPECT_EQ(jobFrom(textOf(job)), job);
     for (std::size_t length = 0; length < textOf(job).size(); ++length)
         EXPECT_FALSE(jobFrom(textOf(job).substr(0, length)));
-    const Result result = Resized{{1, 2, 3}, {4, 5, 6}, {1, 1, "abc"}, {}};
+    const Result result = Resized{{1, 2, 3}, {4, 5, 6}, {1, 1, "abc"}, {}, Data::Lost};
     EXPECT_EQ(resultFrom(textOf(result)), result);
     const Result refusal = Refused{"cannot be read"};
     EXPECT_EQ(resultFrom(textOf(refusal)), refusal);
