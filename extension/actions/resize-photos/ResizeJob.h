@@ -16,13 +16,15 @@ struct Goal {
         Length,
         /// So many hundredths of its width and height.
         Percent,
-        /// At most so many bytes; in at most 2048 pixels each way, where it is for a screen.
+        /// At most so many bytes.
         Bytes,
     };
     Kind kind = Kind::Length;
     std::uint64_t value = 1920;
     /// Of formats that lose something: from 1 to 100.
     int quality = 85;
+    /// Of Bytes: at most so many pixels each way as well, or 0.
+    std::uint32_t longest = 0;
     friend bool operator==(const Goal&, const Goal&) = default;
 };
 

@@ -289,7 +289,7 @@ std::uint64_t fairShare(std::vector<std::uint64_t> sizes, std::uint64_t total)
     return std::max<std::uint64_t>(total, 1);
 }
 
-Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, std::uint64_t bytes)
+Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, Goal goal)
 {
     std::vector<std::uint64_t> sizes;
     for (const std::string& path : paths) {
@@ -298,7 +298,8 @@ Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, s
         if (photo && ::fstat(photo->file.get(), &status) == 0)
             sizes.push_back(static_cast<std::uint64_t>(status.st_size));
     }
-    return {Goal::Kind::Bytes, fairShare(std::move(sizes), bytes)};
+    goal.value = fairShare(std::move(sizes), goal.value);
+    return goal;
 }
 
 void resizePhotos(const Request& request, const std::vector<std::string>& paths, const Goal& goal,

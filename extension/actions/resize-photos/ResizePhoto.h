@@ -87,9 +87,9 @@ private:
     std::unique_ptr<Transfers::SystemCalls> m_calls;
 };
 
-/// A goal of so many bytes for all the photos together, as one that each of them can have: those that are small
-/// enough leave their share to the others. Looks at the files.
-[[nodiscard]] Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, std::uint64_t bytes);
+/// A goal in bytes for all the photos together, as one that each of them can have: those that are small enough leave
+/// their share to the others. Looks at the files.
+[[nodiscard]] Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, Goal goal);
 /// The most bytes that each may have so that all together have no more than `total`; `sizes` are those they have.
 [[nodiscard]] std::uint64_t fairShare(std::vector<std::uint64_t> sizes, std::uint64_t total);
 

@@ -168,6 +168,9 @@ bool isMoreThanForScreens(VipsImage* header)
            vips_image_get_interpretation(header) == VIPS_INTERPRETATION_CMYK;
 }
 
+/// What is said of a picture, by the library's names.
+constexpr std::array said{VIPS_META_ICC_NAME, VIPS_META_EXIF_NAME, VIPS_META_XMP_NAME, VIPS_META_IPTC_NAME};
+
 /// XMP in HEIC and AVIF, which the library reads under a name that it does not write.
 void nameXmp(VipsImage* image)
 {
@@ -200,12 +203,25 @@ void removeTexts(VipsImage* image)
 void ownMetadata(VipsImage* image)
 {
     nameXmp(image);
-    for (const char* name : {VIPS_META_ICC_NAME, VIPS_META_EXIF_NAME, VIPS_META_XMP_NAME, VIPS_META_IPTC_NAME}) {
+    for (const char* name : said) {
         const void* bytes = nullptr;
         std::size_t length = 0;
         if (vips_image_get_typeof(image, name) != 0 && vips_image_get_blob(image, name, &bytes, &length) == 0)
             vips_image_set_blob_copy(image, name, bytes, length);
     }
+}
+
+/// How many bytes are said of a picture.
+std::size_t dataOf(VipsImage* image)
+{
+    std::size_t sum = 0;
+    for (const char* name : said) {
+        const void* bytes = nullptr;
+        std::size_t length = 0;
+        if (vips_image_get_typeof(image, name) != 0 && vips_image_get_blob(image, name, &bytes, &length) == 0)
+            sum += length;
+    }
+    return sum;
 }
 
 /// The stored picture in that size, in memory. As it is stored: it is turned when it is shown.
@@ -265,20 +281,34 @@ struct Made {
     std::uint32_t height = 0;
 };
 
-/// Smaller and smaller until it is small enough.
+/// Worse and smaller until it is small enough, and not much more so than it has to be.
 std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format, const Goal& goal,
                                  const Size& stored)
 {
     constexpr int tries = 8;
     constexpr int worstQuality = 60;
+    // What a worse quality alone may save.
+    constexpr double ofQuality = 0.6;
+    constexpr double nearEnough = 0.8;
     // A little less is asked for, so that the next try is mostly the last.
     constexpr double care = 0.95;
     constexpr std::size_t endOfPngHeader = 33;
-    Size size = sizeFor(goal, stored);
-    int quality = goal.quality;
+    const bool isLossy = format != Format::Png && format != Format::Tiff;
+    const Size largest = sizeFor(goal, stored);
     const std::string texts = format == Format::Png ? textsOfPng(bytesOf(photo)) : std::string();
+    double scale = 1;
+    double fitting = 0;
+    double tooLarge = 1;
+    int quality = goal.quality;
+    Image picture;
+    std::optional<Made> best;
     for (int count = 0; count < tries; ++count) {
-        const Image picture = scaled(photo, size.width, size.height);
+        const auto length = [scale](std::uint32_t most) {
+            return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(most * scale));
+        };
+        const Size size{length(largest.width), length(largest.height), 0};
+        if (!picture)
+            picture = scaled(photo, size.width, size.height);
         if (!picture)
             return damaged();
         if (format == Format::Png)
@@ -287,15 +317,30 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
         if (!file)
             return notWritten();
         file->insert(std::min(endOfPngHeader, file->size()), texts);
-        if (goal.kind != Goal::Kind::Bytes || file->size() <= goal.value)
-            return Made{*std::move(file), size.width, size.height};
-        quality = std::min(quality, std::max(worstQuality, quality - 10));
-        const double share = std::sqrt(static_cast<double>(goal.value) / static_cast<double>(file->size())) * care;
-        const auto smaller = [share](std::uint32_t length) {
-            return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(length * std::min(share, 0.95)));
-        };
-        size = {smaller(size.width), smaller(size.height), 0};
+        const auto bytes = static_cast<double>(file->size());
+        const auto most = static_cast<double>(goal.value);
+        // What is said of it stays as large as it is.
+        const double data =
+            std::min(static_cast<double>(dataOf(picture.get()) + texts.size()), std::min(bytes, most) * 0.99);
+        const double share = (most - data) / (bytes - data);
+        const bool isSmallEnough = goal.kind != Goal::Kind::Bytes || share >= 1;
+        if (isSmallEnough)
+            best = Made{*std::move(file), size.width, size.height};
+        if (isSmallEnough && (scale == 1 || share * nearEnough <= 1))
+            break;
+        const bool mayDoWorse = scale == 1 && isLossy && quality > worstQuality && share > ofQuality;
+        if (scale == 1)
+            quality = std::min(quality, std::max(worstQuality, quality - 10));
+        if (mayDoWorse)
+            continue;
+        (isSmallEnough ? fitting : tooLarge) = scale;
+        scale *= std::sqrt(share) * care;
+        if (scale <= fitting || scale >= tooLarge)
+            scale = (fitting + tooLarge) / 2;
+        picture.reset();
     }
+    if (best)
+        return *std::move(best);
     return Refused{NS::LocalizedString("Photos", "cannot be made that small")};
 }
 

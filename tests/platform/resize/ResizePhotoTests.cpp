@@ -305,6 +305,26 @@ TEST_F(ResizePhotoTest, ASizeInBytesIsReached)
     EXPECT_EQ(resize(path, {Goal::Kind::Bytes, 3000}).kind, Kind::Refused);
 }
 
+TEST_F(ResizePhotoTest, ASizeInBytesTakesNoMoreOfThePhotoThanItHasTo)
+{
+    for (const std::string kind : {"jpg", "webp", "png"}) {
+        const Path path = photo("a." + kind, 2600, 400, 1);
+        const std::uint64_t whole = fs::file_size(path);
+        for (const std::uint64_t most : {whole * 9 / 10, whole / 2, whole / 8}) {
+            const auto outcome = resize(path, {Goal::Kind::Bytes, most});
+            ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+            EXPECT_LE(outcome.after.bytes, most) << kind;
+            const bool isWhole = outcome.after.width == 2600;
+            EXPECT_TRUE(isWhole || outcome.after.bytes > most / 4 * 3)
+                << kind << ' ' << outcome.after.bytes << " of " << most << ' ' << outcome.after.width;
+            // What is written worse needs no fewer pixels.
+            EXPECT_EQ(isWhole, kind != "png" && most == whole * 9 / 10) << kind << most;
+        }
+    }
+    const Goal forScreens{.kind = Goal::Kind::Bytes, .value = 100'000'000, .longest = 2048};
+    EXPECT_EQ(sizeFor(forScreens, {4000, 3000, 0}), (Size{2048, 1536, 0}));
+}
+
 TEST_F(ResizePhotoTest, WhatIsSmallAlreadyIsLeftAlone)
 {
     const Path path = photo("a.jpg");
@@ -501,7 +521,7 @@ TEST_F(ResizePhotoTest, AllTogetherHaveNoMoreThanIsWanted)
     paths.push_back(photo("small.jpg", 40, 30));
     constexpr std::uint64_t most = 100'000;
     std::uint64_t sum = fs::file_size(paths.back());
-    const Goal goal = sharedGoal(request(), paths, most);
+    const Goal goal = sharedGoal(request(), paths, {Goal::Kind::Bytes, most});
     for (std::size_t number = 0; number < 2; ++number) {
         const auto outcome = resize(paths[number], goal);
         ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;

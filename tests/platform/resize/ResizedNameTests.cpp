@@ -36,7 +36,7 @@ TEST(ResizedName, APatternHasTheNameAndNothingThatNoNameHas)
 
 TEST(ResizeJob, IsUnderstoodByTheOtherEnd)
 {
-    const Job job{{Goal::Kind::Bytes, 500'000, 70}, 320};
+    const Job job{{Goal::Kind::Bytes, 500'000, 70, 2048}, 320};
     EXPECT_EQ(jobFrom(textOf(job)), job);
     for (std::size_t length = 0; length < textOf(job).size(); ++length)
         EXPECT_FALSE(jobFrom(textOf(job).substr(0, length)));
