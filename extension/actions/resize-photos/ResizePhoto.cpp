@@ -188,7 +188,9 @@ Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Ta
     if (outcome.kind != Outcome::Kind::Done)
         return outcome;
     struct stat status = {};
-    if (::fstat(photo.file.get(), &status) != 0 || !copyAttributes(photo.file.get(), made.file().get(), status) ||
+    // The photo itself keeps what has no place in the other folder.
+    if (::fstat(photo.file.get(), &status) != 0 ||
+        !copyAttributes(photo.file.get(), made.file().get(), status, Unsupported::AreLeft) ||
         ::fsync(made.file().get()) != 0)
         return cannotBeSaved();
     if (stop.stop_requested())

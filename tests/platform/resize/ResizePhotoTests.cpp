@@ -18,7 +18,9 @@
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <thread>
 #include <unistd.h>
 #include <utility>
@@ -32,6 +34,9 @@ using Kind = Resizing::Outcome::Kind;
 using LinuxDesktop::FileDescriptor;
 
 namespace {
+
+/// Whether file systems have no attributes.
+bool hasNoAttributes = false;
 
 struct LetGo {
     void operator()(void* object) const { g_object_unref(object); }
@@ -195,6 +200,15 @@ private:
 };
 
 } // namespace
+
+// In the place of the system's own.
+int fsetxattr(int file, const char* name, const void* value, std::size_t size, int flags) noexcept
+{
+    if (!hasNoAttributes)
+        return static_cast<int>(::syscall(SYS_fsetxattr, file, name, value, size, flags));
+    errno = EOPNOTSUPP;
+    return -1;
+}
 
 TEST_F(ResizePhotoTest, EveryFormatStaysWithItsMetadataProfileAndOrientation)
 {
@@ -424,6 +438,20 @@ TEST_F(ResizePhotoTest, PermissionsStay)
     fs::permissions(path, fs::perms(0640));
     const auto outcome = resize(path, small);
     EXPECT_EQ(fs::status(listed() / outcome.name).permissions(), fs::perms(0640));
+}
+
+TEST_F(ResizePhotoTest, WhatAFileSystemHasNoPlaceForIsLeftBehind)
+{
+    const Path path = photo("a.jpg");
+    ASSERT_EQ(::setxattr(path.c_str(), "user.xdg.origin.url", "https://example.org/", 20, 0), 0);
+    const auto kept = resize(path, small, {Target::Kind::Folder, other(), "{name}"});
+    ASSERT_EQ(kept.kind, Kind::Done);
+    EXPECT_EQ(::getxattr((other() / kept.name).c_str(), "user.xdg.origin.url", nullptr, 0), 20);
+    hasNoAttributes = true;
+    const auto made = resize(path, small, {Target::Kind::Folder, other(), "{name}"});
+    hasNoAttributes = false;
+    EXPECT_EQ(made.kind, Kind::Done) << std::strerror(made.error);
+    EXPECT_EQ(namesIn(other()), (std::vector<std::string>{"a (2).jpg", "a.jpg"}));
 }
 
 TEST_F(ResizePhotoTest, HostileFilesAreToldOfAndLeaveNothing)
