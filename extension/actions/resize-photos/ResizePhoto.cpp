@@ -4,6 +4,7 @@
 #include "extension/actions/files/Trash.h"
 #include "extension/actions/placing/Attributes.h"
 #include "extension/actions/transfer/Placing.h"
+#include "extension/actions/view-or-edit-exif-data/ImageData.h"
 #include "platform/LocalizedString.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <mutex>
+#include <string_view>
 #include <sys/random.h>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
@@ -136,6 +138,27 @@ std::string pathOf(const FileDescriptor& folder)
     return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(folder.get()), failed);
 }
 
+/// Whether a JPEG file holds a second picture, or a film, behind the end of its first.
+bool holdsMore(const OpenedFile& photo)
+{
+    constexpr std::size_t longestSign = 4;
+    Exif::ByteSource file(photo.file.get());
+    const auto parts = Exif::imageData(file);
+    if (!parts || parts->empty() || !file.look(0, 3).starts_with("\xff\xd8"))
+        return false;
+    const Exif::Extent& rest = parts->back();
+    std::uint64_t place = rest.offset;
+    while (place < rest.offset + rest.length) {
+        const std::string_view bytes = file.look(place, Exif::ByteSource::mostAtOnce);
+        if (bytes.find("\xff\xd8\xff") != std::string_view::npos || bytes.find("ftyp") != std::string_view::npos)
+            return true;
+        if (bytes.size() <= longestSign)
+            return false;
+        place += bytes.size() - longestSign;
+    }
+    return false;
+}
+
 /// Gives the new file the first name of the pattern that is free.
 Outcome nameByPattern(Unnamed& made, const OpenedFile& photo, const Target& target, Outcome outcome)
 {
@@ -174,6 +197,10 @@ PhotoResizer::PhotoResizer(std::string worker, std::unique_ptr<Transfers::System
 Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Target& target,
                              const std::stop_token& stop)
 {
+    if (target.kind == Target::Kind::InPlace && holdsMore(photo))
+        return {.kind = Outcome::Kind::Refused,
+                .words = NS::LocalizedString(
+                    "Photos", "cannot be resized in its place: a second picture or a film in it would be lost")};
     FileDescriptor elsewhere;
     if (target.kind == Target::Kind::Folder) {
         elsewhere = FileDescriptor(::open(target.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));

@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cmath>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -59,7 +60,8 @@ int writeTo(VipsImage* image, Format format, int quality, VipsTarget* target)
     case Format::Jpeg:
         return vips_jpegsave_target(image, target, "Q", quality, nullptr);
     case Format::Png:
-        return vips_pngsave_target(image, target, nullptr);
+        return vips_pngsave_target(image, target, "palette", vips_image_get_typeof(image, "palette-bit-depth") != 0,
+                                   nullptr);
     case Format::WebP:
         return vips_webpsave_target(image, target, "Q", quality, nullptr);
     case Format::Tiff:
@@ -123,22 +125,21 @@ std::uint64_t numberAt(std::string_view file, std::uint64_t place, std::size_t s
     return value;
 }
 
-/// The chunks of a PNG file that hold texts, XMP and IPTC among them, as they are.
-std::string textsOfPng(std::string_view file)
+/// The chunks of those kinds in a PNG file, as they are.
+std::string chunksOfPng(std::string_view file, std::initializer_list<std::string_view> kinds)
 {
     constexpr std::size_t signature = 8;
     constexpr std::size_t around = 12;
-    std::string texts;
+    std::string chunks;
     for (file.remove_prefix(std::min(signature, file.size())); file.size() >= around;) {
         const std::uint64_t size = numberAt(file, 0, 4, false) + around;
-        const std::string_view kind = file.substr(4, 4);
         if (size > file.size())
             break;
-        if (kind == "tEXt" || kind == "zTXt" || kind == "iTXt")
-            texts += file.substr(0, size);
+        if (std::ranges::find(kinds, file.substr(4, 4)) != kinds.end())
+            chunks += file.substr(0, size);
         file.remove_prefix(size);
     }
-    return texts;
+    return chunks;
 }
 
 /// Whether a TIFF file has data that the library neither reads nor writes.
@@ -295,7 +296,9 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
     constexpr std::size_t endOfPngHeader = 33;
     const bool isLossy = format != Format::Png && format != Format::Tiff;
     const Size largest = sizeFor(goal, stored);
-    const std::string texts = format == Format::Png ? textsOfPng(bytesOf(photo)) : std::string();
+    // XMP and IPTC among them.
+    const std::string texts =
+        format == Format::Png ? chunksOfPng(bytesOf(photo), {"tEXt", "zTXt", "iTXt"}) : std::string();
     double scale = 1;
     double fitting = 0;
     double tooLarge = 1;
@@ -386,7 +389,9 @@ Result resize(const Job& job, int photo, int target)
     const auto format = formatOf(header);
     if (!format)
         return notWritten();
-    if (vips_image_get_n_pages(header) > 1)
+    // The library reads only the first picture of a PNG file.
+    if (vips_image_get_n_pages(header) > 1 ||
+        (*format == Format::Png && !chunksOfPng(bytesOf(read), {"acTL"}).empty()))
         return Refused{NS::LocalizedString(
             "Photos", "cannot be resized: it holds several pictures, and only one would be left")};
 

@@ -432,6 +432,67 @@ TEST_F(ResizePhotoTest, WithoutExifToolNoTiffTakesThePlaceOfOneThatSaysMore)
     EXPECT_NE(ofPlain.kind, Kind::Refused) << "a scan says nothing that would be lost: " << ofPlain.words;
 }
 
+TEST_F(ResizePhotoTest, APictureThatMovesIsNoPhoto)
+{
+    const Path path = photo("a.png");
+    constexpr std::size_t endOfHeader = 33;
+    const std::string frames("\x00\x00\x00\x08"
+                             "acTL"
+                             "\x00\x00\x00\x02\x00\x00\x00\x00\xf3\x8d\x93\x70",
+                             20);
+    Files::write(path, Files::read(path).insert(endOfHeader, frames));
+    const auto outcome = resize(path, small);
+    EXPECT_EQ(outcome.kind, Kind::Refused);
+    EXPECT_NE(outcome.words.find("several pictures"), std::string::npos) << outcome.words;
+}
+
+TEST_F(ResizePhotoTest, WhatLiesBehindTheEndOfAPhotoIsNotLostInItsPlace)
+{
+    const std::string second = Files::read(photo("second.jpg"));
+    const std::string film("\0\0\0\x18"
+                           "ftypmp42\0\0\0\0mp42isom",
+                           24);
+    // A camera's own notes are longer than what is read at once.
+    for (const std::string& more : {second, film, std::string(300'000, 'x') + film}) {
+        const Path path = photo("a.jpg");
+        const std::string before = Files::read(path) + more;
+        Files::write(path, before);
+        const auto inPlace = resize(path, small, {.kind = Target::Kind::InPlace});
+        EXPECT_EQ(inPlace.kind, Kind::Refused);
+        EXPECT_NE(inPlace.words.find("second picture"), std::string::npos) << inPlace.words;
+        EXPECT_TRUE(Files::read(path) == before);
+        EXPECT_EQ(resize(path, small).kind, Kind::Done) << "beside it nothing is lost";
+    }
+    const Path padded = photo("padded.jpg");
+    Files::write(padded, Files::read(padded) + std::string(5000, '\0'));
+    EXPECT_NE(resize(padded, small, {.kind = Target::Kind::InPlace}).kind, Kind::Refused);
+}
+
+TEST_F(ResizePhotoTest, HalfOfAPaletteIsSmallerThanTheWhole)
+{
+    VipsImage* clouds = nullptr;
+    VipsImage* steps = nullptr;
+    VipsImage* whole = nullptr;
+    VipsImage* few = nullptr;
+    VipsImage* bytes = nullptr;
+    vips_perlin(&clouds, 1600, 1200, "uchar", TRUE, "seed", 3, nullptr);
+    vips_linear1(clouds, &steps, 1.0 / 32, 0, nullptr);
+    vips_floor(steps, &whole, nullptr);
+    vips_linear1(whole, &few, 32, 0, nullptr);
+    vips_cast_uchar(few, &bytes, nullptr);
+    std::array<VipsImage*, 3> bands{bytes, bytes, bytes};
+    VipsImage* colors = nullptr;
+    vips_bandjoin(bands.data(), &colors, 3, nullptr);
+    const Path path = listed() / "a.png";
+    EXPECT_EQ(vips_pngsave(colors, path.c_str(), "palette", TRUE, nullptr), 0) << vips_error_buffer();
+    for (VipsImage* each : {clouds, steps, whole, few, bytes, colors})
+        g_object_unref(each);
+    const auto outcome = resize(path, {Goal::Kind::Percent, 50});
+    ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+    EXPECT_LT(outcome.after.bytes, outcome.before.bytes);
+    EXPECT_NE(vips_image_get_typeof(open(listed() / outcome.name).get(), "palette-bit-depth"), 0U);
+}
+
 TEST_F(ResizePhotoTest, PermissionsStay)
 {
     const Path path = photo("a.jpg");
