@@ -3,14 +3,17 @@
 #include "platform/linux/accessibility/Accessibility.h"
 
 #include <QCoreApplication>
+#include <QHelpEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace MenuExtension {
 
@@ -19,6 +22,53 @@ namespace {
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(WindowParts)
 };
+
+class NameLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        if (!isCut()) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        // As the toolkit draws what is not cut.
+        const auto direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+        style()->drawItemText(
+            &painter, contentsRect(), static_cast<int>(alignment()) | static_cast<int>(direction), palette(),
+            isEnabled(), fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()), foregroundRole());
+    }
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::ToolTip || !isCut())
+            return QLabel::event(event);
+        // Nothing in it is taken for markup, and a long one has several lines.
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           QStringLiteral("<qt>") + text().toHtmlEscaped() + QStringLiteral("</qt>"), this);
+        return true;
+    }
+
+private:
+    [[nodiscard]] bool isCut() const { return fontMetrics().horizontalAdvance(text()) > contentsRect().width(); }
+};
+
+QLabel* asItIs(QLabel* text)
+{
+    text->setTextFormat(Qt::PlainText);
+    // The toolkit puts a name in Latin letters on the left in every window.
+    text->setAlignment(QStyle::visualAlignment(text->layoutDirection(), Qt::AlignLeading) | Qt::AlignAbsolute |
+                       Qt::AlignVCenter);
+    return text;
+}
+
+QLabel* asNote(QLabel* note)
+{
+    note->setForegroundRole(QPalette::PlaceholderText);
+    return note;
+}
 
 } // namespace
 
@@ -35,12 +85,7 @@ QLabel* makeHeading(QWidget* parent)
 
 QLabel* makeText(QWidget* parent)
 {
-    auto* const text = new QLabel(parent);
-    text->setTextFormat(Qt::PlainText);
-    // The toolkit puts a name in Latin letters on the left in every window.
-    text->setAlignment(QStyle::visualAlignment(text->layoutDirection(), Qt::AlignLeading) | Qt::AlignAbsolute |
-                       Qt::AlignVCenter);
-    return text;
+    return asItIs(new QLabel(parent));
 }
 
 QLabel* makeParagraph(QWidget* parent)
@@ -53,9 +98,12 @@ QLabel* makeParagraph(QWidget* parent)
 
 QLabel* makeNote(QWidget* parent)
 {
-    QLabel* const note = makeText(parent);
-    note->setForegroundRole(QPalette::PlaceholderText);
-    return note;
+    return asNote(makeText(parent));
+}
+
+QLabel* makeNameNote(QWidget* parent)
+{
+    return asNote(asItIs(new NameLabel(parent)));
 }
 
 QPushButton* makeButton(const QString& title, QWidget* parent, bool isPrimary)
