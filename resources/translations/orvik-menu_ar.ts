@@ -2226,6 +2226,14 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>تعذّر حفظه: لا توجد مساحة له</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>تعذّر تغيير حجمه في مكانه: سيفقد بيانات Exif من دون ExifTool</translation>
+    </message>
+    <message>
+        <source>cannot be resized in its place: a second picture or a film in it would be lost</source>
+        <translation>تعذّر تغيير حجمه في مكانه: ستُفقد صورة ثانية أو مقطع فيديو بداخله</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

@@ -2138,6 +2138,14 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>kann nicht gespeichert werden: Es ist nicht genug Platz vorhanden</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>kann nicht an seiner Stelle skaliert werden: Ohne ExifTool gingen die Exif-Daten verloren</translation>
+    </message>
+    <message>
+        <source>cannot be resized in its place: a second picture or a film in it would be lost</source>
+        <translation>kann nicht an seiner Stelle skaliert werden: Ein zweites Bild oder ein Film darin ginge verloren</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

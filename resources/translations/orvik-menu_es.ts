@@ -2138,6 +2138,14 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>no se puede guardar: no hay espacio suficiente</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>no se puede redimensionar en su lugar: sin ExifTool perdería sus datos Exif</translation>
+    </message>
+    <message>
+        <source>cannot be resized in its place: a second picture or a film in it would be lost</source>
+        <translation>no se puede redimensionar en su lugar: se perdería una segunda imagen o un vídeo que contiene</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

@@ -2138,6 +2138,14 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>ne peut pas être enregistré&#xa0;: il n’y a pas assez de place</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>ne peut pas être redimensionné à sa place&#xa0;: sans ExifTool, il perdrait ses données Exif</translation>
+    </message>
+    <message>
+        <source>cannot be resized in its place: a second picture or a film in it would be lost</source>
+        <translation>ne peut pas être redimensionné à sa place&#xa0;: une seconde image ou une vidéo qu’il contient serait perdue</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

@@ -2116,6 +2116,14 @@
         <source>cannot be saved: there is no room for it</source>
         <translation>无法保存：空间不足</translation>
     </message>
+    <message>
+        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
+        <translation>无法就地调整大小：没有 ExifTool 会丢失其 Exif 数据</translation>
+    </message>
+    <message>
+        <source>cannot be resized in its place: a second picture or a film in it would be lost</source>
+        <translation>无法就地调整大小：其中的第二张图片或视频会丢失</translation>
+    </message>
 </context>
 <context>
     <name>ProblemTool::ProblemWindow</name>

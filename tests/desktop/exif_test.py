@@ -2,6 +2,7 @@
 
 import os
 import shutil
+import signal
 import unittest
 
 from gi.repository import GLib
@@ -251,6 +252,14 @@ class Exif(ExifWindow, DesktopTestCase):
             self.answer(agrees)
             if not agrees:
                 self.action.active_window(TITLE)
+        self.action.wait_for_end()
+
+    def test_a_session_that_ends_asks_nothing(self):
+        self.open(self.photo("a.jpg"))
+        self.to_edit_page()
+        self.go_to("Author")
+        self.hands.type("Ada")
+        os.kill(self.action.process_id, signal.SIGTERM)
         self.action.wait_for_end()
 
     def answer(self, agrees):

@@ -123,6 +123,24 @@ class ResizePhotos(ActionDriver, DesktopTestCase):
         self.assertLessEqual(sum(os.path.getsize(self.path(name)) for name in made), 300_000)
         self.save_picture("resize-mail")
 
+    def test_only_a_mail_needs_no_more_than_a_screen_shows(self):
+        path = self.photo(width=2400, height=1800)
+        most = str(os.path.getsize(path) * 3 // 4 // 1000)
+        self.open(path)
+        self.choose("For a screen", "Down")
+        self.go_to("Value")
+        self.hands.press("ctrl+a")
+        self.hands.type(most)
+        self.assertTells("2048 × 1536 pixels")
+        self.choose("For mail", "End")
+        self.choose("Longest side", "Down", "Down")
+        self.go_to("Value")
+        self.hands.press("ctrl+a")
+        self.hands.type(most)
+        self.press_button("Resize")
+        self.assertTells("1 photo was resized: ")
+        self.assertEqual(self.left(), [b"photo-2400x1800.jpg", b"photo.jpg"])
+
     def test_they_go_to_a_folder_under_a_name_by_pattern(self):
         folder = os.path.join(self.home.folder, "small ones")
         os.mkdir(folder)

@@ -17,7 +17,7 @@ bool isUnsupported()
     return errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL;
 }
 
-bool copyAttributes(int from, int to, const struct stat& status)
+bool copyAttributes(int from, int to, const struct stat& status, Unsupported unsupported)
 {
     // Only the superuser may give a file away.
     struct stat made = {};
@@ -40,7 +40,8 @@ bool copyAttributes(int from, int to, const struct stat& status)
             continue;
         const bool isUsers = name.starts_with("user.") || name.starts_with("system.posix_acl");
         // What is the system's own is not everybody's to set.
-        if (::fsetxattr(to, name.c_str(), value.data(), value.size(), 0) != 0 && isUsers)
+        if (::fsetxattr(to, name.c_str(), value.data(), value.size(), 0) != 0 && isUsers &&
+            !(unsupported == Unsupported::AreLeft && isUnsupported()))
             return false;
     }
     return true;

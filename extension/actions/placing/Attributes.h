@@ -6,10 +6,14 @@
 
 namespace MenuExtension {
 
+/// What becomes of attributes that the new file's file system has no place for.
+enum class Unsupported { Fail, AreLeft };
+
 /// Gives an open file the owner, as far as that may be given, the permissions, the lists of rights and what programs
 /// have noted of another; `status` is the other's. False, with errno, where something that is the user's would be
 /// lost.
-[[nodiscard]] bool copyAttributes(int from, int to, const struct stat& status);
+[[nodiscard]] bool copyAttributes(int from, int to, const struct stat& status,
+                                  Unsupported unsupported = Unsupported::Fail);
 
 /// Makes the names in a folder durable; a file system that has no such operation counts as having done it.
 [[nodiscard]] bool syncFolder(const LinuxDesktop::FileDescriptor& folder);

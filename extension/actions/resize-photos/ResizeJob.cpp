@@ -85,6 +85,7 @@ std::string textOf(const Job& job)
     put(text, static_cast<std::uint64_t>(job.goal.kind));
     put(text, job.goal.value);
     put(text, static_cast<std::uint64_t>(job.goal.quality));
+    put(text, job.goal.longest);
     put(text, job.shownPixels);
     return text;
 }
@@ -95,11 +96,12 @@ std::optional<Job> jobFrom(std::string_view text)
     const std::uint64_t kind = reader.number();
     const std::uint64_t value = reader.number();
     const std::uint64_t quality = reader.number();
+    const std::uint32_t longest = reader.length();
     const std::uint32_t shown = reader.length();
     if (!reader.isWhole() || kind > static_cast<std::uint64_t>(Goal::Kind::Bytes) || value == 0 || quality == 0 ||
         quality > 100)
         return std::nullopt;
-    return Job{{static_cast<Goal::Kind>(kind), value, static_cast<int>(quality)}, shown};
+    return Job{{static_cast<Goal::Kind>(kind), value, static_cast<int>(quality), longest}, shown};
 }
 
 std::string textOf(const Result& result)
@@ -112,6 +114,7 @@ std::string textOf(const Result& result)
     put(text, done.after);
     put(text, done.shownBefore);
     put(text, done.shownAfter);
+    put(text, static_cast<std::uint64_t>(done.data));
     return text;
 }
 
@@ -125,6 +128,7 @@ Result resultFrom(std::string_view text)
     done.after = sizeFrom(reader);
     done.shownBefore = pixelsFrom(reader);
     done.shownAfter = pixelsFrom(reader);
+    done.data = reader.number() == 0 ? Data::Kept : Data::Lost;
     if (!text.starts_with(resized) || !reader.isWhole())
         return Refused{NS::LocalizedString("Photos", "cannot be resized: its worker gave no answer")};
     return done;
@@ -132,14 +136,13 @@ Result resultFrom(std::string_view text)
 
 Size sizeFor(const Goal& goal, const Size& photo)
 {
-    // Larger than that nobody looks at a photo that was sent.
-    constexpr double longestOfBytes = 2048;
     const double longest = std::max(photo.width, photo.height);
+    const auto wanted = goal.kind == Goal::Kind::Bytes ? goal.longest : goal.value;
     double scale = 1;
     if (goal.kind == Goal::Kind::Percent)
         scale = static_cast<double>(goal.value) / 100;
-    else if (longest > 0)
-        scale = (goal.kind == Goal::Kind::Length ? static_cast<double>(goal.value) : longestOfBytes) / longest;
+    else if (longest > 0 && wanted > 0)
+        scale = static_cast<double>(wanted) / longest;
     scale = std::min(scale, 1.0);
     const auto scaled = [scale](std::uint32_t length) {
         return static_cast<std::uint32_t>(std::max(1.0, std::round(length * scale)));

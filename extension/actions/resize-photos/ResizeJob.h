@@ -16,13 +16,15 @@ struct Goal {
         Length,
         /// So many hundredths of its width and height.
         Percent,
-        /// At most so many bytes; in at most 2048 pixels each way, where it is for a screen.
+        /// At most so many bytes.
         Bytes,
     };
     Kind kind = Kind::Length;
     std::uint64_t value = 1920;
     /// Of formats that lose something: from 1 to 100.
     int quality = 85;
+    /// Of Bytes: at most so many pixels each way as well, or 0.
+    std::uint32_t longest = 0;
     friend bool operator==(const Goal&, const Goal&) = default;
 };
 
@@ -52,6 +54,12 @@ struct Pixels {
     std::string bytes = {};
     friend bool operator==(const Pixels&, const Pixels&) = default;
 };
+/// What is said of a photo.
+enum class Data {
+    Kept,
+    /// The new file has less of it.
+    Lost,
+};
 /// Of a photo that is that small already, and whose file stays as it is, both sizes are the same.
 struct Resized {
     Size before;
@@ -59,6 +67,7 @@ struct Resized {
     /// Where they were asked for.
     Pixels shownBefore = {};
     Pixels shownAfter = {};
+    Data data = Data::Kept;
     friend bool operator==(const Resized&, const Resized&) = default;
 };
 /// Why it was not resized: the end of a sentence that begins with its name, without a full stop.

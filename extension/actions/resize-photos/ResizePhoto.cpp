@@ -4,6 +4,8 @@
 #include "extension/actions/files/Trash.h"
 #include "extension/actions/placing/Attributes.h"
 #include "extension/actions/transfer/Placing.h"
+#include "extension/actions/view-or-edit-exif-data/ImageData.h"
+#include "platform/LocalizedString.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +15,9 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <mutex>
+#include <string_view>
 #include <sys/random.h>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <thread>
@@ -36,6 +40,39 @@ Outcome cannotBeSaved()
     return {.kind = Outcome::Kind::CannotBeSaved, .error = errno};
 }
 
+/// The name of a file that is on its way.
+std::string temporaryName()
+{
+    std::uint64_t number = 0;
+    static_cast<void>(::getrandom(&number, sizeof(number), 0));
+    return ".orvik-resize-" + std::to_string(number);
+}
+
+bool clear(const FileDescriptor& file)
+{
+    return ::ftruncate(file.get(), 0) == 0 && ::lseek(file.get(), 0, SEEK_SET) == 0;
+}
+
+bool copyBytes(const FileDescriptor& from, const FileDescriptor& to, std::uint64_t size)
+{
+    if (!clear(to))
+        return false;
+    while (size > 0) {
+        const ssize_t count = ::sendfile(to.get(), from.get(), nullptr, size);
+        if (count <= 0)
+            return false;
+        size -= static_cast<std::uint64_t>(count);
+    }
+    return true;
+}
+
+std::optional<std::uint64_t> sizeOf(const FileDescriptor& file)
+{
+    struct stat status = {};
+    return ::fstat(file.get(), &status) == 0 ? std::optional(static_cast<std::uint64_t>(status.st_size))
+                                             : std::nullopt;
+}
+
 /// A file in a folder that has no name yet, or one that goes with it.
 class Unnamed {
 public:
@@ -44,9 +81,7 @@ public:
         m_file = m_calls.open(folder.get(), "", O_TMPFILE | O_RDWR, 0600);
         if (m_file || (errno != EOPNOTSUPP && errno != EISDIR && errno != ENOENT))
             return;
-        std::uint64_t number = 0;
-        static_cast<void>(::getrandom(&number, sizeof(number), 0));
-        m_name = ".orvik-resize-" + std::to_string(number);
+        m_name = temporaryName();
         m_file = m_calls.open(folder.get(), m_name.c_str(), O_RDWR | O_CREAT | O_EXCL, 0600);
         if (!m_file)
             m_name.clear();
@@ -103,6 +138,27 @@ std::string pathOf(const FileDescriptor& folder)
     return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(folder.get()), failed);
 }
 
+/// Whether a JPEG file holds a second picture, or a film, behind the end of its first.
+bool holdsMore(const OpenedFile& photo)
+{
+    constexpr std::size_t longestSign = 4;
+    Exif::ByteSource file(photo.file.get());
+    const auto parts = Exif::imageData(file);
+    if (!parts || parts->empty() || !file.look(0, 3).starts_with("\xff\xd8"))
+        return false;
+    const Exif::Extent& rest = parts->back();
+    std::uint64_t place = rest.offset;
+    while (place < rest.offset + rest.length) {
+        const std::string_view bytes = file.look(place, Exif::ByteSource::mostAtOnce);
+        if (bytes.find("\xff\xd8\xff") != std::string_view::npos || bytes.find("ftyp") != std::string_view::npos)
+            return true;
+        if (bytes.size() <= longestSign)
+            return false;
+        place += bytes.size() - longestSign;
+    }
+    return false;
+}
+
 /// Gives the new file the first name of the pattern that is free.
 Outcome nameByPattern(Unnamed& made, const OpenedFile& photo, const Target& target, Outcome outcome)
 {
@@ -141,6 +197,10 @@ PhotoResizer::PhotoResizer(std::string worker, std::unique_ptr<Transfers::System
 Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Target& target,
                              const std::stop_token& stop)
 {
+    if (target.kind == Target::Kind::InPlace && holdsMore(photo))
+        return {.kind = Outcome::Kind::Refused,
+                .words = NS::LocalizedString(
+                    "Photos", "cannot be resized in its place: a second picture or a film in it would be lost")};
     FileDescriptor elsewhere;
     if (target.kind == Target::Kind::Folder) {
         elsewhere = FileDescriptor(::open(target.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
@@ -151,25 +211,14 @@ Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Ta
     Unnamed made(*m_calls, folder);
     if (!made.file())
         return cannotBeSaved();
-    const std::array files{photo.file.get(), made.file().get()};
-    const Photos::Answer answer = m_worker.ask(textOf(Job{.goal = goal}), files, stop);
-    if (answer.fault)
-        return outcomeOf(*answer.fault);
-    const Result result = resultFrom(answer.bytes);
-    if (const auto* refused = std::get_if<Refused>(&result))
-        return {.kind = Outcome::Kind::Refused, .words = refused->why};
-    const auto& resized = std::get<Resized>(result);
-    Outcome outcome{.before = resized.before, .after = resized.after};
-    if (resized.before == resized.after) {
-        outcome.kind = Outcome::Kind::SmallAlready;
+    Outcome outcome = make(photo, goal, folder, made.file(), target.kind != Target::Kind::InPlace, stop);
+    if (outcome.kind != Outcome::Kind::Done)
         return outcome;
-    }
     struct stat status = {};
-    struct stat written = {};
-    // What is on the disk is what the worker has made.
-    if (::fstat(photo.file.get(), &status) != 0 || ::fstat(made.file().get(), &written) != 0 ||
-        static_cast<std::uint64_t>(written.st_size) != resized.after.bytes ||
-        !copyAttributes(photo.file.get(), made.file().get(), status) || ::fsync(made.file().get()) != 0)
+    // The photo itself keeps what has no place in the other folder.
+    if (::fstat(photo.file.get(), &status) != 0 ||
+        !copyAttributes(photo.file.get(), made.file().get(), status, Unsupported::AreLeft) ||
+        ::fsync(made.file().get()) != 0)
         return cannotBeSaved();
     if (stop.stop_requested())
         return {.kind = Outcome::Kind::Cancelled};
@@ -179,6 +228,73 @@ Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Ta
     if (outcome.kind == Outcome::Kind::Done && !isDurable)
         return cannotBeSaved();
     return outcome;
+}
+
+Outcome PhotoResizer::make(const OpenedFile& photo, const Goal& goal, const FileDescriptor& folder,
+                           const FileDescriptor& made, bool mayLoseData, const std::stop_token& stop)
+{
+    constexpr int tries = 3;
+    const std::array files{photo.file.get(), made.get()};
+    Goal tried = goal;
+    for (int count = 0; count < tries; ++count) {
+        if (!clear(made))
+            return cannotBeSaved();
+        const Photos::Answer answer = m_worker.ask(textOf(Job{.goal = tried}), files, stop);
+        if (answer.fault)
+            return outcomeOf(*answer.fault);
+        const Result result = resultFrom(answer.bytes);
+        if (const auto* refused = std::get_if<Refused>(&result))
+            return {.kind = Outcome::Kind::Refused, .words = refused->why};
+        const auto& resized = std::get<Resized>(result);
+        Outcome outcome{.before = resized.before, .after = resized.after};
+        if (resized.before == resized.after) {
+            outcome.kind = Outcome::Kind::SmallAlready;
+            return outcome;
+        }
+        // What is on the disk is what the worker has made.
+        if (sizeOf(made) != resized.after.bytes)
+            return cannotBeSaved();
+        if (resized.data == Data::Kept)
+            return outcome;
+        const FileDescriptor whole = withData(photo, folder, made, stop);
+        if (!whole && stop.stop_requested())
+            return {.kind = Outcome::Kind::Cancelled};
+        if (!whole && !mayLoseData)
+            return {.kind = Outcome::Kind::Refused,
+                    .words = NS::LocalizedString(
+                        "Photos", "cannot be resized in its place: without ExifTool it would lose its Exif data")};
+        if (!whole)
+            return outcome;
+        const auto size = sizeOf(whole);
+        if (!size || !copyBytes(whole, made, *size))
+            return cannotBeSaved();
+        outcome.after.bytes = *size;
+        if (goal.kind != Goal::Kind::Bytes || *size <= goal.value)
+            return outcome;
+        // The data counts too.
+        const std::uint64_t data = *size - resized.after.bytes;
+        tried.value = goal.value - std::min(data, goal.value - 1);
+    }
+    return {.kind = Outcome::Kind::Refused, .words = NS::LocalizedString("Photos", "cannot be made that small")};
+}
+
+FileDescriptor PhotoResizer::withData(const OpenedFile& photo, const FileDescriptor& folder,
+                                      const FileDescriptor& made, const std::stop_token& stop)
+{
+    // For another process.
+    const auto path = [](const FileDescriptor& file) {
+        return "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(file.get());
+    };
+    // ExifTool goes by the end of a name, where there is one, and the picture has none.
+    const std::string name = temporaryName();
+    // The picture is no more as large as its data may say, and lies as the library has written it.
+    const auto answer =
+        m_exifTool.run({"-q", "-q", "-m", "-TagsFromFile", path(photo.file), "-all:all", "--Orientation",
+                        "--ExifImageWidth", "--ExifImageHeight", "-o", path(folder) + '/' + name, path(made)},
+                       stop);
+    FileDescriptor whole = m_calls->open(folder.get(), name.c_str(), O_RDONLY | O_NOFOLLOW, 0);
+    static_cast<void>(m_calls->remove(folder.get(), name.c_str(), 0));
+    return answer.end == Exif::ExifTool::End::Done ? std::move(whole) : FileDescriptor();
 }
 
 std::optional<Result> PhotoResizer::preview(const OpenedFile& photo, const Goal& goal, std::uint32_t pixels,
@@ -202,7 +318,7 @@ std::uint64_t fairShare(std::vector<std::uint64_t> sizes, std::uint64_t total)
     return std::max<std::uint64_t>(total, 1);
 }
 
-Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, std::uint64_t bytes)
+Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, Goal goal)
 {
     std::vector<std::uint64_t> sizes;
     for (const std::string& path : paths) {
@@ -211,7 +327,8 @@ Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, s
         if (photo && ::fstat(photo->file.get(), &status) == 0)
             sizes.push_back(static_cast<std::uint64_t>(status.st_size));
     }
-    return {Goal::Kind::Bytes, fairShare(std::move(sizes), bytes)};
+    goal.value = fairShare(std::move(sizes), goal.value);
+    return goal;
 }
 
 void resizePhotos(const Request& request, const std::vector<std::string>& paths, const Goal& goal,

@@ -4,6 +4,7 @@
 #include "extension/actions/photos/Worker.h"
 #include "extension/actions/placing/OpenedFile.h"
 #include "extension/actions/transfer/SystemCalls.h"
+#include "extension/actions/view-or-edit-exif-data/ExifTool.h"
 
 #include <functional>
 #include <memory>
@@ -73,13 +74,22 @@ public:
                                                 const std::stop_token& stop);
 
 private:
+    /// Writes the resized photo to the open file `made`, which is to lie in the folder.
+    Outcome make(const OpenedFile& photo, const Goal& goal, const LinuxDesktop::FileDescriptor& folder,
+                 const LinuxDesktop::FileDescriptor& made, bool mayLoseData, const std::stop_token& stop);
+    /// The photo's data and the picture that was made of it in one file, which has no name any more; nothing where
+    /// ExifTool does not write it.
+    LinuxDesktop::FileDescriptor withData(const OpenedFile& photo, const LinuxDesktop::FileDescriptor& folder,
+                                          const LinuxDesktop::FileDescriptor& made, const std::stop_token& stop);
+
     Photos::Worker m_worker;
+    Exif::ExifTool m_exifTool;
     std::unique_ptr<Transfers::SystemCalls> m_calls;
 };
 
-/// A goal of so many bytes for all the photos together, as one that each of them can have: those that are small
-/// enough leave their share to the others. Looks at the files.
-[[nodiscard]] Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, std::uint64_t bytes);
+/// A goal in bytes for all the photos together, as one that each of them can have: those that are small enough leave
+/// their share to the others. Looks at the files.
+[[nodiscard]] Goal sharedGoal(const Request& request, const std::vector<std::string>& paths, Goal goal);
 /// The most bytes that each may have so that all together have no more than `total`; `sizes` are those they have.
 [[nodiscard]] std::uint64_t fairShare(std::vector<std::uint64_t> sizes, std::uint64_t total);
 

@@ -39,11 +39,13 @@ struct Preset {
     const char* name;
     std::size_t unit;
     bool isValueFree;
+    /// Larger than that nobody looks at a photo that was sent.
+    std::uint32_t longest;
 };
 constexpr std::array presets{
-    Preset{QT_TRANSLATE_NOOP("SizeRow", "For a screen"), 0, false},
-    Preset{QT_TRANSLATE_NOOP("SizeRow", "For mail"), 3, true},
-    Preset{QT_TRANSLATE_NOOP("SizeRow", "Half"), 1, false},
+    Preset{QT_TRANSLATE_NOOP("SizeRow", "For a screen"), 0, false, 0},
+    Preset{QT_TRANSLATE_NOOP("SizeRow", "For mail"), 3, true, 2048},
+    Preset{QT_TRANSLATE_NOOP("SizeRow", "Half"), 1, false, 0},
 };
 
 } // namespace
@@ -105,7 +107,11 @@ Wish SizeRow::wish() const
 {
     const Unit& unit = units[static_cast<std::size_t>(m_unit->currentIndex())];
     const auto value = static_cast<std::uint64_t>(m_value->value());
-    return {{unit.kind, unit.kind == Goal::Kind::Bytes ? value * kilobyte : value}, unit.isForAll};
+    const auto preset = static_cast<std::size_t>(m_preset->currentIndex());
+    return {{.kind = unit.kind,
+             .value = unit.kind == Goal::Kind::Bytes ? value * kilobyte : value,
+             .longest = preset < presets.size() ? presets[preset].longest : 0},
+            unit.isForAll};
 }
 
 } // namespace MenuExtension::Resizing

@@ -30,7 +30,7 @@ QHBoxLayout* makeRow(QWidget* widget)
 /// Words beside a control, which they tell of.
 QLabel* makeNoteOn(QWidget& control)
 {
-    QLabel* const note = makeNote(control.parentWidget());
+    QLabel* const note = makeNameNote(control.parentWidget());
     note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     LinuxDesktop::tieWords(*note, control);
     return note;

@@ -12,7 +12,7 @@ struct Wish {
 
     [[nodiscard]] Goal forEach(const Request& request) const
     {
-        return isForAll ? sharedGoal(request, request.paths, goal.value) : goal;
+        return isForAll ? sharedGoal(request, request.paths, goal) : goal;
     }
     friend bool operator==(const Wish&, const Wish&) = default;
 };

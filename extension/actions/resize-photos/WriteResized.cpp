@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cmath>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -26,22 +27,6 @@ enum class Format { Jpeg, Png, WebP, Tiff, Heic, Avif };
 
 struct LetGoOfBytes {
     void operator()(VipsBlob* bytes) const { vips_area_unref(VIPS_AREA(bytes)); }
-};
-
-/// What a picture is as a file.
-class Encoded {
-public:
-    explicit Encoded(VipsBlob* bytes) : m_bytes(bytes) {}
-
-    [[nodiscard]] std::string_view bytes() const
-    {
-        std::size_t size = 0;
-        const void* const begin = vips_blob_get(m_bytes.get(), &size);
-        return {static_cast<const char*>(begin), size};
-    }
-
-private:
-    std::unique_ptr<VipsBlob, LetGoOfBytes> m_bytes;
 };
 
 std::string_view text(VipsImage* image, const char* name)
@@ -75,7 +60,8 @@ int writeTo(VipsImage* image, Format format, int quality, VipsTarget* target)
     case Format::Jpeg:
         return vips_jpegsave_target(image, target, "Q", quality, nullptr);
     case Format::Png:
-        return vips_pngsave_target(image, target, nullptr);
+        return vips_pngsave_target(image, target, "palette", vips_image_get_typeof(image, "palette-bit-depth") != 0,
+                                   nullptr);
     case Format::WebP:
         return vips_webpsave_target(image, target, "Q", quality, nullptr);
     case Format::Tiff:
@@ -92,19 +78,24 @@ int writeTo(VipsImage* image, Format format, int quality, VipsTarget* target)
     return -1;
 }
 
-std::optional<Encoded> encoded(VipsImage* image, Format format, int quality)
+/// The picture as a file; nothing where it cannot be written.
+std::optional<std::string> encoded(VipsImage* image, Format format, int quality)
 {
     VipsTarget* target = vips_target_new_to_memory();
-    VipsBlob* bytes = nullptr;
+    VipsBlob* blob = nullptr;
     if (target && writeTo(image, format, quality, target) == 0)
-        g_object_get(target, "blob", &bytes, nullptr);
+        g_object_get(target, "blob", &blob, nullptr);
     VIPS_UNREF(target);
-    return bytes ? std::optional(Encoded(bytes)) : std::nullopt;
+    const std::unique_ptr<VipsBlob, LetGoOfBytes> owned(blob);
+    if (!blob)
+        return std::nullopt;
+    std::size_t size = 0;
+    const void* const begin = vips_blob_get(blob, &size);
+    return std::string(static_cast<const char*>(begin), size);
 }
 
-bool writeAll(int file, const Encoded& picture)
+bool writeAll(int file, std::string_view rest)
 {
-    std::string_view rest = picture.bytes();
     while (!rest.empty()) {
         const ssize_t count = ::write(file, rest.data(), rest.size());
         if (count < 0 && errno == EINTR)
@@ -116,6 +107,60 @@ bool writeAll(int file, const Encoded& picture)
     return true;
 }
 
+std::string_view bytesOf(const Photos::OpenedPhoto& photo)
+{
+    std::size_t length = 0;
+    const void* const begin = vips_source_map(photo.source.get(), &length);
+    return begin ? std::string_view(static_cast<const char*>(begin), length) : std::string_view();
+}
+
+/// A number in a file that begins with its most, or with its least significant byte; 0 beyond its end.
+std::uint64_t numberAt(std::string_view file, std::uint64_t place, std::size_t size, bool isLeastFirst)
+{
+    if (place > file.size() || size > file.size() - place)
+        return 0;
+    std::uint64_t value = 0;
+    for (std::size_t index = 0; index < size; ++index)
+        value = value << 8U | static_cast<unsigned char>(file[place + (isLeastFirst ? size - 1 - index : index)]);
+    return value;
+}
+
+/// The chunks of those kinds in a PNG file, as they are.
+std::string chunksOfPng(std::string_view file, std::initializer_list<std::string_view> kinds)
+{
+    constexpr std::size_t signature = 8;
+    constexpr std::size_t around = 12;
+    std::string chunks;
+    for (file.remove_prefix(std::min(signature, file.size())); file.size() >= around;) {
+        const std::uint64_t size = numberAt(file, 0, 4, false) + around;
+        if (size > file.size())
+            break;
+        if (std::ranges::find(kinds, file.substr(4, 4)) != kinds.end())
+            chunks += file.substr(0, size);
+        file.remove_prefix(size);
+    }
+    return chunks;
+}
+
+/// Whether a TIFF file has data that the library neither reads nor writes.
+bool hasMoreData(std::string_view file)
+{
+    // Of the picture: its camera, program, times, people, IPTC, Exif, place, and what Windows says.
+    constexpr std::array<std::uint64_t, 17> tags{0x10d,  0x10f,  0x110,  0x131,  0x132,  0x13b,
+                                                 0x13c,  0x8298, 0x83bb, 0x8649, 0x8769, 0x8825,
+                                                 0x9c9b, 0x9c9c, 0x9c9d, 0x9c9e, 0x9c9f};
+    const bool isLeastFirst = file.starts_with("II");
+    const bool isBig = numberAt(file, 2, 2, isLeastFirst) == 43;
+    const std::uint64_t directory = isBig ? numberAt(file, 8, 8, isLeastFirst) : numberAt(file, 4, 4, isLeastFirst);
+    const std::uint64_t count = numberAt(file, directory, isBig ? 8 : 2, isLeastFirst);
+    std::uint64_t entry = directory + (isBig ? 8 : 2);
+    for (std::uint64_t index = 0; index < count && entry < file.size(); ++index, entry += isBig ? 20 : 12) {
+        if (std::ranges::find(tags, numberAt(file, entry, 2, isLeastFirst)) != tags.end())
+            return true;
+    }
+    return false;
+}
+
 /// Whether a photo would lose some of what it is as a thumbnail, which is for screens: it has more than eight bits a
 /// band, or bands for inks.
 bool isMoreThanForScreens(VipsImage* header)
@@ -124,15 +169,60 @@ bool isMoreThanForScreens(VipsImage* header)
            vips_image_get_interpretation(header) == VIPS_INTERPRETATION_CMYK;
 }
 
+/// What is said of a picture, by the library's names.
+constexpr std::array said{VIPS_META_ICC_NAME, VIPS_META_EXIF_NAME, VIPS_META_XMP_NAME, VIPS_META_IPTC_NAME};
+
+/// XMP in HEIC and AVIF, which the library reads under a name that it does not write.
+void nameXmp(VipsImage* image)
+{
+    constexpr std::string_view prefix = "heif-mime-";
+    gchar** const fields = vips_image_get_fields(image);
+    for (gchar** field = fields; field && *field; ++field) {
+        const void* bytes = nullptr;
+        std::size_t length = 0;
+        if (std::string_view(*field).starts_with(prefix) &&
+            vips_image_get_blob(image, *field, &bytes, &length) == 0 &&
+            std::string_view(static_cast<const char*>(bytes), length).find("rdf:RDF") != std::string_view::npos)
+            vips_image_set_blob_copy(image, VIPS_META_XMP_NAME, bytes, length);
+    }
+    g_strfreev(fields);
+}
+
+/// Those of a PNG file are written as they are; the library cuts their names short.
+void removeTexts(VipsImage* image)
+{
+    gchar** const fields = vips_image_get_fields(image);
+    for (gchar** field = fields; field && *field; ++field) {
+        if (std::string_view(*field).starts_with("png-comment-"))
+            vips_image_remove(image, *field);
+    }
+    g_strfreev(fields);
+    vips_image_remove(image, VIPS_META_XMP_NAME);
+}
+
 /// The library's reader of HEIF frees what was beside the picture with its own one, whatever else refers to it.
 void ownMetadata(VipsImage* image)
 {
-    for (const char* name : {VIPS_META_ICC_NAME, VIPS_META_EXIF_NAME, VIPS_META_XMP_NAME, VIPS_META_IPTC_NAME}) {
+    nameXmp(image);
+    for (const char* name : said) {
         const void* bytes = nullptr;
         std::size_t length = 0;
         if (vips_image_get_typeof(image, name) != 0 && vips_image_get_blob(image, name, &bytes, &length) == 0)
             vips_image_set_blob_copy(image, name, bytes, length);
     }
+}
+
+/// How many bytes are said of a picture.
+std::size_t dataOf(VipsImage* image)
+{
+    std::size_t sum = 0;
+    for (const char* name : said) {
+        const void* bytes = nullptr;
+        std::size_t length = 0;
+        if (vips_image_get_typeof(image, name) != 0 && vips_image_get_blob(image, name, &bytes, &length) == 0)
+            sum += length;
+    }
+    return sum;
 }
 
 /// The stored picture in that size, in memory. As it is stored: it is turned when it is shown.
@@ -187,38 +277,73 @@ Refused notWritten()
 }
 
 struct Made {
-    Encoded file;
+    std::string file;
     std::uint32_t width = 0;
     std::uint32_t height = 0;
 };
 
-/// Smaller and smaller until it is small enough.
+/// Worse and smaller until it is small enough, and not much more so than it has to be.
 std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format, const Goal& goal,
                                  const Size& stored)
 {
     constexpr int tries = 8;
     constexpr int worstQuality = 60;
+    // What a worse quality alone may save.
+    constexpr double ofQuality = 0.6;
+    constexpr double nearEnough = 0.8;
     // A little less is asked for, so that the next try is mostly the last.
     constexpr double care = 0.95;
-    Size size = sizeFor(goal, stored);
+    constexpr std::size_t endOfPngHeader = 33;
+    const bool isLossy = format != Format::Png && format != Format::Tiff;
+    const Size largest = sizeFor(goal, stored);
+    // XMP and IPTC among them.
+    const std::string texts =
+        format == Format::Png ? chunksOfPng(bytesOf(photo), {"tEXt", "zTXt", "iTXt"}) : std::string();
+    double scale = 1;
+    double fitting = 0;
+    double tooLarge = 1;
     int quality = goal.quality;
+    Image picture;
+    std::optional<Made> best;
     for (int count = 0; count < tries; ++count) {
-        const Image picture = scaled(photo, size.width, size.height);
+        const auto length = [scale](std::uint32_t most) {
+            return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(most * scale));
+        };
+        const Size size{length(largest.width), length(largest.height), 0};
+        if (!picture)
+            picture = scaled(photo, size.width, size.height);
         if (!picture)
             return damaged();
+        if (format == Format::Png)
+            removeTexts(picture.get());
         auto file = encoded(picture.get(), format, quality);
         if (!file)
             return notWritten();
-        if (goal.kind != Goal::Kind::Bytes || file->bytes().size() <= goal.value)
-            return Made{*std::move(file), size.width, size.height};
-        quality = std::min(quality, std::max(worstQuality, quality - 10));
-        const double share =
-            std::sqrt(static_cast<double>(goal.value) / static_cast<double>(file->bytes().size())) * care;
-        const auto smaller = [share](std::uint32_t length) {
-            return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(length * std::min(share, 0.95)));
-        };
-        size = {smaller(size.width), smaller(size.height), 0};
+        file->insert(std::min(endOfPngHeader, file->size()), texts);
+        const auto bytes = static_cast<double>(file->size());
+        const auto most = static_cast<double>(goal.value);
+        // What is said of it stays as large as it is.
+        const double data =
+            std::min(static_cast<double>(dataOf(picture.get()) + texts.size()), std::min(bytes, most) * 0.99);
+        const double share = (most - data) / (bytes - data);
+        const bool isSmallEnough = goal.kind != Goal::Kind::Bytes || share >= 1;
+        if (isSmallEnough)
+            best = Made{*std::move(file), size.width, size.height};
+        if (isSmallEnough && (scale == 1 || share * nearEnough <= 1))
+            break;
+        const bool mayDoWorse = scale == 1 && isLossy && quality > worstQuality && share > ofQuality;
+        if (scale == 1)
+            quality = std::min(quality, std::max(worstQuality, quality - 10));
+        if (mayDoWorse)
+            continue;
+        (isSmallEnough ? fitting : tooLarge) = scale;
+        scale *= std::sqrt(share) * care;
+        if (scale <= fitting || scale >= tooLarge)
+            scale = (fitting + tooLarge) / 2;
+        picture.reset();
     }
+    if (best)
+        return *std::move(best);
     return Refused{NS::LocalizedString("Photos", "cannot be made that small")};
 }
 
@@ -239,7 +364,7 @@ Pixels shown(int file, std::uint32_t longest)
         std::string(static_cast<const char*>(vips_image_get_data(image->get())), std::size_t{width} * height * 3)};
 }
 
-Pixels shown(const Encoded& picture, std::uint32_t longest)
+Pixels shown(std::string_view picture, std::uint32_t longest)
 {
     const int file = ::memfd_create("shown", MFD_CLOEXEC);
     Pixels pixels;
@@ -264,7 +389,9 @@ Result resize(const Job& job, int photo, int target)
     const auto format = formatOf(header);
     if (!format)
         return notWritten();
-    if (vips_image_get_n_pages(header) > 1)
+    // The library reads only the first picture of a PNG file.
+    if (vips_image_get_n_pages(header) > 1 ||
+        (*format == Format::Png && !chunksOfPng(bytesOf(read), {"acTL"}).empty()))
         return Refused{NS::LocalizedString(
             "Photos", "cannot be resized: it holds several pictures, and only one would be left")};
 
@@ -293,7 +420,9 @@ Result resize(const Job& job, int photo, int target)
     if (auto* refusal = std::get_if<Refused>(&made))
         return std::move(*refusal);
     const Made& done = std::get<Made>(made);
-    result.after = asShown(done.width, done.height, done.file.bytes().size());
+    if (*format == Format::Tiff && hasMoreData(bytesOf(read)))
+        result.data = Data::Lost;
+    result.after = asShown(done.width, done.height, done.file.size());
     if (job.shownPixels > 0)
         result.shownAfter = shown(done.file, job.shownPixels);
     else if (!writeAll(target, done.file))

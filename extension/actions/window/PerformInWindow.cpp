@@ -61,8 +61,8 @@ Outcome performWithToolkit(const MakeRunner& make)
     QApplication::setApplicationVersion(QStringLiteral(ORVIK_VERSION));
     QGuiApplication::setDesktopFileName(
         QString::fromUtf8(Deployment::applicationIdentifier.data(), Deployment::applicationIdentifier.size()));
-    // Which closes the windows first.
-    terminationSignals.whenAsked([] { QCoreApplication::quit(); });
+    // Nobody is asked any more, as quit() would do.
+    terminationSignals.whenAsked([] { QCoreApplication::exit(); });
 
     LinuxDesktop::SessionBus bus("orvik-menu: there is no session bus");
     const LinuxDesktop::WindowSurroundings surroundings(bus, QFile::decodeName(Programs::folder().c_str()));

@@ -4,14 +4,17 @@
 #include "platform/linux/accessibility/Accessibility.h"
 
 #include <QCoreApplication>
+#include <QHelpEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace MenuExtension {
 
@@ -19,6 +22,38 @@ namespace {
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(WindowParts)
+};
+
+class NameLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        if (!isCut()) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        // As the toolkit draws what is not cut.
+        const auto direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+        style()->drawItemText(
+            &painter, contentsRect(), static_cast<int>(alignment()) | static_cast<int>(direction), palette(),
+            isEnabled(), fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()), foregroundRole());
+    }
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::ToolTip || !isCut())
+            return QLabel::event(event);
+        // Nothing in it is taken for markup, and a long one has several lines.
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           QStringLiteral("<qt>") + text().toHtmlEscaped() + QStringLiteral("</qt>"), this);
+        return true;
+    }
+
+private:
+    [[nodiscard]] bool isCut() const { return fontMetrics().horizontalAdvance(text()) > contentsRect().width(); }
 };
 
 QLabel* setUpText(QLabel* text)
@@ -39,6 +74,12 @@ QLabel* setUpHeading(QLabel* heading)
     heading->setFont(font);
     LinuxDesktop::setAccessibleRole(*heading, QAccessible::Heading);
     return heading;
+}
+
+QLabel* asNote(QLabel* note)
+{
+    note->setForegroundRole(QPalette::PlaceholderText);
+    return note;
 }
 
 } // namespace
@@ -68,9 +109,12 @@ QLabel* makeParagraph(QWidget* parent)
 
 QLabel* makeNote(QWidget* parent)
 {
-    QLabel* const note = makeText(parent);
-    note->setForegroundRole(QPalette::PlaceholderText);
-    return note;
+    return asNote(makeText(parent));
+}
+
+QLabel* makeNameNote(QWidget* parent)
+{
+    return asNote(setUpText(new NameLabel(parent)));
 }
 
 QPushButton* makeButton(const QString& title, QWidget* parent, bool isPrimary)

@@ -25,6 +25,8 @@ namespace MenuExtension {
 [[nodiscard]] QLabel* makeParagraph(QWidget* parent);
 /// A text beside or below what it explains.
 [[nodiscard]] QLabel* makeNote(QWidget* parent);
+/// The same, of a file's name or path: cut in its middle where the room is short, and then the whole is its tool tip.
+[[nodiscard]] QLabel* makeNameNote(QWidget* parent);
 
 /// A button that Return presses as Space does. The one that a person most likely wants `isPrimary`.
 [[nodiscard]] QPushButton* makeButton(const QString& title, QWidget* parent, bool isPrimary = false);

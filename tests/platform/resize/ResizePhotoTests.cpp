@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -17,7 +18,9 @@
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <thread>
 #include <unistd.h>
 #include <utility>
@@ -31,6 +34,9 @@ using Kind = Resizing::Outcome::Kind;
 using LinuxDesktop::FileDescriptor;
 
 namespace {
+
+/// Whether file systems have no attributes.
+bool hasNoAttributes = false;
 
 struct LetGo {
     void operator()(void* object) const { g_object_unref(object); }
@@ -114,6 +120,41 @@ protected:
     }
     [[nodiscard]] Path root() const { return m_root; }
 
+    /// What ExifTool says with these arguments and a file, in order.
+    [[nodiscard]] static std::string exifTool(const std::string& arguments, const Path& path)
+    {
+        const std::string command = "exiftool -config '' " + arguments + " '" + path.string() + "' | sort";
+        FILE* const said = ::popen(command.c_str(), "r");
+        std::string text;
+        std::array<char, 4096> part{};
+        for (std::size_t count = 0; (count = std::fread(part.data(), 1, part.size(), said)) > 0;)
+            text.append(part.data(), count);
+        EXPECT_EQ(::pclose(said), 0) << command;
+        return text;
+    }
+
+    /// Writes into a photo what cameras and people say of one.
+    static void describe(const Path& path)
+    {
+        const bool hasIptc =
+            path.extension() != ".heic" && path.extension() != ".avif" && path.extension() != ".webp";
+        static_cast<void>(exifTool(
+            std::string("-q -m -overwrite_original -Make=Cam -Model=X1 -DateTimeOriginal='2020:01:02 03:04:05' "
+                        "-LensModel=50mm -GPSLatitude=48.5 -GPSLatitudeRef=N -Orientation#=6 -XPTitle=Über "
+                        "-XMP-dc:Title=Titel "
+                        "-XMP-dc:Subject=eins -XMP-dc:Subject=zwei ") +
+                (hasIptc ? "-IPTC:Caption-Abstract=capt -IPTC:Keywords=drei " : "") +
+                (path.extension() == ".png" ? "-PNG:CreationTime='2020:01:02 03:04:05' " : ""),
+            path));
+    }
+    /// That, all of it.
+    [[nodiscard]] static std::string description(const Path& path)
+    {
+        return exifTool("-a -G1 -s -n -Make -Model -DateTimeOriginal -LensModel -GPSLatitude -XPTitle -Artist "
+                        "-Orientation -PNG:CreationTime -XMP:all -IPTC:all",
+                        path);
+    }
+
 private:
     Path m_root;
     Request m_request;
@@ -160,6 +201,15 @@ private:
 
 } // namespace
 
+// In the place of the system's own.
+int fsetxattr(int file, const char* name, const void* value, std::size_t size, int flags) noexcept
+{
+    if (!hasNoAttributes)
+        return static_cast<int>(::syscall(SYS_fsetxattr, file, name, value, size, flags));
+    errno = EOPNOTSUPP;
+    return -1;
+}
+
 TEST_F(ResizePhotoTest, EveryFormatStaysWithItsMetadataProfileAndOrientation)
 {
     for (const std::string kind : {"jpg", "png", "webp", "tif", "heic", "avif"}) {
@@ -178,6 +228,37 @@ TEST_F(ResizePhotoTest, EveryFormatStaysWithItsMetadataProfileAndOrientation)
             EXPECT_EQ(vips_image_get_typeof(image.get(), field), vips_image_get_typeof(original.get(), field))
                 << kind << field;
         EXPECT_EQ(vips_image_get_orientation(image.get()), vips_image_get_orientation(original.get())) << kind;
+    }
+}
+
+TEST_F(ResizePhotoTest, WhatIsSaidOfAPhotoStaysInEveryFormat)
+{
+    for (const std::string kind : {"jpg", "png", "webp", "tif", "heic", "avif"}) {
+        const Path path = photo("a." + kind);
+        describe(path);
+        const auto outcome = resize(path, small);
+        ASSERT_EQ(outcome.kind, Kind::Done) << kind << outcome.words;
+        const Path made = listed() / outcome.name;
+        EXPECT_EQ(description(made), description(path)) << kind;
+        EXPECT_NE(description(made).find("[XMP-dc]        Subject"), std::string::npos) << kind;
+        EXPECT_EQ(outcome.after.bytes, fs::file_size(made)) << kind;
+        ASSERT_TRUE(open(made)) << kind;
+        EXPECT_EQ(vips_image_get_orientation(open(made).get()), vips_image_get_orientation(open(path).get())) << kind;
+        EXPECT_EQ(exifTool("-s3 -Error", made), "") << kind;
+    }
+    EXPECT_EQ(namesIn(listed()).size(), 12U) << "and nothing else is left";
+}
+
+TEST_F(ResizePhotoTest, WhatIsSaidOfATiffCountsAmongItsBytes)
+{
+    const Path path = photo("a.tif", 800, 600);
+    describe(path);
+    static_cast<void>(exifTool("-q -overwrite_original -UserComment='" + std::string(20'000, 'x') + "'", path));
+    for (const std::uint64_t most : {300'000U, 100'000U, 60'000U}) {
+        const auto outcome = resize(path, {Goal::Kind::Bytes, most});
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        EXPECT_LE(fs::file_size(listed() / outcome.name), most);
+        EXPECT_EQ(description(listed() / outcome.name), description(path));
     }
 }
 
@@ -236,6 +317,26 @@ TEST_F(ResizePhotoTest, ASizeInBytesIsReached)
     }
     // What is said of it stays, and has that size already.
     EXPECT_EQ(resize(path, {Goal::Kind::Bytes, 3000}).kind, Kind::Refused);
+}
+
+TEST_F(ResizePhotoTest, ASizeInBytesTakesNoMoreOfThePhotoThanItHasTo)
+{
+    for (const std::string kind : {"jpg", "webp", "png"}) {
+        const Path path = photo("a." + kind, 2600, 400, 1);
+        const std::uint64_t whole = fs::file_size(path);
+        for (const std::uint64_t most : {whole * 9 / 10, whole / 2, whole / 8}) {
+            const auto outcome = resize(path, {Goal::Kind::Bytes, most});
+            ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+            EXPECT_LE(outcome.after.bytes, most) << kind;
+            const bool isWhole = outcome.after.width == 2600;
+            EXPECT_TRUE(isWhole || outcome.after.bytes > most / 4 * 3)
+                << kind << ' ' << outcome.after.bytes << " of " << most << ' ' << outcome.after.width;
+            // What is written worse needs no fewer pixels.
+            EXPECT_EQ(isWhole, kind != "png" && most == whole * 9 / 10) << kind << most;
+        }
+    }
+    const Goal forScreens{.kind = Goal::Kind::Bytes, .value = 100'000'000, .longest = 2048};
+    EXPECT_EQ(sizeFor(forScreens, {4000, 3000, 0}), (Size{2048, 1536, 0}));
 }
 
 TEST_F(ResizePhotoTest, WhatIsSmallAlreadyIsLeftAlone)
@@ -311,12 +412,107 @@ TEST_F(ResizePhotoTest, WhatCannotTakeThePlaceOfATrashedPhotoLiesBesideIt)
     EXPECT_EQ(vips_image_get_width(open(listed() / "a-100x75.jpg").get()), 100);
 }
 
+TEST_F(ResizePhotoTest, WithoutExifToolNoTiffTakesThePlaceOfOneThatSaysMore)
+{
+    const Path path = photo("a.tif");
+    const Path plain = photo("plain.tif");
+    static_cast<void>(exifTool("-q -overwrite_original -all=", plain));
+    describe(path);
+    const std::string before = Files::read(path);
+    const std::string programs = std::getenv("PATH");
+    ::setenv("PATH", "/nowhere", 1);
+    const auto inPlace = resize(path, small, {.kind = Target::Kind::InPlace});
+    const auto beside = resize(path, small);
+    const auto ofPlain = resize(plain, small, {.kind = Target::Kind::InPlace});
+    ::setenv("PATH", programs.c_str(), 1);
+    EXPECT_EQ(inPlace.kind, Kind::Refused);
+    EXPECT_NE(inPlace.words.find("ExifTool"), std::string::npos) << inPlace.words;
+    EXPECT_EQ(Files::read(path), before);
+    EXPECT_EQ(beside.kind, Kind::Done) << beside.words;
+    EXPECT_NE(ofPlain.kind, Kind::Refused) << "a scan says nothing that would be lost: " << ofPlain.words;
+}
+
+TEST_F(ResizePhotoTest, APictureThatMovesIsNoPhoto)
+{
+    const Path path = photo("a.png");
+    constexpr std::size_t endOfHeader = 33;
+    const std::string frames("\x00\x00\x00\x08"
+                             "acTL"
+                             "\x00\x00\x00\x02\x00\x00\x00\x00\xf3\x8d\x93\x70",
+                             20);
+    Files::write(path, Files::read(path).insert(endOfHeader, frames));
+    const auto outcome = resize(path, small);
+    EXPECT_EQ(outcome.kind, Kind::Refused);
+    EXPECT_NE(outcome.words.find("several pictures"), std::string::npos) << outcome.words;
+}
+
+TEST_F(ResizePhotoTest, WhatLiesBehindTheEndOfAPhotoIsNotLostInItsPlace)
+{
+    const std::string second = Files::read(photo("second.jpg"));
+    const std::string film("\0\0\0\x18"
+                           "ftypmp42\0\0\0\0mp42isom",
+                           24);
+    // A camera's own notes are longer than what is read at once.
+    for (const std::string& more : {second, film, std::string(300'000, 'x') + film}) {
+        const Path path = photo("a.jpg");
+        const std::string before = Files::read(path) + more;
+        Files::write(path, before);
+        const auto inPlace = resize(path, small, {.kind = Target::Kind::InPlace});
+        EXPECT_EQ(inPlace.kind, Kind::Refused);
+        EXPECT_NE(inPlace.words.find("second picture"), std::string::npos) << inPlace.words;
+        EXPECT_TRUE(Files::read(path) == before);
+        EXPECT_EQ(resize(path, small).kind, Kind::Done) << "beside it nothing is lost";
+    }
+    const Path padded = photo("padded.jpg");
+    Files::write(padded, Files::read(padded) + std::string(5000, '\0'));
+    EXPECT_NE(resize(padded, small, {.kind = Target::Kind::InPlace}).kind, Kind::Refused);
+}
+
+TEST_F(ResizePhotoTest, HalfOfAPaletteIsSmallerThanTheWhole)
+{
+    VipsImage* clouds = nullptr;
+    VipsImage* steps = nullptr;
+    VipsImage* whole = nullptr;
+    VipsImage* few = nullptr;
+    VipsImage* bytes = nullptr;
+    vips_perlin(&clouds, 1600, 1200, "uchar", TRUE, "seed", 3, nullptr);
+    vips_linear1(clouds, &steps, 1.0 / 32, 0, nullptr);
+    vips_floor(steps, &whole, nullptr);
+    vips_linear1(whole, &few, 32, 0, nullptr);
+    vips_cast_uchar(few, &bytes, nullptr);
+    std::array<VipsImage*, 3> bands{bytes, bytes, bytes};
+    VipsImage* colors = nullptr;
+    vips_bandjoin(bands.data(), &colors, 3, nullptr);
+    const Path path = listed() / "a.png";
+    EXPECT_EQ(vips_pngsave(colors, path.c_str(), "palette", TRUE, nullptr), 0) << vips_error_buffer();
+    for (VipsImage* each : {clouds, steps, whole, few, bytes, colors})
+        g_object_unref(each);
+    const auto outcome = resize(path, {Goal::Kind::Percent, 50});
+    ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+    EXPECT_LT(outcome.after.bytes, outcome.before.bytes);
+    EXPECT_NE(vips_image_get_typeof(open(listed() / outcome.name).get(), "palette-bit-depth"), 0U);
+}
+
 TEST_F(ResizePhotoTest, PermissionsStay)
 {
     const Path path = photo("a.jpg");
     fs::permissions(path, fs::perms(0640));
     const auto outcome = resize(path, small);
     EXPECT_EQ(fs::status(listed() / outcome.name).permissions(), fs::perms(0640));
+}
+
+TEST_F(ResizePhotoTest, WhatAFileSystemHasNoPlaceForIsLeftBehind)
+{
+    const Path path = photo("a.jpg");
+    ASSERT_EQ(::setxattr(path.c_str(), "user.xdg.origin.url", "https://example.org/", 20, 0), 0);
+    const auto kept = resize(path, small, {Target::Kind::Folder, other(), "{name}"});
+    ASSERT_EQ(kept.kind, Kind::Done);
+    EXPECT_EQ(::getxattr((other() / kept.name).c_str(), "user.xdg.origin.url", nullptr, 0), 20);
+    hasNoAttributes = true;
+    const auto made = resize(path, small, {Target::Kind::Folder, other(), "{name}"});
+    hasNoAttributes = false;
+    EXPECT_EQ(made.kind, Kind::Done) << std::strerror(made.error);
+    EXPECT_EQ(namesIn(other()), (std::vector<std::string>{"a (2).jpg", "a.jpg"}));
 }
 
 TEST_F(ResizePhotoTest, HostileFilesAreToldOfAndLeaveNothing)
@@ -414,7 +610,7 @@ TEST_F(ResizePhotoTest, AllTogetherHaveNoMoreThanIsWanted)
     paths.push_back(photo("small.jpg", 40, 30));
     constexpr std::uint64_t most = 100'000;
     std::uint64_t sum = fs::file_size(paths.back());
-    const Goal goal = sharedGoal(request(), paths, most);
+    const Goal goal = sharedGoal(request(), paths, {Goal::Kind::Bytes, most});
     for (std::size_t number = 0; number < 2; ++number) {
         const auto outcome = resize(paths[number], goal);
         ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;

@@ -36,11 +36,11 @@ TEST(ResizedName, APatternHasTheNameAndNothingThatNoNameHas)
 
 TEST(ResizeJob, IsUnderstoodByTheOtherEnd)
 {
-    const Job job{{Goal::Kind::Bytes, 500'000, 70}, 320};
+    const Job job{{Goal::Kind::Bytes, 500'000, 70, 2048}, 320};
     EXPECT_EQ(jobFrom(textOf(job)), job);
     for (std::size_t length = 0; length < textOf(job).size(); ++length)
         EXPECT_FALSE(jobFrom(textOf(job).substr(0, length)));
-    const Result result = Resized{{1, 2, 3}, {4, 5, 6}, {1, 1, "abc"}, {}};
+    const Result result = Resized{{1, 2, 3}, {4, 5, 6}, {1, 1, "abc"}, {}, Data::Lost};
     EXPECT_EQ(resultFrom(textOf(result)), result);
     const Result refusal = Refused{"cannot be read"};
     EXPECT_EQ(resultFrom(textOf(refusal)), refusal);
