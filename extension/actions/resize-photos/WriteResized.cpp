@@ -300,6 +300,10 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
     const std::string texts =
         format == Format::Png ? chunksOfPng(bytesOf(photo), {"tEXt", "zTXt", "iTXt"}) : std::string();
     double scale = 1;
+    // What takes long to write begins where it most likely ends.
+    if (goal.kind == Goal::Kind::Bytes && (format == Format::Heic || format == Format::Avif))
+        scale = std::min(1.0, std::sqrt(static_cast<double>(goal.value) / static_cast<double>(stored.bytes)) *
+                                  stored.width / largest.width);
     double fitting = 0;
     double tooLarge = 1;
     int quality = goal.quality;

@@ -335,6 +335,15 @@ TEST_F(ResizePhotoTest, ASizeInBytesTakesNoMoreOfThePhotoThanItHasTo)
             EXPECT_EQ(isWhole, kind != "png" && most == whole * 9 / 10) << kind << most;
         }
     }
+    // They take long to write.
+    for (const char* name : {"a.heic", "a.avif"}) {
+        const Path path = photo(name, 600, 400, 1);
+        const std::uint64_t most = fs::file_size(path) / 2;
+        const auto outcome = resize(path, {Goal::Kind::Bytes, most});
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        EXPECT_LE(outcome.after.bytes, most) << name;
+        EXPECT_GT(outcome.after.bytes, most / 4 * 3) << name;
+    }
     const Goal forScreens{.kind = Goal::Kind::Bytes, .value = 100'000'000, .longest = 2048};
     EXPECT_EQ(sizeFor(forScreens, {4000, 3000, 0}), (Size{2048, 1536, 0}));
 }
