@@ -17,6 +17,9 @@ constexpr unsigned mostThreads = 4;
 /// What one thread takes at once: little at first, so that there is something to see.
 constexpr std::size_t firstShare = 2;
 constexpr std::size_t readAtOnce = 24;
+/// Of so few it is said before they are changed what else they hold, for which all of a file has to be read. Of more
+/// it is said when they have been saved, for which it is read anyway.
+constexpr std::size_t fewPhotos = 8;
 /// Each needs room for a copy of the photo for as long.
 constexpr std::size_t savedAtOnce = 8;
 
@@ -81,8 +84,10 @@ void readPhotos(const Request& request, const std::vector<std::string>& paths, c
         for (std::size_t place = 0; place < readings.size(); ++place) {
             if (readings[place].trouble.kind == Trouble::Kind::Cancelled)
                 continue;
-            ByteSource bytes(opened.photos[place].file.get());
-            readings[place].holdsMore = holdsMore(bytes);
+            if (paths.size() <= fewPhotos) {
+                ByteSource bytes(opened.photos[place].file.get());
+                readings[place].holdsMore = holdsMore(bytes);
+            }
             report(opened.indices[place], std::move(readings[place]));
         }
     });

@@ -19,7 +19,7 @@ namespace MenuExtension::Exif {
 struct Reading {
     Tags tags = {};
     Trouble trouble = {};
-    /// Than the picture that the tags are of.
+    /// Than the picture that the tags are of; only where few are read.
     bool holdsMore = false;
 };
 
