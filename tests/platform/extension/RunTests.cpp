@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 #include <fcntl.h>
 #include <filesystem>
@@ -40,7 +41,11 @@ protected:
     }
 
     // The toolkit does not remove names that are no text.
-    ~Run() override { std::filesystem::remove_all(m_files.path().toStdString()); }
+    ~Run() override
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_files.path().toStdString(), ignored);
+    }
 
     /// Stores the settings, with the actions of these identifiers off.
     void storeWith(const std::vector<std::string_view>& off)
@@ -276,8 +281,7 @@ TEST_F(Run, TakesAThousandAtOnceAndRefusesWhatIsTooMuch)
     EXPECT_FALSE(calls[1000].isFinished());
 
     ASSERT_EQ(::flock(folder.get(), LOCK_UN), 0);
-    EXPECT_EQ(outcomeOf(calls.front()), "done");
-    EXPECT_EQ(outcomeOf(calls[100]), "done");
+    EXPECT_EQ(std::ranges::count_if(calls, [](const auto& call) { return outcomeOf(call) == "done"; }), 16 + 1024);
 }
 
 enum class Asked { Run, Quit };
