@@ -1,5 +1,5 @@
-# The builds with sanitizers read the toolkit's headers once for all. The ordinary build reads them for each file, and
-# so finds what a file forgot to include.
+# Tests, and everything in the builds with sanitizers, read the toolkit's headers once for all. The ordinary build reads
+# them for each file of the programs, and so finds what one forgot to include.
 
 # Makes a target of which others can take what it has read: the toolkit's headers, and those that are given.
 function(orvik_add_toolkit_headers target libraries)
