@@ -1,4 +1,4 @@
-#include "extension/actions/view-or-edit-exif-data/ImageData.h"
+#include "extension/actions/photos/ImageData.h"
 
 #include <cstddef>
 #include <cstdint>

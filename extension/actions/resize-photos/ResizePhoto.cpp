@@ -2,9 +2,9 @@
 
 #include "ResizedName.h"
 #include "extension/actions/files/Trash.h"
+#include "extension/actions/photos/ImageData.h"
 #include "extension/actions/placing/Attributes.h"
 #include "extension/actions/transfer/Placing.h"
-#include "extension/actions/view-or-edit-exif-data/ImageData.h"
 #include "platform/LocalizedString.h"
 
 #include <algorithm>
@@ -139,7 +139,7 @@ std::string pathOf(const FileDescriptor& folder)
 }
 
 /// Whether a JPEG file holds a second picture, or a film, behind the end of its first.
-bool holdsMore(const OpenedFile& photo)
+bool holdsAnother(const OpenedFile& photo)
 {
     constexpr std::size_t longestSign = 4;
     Exif::ByteSource file(photo.file.get());
@@ -197,7 +197,7 @@ PhotoResizer::PhotoResizer(std::string worker, std::unique_ptr<Transfers::System
 Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Target& target,
                              const std::stop_token& stop)
 {
-    if (target.kind == Target::Kind::InPlace && holdsMore(photo))
+    if (target.kind == Target::Kind::InPlace && holdsAnother(photo))
         return {.kind = Outcome::Kind::Refused,
                 .words = NS::LocalizedString(
                     "Photos", "cannot be resized in its place: a second picture or a film in it would be lost")};

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ResizeJob.h"
+#include "extension/actions/photos/ExifTool.h"
 #include "extension/actions/photos/Worker.h"
 #include "extension/actions/placing/OpenedFile.h"
 #include "extension/actions/transfer/SystemCalls.h"
-#include "extension/actions/view-or-edit-exif-data/ExifTool.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "Batch.h"
 
-#include "ImageData.h"
+#include "extension/actions/photos/ImageData.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,7 +1,7 @@
 #include "Edits.h"
 
-#include "ExifTool.h"
 #include "PersonalData.h"
+#include "extension/actions/photos/ExifTool.h"
 
 #include <algorithm>
 #include <array>

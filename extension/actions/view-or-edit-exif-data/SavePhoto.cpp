@@ -1,6 +1,6 @@
 #include "SavePhoto.h"
 
-#include "ImageData.h"
+#include "extension/actions/photos/ImageData.h"
 #include "extension/actions/placing/Attributes.h"
 #include "platform/linux/system/FolderStream.h"
 

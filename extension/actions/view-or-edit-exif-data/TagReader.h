@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ExifTool.h"
 #include "Tags.h"
 #include "Trouble.h"
+#include "extension/actions/photos/ExifTool.h"
 #include "extension/actions/placing/OpenedFile.h"
 
 #include "platform/linux/system/TemporaryFolders.h"

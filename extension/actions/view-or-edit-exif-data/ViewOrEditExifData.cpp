@@ -1,6 +1,6 @@
-#include "ExifTool.h"
 #include "ExifWindow.h"
 #include "SavePhoto.h"
+#include "extension/actions/photos/ExifTool.h"
 #include "extension/actions/placing/OpenedFile.h"
 #include "extension/actions/support/Action.h"
 #include "extension/actions/window/PerformInWindow.h"

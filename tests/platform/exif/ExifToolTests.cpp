@@ -1,6 +1,6 @@
 #include "PhotosTest.h"
 
-#include "extension/actions/view-or-edit-exif-data/ExifTool.h"
+#include "extension/actions/photos/ExifTool.h"
 #include "extension/actions/view-or-edit-exif-data/Merged.h"
 #include "support/ProgramPath.h"
 

@@ -1,5 +1,5 @@
+#include "extension/actions/photos/ImageData.h"
 #include "extension/actions/view-or-edit-exif-data/Edits.h"
-#include "extension/actions/view-or-edit-exif-data/ImageData.h"
 #include "extension/actions/view-or-edit-exif-data/PersonalData.h"
 
 #include "support/Files.h"

@@ -1,6 +1,6 @@
 #include "PhotosTest.h"
 
-#include "extension/actions/view-or-edit-exif-data/ImageData.h"
+#include "extension/actions/photos/ImageData.h"
 #include "extension/actions/view-or-edit-exif-data/PersonalData.h"
 
 #include <chrono>
