@@ -224,6 +224,24 @@ TEST_F(SavePhotoTest, RemovesLocationAndPersonalData)
     EXPECT_EQ(save(path, edits), Kind::None) << "there is nothing more to do";
 }
 
+TEST_F(SavePhotoTest, LooksForMoreThanThePictureInAFewPhotosAlone)
+{
+    std::vector<std::string> paths;
+    const auto thoseWithMore = [&] {
+        std::size_t count = 0;
+        readPhotos(request(), paths, [&](std::size_t, const Reading& reading) { count += reading.holdsMore ? 1 : 0; },
+                   {});
+        return count;
+    };
+    for (int number = 0; number < 8; ++number) {
+        paths.push_back(photo("jpg", std::to_string(number) + ".jpg"));
+        Files::write(paths.back(), Files::read(paths.back()) + Files::read(paths.back()));
+    }
+    EXPECT_EQ(thoseWithMore(), 8);
+    paths.push_back(photo("jpg"));
+    EXPECT_EQ(thoseWithMore(), 0) << "it goes through all of each file";
+}
+
 TEST_F(SavePhotoTest, SaysWhereMoreThanThePictureMayHoldPersonalData)
 {
     const Path path = photo("jpg");
