@@ -2227,8 +2227,8 @@
         <translation>تعذّر حفظه: لا توجد مساحة له</translation>
     </message>
     <message>
-        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
-        <translation>تعذّر تغيير حجمه في مكانه: سيفقد بيانات Exif من دون ExifTool</translation>
+        <source>cannot be resized: without ExifTool it would lose its Exif data</source>
+        <translation>تعذّر تغيير حجمه: سيفقد بيانات Exif من دون ExifTool</translation>
     </message>
     <message>
         <source>cannot be resized in its place: a second picture or a film in it would be lost</source>

@@ -2139,8 +2139,8 @@
         <translation>kann nicht gespeichert werden: Es ist nicht genug Platz vorhanden</translation>
     </message>
     <message>
-        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
-        <translation>kann nicht an seiner Stelle skaliert werden: Ohne ExifTool gingen die Exif-Daten verloren</translation>
+        <source>cannot be resized: without ExifTool it would lose its Exif data</source>
+        <translation>kann nicht skaliert werden: Ohne ExifTool gingen die Exif-Daten verloren</translation>
     </message>
     <message>
         <source>cannot be resized in its place: a second picture or a film in it would be lost</source>

@@ -2139,8 +2139,8 @@
         <translation>no se puede guardar: no hay espacio suficiente</translation>
     </message>
     <message>
-        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
-        <translation>no se puede redimensionar en su lugar: sin ExifTool perdería sus datos Exif</translation>
+        <source>cannot be resized: without ExifTool it would lose its Exif data</source>
+        <translation>no se puede redimensionar: sin ExifTool perdería sus datos Exif</translation>
     </message>
     <message>
         <source>cannot be resized in its place: a second picture or a film in it would be lost</source>

@@ -2139,8 +2139,8 @@
         <translation>ne peut pas être enregistré&#xa0;: il n’y a pas assez de place</translation>
     </message>
     <message>
-        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
-        <translation>ne peut pas être redimensionné à sa place&#xa0;: sans ExifTool, il perdrait ses données Exif</translation>
+        <source>cannot be resized: without ExifTool it would lose its Exif data</source>
+        <translation>ne peut pas être redimensionné&#xa0;: sans ExifTool, il perdrait ses données Exif</translation>
     </message>
     <message>
         <source>cannot be resized in its place: a second picture or a film in it would be lost</source>

@@ -2117,8 +2117,8 @@
         <translation>无法保存：空间不足</translation>
     </message>
     <message>
-        <source>cannot be resized in its place: without ExifTool it would lose its Exif data</source>
-        <translation>无法就地调整大小：没有 ExifTool 会丢失其 Exif 数据</translation>
+        <source>cannot be resized: without ExifTool it would lose its Exif data</source>
+        <translation>无法调整大小：没有 ExifTool 会丢失其 Exif 数据</translation>
     </message>
     <message>
         <source>cannot be resized in its place: a second picture or a film in it would be lost</source>

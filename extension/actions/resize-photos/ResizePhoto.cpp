@@ -211,7 +211,7 @@ Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Ta
     Unnamed made(*m_calls, folder);
     if (!made.file())
         return cannotBeSaved();
-    Outcome outcome = make(photo, goal, folder, made.file(), target.kind != Target::Kind::InPlace, stop);
+    Outcome outcome = make(photo, goal, folder, made.file(), stop);
     if (outcome.kind != Outcome::Kind::Done)
         return outcome;
     struct stat status = {};
@@ -231,7 +231,7 @@ Outcome PhotoResizer::resize(const OpenedFile& photo, const Goal& goal, const Ta
 }
 
 Outcome PhotoResizer::make(const OpenedFile& photo, const Goal& goal, const FileDescriptor& folder,
-                           const FileDescriptor& made, bool mayLoseData, const std::stop_token& stop)
+                           const FileDescriptor& made, const std::stop_token& stop)
 {
     constexpr int tries = 3;
     const std::array files{photo.file.get(), made.get()};
@@ -259,12 +259,10 @@ Outcome PhotoResizer::make(const OpenedFile& photo, const Goal& goal, const File
         const FileDescriptor whole = withData(photo, folder, made, stop);
         if (!whole && stop.stop_requested())
             return {.kind = Outcome::Kind::Cancelled};
-        if (!whole && !mayLoseData)
-            return {.kind = Outcome::Kind::Refused,
-                    .words = NS::LocalizedString(
-                        "Photos", "cannot be resized in its place: without ExifTool it would lose its Exif data")};
         if (!whole)
-            return outcome;
+            return {.kind = Outcome::Kind::Refused,
+                    .words = NS::LocalizedString("Photos",
+                                                 "cannot be resized: without ExifTool it would lose its Exif data")};
         const auto size = sizeOf(whole);
         if (!size || !copyBytes(whole, made, *size))
             return cannotBeSaved();

@@ -76,7 +76,7 @@ public:
 private:
     /// Writes the resized photo to the open file `made`, which is to lie in the folder.
     Outcome make(const OpenedFile& photo, const Goal& goal, const LinuxDesktop::FileDescriptor& folder,
-                 const LinuxDesktop::FileDescriptor& made, bool mayLoseData, const std::stop_token& stop);
+                 const LinuxDesktop::FileDescriptor& made, const std::stop_token& stop);
     /// The photo's data and the picture that was made of it in one file, which has no name any more; nothing where
     /// ExifTool does not write it.
     LinuxDesktop::FileDescriptor withData(const OpenedFile& photo, const LinuxDesktop::FileDescriptor& folder,
