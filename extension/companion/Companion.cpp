@@ -118,7 +118,7 @@ void Companion::offerActions()
 {
     OfferedActions offered = offeredActions(m_state.settings.menuItems, folderOfActions());
     m_state.actions = std::move(offered.actions);
-    m_needs.waitFor(std::move(offered.missing));
+    m_needs.follow(std::move(offered.needs));
 }
 
 void Companion::offerActionsAnew()
@@ -201,20 +201,22 @@ void Companion::run(const RunCall& call, const std::optional<Refusal>& wrong, Fi
         refusal = refusalOf(call.request, m_scope);
     if (!refusal && !m_runner.hasRoom())
         refusal = Refusal{Refusal::Kind::Failed, NS::LocalizedString("Companion", "Too much is asked for at once.")};
+    const auto refuse = [this, action = call.action, isTold = !call.isAnswerAwaited, finished](const Refusal& why) {
+        if (isTold || why.kind == Refusal::Kind::Failed)
+            m_notices.tell(titleOf(action), why.words);
+        finished(why);
+    };
     if (refusal) {
-        if (!call.isAnswerAwaited || refusal->kind == Refusal::Kind::Failed)
-            m_notices.tell(titleOf(call.action), refusal->words);
-        finished(refusal);
+        refuse(*refusal);
         return;
     }
-    m_runner.run(call, [this, action = call.action, finished](const Outcome& outcome) {
+    m_runner.run(call, [refuse, finished](const Outcome& outcome) {
         if (outcome.kind == Outcome::Kind::Done) {
             finished(std::nullopt);
             return;
         }
-        m_notices.tell(titleOf(action), outcome.words);
-        finished(Refusal{outcome.kind == Outcome::Kind::Failed ? Refusal::Kind::Failed : Refusal::Kind::DoesNotApply,
-                         outcome.words});
+        refuse({outcome.kind == Outcome::Kind::Failed ? Refusal::Kind::Failed : Refusal::Kind::DoesNotApply,
+                outcome.words});
     });
 }
 

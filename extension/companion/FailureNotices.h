@@ -3,6 +3,7 @@
 #include "extension/bus/Handles.h"
 
 #include <cstdint>
+#include <list>
 #include <string>
 
 namespace MenuExtension {
@@ -18,13 +19,20 @@ public:
     void tell(const std::string& title, const std::string& words);
 
 private:
-    int takeReply(sd_bus_message& reply);
+    struct Telling {
+        FailureNotices* notices;
+        std::string told;
+        BusSlot call;
+    };
+
+    void takeReply(const Telling& telling, sd_bus_message& reply);
 
     sd_bus& m_bus;
     std::string m_last;
     /// The desktop's number of the last one; 0 where it has none.
     std::uint32_t m_number = 0;
-    BusSlot m_call;
+    /// Those that the desktop has not answered.
+    std::list<Telling> m_tellings;
 };
 
 } // namespace MenuExtension

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <sys/epoll.h>
@@ -14,7 +15,7 @@ namespace MenuExtension {
 
 namespace {
 
-/// Where it would come to.
+/// Where it is, or would come to.
 std::vector<std::string> foldersFor(const ActionNeed& need)
 {
     if (need.kind == ActionNeed::Kind::Library)
@@ -27,23 +28,32 @@ std::vector<std::string> foldersFor(const ActionNeed& need)
     return folders;
 }
 
+std::vector<bool> areMet(const std::vector<ActionNeed>& needs)
+{
+    std::vector<bool> areMet;
+    std::ranges::transform(needs, std::back_inserter(areMet), isMet);
+    return areMet;
+}
+
 } // namespace
 
-NeedsWatch::NeedsWatch(sd_event& event, std::function<void()> came) : m_event(event), m_came(std::move(came)) {}
+NeedsWatch::NeedsWatch(sd_event& event, std::function<void()> changed) : m_event(event), m_changed(std::move(changed))
+{}
 
-void NeedsWatch::waitFor(std::vector<ActionNeed> missing)
+void NeedsWatch::follow(std::vector<ActionNeed> needs)
 {
-    if (missing == m_missing)
+    if (needs == m_needs)
         return;
-    m_missing = std::move(missing);
+    m_needs = std::move(needs);
     m_events.reset();
     m_inotify.reset();
-    if (m_missing.empty())
+    m_areMet = areMet(m_needs);
+    if (m_needs.empty())
         return;
     m_inotify.emplace();
-    for (const ActionNeed& need : m_missing) {
+    for (const ActionNeed& need : m_needs) {
         for (const std::string& folder : foldersFor(need))
-            m_inotify->add(folder, IN_CREATE | IN_MOVED_TO | IN_ATTRIB | IN_ONLYDIR);
+            m_inotify->add(folder, IN_CREATE | IN_MOVED_TO | IN_ATTRIB | IN_DELETE | IN_MOVED_FROM | IN_ONLYDIR);
     }
     sd_event_source* source = nullptr;
     const auto happened = [](sd_event_source*, int, std::uint32_t, void* watch) {
@@ -58,8 +68,11 @@ void NeedsWatch::waitFor(std::vector<ActionNeed> missing)
 void NeedsWatch::look()
 {
     m_inotify->read([](const LinuxDesktop::Inotify::Event&) {});
-    if (std::ranges::any_of(m_missing, isMet))
-        m_came();
+    std::vector<bool> areMetNow = areMet(m_needs);
+    if (areMetNow == m_areMet)
+        return;
+    m_areMet = std::move(areMetNow);
+    m_changed();
 }
 
 } // namespace MenuExtension

@@ -10,23 +10,25 @@
 
 namespace MenuExtension {
 
-/// Tells when something that actions lack has come. Asleep while nothing is missing.
+/// Tells when something that actions need has come or gone. Asleep while they need nothing.
 class NeedsWatch {
 public:
-    /// `event` must outlive the watch. `came` is called from its loop.
-    NeedsWatch(sd_event& event, std::function<void()> came);
+    /// `event` must outlive the watch. `changed` is called from its loop.
+    NeedsWatch(sd_event& event, std::function<void()> changed);
     NeedsWatch(const NeedsWatch&) = delete;
     NeedsWatch& operator=(const NeedsWatch&) = delete;
 
-    /// Waits for these from now on, and for no others.
-    void waitFor(std::vector<ActionNeed> missing);
+    /// Follows these from now on, and no others.
+    void follow(std::vector<ActionNeed> needs);
 
 private:
     void look();
 
     sd_event& m_event;
-    std::function<void()> m_came;
-    std::vector<ActionNeed> m_missing;
+    std::function<void()> m_changed;
+    std::vector<ActionNeed> m_needs;
+    /// Whether each is there.
+    std::vector<bool> m_areMet;
     std::optional<LinuxDesktop::Inotify> m_inotify;
     // Goes before the queue that it reads.
     EventSource m_events;

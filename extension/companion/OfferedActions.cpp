@@ -31,10 +31,10 @@ OfferedActions offeredActions(const std::vector<MenuItem>& items, const std::str
         if (identifier != actionOfFileManager) {
             if (!hasProgram(identifier, programs))
                 continue;
-            if (auto missing = missingNeeds(programs, identifier); !missing.empty()) {
-                std::ranges::move(missing, std::back_inserter(offered.missing));
+            const auto needs = needsOf(programs, identifier);
+            std::ranges::copy(needs, std::back_inserter(offered.needs));
+            if (!std::ranges::all_of(needs, isMet))
                 continue;
-            }
         }
         offered.actions.push_back({identifier, NS::LocalizedString("MenuCatalogue", item.title),
                                    "orvik-menu-" + identifier, row->appliesTo});

@@ -12,8 +12,8 @@ namespace MenuExtension {
 struct OfferedActions {
     /// Those that are on and that can be done here, in the order of the menu. One that is stored twice is there once.
     std::vector<MenuAction> actions;
-    /// What keeps others, which are on, from being done.
-    std::vector<ActionNeed> missing;
+    /// What these need, and others that are on and that cannot be done for lack of it.
+    std::vector<ActionNeed> needs;
 };
 
 /// Offers what the file manager does itself, and what has its program in `programs` and all that this needs.

@@ -32,12 +32,17 @@ bool isMet(const ActionNeed& need)
     return ::access(need.name.c_str(), R_OK) == 0;
 }
 
-std::vector<ActionNeed> missingNeeds(const std::string& programs, std::string_view identifier)
+std::vector<ActionNeed> needsOf(const std::string& programs, std::string_view identifier)
 {
     std::ifstream file((programs + '/').append(identifier) + ".needs", std::ios::binary);
     std::ostringstream text;
     text << file.rdbuf();
-    std::vector<ActionNeed> needs = needsFrom(text.view());
+    return needsFrom(text.view());
+}
+
+std::vector<ActionNeed> missingNeeds(const std::string& programs, std::string_view identifier)
+{
+    std::vector<ActionNeed> needs = needsOf(programs, identifier);
     std::erase_if(needs, isMet);
     return needs;
 }

@@ -23,7 +23,9 @@ struct ActionNeed {
 [[nodiscard]] std::vector<ActionNeed> needsFrom(std::string_view text);
 /// Whether it is there now.
 [[nodiscard]] bool isMet(const ActionNeed& need);
-/// What is missing for an action whose program is in `programs`.
+/// What an action needs whose program is in `programs`.
+[[nodiscard]] std::vector<ActionNeed> needsOf(const std::string& programs, std::string_view identifier);
+/// What of that is missing.
 [[nodiscard]] std::vector<ActionNeed> missingNeeds(const std::string& programs, std::string_view identifier);
 
 } // namespace MenuExtension

@@ -216,9 +216,29 @@ TEST_F(Run, RefusesOptionsOfTheWrongKindAndPassesOverOthers)
 
 TEST_F(Run, SaysWhatAnActionDoesNotApplyTo)
 {
+    NotificationsStandIn desktop(m_daemon.address());
     EXPECT_EQ(run("set-as-wallpaper", {makeFile("in/a")}), "DoesNotApply");
     EXPECT_EQ(run("hide-unhide-item", {path("in")}, {{"background", true}}), "DoesNotApply");
     EXPECT_EQ(run("create-new-text-file", {makeFile("in/a")}), "DoesNotApply");
+    EXPECT_EQ(run("hide-unhide-item", {path("in/gone")}), "Failed");
+    ASSERT_TRUE(waitUntil([&] { return !desktop.shown().isEmpty(); }));
+    EXPECT_EQ(desktop.shown().size(), 1) << "whoever asked is told of the others";
+}
+
+TEST_F(Run, TellsEverythingOnStandardErrorWhereNobodyShowsIt)
+{
+    quit();
+    ASSERT_TRUE(waitUntil([&] { return !nameIsOwned(); }));
+    QProcess& companion = startAndWait();
+    for (int number = 0; number < 50; ++number)
+        connection().send(callOf("hide-unhide-item", {path("out/") + QByteArray::number(number)}));
+    QByteArray told;
+    ASSERT_TRUE(waitUntil([&] {
+        told += companion.readAllStandardError();
+        return told.count('\n') >= 50;
+    })) << told.toStdString();
+    for (int number = 0; number < 50; ++number)
+        EXPECT_TRUE(told.contains('"' + QByteArray::number(number) + '"')) << number;
 }
 
 TEST_F(Run, FailsWithWordsWhichTheDesktopShowsToo)
