@@ -78,6 +78,7 @@ packages_tests=(
   desktop-file-utils
   fish
   libgtest-dev
+  locales
   man-db
   zsh
 )

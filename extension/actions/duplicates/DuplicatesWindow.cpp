@@ -310,13 +310,16 @@ void DuplicatesWindow::takeFindings()
         m_groups.clear();
         m_troubles.clear();
         m_moreTroubles = 0;
+        m_lookedAt = 0;
         m_isToForget = false;
     }
     for (const auto& [key, items] : batch.groups)
         m_groups.add(key, items);
-    if (batch.progress)
+    if (batch.progress) {
+        m_lookedAt = batch.progress->files;
         m_progress->advance(batch.progress->done, batch.progress->total,
-                            tr("%1 looked at").arg(m_presentation.counted(batch.progress->files)));
+                            tr("%1 looked at").arg(m_presentation.counted(m_lookedAt)));
+    }
     for (const auto& [path, why] : batch.troubles)
         addTrouble(path, why);
     showTroubleCount();
@@ -539,7 +542,8 @@ void DuplicatesWindow::showHeading()
         m_heading->setText(m_presentation.title);
     m_nothing->setText(m_isSearching  ? tr("Looking for duplicates…")
                        : m_wasStopped ? tr("The search was stopped before anything was found.")
-                                      : m_presentation.nothingFound);
+                       : m_lookedAt == 0 && !m_troubles.isEmpty() ? m_troubles.first()
+                                                                  : m_presentation.nothingFound);
     m_pages->setCurrentIndex(groups.empty() && !isFiltered ? NothingPage : ListPage);
     m_filter->setEnabled(!groups.empty() || isFiltered);
 }

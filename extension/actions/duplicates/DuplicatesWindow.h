@@ -113,6 +113,7 @@ private:
     /// Sentences, and how many more there were.
     QStringList m_troubles;
     std::size_t m_moreTroubles = 0;
+    std::uint64_t m_lookedAt = 0;
 
     struct RemovalState;
     std::unique_ptr<RemovalState> m_removal;

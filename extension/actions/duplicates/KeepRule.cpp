@@ -17,11 +17,12 @@ bool hasShorterPath(const Item& one, const Item& other)
 bool comesBefore(const KeepRule& rule, const Item& one, const Item& other)
 {
     using Kind = KeepRule::Kind;
-    const std::int64_t difference = one.state.modified - other.state.modified;
-    if (rule.kind == Kind::Oldest && difference != 0)
-        return difference < 0;
-    if (rule.kind == Kind::Newest && difference != 0)
-        return difference > 0;
+    const std::int64_t modified = one.state.modified;
+    const std::int64_t otherModified = other.state.modified;
+    if (rule.kind == Kind::Oldest && modified != otherModified)
+        return modified < otherModified;
+    if (rule.kind == Kind::Newest && modified != otherModified)
+        return modified > otherModified;
     if (rule.kind == Kind::Best && rule.isBetter) {
         if (rule.isBetter(one, other))
             return true;

@@ -70,6 +70,17 @@ bool isAt(const std::string& path, const FileState& state)
     return ::lstat(path.c_str(), &status) == 0 && FileState::of(status) == state;
 }
 
+/// Whether two file systems may show one file, as one that is laid over the other does: then no file has the number
+/// of the other, but both changed in the same moment, which a copy did not.
+bool mayBeOneFile(const FileDescriptor& one, const FileDescriptor& other)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return ::fstat(one.get(), &first) != 0 || ::fstat(other.get(), &second) != 0 ||
+           (first.st_dev != second.st_dev && first.st_ctim.tv_sec == second.st_ctim.tv_sec &&
+            first.st_ctim.tv_nsec == second.st_ctim.tv_nsec);
+}
+
 /// Locks a file as long as it is open; false where another program's lock does not allow it. Where the file system
 /// has no locks nobody has one.
 bool lock(const FileDescriptor& file, int operation)
@@ -111,6 +122,10 @@ public:
                 continue;
             if (!lock(other.file, LOCK_SH)) {
                 why = LocalizedString("Duplicates", "has a copy that another program is using");
+                continue;
+            }
+            if (mayBeOneFile(opened.file, other.file)) {
+                why = LocalizedString("Duplicates", "may be the same file as its copy, in two places");
                 continue;
             }
             const auto objection = m_means.check({going, opened.file.get()}, {staying, other.file.get()}, m_stop);

@@ -54,7 +54,11 @@ void walkFrom(FolderWalk& walk, const FolderWalk::Trouble& trouble, const std::s
 FileSearch::FileSearch(Duplicates::Findings& findings, Choices choices, std::stop_token stop)
     : m_findings(findings), m_choices(choices), m_stop(std::move(stop)),
       m_comparison(
-          m_tree, [this](const std::string& path, const std::string& why) { m_findings.trouble(path, why); },
+          m_tree,
+          [this](const std::string& path, const std::string& why) {
+              if (!m_isLookingAhead)
+                  m_findings.trouble(path, why);
+          },
           [this](std::size_t bytes) { advance(bytes); }, m_stop)
 {}
 
@@ -96,6 +100,7 @@ void FileSearch::walk(const std::vector<std::string>& paths, const OpenItem& ope
         m_findings.progress({.files = m_tree.filesSoFar(), .done = 0, .total = 0});
         lock.lock();
     }
+    m_findings.progress({.files = m_tree.filesSoFar(), .done = 0, .total = 0});
 }
 
 /// Those of a size that several have, the largest first, and none that would take long.
@@ -151,7 +156,9 @@ void FileSearch::tellAhead(Readings& readings)
     std::ranges::sort(readings, {}, identity);
     const auto isSame = [&](const Reading& one, const Reading& other) { return identity(one) == identity(other); };
     readings.erase(std::unique(readings.begin(), readings.end(), isSame), readings.end());
+    m_isLookingAhead = true;
     m_comparison.read(readings, FileComparison::What::Whole);
+    m_isLookingAhead = false;
     eachEqual(readings, [this](std::span<Reading> group) {
         std::vector<Item> items;
         for (const Reading& reading : group) {

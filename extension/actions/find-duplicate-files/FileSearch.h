@@ -70,6 +70,8 @@ private:
     std::map<Identity, Reading> m_known;
     std::map<std::pair<std::int64_t, Digest>, std::uint64_t> m_keys;
     bool m_hasLookedAhead = false;
+    /// Whatever goes wrong then does so again when all is compared.
+    bool m_isLookingAhead = false;
 };
 
 } // namespace MenuExtension

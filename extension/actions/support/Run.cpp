@@ -85,7 +85,7 @@ Outcome checkAndPerform(std::uint32_t appliesTo, Perform perform, const std::vec
     selection.items.clear();
     if (auto gone = look(request, (appliesTo & AppliesTo::Pictures) != 0, selection))
         return *std::move(gone);
-    if (!applies(appliesTo, selection))
+    if (!applies(appliesTo, selection) || (request.background && !selection.items.front().isFolder))
         return Outcome::doesNotApply(LocalizedString("Action", "This cannot be done with what is selected."));
     return perform(request);
 }

@@ -39,6 +39,7 @@ class DesktopTestCase(unittest.TestCase):
         cls.screenshots = os.environ["ORVIK_SCREENSHOTS"]
         cls._folder = tempfile.mkdtemp(prefix="orvik-desktop-")
         cls.addClassCleanup(shutil.rmtree, cls._folder)
+        cls.addClassCleanup(processes.end_all_at_home_below, cls._folder)
         runtime = os.path.join(cls._folder, "run")
         os.mkdir(runtime, 0o700)
         cls.display = make_display(cls.screen_size)

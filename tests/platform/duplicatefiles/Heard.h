@@ -34,7 +34,7 @@ public:
     void trouble(const std::string& path, const std::string& why) override
     {
         const std::scoped_lock lock(m_mutex);
-        m_troubles[path] = why;
+        m_isRepeated = !m_troubles.insert_or_assign(path, why).second || m_isRepeated;
     }
 
     /// All groups.
@@ -47,7 +47,7 @@ public:
     }
     [[nodiscard]] const std::map<std::string, std::string>& troubles() const { return m_troubles; }
     [[nodiscard]] const std::vector<MenuExtension::Duplicates::Progress>& progresses() const { return m_progress; }
-    /// Whether an item was told twice.
+    /// Whether an item, or a trouble with one, was told twice.
     [[nodiscard]] bool isRepeated() const { return m_isRepeated; }
 
     std::function<void()> whenFound;

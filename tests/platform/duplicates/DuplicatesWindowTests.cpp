@@ -2,8 +2,10 @@
 
 #include "Items.h"
 
+#include <QLabel>
 #include <QTest>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <gtest/gtest.h>
@@ -17,6 +19,35 @@ class OneGroup : public Finder {
 public:
     void find(Findings& findings, std::stop_token) override { findings.found(0, {itemAt("/a"), itemAt("/b")}); }
 };
+
+class NoGroup : public Finder {
+public:
+    explicit NoGroup(std::uint64_t files) : m_files(files) {}
+    void find(Findings& findings, std::stop_token) override
+    {
+        findings.trouble("/in/link", "is a link, and those are not followed");
+        findings.progress({.files = m_files, .done = 0, .total = 0});
+    }
+
+private:
+    std::uint64_t m_files;
+};
+
+TEST(DuplicatesWindowTest, SaysWhyNothingWasLookedAt)
+{
+    for (const auto& [files, words] : {std::pair(0, "/in/link is a link, and those are not followed."),
+                                       std::pair(1, "No two files hold the same.")}) {
+        Presentation presentation;
+        presentation.nothingFound = QStringLiteral("No two files hold the same.");
+        presentation.counted = [](qulonglong count) { return QString::number(count); };
+        const DuplicatesWindow window(std::make_unique<NoGroup>(files), std::move(presentation));
+        const auto labels = window.findChildren<QLabel*>();
+        const auto isSaid = [&, said = QString::fromLatin1(words)] {
+            return std::ranges::any_of(labels, [&](const QLabel* label) { return label->text() == said; });
+        };
+        EXPECT_TRUE(QTest::qWaitFor(isSaid)) << words;
+    }
+}
 
 /// Not part of the window, nor of what it owns.
 std::atomic<bool> isReading = false;

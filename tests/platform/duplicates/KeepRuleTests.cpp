@@ -14,6 +14,19 @@ TEST(KeepRule, KeepsTheOldestOrTheNewest)
     EXPECT_EQ(KeepRule{.kind = Kind::Newest}.kept(items), (Kept{false, false, true}));
 }
 
+TEST(KeepRule, ComparesDatesThatAreFarApart)
+{
+    const auto modifiedAt = [](std::int64_t year) {
+        struct stat status = {};
+        status.st_mtim.tv_sec = (year - 1970) * 31'556'952;
+        return FileState::of(status).modified;
+    };
+    const std::vector<Item> items{itemAt("/a", 1, modifiedAt(2200)), itemAt("/b", 1, modifiedAt(1901)),
+                                  itemAt("/c", 1, modifiedAt(2400))};
+    EXPECT_EQ(KeepRule{.kind = Kind::Oldest}.kept(items), (Kept{false, true, false}));
+    EXPECT_EQ(KeepRule{.kind = Kind::Newest}.kept(items), (Kept{false, false, true}));
+}
+
 TEST(KeepRule, KeepsOneOfThoseThatAreEqual)
 {
     const std::vector<Item> items{itemAt("/long/b"), itemAt("/b"), itemAt("/a")};

@@ -9,9 +9,12 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
+#include <sched.h>
 #include <set>
 #include <sys/file.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -171,6 +174,36 @@ TEST_F(Removal, DoesNotCountOneFileUnderAnotherNameAsACopy)
     remove();
     EXPECT_EQ(left(), (Names{"a", "b"}));
     EXPECT_EQ(m_kept, (Kept{{"b", "is the last copy that is left"}}));
+}
+
+TEST_F(Removal, DoesNotCountOneFileThatTwoFileSystemsShowAsACopy)
+{
+    for (const char* folder : {"under", "empty", "over"})
+        fs::create_directory(path(folder));
+    Files::write(path("under/a"), "the only one");
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        // In a namespace that ends with this process.
+        const std::string folders = "lowerdir=" + path("under").string() + ':' + path("empty").string();
+        const bool isMounted = (::unshare(CLONE_NEWNS) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+                               ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                               ::mount("none", path("over").c_str(), "overlay", 0, folders.c_str()) == 0;
+        if (!isMounted)
+            ::_exit(3);
+        const auto numbers = m_groups.itemsOf(m_groups.add(0, {item("over/a"), item("under/a")}));
+        m_groups.setChosen(numbers[1], true);
+        remove();
+        ::_exit(fs::exists(path("under/a")) &&
+                        m_kept == Kept{{"a", "may be the same file as its copy, in two places"}}
+                    ? 0
+                    : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_NE(WEXITSTATUS(status), 3) << "nothing could be mounted";
+    EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
 TEST_F(Removal, DoesNotCountALinkAsACopy)
