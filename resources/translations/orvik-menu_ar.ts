@@ -207,6 +207,10 @@
         <source>cannot be read: %1</source>
         <translation>تعذّرت قراءته: %1</translation>
     </message>
+    <message>
+        <source>may be the same file as its copy, in two places</source>
+        <translation>قد يكون هو نفسه ملف نسخته، في موضعين</translation>
+    </message>
 </context>
 <context>
     <name>EditForm</name>

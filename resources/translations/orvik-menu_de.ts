@@ -207,6 +207,10 @@
         <source>cannot be read: %1</source>
         <translation>kann nicht gelesen werden: %1</translation>
     </message>
+    <message>
+        <source>may be the same file as its copy, in two places</source>
+        <translation>ist vielleicht dieselbe Datei wie ihre Kopie, an zwei Stellen</translation>
+    </message>
 </context>
 <context>
     <name>EditForm</name>

@@ -207,6 +207,10 @@
         <source>cannot be read: %1</source>
         <translation>no se puede leer: %1</translation>
     </message>
+    <message>
+        <source>may be the same file as its copy, in two places</source>
+        <translation>quizá es el mismo archivo que su copia, en dos lugares</translation>
+    </message>
 </context>
 <context>
     <name>EditForm</name>

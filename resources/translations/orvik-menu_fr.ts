@@ -207,6 +207,10 @@
         <source>cannot be read: %1</source>
         <translation>ne peut pas être lu&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>may be the same file as its copy, in two places</source>
+        <translation>est peut-être le même fichier que sa copie, à deux endroits</translation>
+    </message>
 </context>
 <context>
     <name>EditForm</name>

@@ -207,6 +207,10 @@
         <source>cannot be read: %1</source>
         <translation>无法读取：%1</translation>
     </message>
+    <message>
+        <source>may be the same file as its copy, in two places</source>
+        <translation>可能与其副本是同一个文件，只是位于两处</translation>
+    </message>
 </context>
 <context>
     <name>EditForm</name>

@@ -70,6 +70,27 @@ class MoveAndCopy(TransferTestCase):
         self.action.wait_for_end()
         self.assertEqual(self.contents(), {"from/one": b"new", "to/one": b"new"})
 
+    def test_a_notification_that_has_had_its_time_can_still_be_undone(self):
+        self.start()
+        self.run_action(COPY, self.make("from/one"))
+        told = self.notifications.only()
+        self.assertEqual(told["time"], -1)
+        self.notifications.expire(told)
+        throughout(self.action.is_running, "it waits for the person", 1)
+        self.notifications.press(told, "undo")
+        self.action.wait_for_end()
+        self.assertEqual(self.contents(), {"from/one": b"new"})
+
+    def test_a_notification_stays_as_long_as_what_was_replaced(self):
+        self.start()
+        self.conflict(COPY)
+        self.press("Replace")
+        told = self.notifications.only()
+        self.assertEqual(told["time"], 0)
+        self.notifications.press(told, "undo")
+        self.action.wait_for_end()
+        self.assertEqual(self.contents(self.target), {"name.txt": b"old content"})
+
     def test_where_nobody_is_to_be_disturbed_it_ends(self):
         self.start()
         self.notifications.show_none()

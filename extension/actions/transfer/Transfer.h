@@ -9,6 +9,7 @@
 #include "extension/actions/transfer/Survey.h"
 #include "platform/linux/system/FileStamp.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <functional>
@@ -67,6 +68,12 @@ public:
     /// back. Once. Where it is cancelled the problems say of what is not back.
     [[nodiscard]] Result undo(const MoveToTrash& moveToTrash);
     [[nodiscard]] bool canBeUndone() const { return !m_journal.empty(); }
+    /// Whether an Undo would bring back something that was replaced.
+    [[nodiscard]] bool hasReplaced() const
+    {
+        return std::ranges::any_of(m_journal,
+                                   [](const auto& step) { return std::holds_alternative<Replaced>(step); });
+    }
     /// The first item that came to the target, by its path there; empty where none did.
     [[nodiscard]] std::string firstPlaced() const;
 

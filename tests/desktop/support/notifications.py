@@ -17,6 +17,7 @@ PATH = "/org/freedesktop/Notifications"
 # What a test asks of the stand-in itself.
 _TESTING = "com.orvikstudio.Testing"
 # Why one is closed, by the protocol's numbers.
+_HAD_ITS_TIME = 1
 _DISMISSED = 2
 _CALLED_BACK = 3
 
@@ -35,7 +36,8 @@ class Notifications:
         return call(self._connection, NAME, PATH, _TESTING, method, arguments)
 
     def shown(self):
-        """Those on view, each with its "number", "title", "words" and "buttons", titles by what they stand for."""
+        """Those on view, each with its "number", "title", "words", "time" and "buttons", titles by what they stand
+        for."""
         return json.loads(self._ask("Shown")[0])
 
     def only(self):
@@ -49,6 +51,10 @@ class Notifications:
         """The person is not to be disturbed: each is gone before the program hears its number."""
         self._ask("ShowNone")
 
+    def expire(self, notification):
+        """Its time has come: the person finds it among older ones, where its buttons do as before."""
+        self._ask("Expire", GLib.Variant("(u)", (notification["number"],)))
+
     def dismiss(self, notification):
         self._ask("Dismiss", GLib.Variant("(u)", (notification["number"],)))
 
@@ -61,14 +67,14 @@ class _Server(dbus.service.Object):
         self._shows = True
 
     @dbus.service.method(NAME, in_signature="susssasa{sv}i", out_signature="u")
-    def Notify(self, _application, replaced, _icon, title, words, actions, hints, _time):
+    def Notify(self, _application, replaced, _icon, title, words, actions, hints, time):
         number = int(replaced)
         if number == 0:
             self._last += 1
             number = self._last
         buttons = dict(zip(map(str, actions[::2]), map(str, actions[1::2])))
         self._shown[number] = {"number": number, "title": str(title), "words": str(words), "buttons": buttons,
-                               "stays": bool(hints.get("resident"))}
+                               "stays": bool(hints.get("resident")), "time": int(time)}
         if not self._shows:
             self._close(number, _DISMISSED)
         return dbus.UInt32(number)
@@ -102,6 +108,10 @@ class _Server(dbus.service.Object):
     @dbus.service.method(_TESTING)
     def ShowNone(self):
         self._shows = False
+
+    @dbus.service.method(_TESTING, in_signature="u")
+    def Expire(self, number):
+        self.NotificationClosed(number, _HAD_ITS_TIME)
 
     @dbus.service.method(_TESTING, in_signature="u")
     def Dismiss(self, number):

@@ -19,6 +19,9 @@ const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString undoAction = QStringLiteral("undo");
 const QString showAction = QStringLiteral("show");
 constexpr int desktopsOwnTime = -1;
+constexpr int forEver = 0;
+/// Why a notification is closed, by its protocol.
+constexpr uint hadItsTime = 1;
 constexpr int patience = 5000;
 constexpr int untilNoButton = 300;
 
@@ -46,16 +49,16 @@ DoneNotice::~DoneNotice()
     }
 }
 
-void DoneNotice::show(const QString& title, const QString& words, bool canBeUndone, bool canBeShown)
+void DoneNotice::show(const QString& title, const QString& words, const Offer& offer)
 {
     if (!m_bus) {
         QTimer::singleShot(0, this, &DoneNotice::notShown);
         return;
     }
     QStringList actions;
-    if (canBeUndone)
+    if (offer.undo)
         actions << undoAction << tr("Undo");
-    if (canBeShown)
+    if (offer.show)
         actions << showAction << tr("Show");
     // What was done can be undone after it was shown too: the notification stays until it is closed.
     const QString application =
@@ -63,7 +66,7 @@ void DoneNotice::show(const QString& title, const QString& words, bool canBeUndo
     QDBusMessage notify = call(QStringLiteral("Notify"));
     notify << QStringLiteral("Orvik Menu") << m_number << application << title << words.toHtmlEscaped() << actions
            << QVariantMap{{QStringLiteral("desktop-entry"), application}, {QStringLiteral("resident"), true}}
-           << desktopsOwnTime;
+           << (offer.stays ? forEver : desktopsOwnTime);
     m_isAwaited = true;
     auto* watcher = new QDBusPendingCallWatcher(m_bus->asyncCall(notify, patience), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* ended) {
@@ -93,8 +96,10 @@ void DoneNotice::takeAction(uint number, const QString& action)
         emit showAsked();
 }
 
-void DoneNotice::takeEnd(uint number, uint)
+void DoneNotice::takeEnd(uint number, uint reason)
 {
+    if (reason == hadItsTime)
+        return;
     if (m_isAwaited)
         m_gone.insert(number);
     if (m_isAwaited || number != m_number)

@@ -18,8 +18,15 @@ public:
     /// Takes it away.
     ~DoneNotice() override;
 
-    /// Shows it, with the buttons "Undo" and "Show" where they are wanted.
-    void show(const QString& title, const QString& words, bool canBeUndone, bool canBeShown);
+    /// What a person can do about what is done.
+    struct Offer {
+        bool undo = false;
+        bool show = false;
+        /// Only as long as the notification is there, which therefore stays until a person takes it away.
+        bool stays = false;
+    };
+    /// Shows it, with a button for each.
+    void show(const QString& title, const QString& words, const Offer& offer);
 
 signals:
     void shown();
@@ -27,7 +34,8 @@ signals:
     void notShown();
     void undoAsked();
     void showAsked();
-    /// It has been gone for a moment, whoever took it away.
+    /// It has been gone for a moment, whoever took it away. One that has only had its time is still to be found in
+    /// many desktops, with its buttons.
     void closed();
 
 private:

@@ -195,7 +195,9 @@ void TransferRunner::end()
 
 void TransferRunner::tell(const QString& title)
 {
-    m_notice.show(title, m_words, m_work.canBeUndone(), !m_work.firstPlaced().empty());
+    m_notice.show(
+        title, m_words,
+        {.undo = m_work.canBeUndone(), .show = !m_work.firstPlaced().empty(), .stays = m_work.hasReplaced()});
     answer(Outcome::done());
     m_isAnswered = true;
     m_patience.start();

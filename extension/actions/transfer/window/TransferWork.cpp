@@ -67,6 +67,7 @@ void TransferWork::start(bool isMove, const std::string& target)
             m_record.removeLeftovers();
             m_result = m_transfer->run(order);
             m_canBeUndone = m_transfer->canBeUndone();
+            m_hasReplaced = m_transfer->hasReplaced();
             m_firstPlaced = m_transfer->firstPlaced();
         },
         &TransferWork::finished);

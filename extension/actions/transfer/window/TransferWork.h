@@ -39,6 +39,8 @@ public:
     /// How it ended.
     [[nodiscard]] const Result& result() const { return m_result; }
     [[nodiscard]] bool canBeUndone() const { return m_canBeUndone; }
+    /// Whether there is something that was replaced, and that only an Undo brings back.
+    [[nodiscard]] bool hasReplaced() const { return m_hasReplaced; }
     /// The first item at the target, by its path there; empty where there is none.
     [[nodiscard]] const std::string& firstPlaced() const { return m_firstPlaced; }
 
@@ -66,6 +68,7 @@ private:
     std::unique_ptr<Transfer> m_transfer;
     Result m_result;
     bool m_canBeUndone = false;
+    bool m_hasReplaced = false;
     std::string m_firstPlaced;
     bool m_isRunning = false;
     std::thread m_thread;
