@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>may be the same file as its copy, in two places</source>
-        <translation>quizá es el mismo archivo que su copia, en dos lugares</translation>
+        <translation>quizá sea el mismo archivo que su copia, en dos lugares</translation>
     </message>
 </context>
 <context>

@@ -121,7 +121,7 @@ TEST_F(OfferedActionsTest, WhatComesAndGoesIsToldOf)
         fs::permissions(system / "resizer", fs::perms::owner_all);
         settle();
         EXPECT_EQ(told, 1);
-        fs::rename(system / "resizer", system / "other");
+        fs::rename(system / "resizer", root / "resizer");
         settle();
         EXPECT_EQ(told, 2);
         makeProgram(system / "resizer");

@@ -220,6 +220,7 @@ TEST_F(Run, SaysWhatAnActionDoesNotApplyTo)
     EXPECT_EQ(run("set-as-wallpaper", {makeFile("in/a")}), "DoesNotApply");
     EXPECT_EQ(run("hide-unhide-item", {path("in")}, {{"background", true}}), "DoesNotApply");
     EXPECT_EQ(run("create-new-text-file", {makeFile("in/a")}), "DoesNotApply");
+    EXPECT_EQ(run("create-new-text-file", {makeFile("in/a")}, {{"background", true}}), "DoesNotApply");
     EXPECT_EQ(run("hide-unhide-item", {path("in/gone")}), "Failed");
     ASSERT_TRUE(waitUntil([&] { return !desktop.shown().isEmpty(); }));
     EXPECT_EQ(desktop.shown().size(), 1) << "whoever asked is told of the others";
