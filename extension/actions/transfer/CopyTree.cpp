@@ -215,7 +215,7 @@ bool TreeCopier::linkToCopy(const struct stat& source, int to, const char* newNa
 {
     if (source.st_nlink < 2)
         return false;
-    const auto found = m_several.find({source.st_dev, source.st_ino});
+    const auto found = m_several.find({m_root, source.st_dev, source.st_ino});
     // It may have changed since, and then it is a copy of its own.
     if (found == m_several.end() || found->second.changed != timeOf(source) ||
         m_calls.link(m_root, found->second.path.c_str(), to, newName) != 0)
@@ -227,7 +227,8 @@ bool TreeCopier::linkToCopy(const struct stat& source, int to, const char* newNa
 void TreeCopier::rememberCopy(const struct stat& source, const char* newName)
 {
     if (source.st_nlink > 1)
-        m_several.insert_or_assign({source.st_dev, source.st_ino}, Copy{m_copyPath + '/' + newName, timeOf(source)});
+        m_several.insert_or_assign({m_root, source.st_dev, source.st_ino},
+                                   Copy{m_copyPath + '/' + newName, timeOf(source)});
 }
 
 bool TreeCopier::flushed(int file)

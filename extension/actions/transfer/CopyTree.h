@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace MenuExtension::Transfers {
@@ -70,8 +71,8 @@ private:
     DataCopier m_data;
     AttributeCopier m_attributes;
     Stamps m_copied;
-    /// Files of several names: where the first copy lies, from the folder that everything is copied to.
-    std::map<std::pair<dev_t, ino_t>, Copy> m_several;
+    /// Files of several names, by the folder that they were copied to: where the first copy lies in it.
+    std::map<std::tuple<int, dev_t, ino_t>, Copy> m_several;
     int m_root = -1;
     /// The number of the folder whose entries are copied.
     ino_t m_folder = 0;

@@ -7,8 +7,11 @@
 #include <cstdint>
 #include <cstring>
 #include <fcntl.h>
+#include <functional>
 #include <optional>
+#include <sched.h>
 #include <set>
+#include <sys/mount.h>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -19,6 +22,35 @@ namespace {
 
 using namespace MenuExtension::Transfers;
 namespace fs = std::filesystem;
+
+/// In a process of its own, whose mounts end with it.
+void expectAmongMounts(const std::function<bool()>& mount, const std::function<void()>& body)
+{
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        const bool isMounted = (::unshare(CLONE_NEWNS) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+                               ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 && mount();
+        if (!isMounted)
+            ::_exit(3);
+        try {
+            body();
+        } catch (const std::exception& error) {
+            ADD_FAILURE() << error.what();
+        }
+        ::_exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_NE(WEXITSTATUS(status), 3) << "nothing could be mounted";
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+bool mountMemory(const fs::path& at, const char* options = nullptr)
+{
+    return ::mount("memory", at.c_str(), "tmpfs", 0, options) == 0;
+}
 
 /// Everything that holds for moves and copies, within a file system and between two.
 class Transfers : public TransferTest, public testing::WithParamInterface<std::tuple<bool, bool>> {
@@ -271,6 +303,25 @@ TEST_P(Transfers, OfPartsOfFoldersComeBackManyAtATime)
     EXPECT_EQ(progress.totalFiles, static_cast<std::uint64_t>(many));
     EXPECT_EQ(namesIn(source() / "album").size(), static_cast<std::size_t>(many));
     EXPECT_EQ(namesIn(target() / "album"), std::vector<std::string>{"old"});
+}
+
+TEST_P(Transfers, TakeNoFileForAnotherWhereADiskIsMountedInTheTarget)
+{
+    file(source() / "other", "other");
+    file(source() / "one name", "of two");
+    folder(source() / "below");
+    fs::rename(source() / "other", source() / "below/other");
+    fs::create_hard_link(source() / "one name", source() / "below/other name");
+    folder(target() / "below");
+    answers.always = {Resolution::Merge};
+    expectAmongMounts([&] { return mountMemory(target() / "below"); },
+                      [&] {
+                          const Result result = run({source() / "one name", source() / "below"});
+                          EXPECT_EQ(kindsOf(result), std::vector<Kind>{});
+                          EXPECT_EQ(contentOf(target() / "one name"), "of two");
+                          EXPECT_EQ(contentOf(target() / "below/other name"), "of two");
+                          EXPECT_EQ(contentOf(target() / "below/other"), "other");
+                      });
 }
 
 TEST_P(Transfers, MergeFoldersSoThatNothingIsLeft)
