@@ -395,8 +395,10 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
     const Place target{task.target->get(), task.newName};
     if (task.resolution == Resolution::KeepBoth) {
         std::string name = placeBeside(m_calls, item, target, isFolder, m_target->longestName());
+        if (name.empty())
+            return false;
         task.newName = std::move(name);
-        return !task.newName.empty();
+        return true;
     }
     struct stat existing = {};
     if (task.resolution == Resolution::Replace && staging) {

@@ -52,6 +52,12 @@ bool mountMemory(const fs::path& at, const char* options = nullptr)
     return ::mount("memory", at.c_str(), "tmpfs", 0, options) == 0;
 }
 
+/// The folder once more, by another way.
+bool mountAgain(const fs::path& folder, const fs::path& at)
+{
+    return ::mount(folder.c_str(), at.c_str(), nullptr, MS_BIND, nullptr) == 0;
+}
+
 /// Everything that holds for moves and copies, within a file system and between two.
 class Transfers : public TransferTest, public testing::WithParamInterface<std::tuple<bool, bool>> {
 protected:
@@ -640,6 +646,20 @@ TEST_F(Moves, KeepWhatTheyReplacedWhereItCannotComeBack)
     forget();
     EXPECT_EQ(contentOf(target() / "renamed/name"), "new");
     EXPECT_EQ(contentOf(target() / "name 2"), "old");
+}
+
+TEST_F(Moves, KeepTheNameThatTheyAreNumberedByBetweenMountsOfOneFileSystem)
+{
+    file(source() / "disk/report.pdf", "new");
+    file(target() / "report.pdf", "old");
+    folder(source() / "mount");
+    answers.always = {Resolution::KeepBoth};
+    expectAmongMounts([&] { return mountAgain(source() / "disk", source() / "mount"); },
+                      [&] {
+                          EXPECT_EQ(kindsOf(run(What::Move, {source() / "mount/report.pdf"})), std::vector<Kind>{});
+                          EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"report 2.pdf", "report.pdf"}));
+                          EXPECT_EQ(namesIn(source() / "disk"), std::vector<std::string>{});
+                      });
 }
 
 TEST_F(Copies, ThatTheTrashDoesNotTakeStay)
