@@ -152,8 +152,7 @@ bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t
         return refuse(Problem::Kind::NameTooLong);
     if (m_isMove && ::faccessat(folder->get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
         return refuse(Problem::Kind::CannotLeave, errno);
-    if (m_isMove && folder->identity.device == m_target->folder()->identity.device &&
-        folder->mount == m_target->folder()->mount) {
+    if (m_isMove && canRenameBetween(*folder, *m_target->folder())) {
         ++m_progress.totalFiles;
         return true;
     }
@@ -492,11 +491,12 @@ void Transfer::removeEmptied()
 
 std::optional<std::size_t> Transfer::stagingFor(const SharedFolder& target)
 {
-    const auto found = std::ranges::find(m_stagings, target->identity.device, &Staging::device);
+    const auto found =
+        std::ranges::find_if(m_stagings, [&](const Staging& staging) { return staging.reaches(*target); });
     if (found != m_stagings.end())
         return static_cast<std::size_t>(found - m_stagings.begin());
     const SharedFolder& outer = m_target->folder();
-    auto made = Staging::make(m_calls, target->identity.device == outer->identity.device ? outer : target, m_record);
+    auto made = Staging::make(m_calls, canRenameBetween(*target, *outer) ? outer : target, m_record);
     if (!made)
         return std::nullopt;
     m_stagings.push_back(*std::move(made));

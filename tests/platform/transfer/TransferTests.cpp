@@ -662,6 +662,30 @@ TEST_F(Moves, KeepTheNameThatTheyAreNumberedByBetweenMountsOfOneFileSystem)
                       });
 }
 
+TEST_F(Moves, MergeIntoAFolderWhereAnotherOfItsFileSystemIsMounted)
+{
+    file(source() / "album/below/new", "new");
+    file(source() / "album/below/both", "newer");
+    file(target() / "album/below/hidden");
+    file(target() / "other/both", "old");
+    answers.each = [](const Conflict& conflict) {
+        return Decision{conflict.canMerge ? Resolution::Merge : Resolution::Replace};
+    };
+    const fs::path below = target() / "album/below";
+    expectAmongMounts([&] { return mountAgain(target() / "other", below); },
+                      [&] {
+                          EXPECT_EQ(kindsOf(run(What::Move, {source() / "album"})), std::vector<Kind>{});
+                          EXPECT_EQ(contentOf(below / "new"), "new");
+                          EXPECT_EQ(contentOf(below / "both"), "newer");
+                          EXPECT_FALSE(fs::exists(source() / "album"));
+                          EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+                          forget();
+                          EXPECT_EQ(namesIn(below), std::vector<std::string>{"both"});
+                          EXPECT_EQ(contentOf(below / "both"), "old");
+                          EXPECT_EQ(contentOf(source() / "album/below/both"), "newer");
+                      });
+}
+
 TEST_F(Copies, ThatTheTrashDoesNotTakeStay)
 {
     run(What::Copy, {file(source() / "item")});
