@@ -43,6 +43,9 @@ constexpr std::array local{long{EXT4_SUPER_MAGIC},
                            magicNtfs};
 constexpr std::array sharing{long{BTRFS_SUPER_MAGIC}, long{XFS_SUPER_MAGIC}, magicBcachefs};
 
+/// Some 30 MiB of memory. Those beyond count by each of their names.
+constexpr std::size_t mostSeveral = 500'000;
+
 template<std::size_t count>
 bool isOneOf(const std::array<long, count>& magics, long magic)
 {
@@ -116,6 +119,11 @@ std::uint64_t Target::largestFile() const
                                                     : std::numeric_limits<std::uint64_t>::max();
 }
 
+bool Target::hasLinks() const
+{
+    return m_fileSystem.f_type != MSDOS_SUPER_MAGIC && m_fileSystem.f_type != magicExfat;
+}
+
 std::uint64_t Target::roomFor(std::uint64_t size) const
 {
     const auto block = static_cast<std::uint64_t>(std::max<long>(m_fileSystem.f_bsize, 1));
@@ -146,8 +154,9 @@ bool Target::liesIn(const Identity& folder) const
     return std::ranges::find(m_above, folder) != m_above.end();
 }
 
-bool Survey::look(const Folder& folder, const std::string& name)
+bool Survey::look(const Folder& folder, const std::string& name, bool takesRoom)
 {
+    m_takesRoom = takesRoom;
     m_path = folder.path == "/" ? std::string() : folder.path;
     m_isPossible = true;
     lookAt(folder.get(), name.c_str());
@@ -165,7 +174,8 @@ void Survey::lookAt(int folder, const char* name)
     if (std::string_view(name).size() > m_target.longestName())
         return refuse(Problem::Kind::NameTooLong, name);
     if (S_ISDIR(status.st_mode)) {
-        m_room += m_target.roomFor(1);
+        if (m_takesRoom)
+            m_room += m_target.roomFor(1);
         lookAtFolder(folder, name);
         return;
     }
@@ -177,9 +187,21 @@ void Survey::lookAt(int folder, const char* name)
     const auto size = static_cast<std::uint64_t>(status.st_size);
     if (size > m_target.largestFile())
         return refuse(Problem::Kind::TooLarge, name);
-    constexpr std::uint64_t blockOfStatus = 512;
     m_progress.totalBytes += size;
-    m_room += m_target.roomFor(std::min(size, static_cast<std::uint64_t>(status.st_blocks) * blockOfStatus));
+    constexpr std::uint64_t blockOfStatus = 512;
+    if (isKnown(status))
+        --m_files;
+    else if (m_takesRoom)
+        m_room += m_target.roomFor(std::min(size, static_cast<std::uint64_t>(status.st_blocks) * blockOfStatus));
+}
+
+/// Whether the file is another name of one whose room is counted.
+bool Survey::isKnown(const struct stat& file)
+{
+    if (file.st_nlink < 2 || !m_takesRoom || !m_target.hasLinks())
+        return false;
+    const std::pair identity{file.st_dev, file.st_ino};
+    return m_several.size() < mostSeveral ? !m_several.insert(identity).second : m_several.contains(identity);
 }
 
 void Survey::lookAtFolder(int folder, const char* name)

@@ -107,16 +107,16 @@ bool Transfer::prepare(const Order& order)
         return false;
     }
     Survey survey(m_calls, m_progress, *m_target, m_isMove, m_result.problems);
-    std::uint64_t room = 0;
     std::size_t possible = 0;
     for (std::size_t number = 0; number < order.items.size() && !m_progress.cancelled; ++number) {
-        m_isImpossible[number] = !lookAtItem(order.items[number], survey, room);
+        m_isImpossible[number] = !lookAtItem(order.items[number], survey);
         possible += m_isImpossible[number] ? 0 : 1;
     }
     if (m_progress.cancelled)
         return false;
     m_flushesTogether = survey.files() > fewFiles && m_target->canBeFlushedAsAWhole();
-    const bool fits = room == 0 || m_target->sharesBytes() || m_target->hasRoomFor(room, survey.files());
+    const bool fits =
+        survey.room() == 0 || m_target->sharesBytes() || m_target->hasRoomFor(survey.room(), survey.files());
     if (!fits)
         m_result.problems.add({Problem::Kind::Full, order.target});
     m_result.isRefused = possible == 0 || !fits;
@@ -131,8 +131,7 @@ bool Transfer::prepare(const Order& order)
     return true;
 }
 
-/// `room` grows by what the item takes for sure: one whose name is taken may be left, or take the other's.
-bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t& room)
+bool Transfer::lookAtItem(const Order::Item& item, Survey& survey)
 {
     const auto refuse = [&](Problem::Kind kind, int error = 0) {
         m_result.problems.add({kind, item.path, error});
@@ -156,12 +155,9 @@ bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t
         ++m_progress.totalFiles;
         return true;
     }
-    const std::uint64_t before = survey.room();
-    const bool isPossible = survey.look(*folder, name);
-    struct stat existing = {};
-    if (m_calls.status(m_target->folder()->get(), newName.c_str(), existing) != 0)
-        room += survey.room() - before;
-    return isPossible;
+    // One whose name is taken may be left, or take the other's room.
+    const bool takesRoom = m_calls.status(m_target->folder()->get(), newName.c_str(), status) != 0;
+    return survey.look(*folder, name, takesRoom);
 }
 
 SharedFolder Transfer::folderOf(const std::string& item)

@@ -103,7 +103,7 @@ private:
     using MovesByFolder = std::map<std::string_view, Order>;
 
     [[nodiscard]] bool prepare(const Order& order);
-    [[nodiscard]] bool lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t& room);
+    [[nodiscard]] bool lookAtItem(const Order::Item& item, Survey& survey);
     [[nodiscard]] SharedFolder folderOf(const std::string& item);
 
     void transfer(Task task);

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <functional>
+#include <linux/magic.h>
 #include <optional>
 #include <sched.h>
 #include <set>
@@ -782,6 +783,17 @@ TEST_P(UnusualTransfers, RefuseADiskWithoutRoom)
     }
 }
 
+TEST_P(UnusualTransfers, CountEachNameOfAFileWhereATargetHasNoLinks)
+{
+    file(source() / "item/1", std::string(1 << 20, 'x'));
+    fs::create_hard_link(source() / "item/1", source() / "item/2");
+    unusual.changeFileSystem = [](struct statfs& status) {
+        status.f_type = MSDOS_SUPER_MAGIC;
+        status.f_bfree = status.f_bavail = static_cast<fsblkcnt_t>((3 << 19) / status.f_bsize);
+    };
+    EXPECT_EQ(run({source() / "item"}).isRefused, !isMove() || isBetweenTwo());
+}
+
 TEST_P(UnusualTransfers, SayWhichNamesAreTooLong)
 {
     unusual.changeFileSystem = [](struct statfs& status) { status.f_namelen = 10; };
@@ -939,6 +951,22 @@ protected:
     ~UnusualCopies() override { forget(); }
     UnusualCalls unusual;
 };
+
+TEST_F(UnusualCopies, OfAFileOfSeveralNamesTakeTheRoomOfOne)
+{
+    constexpr int names = 10;
+    file(source() / "item/1", std::string(1 << 20, 'x'));
+    for (int name = 2; name <= names; ++name)
+        fs::create_hard_link(source() / "item/1", source() / "item" / std::to_string(name));
+    // Memory counts names; disks do not.
+    unusual.changeFileSystem = [](struct statfs& status) { status.f_ffree = 4; };
+    expectAmongMounts([&] { return mountMemory(target(), "size=3m"); },
+                      [&] {
+                          EXPECT_EQ(kindsOf(run(What::Copy, {source() / "item"})), std::vector<Kind>{});
+                          EXPECT_EQ(treeOf(target() / "item"), treeOf(source() / "item"));
+                          EXPECT_EQ(progress.files, progress.totalFiles);
+                      });
+}
 
 TEST_F(UnusualCopies, OfDevicesAreNotMade)
 {
