@@ -14,6 +14,7 @@
 #include <sys/statvfs.h>
 #include <sys/utsname.h>
 #include <unistd.h>
+#include <utility>
 
 namespace MenuExtension::Transfers {
 
@@ -139,9 +140,14 @@ bool Target::hasRoomFor(std::uint64_t bytes, std::uint64_t files) const
     return fits && (m_fileSystem.f_files == 0 || files <= m_fileSystem.f_ffree);
 }
 
-bool Target::sharesBytes() const
+bool Target::sharesBytes(SystemCalls& calls, int folder, dev_t device) const
 {
-    return isOneOf(sharing, m_fileSystem.f_type);
+    if (device == m_folder->identity.device)
+        return isOneOf(sharing, m_fileSystem.f_type);
+    // A subvolume has a device of its own, but half of its number is the whole file system's.
+    struct statfs other = {};
+    return m_fileSystem.f_type == BTRFS_SUPER_MAGIC && calls.fileSystem(folder, other) == 0 &&
+           other.f_type == BTRFS_SUPER_MAGIC && other.f_fsid.__val[0] == m_fileSystem.f_fsid.__val[0];
 }
 
 bool Target::canBeFlushedAsAWhole() const
@@ -174,9 +180,7 @@ void Survey::lookAt(int folder, const char* name)
     if (std::string_view(name).size() > m_target.longestName())
         return refuse(Problem::Kind::NameTooLong, name);
     if (S_ISDIR(status.st_mode)) {
-        if (m_takesRoom)
-            m_room += m_target.roomFor(1);
-        lookAtFolder(folder, name);
+        lookAtFolder(folder, name, status.st_dev);
         return;
     }
     ++m_progress.totalFiles;
@@ -191,7 +195,7 @@ void Survey::lookAt(int folder, const char* name)
     constexpr std::uint64_t blockOfStatus = 512;
     if (isKnown(status))
         --m_files;
-    else if (m_takesRoom)
+    else if (m_takesRoom && !sharesBytes(folder, status.st_dev))
         m_room += m_target.roomFor(std::min(size, static_cast<std::uint64_t>(status.st_blocks) * blockOfStatus));
 }
 
@@ -204,11 +208,20 @@ bool Survey::isKnown(const struct stat& file)
     return m_several.size() < mostSeveral ? !m_several.insert(identity).second : m_several.contains(identity);
 }
 
-void Survey::lookAtFolder(int folder, const char* name)
+bool Survey::sharesBytes(int folder, dev_t device)
+{
+    if (std::exchange(m_device, device) != device)
+        m_sharesBytes = m_target.sharesBytes(m_calls, folder, device);
+    return m_sharesBytes;
+}
+
+void Survey::lookAtFolder(int folder, const char* name, dev_t device)
 {
     const FileDescriptor opened = m_calls.open(folder, name, O_RDONLY | O_DIRECTORY);
     if (!opened)
         return refuse(Problem::Kind::SourceUnusable, name, errno);
+    if (m_takesRoom && !sharesBytes(opened.get(), device))
+        m_room += m_target.roomFor(1);
     const std::size_t length = m_path.size();
     m_path.append("/").append(name);
     ++m_depth;

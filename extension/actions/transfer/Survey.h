@@ -30,8 +30,8 @@ public:
     /// What a file of so many bytes takes.
     [[nodiscard]] std::uint64_t roomFor(std::uint64_t size) const;
     [[nodiscard]] bool hasRoomFor(std::uint64_t bytes, std::uint64_t files) const;
-    /// Whether a copy within it may take no room of its own.
-    [[nodiscard]] bool sharesBytes() const;
+    /// Whether copies of what is in the folder, which has that device, may take no room of their own.
+    [[nodiscard]] bool sharesBytes(SystemCalls& calls, int folder, dev_t device) const;
     /// Whether flushing all of it says what went wrong and means the disk: not so with one of another machine's.
     [[nodiscard]] bool canBeFlushedAsAWhole() const;
     /// Whether the target is the folder, or lies in it.
@@ -64,8 +64,9 @@ public:
 
 private:
     void lookAt(int folder, const char* name);
-    void lookAtFolder(int folder, const char* name);
+    void lookAtFolder(int folder, const char* name, dev_t device);
     [[nodiscard]] bool isKnown(const struct stat& file);
+    [[nodiscard]] bool sharesBytes(int folder, dev_t device);
     void refuse(Problem::Kind kind, const char* name, int error = 0);
 
     SystemCalls& m_calls;
@@ -77,6 +78,9 @@ private:
     std::size_t m_depth = 0;
     bool m_isPossible = true;
     bool m_takesRoom = true;
+    /// Of the device that was asked about last.
+    dev_t m_device = 0;
+    bool m_sharesBytes = false;
     /// Files of several names whose room is counted.
     std::set<std::pair<dev_t, ino_t>> m_several;
     std::uint64_t m_files = 0;

@@ -115,8 +115,7 @@ bool Transfer::prepare(const Order& order)
     if (m_progress.cancelled)
         return false;
     m_flushesTogether = survey.files() > fewFiles && m_target->canBeFlushedAsAWhole();
-    const bool fits =
-        survey.room() == 0 || m_target->sharesBytes() || m_target->hasRoomFor(survey.room(), survey.files());
+    const bool fits = survey.room() == 0 || m_target->hasRoomFor(survey.room(), survey.files());
     if (!fits)
         m_result.problems.add({Problem::Kind::Full, order.target});
     m_result.isRefused = possible == 0 || !fits;

@@ -794,6 +794,24 @@ TEST_P(UnusualTransfers, CountEachNameOfAFileWhereATargetHasNoLinks)
     EXPECT_EQ(run({source() / "item"}).isRefused, !isMove() || isBetweenTwo());
 }
 
+TEST_P(UnusualTransfers, NeedNoRoomWhereBytesAreShared)
+{
+    const fs::path item = file(source() / "item", std::string(1 << 20, 'x'));
+    for (const bool isOneOfTwoVolumes : {false, true}) {
+        unusual.changeFileSystem = [&](struct statfs& status) {
+            status.f_type = BTRFS_SUPER_MAGIC;
+            status.f_bfree = status.f_bavail = 10;
+            if (isOneOfTwoVolumes)
+                status.f_fsid.__val[0] = 1;
+        };
+        const Result result = run({item});
+        EXPECT_EQ(result.isRefused, isBetweenTwo() && !isOneOfTwoVolumes);
+        EXPECT_EQ(kindsOf(result), result.isRefused ? std::vector{Kind::Full} : std::vector<Kind>{});
+        if (!result.isRefused)
+            break;
+    }
+}
+
 TEST_P(UnusualTransfers, SayWhichNamesAreTooLong)
 {
     unusual.changeFileSystem = [](struct statfs& status) { status.f_namelen = 10; };
