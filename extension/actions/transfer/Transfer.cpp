@@ -299,7 +299,7 @@ void Transfer::stage(Task task)
         return;
     if (m_staged.empty() || m_staged.back().task.source != task.source || m_staged.back().task.target != task.target)
         ++m_foldersStaged;
-    m_staged.push_back({std::move(task), name, *staging, m_copier.finalMode()});
+    m_staged.push_back({std::move(task), name, *staging, m_copier.finalMode(), m_copier.place()});
     if (m_staged.size() >= mostStaged || m_foldersStaged >= mostFoldersStaged)
         commit();
 }
@@ -362,6 +362,7 @@ void Transfer::placeStaged(std::size_t number)
         if (!folder || m_calls.setMode(folder.get(), *staged.finalMode) != 0)
             m_result.problems.add({Problem::Kind::NotTransferred, task.source->pathOf(task.name), errno});
     }
+    *staged.place = {AT_FDCWD, task.target->pathOf(task.newName)};
     m_placed.emplace_back(number, m_journal.size());
     notePlaced(task, false);
 }

@@ -91,6 +91,7 @@ private:
         std::string name;
         std::size_t staging;
         std::optional<mode_t> finalMode;
+        std::shared_ptr<Place> place;
     };
 
     /// What was replaced, on its way back.

@@ -59,6 +59,12 @@ bool mountAgain(const fs::path& folder, const fs::path& at)
     return ::mount(folder.c_str(), at.c_str(), nullptr, MS_BIND, nullptr) == 0;
 }
 
+ino_t numberOf(const fs::path& path)
+{
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0 ? status.st_ino : 0;
+}
+
 /// Everything that holds for moves and copies, within a file system and between two.
 class Transfers : public TransferTest, public testing::WithParamInterface<std::tuple<bool, bool>> {
 protected:
@@ -329,6 +335,60 @@ TEST_P(Transfers, TakeNoFileForAnotherWhereADiskIsMountedInTheTarget)
                           EXPECT_EQ(contentOf(target() / "below/other name"), "of two");
                           EXPECT_EQ(contentOf(target() / "below/other"), "other");
                       });
+}
+
+TEST_P(Transfers, KeepTheNamesOfAFileTogetherHoweverManyItemsThereAre)
+{
+    // From two folders in turn, so that some are in their places before others are copied.
+    std::vector<fs::path> items;
+    for (int number = 0; number < 500; ++number)
+        items.push_back(file(source() / (number % 2 == 0 ? "one" : "other") / std::to_string(number), ""));
+    const std::array named{0U, 150U, 250U, 499U};
+    for (const std::size_t number : named) {
+        if (number == 0) {
+            file(items[0], "of several names");
+        } else {
+            fs::remove(items[number]);
+            fs::create_hard_link(items[0], items[number]);
+        }
+    }
+    // The first of all is in a folder.
+    fs::create_hard_link(items[0], folder(source() / "album/deep") / "name");
+    items.insert(items.begin(), source() / "album");
+    const ino_t before = numberOf(source() / "one/0");
+    expectDone(run(items), items.size());
+    const ino_t placed = numberOf(target() / "0");
+    EXPECT_EQ(placed == before, isMove() && !isBetweenTwo());
+    for (const std::size_t number : named)
+        EXPECT_EQ(numberOf(target() / std::to_string(number)), placed) << number;
+    EXPECT_EQ(numberOf(target() / "album/deep/name"), placed);
+    EXPECT_EQ(fs::hard_link_count(target() / "0"), named.size() + 1);
+    EXPECT_EQ(contentOf(target() / "0"), "of several names");
+}
+
+TEST_P(Transfers, TakeNoFileForAnotherThatWasPutInItsPlaceMeanwhile)
+{
+    std::vector<fs::path> items;
+    for (int number = 0; number < 250; ++number)
+        items.push_back(file(source() / (number % 2 == 0 ? "one" : "other") / std::to_string(number), ""));
+    file(items[0], "of two names");
+    file(items[1], "of two names");
+    for (const std::size_t number : {0U, 1U}) {
+        fs::remove(items[248 + number]);
+        fs::create_hard_link(items[number], items[248 + number]);
+    }
+    // The last of the items are asked about when the first are in their places.
+    file(target() / "247", "old");
+    answers.each = [&](const Conflict&) {
+        file(target() / "0", "WRITTEN ANEW");
+        fs::remove(target() / "1");
+        file(target() / "1", "WRITTEN ANEW");
+        return Decision{Resolution::Replace};
+    };
+    expectDone(run(items), items.size());
+    const bool isRenamed = isMove() && !isBetweenTwo();
+    EXPECT_EQ(contentOf(target() / "248"), isRenamed ? "WRITTEN ANEW" : "of two names");
+    EXPECT_EQ(contentOf(target() / "249"), "of two names");
 }
 
 TEST_P(Transfers, MergeFoldersSoThatNothingIsLeft)
