@@ -24,33 +24,25 @@ bool isFatal(int error)
     return error == ENOSPC || error == EDQUOT || error == EROFS || error == ECANCELED;
 }
 
-std::pair<time_t, long> timeOf(const struct stat& status)
+std::tuple<off_t, time_t, long> versionOf(const struct stat& file)
 {
-    return {status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+    return {file.st_size, file.st_mtim.tv_sec, file.st_mtim.tv_nsec};
 }
 
-/// Goes into a folder with two paths, and leaves it at its end.
-class PathsBelow {
+/// Goes into a folder with a path, and leaves it at its end.
+class PathBelow {
 public:
-    PathsBelow(std::string& one, const char* name, std::string& other, const char* otherName)
-        : m_one(one), m_other(other), m_oneLength(one.size()), m_otherLength(other.size())
+    PathBelow(std::string& path, const char* name) : m_path(path), m_length(path.size())
     {
-        one.append("/").append(name);
-        other.append("/").append(otherName);
+        path.append("/").append(name);
     }
-    ~PathsBelow()
-    {
-        m_one.resize(m_oneLength);
-        m_other.resize(m_otherLength);
-    }
-    PathsBelow(const PathsBelow&) = delete;
-    PathsBelow& operator=(const PathsBelow&) = delete;
+    ~PathBelow() { m_path.resize(m_length); }
+    PathBelow(const PathBelow&) = delete;
+    PathBelow& operator=(const PathBelow&) = delete;
 
 private:
-    std::string& m_one;
-    std::string& m_other;
-    std::size_t m_oneLength;
-    std::size_t m_otherLength;
+    std::string& m_path;
+    std::size_t m_length;
 };
 
 } // namespace
@@ -62,15 +54,10 @@ bool TreeCopier::copy(const Folder& from, const std::string& name, int to, const
     m_root = to;
     m_folder = from.identity.file;
     m_path = from.path == "/" ? std::string() : from.path;
-    m_copyPath.assign(1, '.');
+    m_itemLength = m_path.size() + 1 + name.size();
+    m_place = std::make_shared<Place>(Place{to, newName});
     m_depth = 0;
     return copyItem(from.get(), name.c_str(), to, newName.c_str());
-}
-
-void TreeCopier::forgetCopied()
-{
-    m_copied.clear();
-    m_several.clear();
 }
 
 bool TreeCopier::copyItem(int from, const char* name, int to, const char* newName)
@@ -122,9 +109,14 @@ bool TreeCopier::copyFile(int from, const char* name, int to, const char* newNam
     FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, source.st_mode & 0777U);
     if (!made)
         return false;
-    if (!fillFile(original, source, made) || !made.close())
+    struct stat copy = {};
+    if (!fillFile(original, source, made))
         return false;
-    rememberCopy(source, newName);
+    const bool hasOthers = source.st_nlink > 1 && m_calls.status(made.get(), "", copy) == 0;
+    if (!made.close())
+        return false;
+    if (hasOthers)
+        rememberCopy(source, name, copy);
     return true;
 }
 
@@ -160,7 +152,7 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
     ++m_depth;
     const ino_t outer = std::exchange(m_folder, source.st_ino);
     {
-        const PathsBelow paths(m_path, name, m_copyPath, newName);
+        const PathBelow path(m_path, name);
         FolderEntries entries(m_calls, original);
         // What cannot be copied is noted, and the rest is copied.
         while (const char* entry = entries.next())
@@ -213,21 +205,37 @@ bool TreeCopier::copyNode(int to, const char* newName, const struct stat& source
 /// Whether the file is another name of one that was copied, and has become that in the copy too.
 bool TreeCopier::linkToCopy(const struct stat& source, int to, const char* newName)
 {
-    if (source.st_nlink < 2)
+    // It may be the last one by now.
+    const auto found = m_several.find({m_root, source.st_dev, source.st_ino});
+    if (found == m_several.end())
         return false;
-    const auto found = m_several.find({source.st_dev, source.st_ino});
+    Copy& copy = found->second;
     // It may have changed since, and then it is a copy of its own.
-    if (found == m_several.end() || found->second.changed != timeOf(source) ||
-        m_calls.link(m_root, found->second.path.c_str(), to, newName) != 0)
+    if (copy.original != versionOf(source) ||
+        m_calls.link(copy.place->folder, (copy.place->name + copy.below).c_str(), to, newName) != 0)
         return false;
+    // So may its copy, where everybody comes.
+    struct stat linked = {};
+    if (copy.place->folder != m_root && (m_calls.status(to, newName, linked) != 0 ||
+                                         identityOf(linked) != copy.identity || versionOf(linked) != copy.made)) {
+        static_cast<void>(m_calls.remove(to, newName, 0));
+        return false;
+    }
     m_progress.bytes += static_cast<std::uint64_t>(source.st_size);
+    if (--copy.namesLeft == 0)
+        m_several.erase(found);
     return true;
 }
 
-void TreeCopier::rememberCopy(const struct stat& source, const char* newName)
+void TreeCopier::rememberCopy(const struct stat& source, const char* name, const struct stat& copy)
 {
-    if (source.st_nlink > 1)
-        m_several.insert_or_assign({source.st_dev, source.st_ino}, Copy{m_copyPath + '/' + newName, timeOf(source)});
+    m_several.insert_or_assign({m_root, source.st_dev, source.st_ino},
+                               Copy{.place = m_place,
+                                    .below = m_depth == 0 ? std::string() : m_path.substr(m_itemLength) + '/' + name,
+                                    .original = versionOf(source),
+                                    .made = versionOf(copy),
+                                    .identity = identityOf(copy),
+                                    .namesLeft = source.st_nlink - 1});
 }
 
 bool TreeCopier::flushed(int file)

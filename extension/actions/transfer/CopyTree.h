@@ -3,12 +3,15 @@
 #include "extension/actions/transfer/CopyAttributes.h"
 #include "extension/actions/transfer/CopyData.h"
 #include "extension/actions/transfer/Folder.h"
+#include "extension/actions/transfer/Placing.h"
 #include "extension/actions/transfer/Problem.h"
 #include "extension/actions/transfer/Stamps.h"
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace MenuExtension::Transfers {
@@ -40,10 +43,13 @@ public:
     /// Why nothing else can be copied either: a full disk, or that it was told to leave it; 0 where it can go on.
     [[nodiscard]] int fatalError() const { return m_fatalError; }
 
+    /// Where the last copy lies: a folder that is open to the end, or AT_FDCWD, and a path from it. Who moves it
+    /// notes that there, so that it is found when another name of a file in it comes.
+    [[nodiscard]] const std::shared_ptr<Place>& place() const { return m_place; }
+
     /// Which files were copied since forgetCopied(), as they were then.
     [[nodiscard]] Stamps& copied() { return m_copied; }
-    /// What was copied is no longer where it was made.
-    void forgetCopied();
+    void forgetCopied() { m_copied.clear(); }
 
 private:
     [[nodiscard]] bool copyItem(int from, const char* name, int to, const char* newName);
@@ -55,13 +61,22 @@ private:
                                         const struct stat& source);
     [[nodiscard]] bool copyNode(int to, const char* newName, const struct stat& source);
     [[nodiscard]] bool linkToCopy(const struct stat& source, int to, const char* newName);
-    void rememberCopy(const struct stat& source, const char* newName);
+    void rememberCopy(const struct stat& source, const char* name, const struct stat& copy);
     [[nodiscard]] bool flushed(int file);
     void note(const char* name, int error);
 
+    /// A size, and when it was changed last.
+    using Version = std::tuple<off_t, time_t, long>;
+    /// Of a file of several names.
     struct Copy {
-        std::string path;
-        std::pair<time_t, long> changed;
+        /// Of the item that it belongs to; the rest of its path.
+        std::shared_ptr<const Place> place;
+        std::string below;
+        Version original;
+        Version made;
+        Identity identity;
+        /// That were not copied yet.
+        nlink_t namesLeft;
     };
 
     SystemCalls& m_calls;
@@ -70,14 +85,15 @@ private:
     DataCopier m_data;
     AttributeCopier m_attributes;
     Stamps m_copied;
-    /// Files of several names: where the first copy lies, from the folder that everything is copied to.
-    std::map<std::pair<dev_t, ino_t>, Copy> m_several;
+    /// Files of several names of which some are to come, by the folder that they were copied to: their first copies.
+    std::map<std::tuple<int, dev_t, ino_t>, Copy> m_several;
     int m_root = -1;
+    std::shared_ptr<Place> m_place;
     /// The number of the folder whose entries are copied.
     ino_t m_folder = 0;
-    /// Of the original and of the copy that are worked on; for what is said and for m_several.
+    /// Of the original that is worked on, and how much of it is the whole item's.
     std::string m_path;
-    std::string m_copyPath;
+    std::size_t m_itemLength = 0;
     std::size_t m_depth = 0;
     std::optional<mode_t> m_finalMode;
     int m_fatalError = 0;

@@ -32,6 +32,12 @@ struct Folder {
     [[nodiscard]] std::string pathOf(const std::string& name) const { return (path == "/" ? "" : path) + '/' + name; }
 };
 
+/// Whether an item of the one can be renamed into the other.
+[[nodiscard]] inline bool canRenameBetween(const Folder& one, const Folder& other)
+{
+    return one.identity.device == other.identity.device && one.mount == other.mount;
+}
+
 /// Several items share the one that they lie in.
 using SharedFolder = std::shared_ptr<const Folder>;
 

@@ -58,6 +58,8 @@ public:
     /// The folder that it is in.
     [[nodiscard]] int parent() const { return m_target->get(); }
     [[nodiscard]] dev_t device() const { return m_target->identity.device; }
+    /// Whether what is in it can be put there.
+    [[nodiscard]] bool reaches(const Folder& folder) const { return canRenameBetween(*m_target, folder); }
     /// One that nothing in it has.
     [[nodiscard]] std::string newName() { return std::to_string(++m_names); }
 

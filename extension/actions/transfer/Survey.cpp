@@ -14,6 +14,7 @@
 #include <sys/statvfs.h>
 #include <sys/utsname.h>
 #include <unistd.h>
+#include <utility>
 
 namespace MenuExtension::Transfers {
 
@@ -42,6 +43,9 @@ constexpr std::array local{long{EXT4_SUPER_MAGIC},
                            magicJfs,
                            magicNtfs};
 constexpr std::array sharing{long{BTRFS_SUPER_MAGIC}, long{XFS_SUPER_MAGIC}, magicBcachefs};
+
+/// Some 30 MiB of memory. Those beyond count by each of their names.
+constexpr std::size_t mostSeveral = 500'000;
 
 template<std::size_t count>
 bool isOneOf(const std::array<long, count>& magics, long magic)
@@ -116,6 +120,11 @@ std::uint64_t Target::largestFile() const
                                                     : std::numeric_limits<std::uint64_t>::max();
 }
 
+bool Target::hasLinks() const
+{
+    return m_fileSystem.f_type != MSDOS_SUPER_MAGIC && m_fileSystem.f_type != magicExfat;
+}
+
 std::uint64_t Target::roomFor(std::uint64_t size) const
 {
     const auto block = static_cast<std::uint64_t>(std::max<long>(m_fileSystem.f_bsize, 1));
@@ -131,9 +140,14 @@ bool Target::hasRoomFor(std::uint64_t bytes, std::uint64_t files) const
     return fits && (m_fileSystem.f_files == 0 || files <= m_fileSystem.f_ffree);
 }
 
-bool Target::sharesBytes() const
+bool Target::sharesBytes(SystemCalls& calls, int folder, dev_t device) const
 {
-    return isOneOf(sharing, m_fileSystem.f_type);
+    if (device == m_folder->identity.device)
+        return isOneOf(sharing, m_fileSystem.f_type);
+    // A subvolume has a device of its own, but half of its number is the whole file system's.
+    struct statfs other = {};
+    return m_fileSystem.f_type == BTRFS_SUPER_MAGIC && calls.fileSystem(folder, other) == 0 &&
+           other.f_type == BTRFS_SUPER_MAGIC && other.f_fsid.__val[0] == m_fileSystem.f_fsid.__val[0];
 }
 
 bool Target::canBeFlushedAsAWhole() const
@@ -146,8 +160,9 @@ bool Target::liesIn(const Identity& folder) const
     return std::ranges::find(m_above, folder) != m_above.end();
 }
 
-bool Survey::look(const Folder& folder, const std::string& name)
+bool Survey::look(const Folder& folder, const std::string& name, bool takesRoom)
 {
+    m_takesRoom = takesRoom;
     m_path = folder.path == "/" ? std::string() : folder.path;
     m_isPossible = true;
     lookAt(folder.get(), name.c_str());
@@ -165,8 +180,7 @@ void Survey::lookAt(int folder, const char* name)
     if (std::string_view(name).size() > m_target.longestName())
         return refuse(Problem::Kind::NameTooLong, name);
     if (S_ISDIR(status.st_mode)) {
-        m_room += m_target.roomFor(1);
-        lookAtFolder(folder, name);
+        lookAtFolder(folder, name, status.st_dev);
         return;
     }
     ++m_progress.totalFiles;
@@ -177,16 +191,37 @@ void Survey::lookAt(int folder, const char* name)
     const auto size = static_cast<std::uint64_t>(status.st_size);
     if (size > m_target.largestFile())
         return refuse(Problem::Kind::TooLarge, name);
-    constexpr std::uint64_t blockOfStatus = 512;
     m_progress.totalBytes += size;
-    m_room += m_target.roomFor(std::min(size, static_cast<std::uint64_t>(status.st_blocks) * blockOfStatus));
+    constexpr std::uint64_t blockOfStatus = 512;
+    if (isKnown(status))
+        --m_files;
+    else if (m_takesRoom && !sharesBytes(folder, status.st_dev))
+        m_room += m_target.roomFor(std::min(size, static_cast<std::uint64_t>(status.st_blocks) * blockOfStatus));
 }
 
-void Survey::lookAtFolder(int folder, const char* name)
+/// Whether the file is another name of one whose room is counted.
+bool Survey::isKnown(const struct stat& file)
+{
+    if (file.st_nlink < 2 || !m_takesRoom || !m_target.hasLinks())
+        return false;
+    const std::pair identity{file.st_dev, file.st_ino};
+    return m_several.size() < mostSeveral ? !m_several.insert(identity).second : m_several.contains(identity);
+}
+
+bool Survey::sharesBytes(int folder, dev_t device)
+{
+    if (std::exchange(m_device, device) != device)
+        m_sharesBytes = m_target.sharesBytes(m_calls, folder, device);
+    return m_sharesBytes;
+}
+
+void Survey::lookAtFolder(int folder, const char* name, dev_t device)
 {
     const FileDescriptor opened = m_calls.open(folder, name, O_RDONLY | O_DIRECTORY);
     if (!opened)
         return refuse(Problem::Kind::SourceUnusable, name, errno);
+    if (m_takesRoom && !sharesBytes(opened.get(), device))
+        m_room += m_target.roomFor(1);
     const std::size_t length = m_path.size();
     m_path.append("/").append(name);
     ++m_depth;

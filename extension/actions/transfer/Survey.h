@@ -6,8 +6,10 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <sys/vfs.h>
+#include <utility>
 #include <vector>
 
 namespace MenuExtension::Transfers {
@@ -23,11 +25,13 @@ public:
     [[nodiscard]] std::size_t longestName() const;
     /// Of a file, in bytes.
     [[nodiscard]] std::uint64_t largestFile() const;
+    /// Whether a file can have several names.
+    [[nodiscard]] bool hasLinks() const;
     /// What a file of so many bytes takes.
     [[nodiscard]] std::uint64_t roomFor(std::uint64_t size) const;
     [[nodiscard]] bool hasRoomFor(std::uint64_t bytes, std::uint64_t files) const;
-    /// Whether a copy within it may take no room of its own.
-    [[nodiscard]] bool sharesBytes() const;
+    /// Whether copies of what is in the folder, which has that device, may take no room of their own.
+    [[nodiscard]] bool sharesBytes(SystemCalls& calls, int folder, dev_t device) const;
     /// Whether flushing all of it says what went wrong and means the disk: not so with one of another machine's.
     [[nodiscard]] bool canBeFlushedAsAWhole() const;
     /// Whether the target is the folder, or lies in it.
@@ -50,17 +54,19 @@ public:
         : m_calls(calls), m_progress(progress), m_target(target), m_isMove(isMove), m_problems(problems)
     {}
 
-    /// False where nothing of it is to be transferred.
-    [[nodiscard]] bool look(const Folder& folder, const std::string& name);
+    /// False where nothing of it is to be transferred. Where it `takesRoom`, that is added to the room.
+    [[nodiscard]] bool look(const Folder& folder, const std::string& name, bool takesRoom);
 
-    /// Folders are some too.
+    /// Folders are some too, and a file of several names is one.
     [[nodiscard]] std::uint64_t files() const { return m_files; }
-    /// What they take at the target.
+    /// What they take at the target for sure.
     [[nodiscard]] std::uint64_t room() const { return m_room; }
 
 private:
     void lookAt(int folder, const char* name);
-    void lookAtFolder(int folder, const char* name);
+    void lookAtFolder(int folder, const char* name, dev_t device);
+    [[nodiscard]] bool isKnown(const struct stat& file);
+    [[nodiscard]] bool sharesBytes(int folder, dev_t device);
     void refuse(Problem::Kind kind, const char* name, int error = 0);
 
     SystemCalls& m_calls;
@@ -71,6 +77,12 @@ private:
     std::string m_path;
     std::size_t m_depth = 0;
     bool m_isPossible = true;
+    bool m_takesRoom = true;
+    /// Of the device that was asked about last.
+    dev_t m_device = 0;
+    bool m_sharesBytes = false;
+    /// Files of several names whose room is counted.
+    std::set<std::pair<dev_t, ino_t>> m_several;
     std::uint64_t m_files = 0;
     std::uint64_t m_room = 0;
 };

@@ -107,16 +107,15 @@ bool Transfer::prepare(const Order& order)
         return false;
     }
     Survey survey(m_calls, m_progress, *m_target, m_isMove, m_result.problems);
-    std::uint64_t room = 0;
     std::size_t possible = 0;
     for (std::size_t number = 0; number < order.items.size() && !m_progress.cancelled; ++number) {
-        m_isImpossible[number] = !lookAtItem(order.items[number], survey, room);
+        m_isImpossible[number] = !lookAtItem(order.items[number], survey);
         possible += m_isImpossible[number] ? 0 : 1;
     }
     if (m_progress.cancelled)
         return false;
     m_flushesTogether = survey.files() > fewFiles && m_target->canBeFlushedAsAWhole();
-    const bool fits = room == 0 || m_target->sharesBytes() || m_target->hasRoomFor(room, survey.files());
+    const bool fits = survey.room() == 0 || m_target->hasRoomFor(survey.room(), survey.files());
     if (!fits)
         m_result.problems.add({Problem::Kind::Full, order.target});
     m_result.isRefused = possible == 0 || !fits;
@@ -131,8 +130,7 @@ bool Transfer::prepare(const Order& order)
     return true;
 }
 
-/// `room` grows by what the item takes for sure: one whose name is taken may be left, or take the other's.
-bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t& room)
+bool Transfer::lookAtItem(const Order::Item& item, Survey& survey)
 {
     const auto refuse = [&](Problem::Kind kind, int error = 0) {
         m_result.problems.add({kind, item.path, error});
@@ -152,17 +150,13 @@ bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t
         return refuse(Problem::Kind::NameTooLong);
     if (m_isMove && ::faccessat(folder->get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
         return refuse(Problem::Kind::CannotLeave, errno);
-    if (m_isMove && folder->identity.device == m_target->folder()->identity.device &&
-        folder->mount == m_target->folder()->mount) {
+    if (m_isMove && canRenameBetween(*folder, *m_target->folder())) {
         ++m_progress.totalFiles;
         return true;
     }
-    const std::uint64_t before = survey.room();
-    const bool isPossible = survey.look(*folder, name);
-    struct stat existing = {};
-    if (m_calls.status(m_target->folder()->get(), newName.c_str(), existing) != 0)
-        room += survey.room() - before;
-    return isPossible;
+    // One whose name is taken may be left, or take the other's room.
+    const bool takesRoom = m_calls.status(m_target->folder()->get(), newName.c_str(), status) != 0;
+    return survey.look(*folder, name, takesRoom);
 }
 
 SharedFolder Transfer::folderOf(const std::string& item)
@@ -305,7 +299,7 @@ void Transfer::stage(Task task)
         return;
     if (m_staged.empty() || m_staged.back().task.source != task.source || m_staged.back().task.target != task.target)
         ++m_foldersStaged;
-    m_staged.push_back({std::move(task), name, *staging, m_copier.finalMode()});
+    m_staged.push_back({std::move(task), name, *staging, m_copier.finalMode(), m_copier.place()});
     if (m_staged.size() >= mostStaged || m_foldersStaged >= mostFoldersStaged)
         commit();
 }
@@ -368,6 +362,7 @@ void Transfer::placeStaged(std::size_t number)
         if (!folder || m_calls.setMode(folder.get(), *staged.finalMode) != 0)
             m_result.problems.add({Problem::Kind::NotTransferred, task.source->pathOf(task.name), errno});
     }
+    *staged.place = {AT_FDCWD, task.target->pathOf(task.newName)};
     m_placed.emplace_back(number, m_journal.size());
     notePlaced(task, false);
 }
@@ -395,8 +390,10 @@ bool Transfer::place(Task& task, const Place& item, const std::optional<std::siz
     const Place target{task.target->get(), task.newName};
     if (task.resolution == Resolution::KeepBoth) {
         std::string name = placeBeside(m_calls, item, target, isFolder, m_target->longestName());
+        if (name.empty())
+            return false;
         task.newName = std::move(name);
-        return !task.newName.empty();
+        return true;
     }
     struct stat existing = {};
     if (task.resolution == Resolution::Replace && staging) {
@@ -490,11 +487,12 @@ void Transfer::removeEmptied()
 
 std::optional<std::size_t> Transfer::stagingFor(const SharedFolder& target)
 {
-    const auto found = std::ranges::find(m_stagings, target->identity.device, &Staging::device);
+    const auto found =
+        std::ranges::find_if(m_stagings, [&](const Staging& staging) { return staging.reaches(*target); });
     if (found != m_stagings.end())
         return static_cast<std::size_t>(found - m_stagings.begin());
     const SharedFolder& outer = m_target->folder();
-    auto made = Staging::make(m_calls, target->identity.device == outer->identity.device ? outer : target, m_record);
+    auto made = Staging::make(m_calls, canRenameBetween(*target, *outer) ? outer : target, m_record);
     if (!made)
         return std::nullopt;
     m_stagings.push_back(*std::move(made));

@@ -98,6 +98,7 @@ private:
         std::string name;
         std::size_t staging;
         std::optional<mode_t> finalMode;
+        std::shared_ptr<Place> place;
     };
 
     /// What was replaced, on its way back.
@@ -110,7 +111,7 @@ private:
     using MovesByFolder = std::map<std::string_view, Order>;
 
     [[nodiscard]] bool prepare(const Order& order);
-    [[nodiscard]] bool lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t& room);
+    [[nodiscard]] bool lookAtItem(const Order::Item& item, Survey& survey);
     [[nodiscard]] SharedFolder folderOf(const std::string& item);
 
     void transfer(Task task);

@@ -7,8 +7,12 @@
 #include <cstdint>
 #include <cstring>
 #include <fcntl.h>
+#include <functional>
+#include <linux/magic.h>
 #include <optional>
+#include <sched.h>
 #include <set>
+#include <sys/mount.h>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -19,6 +23,47 @@ namespace {
 
 using namespace MenuExtension::Transfers;
 namespace fs = std::filesystem;
+
+/// In a process of its own, whose mounts end with it.
+void expectAmongMounts(const std::function<bool()>& mount, const std::function<void()>& body)
+{
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        const bool isMounted = (::unshare(CLONE_NEWNS) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+                               ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 && mount();
+        if (!isMounted)
+            ::_exit(3);
+        try {
+            body();
+        } catch (const std::exception& error) {
+            ADD_FAILURE() << error.what();
+        }
+        ::_exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_NE(WEXITSTATUS(status), 3) << "nothing could be mounted";
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+bool mountMemory(const fs::path& at, const char* options = nullptr)
+{
+    return ::mount("memory", at.c_str(), "tmpfs", 0, options) == 0;
+}
+
+/// The folder once more, by another way.
+bool mountAgain(const fs::path& folder, const fs::path& at)
+{
+    return ::mount(folder.c_str(), at.c_str(), nullptr, MS_BIND, nullptr) == 0;
+}
+
+ino_t numberOf(const fs::path& path)
+{
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0 ? status.st_ino : 0;
+}
 
 /// Everything that holds for moves and copies, within a file system and between two.
 class Transfers : public TransferTest, public testing::WithParamInterface<std::tuple<bool, bool>> {
@@ -271,6 +316,79 @@ TEST_P(Transfers, OfPartsOfFoldersComeBackManyAtATime)
     EXPECT_EQ(progress.totalFiles, static_cast<std::uint64_t>(many));
     EXPECT_EQ(namesIn(source() / "album").size(), static_cast<std::size_t>(many));
     EXPECT_EQ(namesIn(target() / "album"), std::vector<std::string>{"old"});
+}
+
+TEST_P(Transfers, TakeNoFileForAnotherWhereADiskIsMountedInTheTarget)
+{
+    file(source() / "other", "other");
+    file(source() / "one name", "of two");
+    folder(source() / "below");
+    fs::rename(source() / "other", source() / "below/other");
+    fs::create_hard_link(source() / "one name", source() / "below/other name");
+    folder(target() / "below");
+    answers.always = {Resolution::Merge};
+    expectAmongMounts([&] { return mountMemory(target() / "below"); },
+                      [&] {
+                          const Result result = run({source() / "one name", source() / "below"});
+                          EXPECT_EQ(kindsOf(result), std::vector<Kind>{});
+                          EXPECT_EQ(contentOf(target() / "one name"), "of two");
+                          EXPECT_EQ(contentOf(target() / "below/other name"), "of two");
+                          EXPECT_EQ(contentOf(target() / "below/other"), "other");
+                      });
+}
+
+TEST_P(Transfers, KeepTheNamesOfAFileTogetherHoweverManyItemsThereAre)
+{
+    // From two folders in turn, so that some are in their places before others are copied.
+    std::vector<fs::path> items;
+    for (int number = 0; number < 500; ++number)
+        items.push_back(file(source() / (number % 2 == 0 ? "one" : "other") / std::to_string(number), ""));
+    const std::array named{0U, 150U, 250U, 499U};
+    for (const std::size_t number : named) {
+        if (number == 0) {
+            file(items[0], "of several names");
+        } else {
+            fs::remove(items[number]);
+            fs::create_hard_link(items[0], items[number]);
+        }
+    }
+    // The first of all is in a folder.
+    fs::create_hard_link(items[0], folder(source() / "album/deep") / "name");
+    items.insert(items.begin(), source() / "album");
+    const ino_t before = numberOf(source() / "one/0");
+    expectDone(run(items), items.size());
+    const ino_t placed = numberOf(target() / "0");
+    EXPECT_EQ(placed == before, isMove() && !isBetweenTwo());
+    for (const std::size_t number : named)
+        EXPECT_EQ(numberOf(target() / std::to_string(number)), placed) << number;
+    EXPECT_EQ(numberOf(target() / "album/deep/name"), placed);
+    EXPECT_EQ(fs::hard_link_count(target() / "0"), named.size() + 1);
+    EXPECT_EQ(contentOf(target() / "0"), "of several names");
+}
+
+TEST_P(Transfers, TakeNoFileForAnotherThatWasPutInItsPlaceMeanwhile)
+{
+    std::vector<fs::path> items;
+    for (int number = 0; number < 250; ++number)
+        items.push_back(file(source() / (number % 2 == 0 ? "one" : "other") / std::to_string(number), ""));
+    file(items[0], "of two names");
+    file(items[1], "of two names");
+    for (const std::size_t number : {0U, 1U}) {
+        fs::remove(items[248 + number]);
+        fs::create_hard_link(items[number], items[248 + number]);
+    }
+    // The last of the items are asked about when the first are in their places.
+    file(target() / "247", "old");
+    answers.each = [&](const Conflict&) {
+        file(target() / "0", "WRITTEN ANEW");
+        fs::remove(target() / "1");
+        file(target() / "1", "WRITTEN ANEW");
+        return Decision{Resolution::Replace};
+    };
+    expectDone(run(items), items.size());
+    const bool isRenamed = isMove() && !isBetweenTwo();
+    EXPECT_EQ(contentOf(target() / "248"), isRenamed ? "WRITTEN ANEW" : "of two names");
+    EXPECT_EQ(contentOf(target() / "249"), "of two names");
 }
 
 TEST_P(Transfers, MergeFoldersSoThatNothingIsLeft)
@@ -591,6 +709,44 @@ TEST_F(Moves, KeepWhatTheyReplacedWhereItCannotComeBack)
     EXPECT_EQ(contentOf(target() / "name 2"), "old");
 }
 
+TEST_F(Moves, KeepTheNameThatTheyAreNumberedByBetweenMountsOfOneFileSystem)
+{
+    file(source() / "disk/report.pdf", "new");
+    file(target() / "report.pdf", "old");
+    folder(source() / "mount");
+    answers.always = {Resolution::KeepBoth};
+    expectAmongMounts([&] { return mountAgain(source() / "disk", source() / "mount"); },
+                      [&] {
+                          EXPECT_EQ(kindsOf(run(What::Move, {source() / "mount/report.pdf"})), std::vector<Kind>{});
+                          EXPECT_EQ(namesIn(target()), (std::vector<std::string>{"report 2.pdf", "report.pdf"}));
+                          EXPECT_EQ(namesIn(source() / "disk"), std::vector<std::string>{});
+                      });
+}
+
+TEST_F(Moves, MergeIntoAFolderWhereAnotherOfItsFileSystemIsMounted)
+{
+    file(source() / "album/below/new", "new");
+    file(source() / "album/below/both", "newer");
+    file(target() / "album/below/hidden");
+    file(target() / "other/both", "old");
+    answers.each = [](const Conflict& conflict) {
+        return Decision{conflict.canMerge ? Resolution::Merge : Resolution::Replace};
+    };
+    const fs::path below = target() / "album/below";
+    expectAmongMounts([&] { return mountAgain(target() / "other", below); },
+                      [&] {
+                          EXPECT_EQ(kindsOf(run(What::Move, {source() / "album"})), std::vector<Kind>{});
+                          EXPECT_EQ(contentOf(below / "new"), "new");
+                          EXPECT_EQ(contentOf(below / "both"), "newer");
+                          EXPECT_FALSE(fs::exists(source() / "album"));
+                          EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+                          forget();
+                          EXPECT_EQ(namesIn(below), std::vector<std::string>{"both"});
+                          EXPECT_EQ(contentOf(below / "both"), "old");
+                          EXPECT_EQ(contentOf(source() / "album/below/both"), "newer");
+                      });
+}
+
 TEST_F(Copies, ThatTheTrashDoesNotTakeStay)
 {
     run(What::Copy, {file(source() / "item")});
@@ -684,6 +840,35 @@ TEST_P(UnusualTransfers, RefuseADiskWithoutRoom)
     EXPECT_EQ(result.isRefused, !isMove() || isBetweenTwo());
     if (result.isRefused) {
         EXPECT_EQ(kindsOf(result), std::vector{Kind::Full});
+    }
+}
+
+TEST_P(UnusualTransfers, CountEachNameOfAFileWhereATargetHasNoLinks)
+{
+    file(source() / "item/1", std::string(1 << 20, 'x'));
+    fs::create_hard_link(source() / "item/1", source() / "item/2");
+    unusual.changeFileSystem = [](struct statfs& status) {
+        status.f_type = MSDOS_SUPER_MAGIC;
+        status.f_bfree = status.f_bavail = static_cast<fsblkcnt_t>((3 << 19) / status.f_bsize);
+    };
+    EXPECT_EQ(run({source() / "item"}).isRefused, !isMove() || isBetweenTwo());
+}
+
+TEST_P(UnusualTransfers, NeedNoRoomWhereBytesAreShared)
+{
+    const fs::path item = file(source() / "item", std::string(1 << 20, 'x'));
+    for (const bool isOneOfTwoVolumes : {false, true}) {
+        unusual.changeFileSystem = [&](struct statfs& status) {
+            status.f_type = BTRFS_SUPER_MAGIC;
+            status.f_bfree = status.f_bavail = 10;
+            if (isOneOfTwoVolumes)
+                status.f_fsid.__val[0] = 1;
+        };
+        const Result result = run({item});
+        EXPECT_EQ(result.isRefused, isBetweenTwo() && !isOneOfTwoVolumes);
+        EXPECT_EQ(kindsOf(result), result.isRefused ? std::vector{Kind::Full} : std::vector<Kind>{});
+        if (!result.isRefused)
+            break;
     }
 }
 
@@ -844,6 +1029,22 @@ protected:
     ~UnusualCopies() override { forget(); }
     UnusualCalls unusual;
 };
+
+TEST_F(UnusualCopies, OfAFileOfSeveralNamesTakeTheRoomOfOne)
+{
+    constexpr int names = 10;
+    file(source() / "item/1", std::string(1 << 20, 'x'));
+    for (int name = 2; name <= names; ++name)
+        fs::create_hard_link(source() / "item/1", source() / "item" / std::to_string(name));
+    // Memory counts names; disks do not.
+    unusual.changeFileSystem = [](struct statfs& status) { status.f_ffree = 4; };
+    expectAmongMounts([&] { return mountMemory(target(), "size=3m"); },
+                      [&] {
+                          EXPECT_EQ(kindsOf(run(What::Copy, {source() / "item"})), std::vector<Kind>{});
+                          EXPECT_EQ(treeOf(target() / "item"), treeOf(source() / "item"));
+                          EXPECT_EQ(progress.files, progress.totalFiles);
+                      });
+}
 
 TEST_F(UnusualCopies, OfDevicesAreNotMade)
 {
