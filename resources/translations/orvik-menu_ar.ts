@@ -2179,6 +2179,10 @@
         <translation>تعذّرت قراءته: لم يُفهم الطلب</translation>
     </message>
     <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>يحوي عدة صور، ولن تُقارَن منها إلا واحدة</translation>
+    </message>
+    <message>
         <source>is no picture of a kind that can be read here</source>
         <translation>ليس صورة من نوع يمكن قراءته هنا</translation>
     </message>

@@ -2091,6 +2091,10 @@
         <translation>kann nicht gelesen werden: Die Anfrage ist ungültig</translation>
     </message>
     <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>enthält mehrere Bilder, und nur eines würde verglichen</translation>
+    </message>
+    <message>
         <source>is no picture of a kind that can be read here</source>
         <translation>ist kein Bild einer Art, die hier gelesen werden kann</translation>
     </message>

@@ -2091,6 +2091,10 @@
         <translation>no se puede leer: la petición no es válida</translation>
     </message>
     <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>contiene varias imágenes y solo se compararía una</translation>
+    </message>
+    <message>
         <source>is no picture of a kind that can be read here</source>
         <translation>no es una imagen de un tipo que se pueda leer aquí</translation>
     </message>

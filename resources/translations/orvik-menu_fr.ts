@@ -2091,6 +2091,10 @@
         <translation>ne peut pas être lu&#xa0;: la demande n’est pas valide</translation>
     </message>
     <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>contient plusieurs images, et une seule serait comparée</translation>
+    </message>
+    <message>
         <source>is no picture of a kind that can be read here</source>
         <translation>n’est pas une image d’un type pris en charge</translation>
     </message>

@@ -2069,6 +2069,10 @@
         <translation>无法读取：请求无效</translation>
     </message>
     <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>包含多张图片，只会比较其中一张</translation>
+    </message>
+    <message>
         <source>is no picture of a kind that can be read here</source>
         <translation>不是受支持的图片类型</translation>
     </message>

@@ -107,13 +107,6 @@ bool writeAll(int file, std::string_view rest)
     return true;
 }
 
-std::string_view bytesOf(const Photos::OpenedPhoto& photo)
-{
-    std::size_t length = 0;
-    const void* const begin = vips_source_map(photo.source.get(), &length);
-    return begin ? std::string_view(static_cast<const char*>(begin), length) : std::string_view();
-}
-
 /// A number in a file that begins with its most, or with its least significant byte; 0 beyond its end.
 std::uint64_t numberAt(std::string_view file, std::uint64_t place, std::size_t size, bool isLeastFirst)
 {
@@ -123,23 +116,6 @@ std::uint64_t numberAt(std::string_view file, std::uint64_t place, std::size_t s
     for (std::size_t index = 0; index < size; ++index)
         value = value << 8U | static_cast<unsigned char>(file[place + (isLeastFirst ? size - 1 - index : index)]);
     return value;
-}
-
-/// The chunks of those kinds in a PNG file, as they are.
-std::string chunksOfPng(std::string_view file, std::initializer_list<std::string_view> kinds)
-{
-    constexpr std::size_t signature = 8;
-    constexpr std::size_t around = 12;
-    std::string chunks;
-    for (file.remove_prefix(std::min(signature, file.size())); file.size() >= around;) {
-        const std::uint64_t size = numberAt(file, 0, 4, false) + around;
-        if (size > file.size())
-            break;
-        if (std::ranges::find(kinds, file.substr(4, 4)) != kinds.end())
-            chunks += file.substr(0, size);
-        file.remove_prefix(size);
-    }
-    return chunks;
 }
 
 /// Whether a TIFF file has data that the library neither reads nor writes.
@@ -298,7 +274,7 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
     const Size largest = sizeFor(goal, stored);
     // XMP and IPTC among them.
     const std::string texts =
-        format == Format::Png ? chunksOfPng(bytesOf(photo), {"tEXt", "zTXt", "iTXt"}) : std::string();
+        format == Format::Png ? Photos::chunksOfPng(Photos::bytesOf(photo), {"tEXt", "zTXt", "iTXt"}) : std::string();
     double scale = 1;
     // What takes long to write begins where it most likely ends.
     if (goal.kind == Goal::Kind::Bytes && (format == Format::Heic || format == Format::Avif))
@@ -393,9 +369,7 @@ Result resize(const Job& job, int photo, int target)
     const auto format = formatOf(header);
     if (!format)
         return notWritten();
-    // The library reads only the first picture of a PNG file.
-    if (vips_image_get_n_pages(header) > 1 ||
-        (*format == Format::Png && !chunksOfPng(bytesOf(read), {"acTL"}).empty()))
+    if (read.holdsSeveral)
         return Refused{NS::LocalizedString(
             "Photos", "cannot be resized: it holds several pictures, and only one would be left")};
 
@@ -424,7 +398,7 @@ Result resize(const Job& job, int photo, int target)
     if (auto* refusal = std::get_if<Refused>(&made))
         return std::move(*refusal);
     const Made& done = std::get<Made>(made);
-    if (*format == Format::Tiff && hasMoreData(bytesOf(read)))
+    if (*format == Format::Tiff && hasMoreData(Photos::bytesOf(read)))
         result.data = Data::Lost;
     result.after = asShown(done.width, done.height, done.file.size());
     if (job.shownPixels > 0)
