@@ -442,16 +442,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>Bestes: höchste Pixelzahl</translation>
+        <source>Most pixels</source>
+        <translation>Höchste Pixelzahl</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>Bestes: bei gleicher Pixelzahl die größte Datei</translation>
+        <source>Most pixels, larger file</source>
+        <translation>Höchste Pixelzahl, größere Datei</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>Bestes: bei gleicher Größe das älteste</translation>
+        <source>Oldest of the same size</source>
+        <translation>Bei gleicher Größe das älteste</translation>
     </message>
     <message>
         <source>As good as another</source>

@@ -442,16 +442,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>Meilleure&#xa0;: le plus de pixels</translation>
+        <source>Most pixels</source>
+        <translation>Le plus de pixels</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>Meilleure&#xa0;: autant de pixels, dans le plus gros fichier</translation>
+        <source>Most pixels, larger file</source>
+        <translation>Le plus de pixels, fichier plus gros</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>Meilleure&#xa0;: la plus ancienne à taille égale</translation>
+        <source>Oldest of the same size</source>
+        <translation>La plus ancienne à taille égale</translation>
     </message>
     <message>
         <source>As good as another</source>

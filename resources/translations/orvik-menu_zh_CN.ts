@@ -441,16 +441,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>最佳：像素最多</translation>
+        <source>Most pixels</source>
+        <translation>像素最多</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>最佳：像素数并列最多，文件最大</translation>
+        <source>Most pixels, larger file</source>
+        <translation>像素最多，文件更大</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>最佳：大小相同，时间最早</translation>
+        <source>Oldest of the same size</source>
+        <translation>大小相同，时间最早</translation>
     </message>
     <message>
         <source>As good as another</source>

@@ -65,7 +65,8 @@ struct DuplicatesWindow::RemovalState {
 };
 
 DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation presentation)
-    : m_presentation(std::move(presentation)), m_finder(std::move(finder)), m_heading(makeHeading(this)),
+    : m_presentation(std::move(presentation)), m_finder(std::move(finder)),
+      m_groups(m_presentation.proposal ? m_presentation.proposal->isBetter : nullptr), m_heading(makeHeading(this)),
       m_filter(makeSearch(tr("Filter"), tr("Filter by name or folder"), this)),
       m_rules(makeButton(tr("Choose by Rule"), this)), m_pages(new QStackedWidget(this)),
       m_nothing(makeParagraph(this)), m_list(new QListView(this)), m_hint(makeNote(this)),
