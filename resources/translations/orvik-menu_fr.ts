@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>Most pixels, larger file</source>
-        <translation>Le plus de pixels, fichier plus gros</translation>
+        <translation>Le plus de pixels, plus lourde</translation>
     </message>
     <message>
         <source>Oldest of the same size</source>

@@ -42,6 +42,8 @@ using LinuxDesktop::sizeText;
 namespace {
 
 constexpr QSize initialSize(900, 640);
+/// Why an item is the best takes more.
+constexpr QSize initialSizeWithProposal(1060, 640);
 constexpr QSize smallest(640, 500);
 constexpr std::chrono::milliseconds betweenTakings{250};
 constexpr qsizetype mostTroubles = 1000;
@@ -78,7 +80,7 @@ DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation 
     setWindowTitle(m_presentation.title);
     layOut();
     setMinimumSize(smallest);
-    resize(initialSize);
+    resize(m_presentation.proposal ? initialSizeWithProposal : initialSize);
 
     m_taking.setSingleShot(true);
     connect(&m_taking, &QTimer::timeout, this, &DuplicatesWindow::takeFindings);
@@ -118,7 +120,7 @@ DuplicatesWindow::~DuplicatesWindow()
 void DuplicatesWindow::layOut()
 {
     QSplitter* const splitter = makeSplitter(makeGroupList(), makeDetails(), this);
-    splitter->setStretchFactor(0, 2);
+    splitter->setStretchFactor(0, m_presentation.proposal ? 1 : 2);
     splitter->setStretchFactor(1, 3);
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setForegroundRole(QPalette::PlaceholderText);
@@ -230,9 +232,8 @@ QWidget* DuplicatesWindow::makeDetails()
     for (int column = ItemListModel::FirstOwnColumn, place = 1; column < m_itemsModel->columnCount();
          ++column, ++place)
         header.moveSection(header.visualIndex(column), place);
-    constexpr int charactersOfReason = 24;
     if (m_presentation.proposal)
-        header.resizeSection(m_itemsModel->columnCount() - 1, charactersOfReason * fontMetrics().averageCharWidth());
+        header.setSectionResizeMode(m_itemsModel->columnCount() - 1, QHeaderView::ResizeToContents);
     m_hint->setWordWrap(true);
     LinuxDesktop::tieWords(*m_hint, *m_items);
 
