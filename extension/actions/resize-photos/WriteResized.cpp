@@ -258,6 +258,18 @@ struct Made {
     std::uint32_t height = 0;
 };
 
+/// Of a PNG file, what the library neither reads nor writes, or not all of it.
+std::string chunksToKeep(const Photos::OpenedPhoto& photo)
+{
+    const std::string_view file = Photos::bytesOf(photo);
+    std::string chunks;
+    // What its colours are, which a profile says too.
+    if (vips_image_get_typeof(photo.header.get(), VIPS_META_ICC_NAME) == 0)
+        chunks = Photos::chunksOfPng(file, {"gAMA", "cHRM", "sRGB", "cICP"});
+    // XMP and IPTC among them.
+    return chunks + Photos::chunksOfPng(file, {"tEXt", "zTXt", "iTXt"});
+}
+
 /// Worse and smaller until it is small enough, and not much more so than it has to be.
 std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format, const Goal& goal,
                                  const Size& stored)
@@ -272,9 +284,7 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
     constexpr std::size_t endOfPngHeader = 33;
     const bool isLossy = format != Format::Png && format != Format::Tiff;
     const Size largest = sizeFor(goal, stored);
-    // XMP and IPTC among them.
-    const std::string texts =
-        format == Format::Png ? Photos::chunksOfPng(Photos::bytesOf(photo), {"tEXt", "zTXt", "iTXt"}) : std::string();
+    const std::string chunks = format == Format::Png ? chunksToKeep(photo) : std::string();
     double scale = 1;
     // What takes long to write begins where it most likely ends.
     if (goal.kind == Goal::Kind::Bytes && (format == Format::Heic || format == Format::Avif))
@@ -299,12 +309,12 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
         auto file = encoded(picture.get(), format, quality);
         if (!file)
             return notWritten();
-        file->insert(std::min(endOfPngHeader, file->size()), texts);
+        file->insert(std::min(endOfPngHeader, file->size()), chunks);
         const auto bytes = static_cast<double>(file->size());
         const auto most = static_cast<double>(goal.value);
         // What is said of it stays as large as it is.
         const double data =
-            std::min(static_cast<double>(dataOf(picture.get()) + texts.size()), std::min(bytes, most) * 0.99);
+            std::min(static_cast<double>(dataOf(picture.get()) + chunks.size()), std::min(bytes, most) * 0.99);
         const double share = (most - data) / (bytes - data);
         const bool isSmallEnough = goal.kind != Goal::Kind::Bytes || share >= 1;
         if (isSmallEnough)
