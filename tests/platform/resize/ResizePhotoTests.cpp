@@ -527,6 +527,39 @@ TEST_F(ResizePhotoTest, WhatTheColoursOfAPngMeanStays)
     EXPECT_EQ(made.find("gAMA"), std::string::npos);
 }
 
+TEST_F(ResizePhotoTest, ATiffThatIsCompressedAsAPhotoStaysSo)
+{
+    const auto compressionOf = [](const Path& path) { return exifTool("-s3 -Compression", path); };
+    const Image colors = open(photo("colors.png", 1600, 1200));
+    VipsImage* made = nullptr;
+    ASSERT_EQ(vips_colourspace(colors.get(), &made, VIPS_INTERPRETATION_B_W, nullptr), 0);
+    const Image grey(made);
+    vips_image_remove(grey.get(), VIPS_META_ICC_NAME);
+    for (VipsImage* const image : {colors.get(), grey.get()}) {
+        const Path path = listed() / "a.tif";
+        ASSERT_EQ(
+            vips_tiffsave(image, path.c_str(), "compression", VIPS_FOREIGN_TIFF_COMPRESSION_JPEG, "Q", 80, nullptr),
+            0);
+        describe(path);
+        ASSERT_EQ(compressionOf(path), "JPEG\n");
+        for (const Goal& goal : {Goal{Goal::Kind::Percent, 50}, Goal{Goal::Kind::Bytes, 100'000}}) {
+            const auto outcome = resize(path, goal);
+            ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+            EXPECT_LT(outcome.after.bytes, outcome.before.bytes / 2);
+            EXPECT_LE(goal.kind == Goal::Kind::Bytes ? outcome.after.bytes : 0, 100'000U);
+            const Path half = listed() / outcome.name;
+            EXPECT_EQ(compressionOf(half), "JPEG\n");
+            EXPECT_EQ(description(half), description(path));
+            double before = 0;
+            double after = 0;
+            vips_avg(image, &before, nullptr);
+            EXPECT_EQ(vips_avg(open(half).get(), &after, nullptr), 0) << vips_error_buffer();
+            EXPECT_NEAR(before, after, 1.0);
+        }
+    }
+    EXPECT_EQ(compressionOf(listed() / resize(photo("plain.tif"), small).name), "Adobe Deflate\n");
+}
+
 TEST_F(ResizePhotoTest, HalfOfAPaletteIsSmallerThanTheWhole)
 {
     VipsImage* clouds = nullptr;
