@@ -450,16 +450,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>الأفضل: عدد البكسلات الأكبر</translation>
+        <source>Most pixels</source>
+        <translation>عدد البكسلات الأكبر</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>الأفضل: لا تفوقها أخرى في البكسلات، وملفها الأكبر</translation>
+        <source>Most pixels, larger file</source>
+        <translation>عدد البكسلات الأكبر، وملف أكبر</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>الأفضل: الأقدم بين ذوات الحجم نفسه</translation>
+        <source>Oldest of the same size</source>
+        <translation>الأقدم بين ذوات الحجم نفسه</translation>
     </message>
     <message>
         <source>As good as another</source>
@@ -2181,6 +2181,10 @@
     <message>
         <source>cannot be read: this is no question</source>
         <translation>تعذّرت قراءته: لم يُفهم الطلب</translation>
+    </message>
+    <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>يحوي عدة صور، ولن تُقارَن منها إلا واحدة</translation>
     </message>
     <message>
         <source>is no picture of a kind that can be read here</source>

@@ -446,16 +446,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>Bestes: höchste Pixelzahl</translation>
+        <source>Most pixels</source>
+        <translation>Höchste Pixelzahl</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>Bestes: bei gleicher Pixelzahl die größte Datei</translation>
+        <source>Most pixels, larger file</source>
+        <translation>Höchste Pixelzahl, größere Datei</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>Bestes: bei gleicher Größe das älteste</translation>
+        <source>Oldest of the same size</source>
+        <translation>Bei gleicher Größe das älteste</translation>
     </message>
     <message>
         <source>As good as another</source>
@@ -2093,6 +2093,10 @@
     <message>
         <source>cannot be read: this is no question</source>
         <translation>kann nicht gelesen werden: Die Anfrage ist ungültig</translation>
+    </message>
+    <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>enthält mehrere Bilder, und nur eines würde verglichen</translation>
     </message>
     <message>
         <source>is no picture of a kind that can be read here</source>

@@ -446,16 +446,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>La mejor: más píxeles</translation>
+        <source>Most pixels</source>
+        <translation>Más píxeles</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>La mejor: con los mismos píxeles, el archivo más grande</translation>
+        <source>Most pixels, larger file</source>
+        <translation>Más píxeles, archivo mayor</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>La mejor: con el mismo tamaño, la más antigua</translation>
+        <source>Oldest of the same size</source>
+        <translation>Con el mismo tamaño, la más antigua</translation>
     </message>
     <message>
         <source>As good as another</source>
@@ -2093,6 +2093,10 @@
     <message>
         <source>cannot be read: this is no question</source>
         <translation>no se puede leer: la petición no es válida</translation>
+    </message>
+    <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>contiene varias imágenes y solo se compararía una</translation>
     </message>
     <message>
         <source>is no picture of a kind that can be read here</source>

@@ -446,16 +446,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>Meilleure&#xa0;: le plus de pixels</translation>
+        <source>Most pixels</source>
+        <translation>Le plus de pixels</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>Meilleure&#xa0;: autant de pixels, dans le plus gros fichier</translation>
+        <source>Most pixels, larger file</source>
+        <translation>Le plus de pixels, plus lourde</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>Meilleure&#xa0;: la plus ancienne à taille égale</translation>
+        <source>Oldest of the same size</source>
+        <translation>La plus ancienne à taille égale</translation>
     </message>
     <message>
         <source>As good as another</source>
@@ -2093,6 +2093,10 @@
     <message>
         <source>cannot be read: this is no question</source>
         <translation>ne peut pas être lu&#xa0;: la demande n’est pas valide</translation>
+    </message>
+    <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>contient plusieurs images, et une seule serait comparée</translation>
     </message>
     <message>
         <source>is no picture of a kind that can be read here</source>

@@ -445,16 +445,16 @@
 <context>
     <name>FindDuplicatePhotos</name>
     <message>
-        <source>Best: most pixels</source>
-        <translation>最佳：像素最多</translation>
+        <source>Most pixels</source>
+        <translation>像素最多</translation>
     </message>
     <message>
-        <source>Best: as many pixels as any, in the largest file</source>
-        <translation>最佳：像素数并列最多，文件最大</translation>
+        <source>Most pixels, larger file</source>
+        <translation>像素最多，文件更大</translation>
     </message>
     <message>
-        <source>Best: the oldest of the same size</source>
-        <translation>最佳：大小相同，时间最早</translation>
+        <source>Oldest of the same size</source>
+        <translation>大小相同，时间最早</translation>
     </message>
     <message>
         <source>As good as another</source>
@@ -2071,6 +2071,10 @@
     <message>
         <source>cannot be read: this is no question</source>
         <translation>无法读取：请求无效</translation>
+    </message>
+    <message>
+        <source>holds several pictures, and only one would be compared</source>
+        <translation>包含多张图片，只会比较其中一张</translation>
     </message>
     <message>
         <source>is no picture of a kind that can be read here</source>

@@ -36,7 +36,7 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
         self.open()
         eventually(lambda: len(self.groups()) == 1, "the group")
         eventually(lambda: any(name.startswith("480 × 360") for name in self.texts()), "the size in pixels")
-        self.assertIn("Best: most pixels", " ".join(self.texts() + self.labels()))
+        self.assertIn("Most pixels", " ".join(self.texts() + self.labels()))
         self.save_picture("duplicate-photos")
         self.assertReadsWell(self.window)
         self.choose_by_rule("Down")
@@ -44,6 +44,19 @@ class FindDuplicatePhotos(DuplicatesWindowTestCase):
         self.press_button("Move 2 Items to Trash")
         self.assertEventuallyEqual(self.left, [b"large.jpg", b"other.jpg"])
         self.assertEqual(self.trashed(), [b"small.jpg", b"turned.png"])
+
+    def test_what_is_said_of_the_best_is_true_where_a_smaller_picture_has_the_largest_file(self):
+        self.paint("best.jpg", 9)
+        self.paint("worse.jpg", 9, change=["-blur", "0x3"])
+        self.paint("smaller.png", 9, 440, 330)
+        self.assertGreater(os.path.getsize(self.path("smaller.png")), os.path.getsize(self.path("best.jpg")))
+        self.open()
+        eventually(lambda: self.groups() and "3 photos" in self.groups()[0], "the group")
+        self.assertIn("Most pixels, larger file", self.texts())
+        heading = next(label for label in self.labels() if label.startswith("1 group, "))
+        self.choose_by_rule("Down")
+        saving = heading.removeprefix("1 group, ").removesuffix(" could be saved")
+        self.assertTells(f"Chosen: 2 photos, {saving}")
 
     def test_the_slider_regroups(self):
         self.paint("whole.jpg", 3)

@@ -42,6 +42,8 @@ using LinuxDesktop::sizeText;
 namespace {
 
 constexpr QSize initialSize(900, 640);
+/// Why an item is the best takes more.
+constexpr QSize initialSizeWithProposal(1060, 640);
 constexpr QSize smallest(640, 500);
 constexpr std::chrono::milliseconds betweenTakings{250};
 constexpr qsizetype mostTroubles = 1000;
@@ -65,7 +67,8 @@ struct DuplicatesWindow::RemovalState {
 };
 
 DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation presentation)
-    : m_presentation(std::move(presentation)), m_finder(std::move(finder)), m_heading(makeHeading(this)),
+    : m_presentation(std::move(presentation)), m_finder(std::move(finder)),
+      m_groups(m_presentation.proposal ? m_presentation.proposal->isBetter : nullptr), m_heading(makeHeading(this)),
       m_filter(makeSearch(tr("Filter"), tr("Filter by name or folder"), this)),
       m_rules(makeButton(tr("Choose by Rule"), this)), m_pages(new QStackedWidget(this)),
       m_nothing(makeParagraph(this)), m_list(new QListView(this)), m_hint(makeNote(this)),
@@ -77,7 +80,7 @@ DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation 
     setWindowTitle(m_presentation.title);
     layOut();
     setMinimumSize(smallest);
-    resize(initialSize);
+    resize(m_presentation.proposal ? initialSizeWithProposal : initialSize);
 
     m_taking.setSingleShot(true);
     connect(&m_taking, &QTimer::timeout, this, &DuplicatesWindow::takeFindings);
@@ -110,6 +113,8 @@ DuplicatesWindow::DuplicatesWindow(std::unique_ptr<Finder> finder, Presentation 
 
 DuplicatesWindow::~DuplicatesWindow()
 {
+    // The lists would ask for what they show until their own end, which comes after that of what they show.
+    hide();
     m_search.requestStop();
     m_removing.request_stop();
 }
@@ -117,7 +122,7 @@ DuplicatesWindow::~DuplicatesWindow()
 void DuplicatesWindow::layOut()
 {
     QSplitter* const splitter = makeSplitter(makeGroupList(), makeDetails(), this);
-    splitter->setStretchFactor(0, 2);
+    splitter->setStretchFactor(0, m_presentation.proposal ? 1 : 2);
     splitter->setStretchFactor(1, 3);
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setForegroundRole(QPalette::PlaceholderText);
@@ -229,9 +234,8 @@ QWidget* DuplicatesWindow::makeDetails()
     for (int column = ItemListModel::FirstOwnColumn, place = 1; column < m_itemsModel->columnCount();
          ++column, ++place)
         header.moveSection(header.visualIndex(column), place);
-    constexpr int charactersOfReason = 24;
     if (m_presentation.proposal)
-        header.resizeSection(m_itemsModel->columnCount() - 1, charactersOfReason * fontMetrics().averageCharWidth());
+        header.setSectionResizeMode(m_itemsModel->columnCount() - 1, QHeaderView::ResizeToContents);
     m_hint->setWordWrap(true);
     LinuxDesktop::tieWords(*m_hint, *m_items);
 

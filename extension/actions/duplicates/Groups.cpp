@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstring>
+#include <utility>
 
 namespace MenuExtension::Duplicates {
 
@@ -29,13 +30,17 @@ std::string lowered(std::string_view text)
 
 } // namespace
 
+Groups::Groups(std::function<bool(const Item& one, const Item& other)> isBetter)
+    : m_rule{.kind = KeepRule::Kind::Best, .folder = {}, .isBetter = std::move(isBetter)}
+{}
+
 GroupNumber Groups::add(std::uint64_t key, const std::vector<Item>& items)
 {
     auto number = static_cast<GroupNumber>(m_groups.size());
     if (key != 0)
         number = m_keys.try_emplace(key, number).first->second;
     if (number == m_groups.size())
-        m_groups.add({.bytes = 0, .largest = 0, .first = none, .last = none, .count = 0, .chosen = 0});
+        m_groups.add({.bytes = 0, .first = none, .last = none, .best = none, .count = 0, .chosen = 0});
     for (const Item& item : items)
         append(number, item);
     if (!m_toChooseAgain.empty())
@@ -74,9 +79,20 @@ void Groups::append(GroupNumber number, const Item& item)
     StoredGroup& group = m_groups[number];
     (group.count == 0 ? group.first : m_items[group.last].next) = added;
     group.last = added;
+    count(group, added);
+}
+
+void Groups::count(StoredGroup& group, ItemNumber added)
+{
+    group.bytes += m_items[added].size;
+    if (group.count == 0 || isBetter(added, group.best))
+        group.best = added;
     ++group.count;
-    group.bytes += item.state.size;
-    group.largest = std::max(group.largest, item.state.size);
+}
+
+bool Groups::isBetter(ItemNumber one, ItemNumber other) const
+{
+    return m_rule.isBetter ? m_rule.kept({item(one), item(other)}).front() : m_items[one].size > m_items[other].size;
 }
 
 /// Most folders are met many times in a row. Those that were forgotten are kept twice.
@@ -141,14 +157,12 @@ void Groups::relink(StoredGroup& group, const std::vector<ItemNumber>& items)
 {
     group.first = items.empty() ? none : items.front();
     group.last = items.empty() ? none : items.back();
-    group.count = static_cast<std::uint32_t>(items.size());
+    group.best = none;
+    group.count = 0;
     group.bytes = 0;
-    group.largest = 0;
     for (std::size_t index = 0; index < items.size(); ++index) {
-        StoredItem& item = m_items[items[index]];
-        item.next = index + 1 < items.size() ? items[index + 1] : none;
-        group.bytes += item.size;
-        group.largest = std::max(group.largest, item.size);
+        m_items[items[index]].next = index + 1 < items.size() ? items[index + 1] : none;
+        count(group, items[index]);
     }
 }
 
@@ -191,7 +205,8 @@ void Groups::sortBySaving(std::vector<GroupNumber>& groups) const
 
 std::int64_t Groups::savingOf(GroupNumber group) const
 {
-    return m_groups[group].bytes - m_groups[group].largest;
+    const StoredGroup& stored = m_groups[group];
+    return stored.count == 0 ? 0 : stored.bytes - m_items[stored.best].size;
 }
 
 std::vector<ItemNumber> Groups::itemsOf(GroupNumber group) const

@@ -28,6 +28,9 @@ public:
         friend bool operator==(const Sum&, const Sum&) = default;
     };
 
+    /// `isBetter` is as a rule has it. Without it, the larger of two is the better one.
+    explicit Groups(std::function<bool(const Item& one, const Item& other)> isBetter = {});
+
     /// Adds a group, or items to the one that was added under that key, where it is not 0. They are not chosen, but
     /// for those that were when all was cleared, and are the same still.
     GroupNumber add(std::uint64_t key, const std::vector<Item>& items);
@@ -44,7 +47,9 @@ public:
     [[nodiscard]] std::uint32_t countOf(GroupNumber group) const { return m_groups[group].count; }
     [[nodiscard]] std::uint32_t chosenOf(GroupNumber group) const { return m_groups[group].chosen; }
     [[nodiscard]] ItemNumber firstOf(GroupNumber group) const { return m_groups[group].first; }
-    /// What is saved when only the largest item of the group stays.
+    /// The best item of the group.
+    [[nodiscard]] ItemNumber bestOf(GroupNumber group) const { return m_groups[group].best; }
+    /// What is saved when only the best item of the group stays.
     [[nodiscard]] std::int64_t savingOf(GroupNumber group) const;
     [[nodiscard]] Item item(ItemNumber number) const;
     [[nodiscard]] GroupNumber groupOf(ItemNumber number) const { return m_items[number].group; }
@@ -77,9 +82,9 @@ private:
     };
     struct StoredGroup {
         std::int64_t bytes;
-        std::int64_t largest;
         ItemNumber first;
         ItemNumber last;
+        ItemNumber best;
         std::uint32_t count;
         std::uint32_t chosen;
     };
@@ -90,8 +95,11 @@ private:
     [[nodiscard]] std::uint32_t deviceIndex(dev_t device);
     [[nodiscard]] bool contains(GroupNumber group, std::string_view text) const;
     void sortBySaving(std::vector<GroupNumber>& groups) const;
+    void count(StoredGroup& group, ItemNumber added);
+    [[nodiscard]] bool isBetter(ItemNumber one, ItemNumber other) const;
     void relink(StoredGroup& group, const std::vector<ItemNumber>& items);
 
+    KeepRule m_rule;
     GrowingArray<char> m_texts;
     GrowingArray<StoredItem> m_items;
     GrowingArray<StoredGroup> m_groups;

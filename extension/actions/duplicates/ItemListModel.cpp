@@ -33,18 +33,15 @@ void ItemListModel::setGroup(std::optional<GroupNumber> group)
     endResetModel();
 }
 
-/// Of very large groups, among those that are seen first.
 void ItemListModel::findProposal()
 {
     m_proposed = -1;
-    if (!m_presentation.proposal || m_rows == 0)
+    if (!m_presentation.proposal || m_items.empty())
         return;
     std::vector<Item> items;
-    for (int row = 0; row < m_rows; ++row)
-        items.push_back(m_groups.item(m_items[static_cast<std::size_t>(row)]));
-    const KeepRule rule{.kind = KeepRule::Kind::Best, .folder = {}, .isBetter = m_presentation.proposal->isBetter};
-    const std::vector<bool> kept = rule.kept(items);
-    m_proposed = static_cast<int>(std::ranges::find(kept, true) - kept.begin());
+    for (const ItemNumber number : m_items)
+        items.push_back(m_groups.item(number));
+    m_proposed = static_cast<int>(std::ranges::find(m_items, m_groups.bestOf(*m_group)) - m_items.begin());
     std::swap(items.front(), items[static_cast<std::size_t>(m_proposed)]);
     m_why = m_presentation.proposal->why(items);
 }

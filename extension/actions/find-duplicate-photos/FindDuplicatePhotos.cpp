@@ -45,11 +45,11 @@ QString whyBest(const std::vector<Item>& items)
     const Item& best = items.front();
     const Item& next = *std::min_element(items.begin() + 1, items.end(), isBetter);
     if (Size::of(best).pixels() > Size::of(next).pixels())
-        return Texts::tr("Best: most pixels");
+        return Texts::tr("Most pixels");
     if (best.state.size > next.state.size)
-        return Texts::tr("Best: as many pixels as any, in the largest file");
+        return Texts::tr("Most pixels, larger file");
     if (best.state.modified < next.state.modified)
-        return Texts::tr("Best: the oldest of the same size");
+        return Texts::tr("Oldest of the same size");
     return Texts::tr("As good as another");
 }
 

@@ -28,6 +28,9 @@ Result resultOf(const Photos::Message& message)
     if (const auto* unreadable = std::get_if<Photos::Unreadable>(&opened))
         return Refused{unreadable->why};
     const auto& photo = std::get<Photos::OpenedPhoto>(opened);
+    // The others would go with it.
+    if (photo.holdsSeveral)
+        return Refused{NS::LocalizedString("Photos", "holds several pictures, and only one would be compared")};
     const auto read = Photos::readSmall(photo, *asked == 0 ? describedPixels : static_cast<int>(*asked));
     if (const auto* unreadable = std::get_if<Photos::Unreadable>(&read))
         return Refused{unreadable->why};

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
+#include <cstdint>
 #include <utility>
 
 namespace MenuExtension::Photos {
@@ -13,15 +13,17 @@ namespace MenuExtension::Photos {
 namespace {
 
 constexpr const char* jpegReader = "VipsForeignLoadJpeg";
+constexpr const char* pngReader = "VipsForeignLoadPng";
+constexpr const char* jpeg2000Reader = "VipsForeignLoadJp2k";
 /// The classes of the library that read the formats which photos come in.
 constexpr std::array readers{
     jpegReader,
-    "VipsForeignLoadPng",
+    pngReader,
     "VipsForeignLoadWebp",
     "VipsForeignLoadTiff",
     "VipsForeignLoadHeif",
     "VipsForeignLoadNsgif",
-    "VipsForeignLoadJp2k",
+    jpeg2000Reader,
     "VipsForeignLoadJxl",
     "VipsForeignLoadPpm",
 };
@@ -53,11 +55,10 @@ Image after(const Image& image, Step step)
 /// A JPEG picture the quick way; nothing where that is none.
 Image readQuickly(const OpenedPhoto& photo, int longest)
 {
-    std::size_t length = 0;
-    const void* const bytes = vips_source_map(photo.source.get(), &length);
-    if (!bytes)
+    const std::string_view bytes = bytesOf(photo);
+    if (bytes.empty())
         return nullptr;
-    const Image small = readSmallJpeg({static_cast<const unsigned char*>(bytes), length}, longest);
+    const Image small = readSmallJpeg({reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()}, longest);
     if (!small)
         return nullptr;
     vips_image_set_int(small.get(), VIPS_META_ORIENTATION, vips_image_get_orientation(photo.header.get()));
@@ -72,6 +73,15 @@ Image readThumbnail(const OpenedPhoto& photo, int longest)
     vips_thumbnail_source(photo.source.get(), &read, longest, "height", longest, "size", VIPS_SIZE_DOWN,
                           "option_string", "fail_on=truncated", nullptr);
     return Image(read);
+}
+
+bool holdsSeveral(const OpenedPhoto& photo, std::string_view reader)
+{
+    // The library reads only the first picture of a PNG file.
+    if (reader.starts_with(pngReader))
+        return !chunksOfPng(bytesOf(photo), {"acTL"}).empty();
+    // What it calls pages there are the sizes of one.
+    return !reader.starts_with(jpeg2000Reader) && vips_image_get_n_pages(photo.header.get()) > 1;
 }
 
 } // namespace
@@ -111,7 +121,34 @@ std::variant<OpenedPhoto, Unreadable> openPhoto(int file)
                                                {std::to_string(photo.width), std::to_string(photo.height)})};
     if (vips_image_get_orientation_swap(photo.header.get()))
         std::swap(photo.width, photo.height);
+    photo.holdsSeveral = holdsSeveral(photo, reader);
     return photo;
+}
+
+std::string_view bytesOf(const OpenedPhoto& photo)
+{
+    std::size_t length = 0;
+    const void* const begin = vips_source_map(photo.source.get(), &length);
+    return begin ? std::string_view(static_cast<const char*>(begin), length) : std::string_view();
+}
+
+std::string chunksOfPng(std::string_view file, std::initializer_list<std::string_view> kinds)
+{
+    constexpr std::size_t signature = 8;
+    constexpr std::size_t around = 12;
+    std::string chunks;
+    for (file.remove_prefix(std::min(signature, file.size())); file.size() >= around;) {
+        std::uint64_t size = 0;
+        for (const char byte : file.substr(0, 4))
+            size = size << 8U | static_cast<unsigned char>(byte);
+        size += around;
+        if (size > file.size())
+            break;
+        if (std::ranges::find(kinds, file.substr(4, 4)) != kinds.end())
+            chunks += file.substr(0, size);
+        file.remove_prefix(size);
+    }
+    return chunks;
 }
 
 std::variant<Image, Unreadable> readSmall(const OpenedPhoto& photo, int longest)

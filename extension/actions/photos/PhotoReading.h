@@ -1,7 +1,9 @@
 #pragma once
 
+#include <initializer_list>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vips/vips.h>
 
@@ -31,6 +33,8 @@ struct OpenedPhoto {
     int width = 0;
     int height = 0;
     bool isJpeg = false;
+    /// Pages, or pictures that move.
+    bool holdsSeveral = false;
 };
 
 /// Makes this process one that reads the formats of photos with as little memory as they take, and no others: what
@@ -39,6 +43,12 @@ void prepareReading();
 
 /// Reads the beginning of a picture from an open file, from its first byte on. The file stays the caller's.
 [[nodiscard]] std::variant<OpenedPhoto, Unreadable> openPhoto(int file);
+
+/// The whole file; nothing where it cannot be looked at so.
+[[nodiscard]] std::string_view bytesOf(const OpenedPhoto& photo);
+
+/// The chunks of those kinds in a PNG file, as they are.
+[[nodiscard]] std::string chunksOfPng(std::string_view file, std::initializer_list<std::string_view> kinds);
 
 /// The picture in at most that many pixels each way, turned as it is shown, in the colours of screens: three bands of
 /// bytes, on white where it is transparent. Decodes no more than that takes. Never larger than the picture.

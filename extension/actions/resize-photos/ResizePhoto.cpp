@@ -285,11 +285,12 @@ FileDescriptor PhotoResizer::withData(const OpenedFile& photo, const FileDescrip
     };
     // ExifTool goes by the end of a name, where there is one, and the picture has none.
     const std::string name = temporaryName();
-    // The picture is no more as large as its data may say, and lies as the library has written it.
-    const auto answer =
-        m_exifTool.run({"-q", "-q", "-m", "-TagsFromFile", path(photo.file), "-all:all", "--Orientation",
-                        "--ExifImageWidth", "--ExifImageHeight", "-o", path(folder) + '/' + name, path(made)},
-                       stop);
+    // The picture is no more as large as its data may say, and lies as the library has written it; ExifTool takes one
+    // that is compressed as JPEG for a preview.
+    const auto answer = m_exifTool.run({"-q", "-q", "-m", "-TagsFromFile", path(photo.file), "-all:all",
+                                        "--Orientation", "--ExifImageWidth", "--ExifImageHeight", "--PreviewImage",
+                                        "-o", path(folder) + '/' + name, path(made)},
+                                       stop);
     FileDescriptor whole = m_calls->open(folder.get(), name.c_str(), O_RDONLY | O_NOFOLLOW, 0);
     static_cast<void>(m_calls->remove(folder.get(), name.c_str(), 0));
     return answer.end == Exif::ExifTool::End::Done ? std::move(whole) : FileDescriptor();

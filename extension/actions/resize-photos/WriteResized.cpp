@@ -23,7 +23,7 @@ namespace {
 
 using Photos::Image;
 
-enum class Format { Jpeg, Png, WebP, Tiff, Heic, Avif };
+enum class Format { Jpeg, Png, WebP, Tiff, JpegInTiff, Heic, Avif };
 
 struct LetGoOfBytes {
     void operator()(VipsBlob* bytes) const { vips_area_unref(VIPS_AREA(bytes)); }
@@ -35,23 +35,6 @@ std::string_view text(VipsImage* image, const char* name)
     if (vips_image_get_typeof(image, name) == 0 || vips_image_get_string(image, name, &value) != 0)
         return {};
     return value;
-}
-
-/// The format that a photo was read from, where it can be written.
-std::optional<Format> formatOf(VipsImage* header)
-{
-    const std::string_view loader = text(header, "vips-loader");
-    if (loader.starts_with("jpegload"))
-        return Format::Jpeg;
-    if (loader.starts_with("pngload"))
-        return Format::Png;
-    if (loader.starts_with("webpload"))
-        return Format::WebP;
-    if (loader.starts_with("tiffload"))
-        return Format::Tiff;
-    if (!loader.starts_with("heifload"))
-        return std::nullopt;
-    return text(header, "heif-compression") == "av1" ? Format::Avif : Format::Heic;
 }
 
 int writeTo(VipsImage* image, Format format, int quality, VipsTarget* target)
@@ -67,6 +50,9 @@ int writeTo(VipsImage* image, Format format, int quality, VipsTarget* target)
     case Format::Tiff:
         return vips_tiffsave_target(image, target, "compression", VIPS_FOREIGN_TIFF_COMPRESSION_DEFLATE, "predictor",
                                     VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL, nullptr);
+    case Format::JpegInTiff:
+        return vips_tiffsave_target(image, target, "compression", VIPS_FOREIGN_TIFF_COMPRESSION_JPEG, "Q", quality,
+                                    nullptr);
     // The same number means more there.
     case Format::Heic:
         return vips_heifsave_target(image, target, "Q", std::max(quality - 25, 1), "compression",
@@ -107,13 +93,6 @@ bool writeAll(int file, std::string_view rest)
     return true;
 }
 
-std::string_view bytesOf(const Photos::OpenedPhoto& photo)
-{
-    std::size_t length = 0;
-    const void* const begin = vips_source_map(photo.source.get(), &length);
-    return begin ? std::string_view(static_cast<const char*>(begin), length) : std::string_view();
-}
-
 /// A number in a file that begins with its most, or with its least significant byte; 0 beyond its end.
 std::uint64_t numberAt(std::string_view file, std::uint64_t place, std::size_t size, bool isLeastFirst)
 {
@@ -125,21 +104,19 @@ std::uint64_t numberAt(std::string_view file, std::uint64_t place, std::size_t s
     return value;
 }
 
-/// The chunks of those kinds in a PNG file, as they are.
-std::string chunksOfPng(std::string_view file, std::initializer_list<std::string_view> kinds)
+/// Where the entry of a TIFF file's first directory begins that has that tag; nothing where there is none.
+std::optional<std::uint64_t> placeOfTag(std::string_view file, std::uint64_t tag)
 {
-    constexpr std::size_t signature = 8;
-    constexpr std::size_t around = 12;
-    std::string chunks;
-    for (file.remove_prefix(std::min(signature, file.size())); file.size() >= around;) {
-        const std::uint64_t size = numberAt(file, 0, 4, false) + around;
-        if (size > file.size())
-            break;
-        if (std::ranges::find(kinds, file.substr(4, 4)) != kinds.end())
-            chunks += file.substr(0, size);
-        file.remove_prefix(size);
+    const bool isLeastFirst = file.starts_with("II");
+    const bool isBig = numberAt(file, 2, 2, isLeastFirst) == 43;
+    const std::uint64_t directory = isBig ? numberAt(file, 8, 8, isLeastFirst) : numberAt(file, 4, 4, isLeastFirst);
+    const std::uint64_t count = numberAt(file, directory, isBig ? 8 : 2, isLeastFirst);
+    std::uint64_t entry = directory + (isBig ? 8 : 2);
+    for (std::uint64_t index = 0; index < count && entry < file.size(); ++index, entry += isBig ? 20 : 12) {
+        if (numberAt(file, entry, 2, isLeastFirst) == tag)
+            return entry;
     }
-    return chunks;
+    return std::nullopt;
 }
 
 /// Whether a TIFF file has data that the library neither reads nor writes.
@@ -149,16 +126,7 @@ bool hasMoreData(std::string_view file)
     constexpr std::array<std::uint64_t, 17> tags{0x10d,  0x10f,  0x110,  0x131,  0x132,  0x13b,
                                                  0x13c,  0x8298, 0x83bb, 0x8649, 0x8769, 0x8825,
                                                  0x9c9b, 0x9c9c, 0x9c9d, 0x9c9e, 0x9c9f};
-    const bool isLeastFirst = file.starts_with("II");
-    const bool isBig = numberAt(file, 2, 2, isLeastFirst) == 43;
-    const std::uint64_t directory = isBig ? numberAt(file, 8, 8, isLeastFirst) : numberAt(file, 4, 4, isLeastFirst);
-    const std::uint64_t count = numberAt(file, directory, isBig ? 8 : 2, isLeastFirst);
-    std::uint64_t entry = directory + (isBig ? 8 : 2);
-    for (std::uint64_t index = 0; index < count && entry < file.size(); ++index, entry += isBig ? 20 : 12) {
-        if (std::ranges::find(tags, numberAt(file, entry, 2, isLeastFirst)) != tags.end())
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(tags, [file](std::uint64_t tag) { return placeOfTag(file, tag).has_value(); });
 }
 
 /// Whether a photo would lose some of what it is as a thumbnail, which is for screens: it has more than eight bits a
@@ -167,6 +135,37 @@ bool isMoreThanForScreens(VipsImage* header)
 {
     return vips_image_get_format(header) != VIPS_FORMAT_UCHAR ||
            vips_image_get_interpretation(header) == VIPS_INTERPRETATION_CMYK;
+}
+
+/// Whether a TIFF file is compressed as photos are, and can be so again.
+bool isJpegInTiff(const Photos::OpenedPhoto& photo)
+{
+    const std::string_view file = Photos::bytesOf(photo);
+    const bool isLeastFirst = file.starts_with("II");
+    const bool isBig = numberAt(file, 2, 2, isLeastFirst) == 43;
+    constexpr std::uint64_t compression = 259;
+    const auto entry = placeOfTag(file, compression);
+    const std::uint64_t value = entry ? numberAt(file, *entry + (isBig ? 12 : 8), 2, isLeastFirst) : 0;
+    const int bands = vips_image_get_bands(photo.header.get());
+    return (value == 6 || value == 7) && !isMoreThanForScreens(photo.header.get()) && (bands == 1 || bands == 3);
+}
+
+/// The format that a photo was read from, where it can be written.
+std::optional<Format> formatOf(const Photos::OpenedPhoto& photo)
+{
+    VipsImage* const header = photo.header.get();
+    const std::string_view loader = text(header, "vips-loader");
+    if (loader.starts_with("jpegload"))
+        return Format::Jpeg;
+    if (loader.starts_with("pngload"))
+        return Format::Png;
+    if (loader.starts_with("webpload"))
+        return Format::WebP;
+    if (loader.starts_with("tiffload"))
+        return isJpegInTiff(photo) ? Format::JpegInTiff : Format::Tiff;
+    if (!loader.starts_with("heifload"))
+        return std::nullopt;
+    return text(header, "heif-compression") == "av1" ? Format::Avif : Format::Heic;
 }
 
 /// What is said of a picture, by the library's names.
@@ -282,6 +281,18 @@ struct Made {
     std::uint32_t height = 0;
 };
 
+/// Of a PNG file, what the library neither reads nor writes, or not all of it.
+std::string chunksToKeep(const Photos::OpenedPhoto& photo)
+{
+    const std::string_view file = Photos::bytesOf(photo);
+    std::string chunks;
+    // What its colours are, which a profile says too.
+    if (vips_image_get_typeof(photo.header.get(), VIPS_META_ICC_NAME) == 0)
+        chunks = Photos::chunksOfPng(file, {"gAMA", "cHRM", "sRGB", "cICP"});
+    // XMP and IPTC among them.
+    return chunks + Photos::chunksOfPng(file, {"tEXt", "zTXt", "iTXt"});
+}
+
 /// Worse and smaller until it is small enough, and not much more so than it has to be.
 std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format, const Goal& goal,
                                  const Size& stored)
@@ -296,9 +307,7 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
     constexpr std::size_t endOfPngHeader = 33;
     const bool isLossy = format != Format::Png && format != Format::Tiff;
     const Size largest = sizeFor(goal, stored);
-    // XMP and IPTC among them.
-    const std::string texts =
-        format == Format::Png ? chunksOfPng(bytesOf(photo), {"tEXt", "zTXt", "iTXt"}) : std::string();
+    const std::string chunks = format == Format::Png ? chunksToKeep(photo) : std::string();
     double scale = 1;
     // What takes long to write begins where it most likely ends.
     if (goal.kind == Goal::Kind::Bytes && (format == Format::Heic || format == Format::Avif))
@@ -323,12 +332,12 @@ std::variant<Refused, Made> make(const Photos::OpenedPhoto& photo, Format format
         auto file = encoded(picture.get(), format, quality);
         if (!file)
             return notWritten();
-        file->insert(std::min(endOfPngHeader, file->size()), texts);
+        file->insert(std::min(endOfPngHeader, file->size()), chunks);
         const auto bytes = static_cast<double>(file->size());
         const auto most = static_cast<double>(goal.value);
         // What is said of it stays as large as it is.
         const double data =
-            std::min(static_cast<double>(dataOf(picture.get()) + texts.size()), std::min(bytes, most) * 0.99);
+            std::min(static_cast<double>(dataOf(picture.get()) + chunks.size()), std::min(bytes, most) * 0.99);
         const double share = (most - data) / (bytes - data);
         const bool isSmallEnough = goal.kind != Goal::Kind::Bytes || share >= 1;
         if (isSmallEnough)
@@ -390,12 +399,10 @@ Result resize(const Job& job, int photo, int target)
         return Refused{unreadable->why};
     const auto& read = std::get<Photos::OpenedPhoto>(opened);
     VipsImage* const header = read.header.get();
-    const auto format = formatOf(header);
+    const auto format = formatOf(read);
     if (!format)
         return notWritten();
-    // The library reads only the first picture of a PNG file.
-    if (vips_image_get_n_pages(header) > 1 ||
-        (*format == Format::Png && !chunksOfPng(bytesOf(read), {"acTL"}).empty()))
+    if (read.holdsSeveral)
         return Refused{NS::LocalizedString(
             "Photos", "cannot be resized: it holds several pictures, and only one would be left")};
 
@@ -424,7 +431,7 @@ Result resize(const Job& job, int photo, int target)
     if (auto* refusal = std::get_if<Refused>(&made))
         return std::move(*refusal);
     const Made& done = std::get<Made>(made);
-    if (*format == Format::Tiff && hasMoreData(bytesOf(read)))
+    if ((*format == Format::Tiff || *format == Format::JpegInTiff) && hasMoreData(Photos::bytesOf(read)))
         result.data = Data::Lost;
     result.after = asShown(done.width, done.height, done.file.size());
     if (job.shownPixels > 0)

@@ -2,8 +2,11 @@
 
 #include "Items.h"
 
+#include <QHeaderView>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTest>
+#include <QTreeView>
 
 #include <algorithm>
 #include <atomic>
@@ -79,6 +82,28 @@ TEST(DuplicatesWindowTest, KeepsWhatReadsAPictureUntilThatHasEnded)
     window.reset();
     EXPECT_TRUE(hadReaderToTheEnd);
     EXPECT_FALSE(hasReader);
+}
+
+TEST(DuplicatesWindowTest, AllThatIsSaidOfTheItemsIsOnViewAtFirst)
+{
+    const QString why = QStringLiteral("Höchste Pixelzahl, größere Datei");
+    Presentation presentation;
+    presentation.counted = [](qulonglong count) { return QString::number(count); };
+    presentation.columns = {{QStringLiteral("Pixels"), [](const Item&) { return QStringLiteral("6000 × 4000"); }}};
+    presentation.proposal = {QStringLiteral("Keep the Best"),
+                             [](const Item& one, const Item& other) { return one.path > other.path; },
+                             [&](const std::vector<Item>&) { return why; }};
+    presentation.isSideBySide = true;
+    DuplicatesWindow window(std::make_unique<OneGroup>(), std::move(presentation));
+    window.show();
+    const auto* const items = window.findChild<QTreeView*>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return items->model()->rowCount() == 2; }));
+    QCoreApplication::processEvents();
+    const int reason = items->model()->columnCount() - 1;
+    EXPECT_EQ(items->model()->index(1, reason).data().toString(), why);
+    EXPECT_GT(items->columnWidth(reason), items->fontMetrics().horizontalAdvance(why));
+    EXPECT_EQ(items->horizontalScrollBar()->maximum(), 0);
+    // It ends while it is on view, as when a session does.
 }
 
 } // namespace

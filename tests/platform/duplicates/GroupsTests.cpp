@@ -62,6 +62,27 @@ TEST(Groups, TheLargestSavingComesFirst)
     EXPECT_EQ(groups.savingOf(many), 12);
 }
 
+TEST(Groups, TheSavingIsWhatKeepingTheBestLeavesOver)
+{
+    const auto isBetter = [](const Item& one, const Item& other) { return one.detail > other.detail; };
+    Groups groups(isBetter);
+    const auto itemOf = [](const char* path, std::int64_t size, std::uint64_t detail) {
+        Item item = itemAt(path, size);
+        item.detail = detail;
+        return item;
+    };
+    const auto pair = groups.add(0, {itemOf("/c", 40, 1), itemOf("/d", 50, 1)});
+    const auto group = groups.add(1, {itemOf("/large", 700, 1), itemOf("/a", 8, 2)});
+    EXPECT_EQ(groups.savingOf(group), 700);
+    groups.add(1, {itemOf("/best", 28, 3), itemOf("/as-good", 29, 3)});
+    EXPECT_EQ(pathsIn(groups, group)[2], groups.item(groups.bestOf(group)).path) << "the shorter path of equals";
+    EXPECT_EQ(groups.bySaving(), (std::vector{group, pair}));
+    groups.choose({group, pair}, {.kind = Kind::Best, .folder = {}, .isBetter = isBetter});
+    EXPECT_EQ(groups.chosen().bytes, groups.savingOf(group) + groups.savingOf(pair));
+    groups.forget({groups.itemsOf(group)[2]});
+    EXPECT_EQ(groups.savingOf(group), 708);
+}
+
 TEST(Groups, AGroupGrowsUnderItsKey)
 {
     Groups groups;

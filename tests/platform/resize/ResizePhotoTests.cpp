@@ -160,6 +160,24 @@ private:
     Request m_request;
 };
 
+/// A chunk of a PNG file.
+std::string chunk(const std::string& kind, const std::string& data)
+{
+    const auto inBytes = [](std::uint32_t number) {
+        std::string bytes;
+        for (const unsigned shift : {24U, 16U, 8U, 0U})
+            bytes += static_cast<char>(number >> shift & 0xffU);
+        return bytes;
+    };
+    std::uint32_t sum = ~0U;
+    for (const char byte : kind + data) {
+        sum ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = (sum & 1U) != 0 ? sum >> 1U ^ 0xedb88320U : sum >> 1U;
+    }
+    return inBytes(static_cast<std::uint32_t>(data.size())) + kind + data + inBytes(~sum);
+}
+
 constexpr Goal small{Goal::Kind::Length, 100};
 
 /// A file system that is reached over the network: it renames only plainly, and has no file without a name.
@@ -476,6 +494,70 @@ TEST_F(ResizePhotoTest, WhatLiesBehindTheEndOfAPhotoIsNotLostInItsPlace)
     const Path padded = photo("padded.jpg");
     Files::write(padded, Files::read(padded) + std::string(5000, '\0'));
     EXPECT_NE(resize(padded, small, {.kind = Target::Kind::InPlace}).kind, Kind::Refused);
+}
+
+TEST_F(ResizePhotoTest, WhatTheColoursOfAPngMeanStays)
+{
+    constexpr std::size_t endOfHeader = 33;
+    const std::string gamma = chunk("gAMA", std::string("\0\x01\x86\xa0", 4));
+    const std::string primaries = chunk("cHRM", std::string("\0\0\x7a\x26\0\0\x80\x84\0\0\xfa\0\0\0\x80\xe8"
+                                                            "\0\0\x52\x08\0\x01\x15\x58\0\0\x3a\x98\0\0\x17\x70",
+                                                            32));
+    const std::string intent = chunk("sRGB", std::string(1, '\0'));
+    const std::string codes = chunk("cICP", std::string("\x09\x10\0\x01", 4));
+    const std::string all = gamma + primaries + intent + codes;
+    const Path profiled = photo("profiled.png");
+    const Image image = open(profiled);
+    vips_image_remove(image.get(), VIPS_META_ICC_NAME);
+    for (const bool hasPalette : {false, true}) {
+        const Path path = listed() / (hasPalette ? "palette.png" : "plain.png");
+        ASSERT_EQ(vips_pngsave(image.get(), path.c_str(), "palette", hasPalette, nullptr), 0);
+        Files::write(path, Files::read(path).insert(endOfHeader, all));
+        const auto outcome = resize(path, small);
+        ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+        const std::string made = Files::read(listed() / outcome.name);
+        EXPECT_EQ(made.substr(endOfHeader, all.size()), all) << hasPalette;
+        EXPECT_EQ(made.find("PLTE") != std::string::npos, hasPalette);
+        EXPECT_EQ(exifTool("-s3 -Warning -Error", listed() / outcome.name), "");
+    }
+    // A profile says it all.
+    Files::write(profiled, Files::read(profiled).insert(endOfHeader, gamma));
+    const std::string made = Files::read(listed() / resize(profiled, small).name);
+    EXPECT_NE(made.find("iCCP"), std::string::npos);
+    EXPECT_EQ(made.find("gAMA"), std::string::npos);
+}
+
+TEST_F(ResizePhotoTest, ATiffThatIsCompressedAsAPhotoStaysSo)
+{
+    const auto compressionOf = [](const Path& path) { return exifTool("-s3 -Compression", path); };
+    const Image colors = open(photo("colors.png", 1600, 1200));
+    VipsImage* made = nullptr;
+    ASSERT_EQ(vips_colourspace(colors.get(), &made, VIPS_INTERPRETATION_B_W, nullptr), 0);
+    const Image grey(made);
+    vips_image_remove(grey.get(), VIPS_META_ICC_NAME);
+    for (VipsImage* const image : {colors.get(), grey.get()}) {
+        const Path path = listed() / "a.tif";
+        ASSERT_EQ(
+            vips_tiffsave(image, path.c_str(), "compression", VIPS_FOREIGN_TIFF_COMPRESSION_JPEG, "Q", 80, nullptr),
+            0);
+        describe(path);
+        ASSERT_EQ(compressionOf(path), "JPEG\n");
+        for (const Goal& goal : {Goal{Goal::Kind::Percent, 50}, Goal{Goal::Kind::Bytes, 100'000}}) {
+            const auto outcome = resize(path, goal);
+            ASSERT_EQ(outcome.kind, Kind::Done) << outcome.words;
+            EXPECT_LT(outcome.after.bytes, outcome.before.bytes / 2);
+            EXPECT_LE(goal.kind == Goal::Kind::Bytes ? outcome.after.bytes : 0, 100'000U);
+            const Path half = listed() / outcome.name;
+            EXPECT_EQ(compressionOf(half), "JPEG\n");
+            EXPECT_EQ(description(half), description(path));
+            double before = 0;
+            double after = 0;
+            vips_avg(image, &before, nullptr);
+            EXPECT_EQ(vips_avg(open(half).get(), &after, nullptr), 0) << vips_error_buffer();
+            EXPECT_NEAR(before, after, 1.0);
+        }
+    }
+    EXPECT_EQ(compressionOf(listed() / resize(photo("plain.tif"), small).name), "Adobe Deflate\n");
 }
 
 TEST_F(ResizePhotoTest, HalfOfAPaletteIsSmallerThanTheWhole)

@@ -27,16 +27,31 @@ protected:
 
     std::string write(const Painting& painting, const std::string& name, int orientation = 1) const
     {
-        VipsImage* plain = vips_image_new_from_memory_copy(painting.bytes().data(), painting.bytes().size(),
-                                                           painting.width(), painting.height(), 3, VIPS_FORMAT_UCHAR);
+        return write(painting.bytes(), painting, name, VIPS_META_ORIENTATION, orientation);
+    }
+    /// A file of two pictures, the painting first.
+    std::string writeTwo(const Painting& painting, const std::string& name) const
+    {
+        std::vector<std::uint8_t> bytes = painting.bytes();
+        const auto second = Painting::of(90, painting.width(), painting.height()).bytes();
+        bytes.insert(bytes.end(), second.begin(), second.end());
+        return write(bytes, painting, name, VIPS_META_PAGE_HEIGHT, painting.height());
+    }
+    /// The name may have the library's options behind it.
+    std::string write(const std::vector<std::uint8_t>& bytes, const Painting& painting, const std::string& name,
+                      const char* field, int value) const
+    {
+        const int height = static_cast<int>(bytes.size()) / painting.width() / 3;
+        VipsImage* plain = vips_image_new_from_memory_copy(bytes.data(), bytes.size(), painting.width(), height, 3,
+                                                           VIPS_FORMAT_UCHAR);
         VipsImage* image = nullptr;
         EXPECT_EQ(vips_copy(plain, &image, "interpretation", VIPS_INTERPRETATION_sRGB, nullptr), 0);
-        if (orientation != 1)
-            vips_image_set_int(image, VIPS_META_ORIENTATION, orientation);
+        if (value != 1)
+            vips_image_set_int(image, field, value);
         EXPECT_EQ(vips_image_write_to_file(image, m_folder.path(name).c_str(), nullptr), 0) << vips_error_buffer();
         g_object_unref(image);
         g_object_unref(plain);
-        return m_folder.path(name);
+        return m_folder.path(name.substr(0, name.find('[')));
     }
     std::string writeBytes(const std::string& name, const std::string& bytes) const
     {
@@ -145,6 +160,38 @@ TEST_F(DuplicatePhotoFinderTest, WhatCannotBeReadIsToldAndTheOthersGoOn)
     EXPECT_EQ(troubles[garbage], "cannot be read: it is damaged or ends too early");
     EXPECT_EQ(troubles[text], "is no picture, though it is named like one");
     EXPECT_EQ(troubles.size(), 3U) << "and none for " << empty;
+}
+
+/// What the others show would go with the one that was compared.
+TEST_F(DuplicatePhotoFinderTest, AFileOfSeveralPicturesIsNoneOfThem)
+{
+    const Heard::Paths same{write(Painting::of(1), "a.jpg"), write(Painting::of(1), "b.png")};
+    std::vector<std::string> several;
+    for (const char* name : {"pages.tif", "moving.webp", "moving.gif"})
+        several.push_back(writeTwo(Painting::of(1), name));
+    constexpr std::size_t endOfHeader = 33;
+    const std::string frames("\0\0\0\x08"
+                             "acTL"
+                             "\0\0\0\x02\0\0\0\0\xf3\x8d\x93\x70",
+                             20);
+    several.push_back(writeBytes("moving.png", bytesOfFile(m_folder.path("b.png")).insert(endOfHeader, frames)));
+    auto search = finder();
+    const auto heard = heardFrom(search);
+    EXPECT_EQ(heard->groups(), Groups{same});
+    auto troubles = heard->troubles();
+    for (const std::string& path : several)
+        EXPECT_EQ(troubles[path], "holds several pictures, and only one would be compared");
+}
+
+TEST_F(DuplicatePhotoFinderTest, AFileOfOnePictureInSeveralSizesIsFound)
+{
+    const Heard::Paths same{write(Painting::of(1), "a.jpg"), write(Painting::of(1), "one.heic"),
+                            write(Painting::of(1), "sizes.jp2"),
+                            write(Painting::of(1, 1280, 960), "sizes.tif[tile,pyramid,subifd]")};
+    auto search = finder();
+    const auto heard = heardFrom(search);
+    EXPECT_EQ(heard->groups(), Groups{same});
+    EXPECT_TRUE(heard->troubles().empty());
 }
 
 TEST_F(DuplicatePhotoFinderTest, AWorkerThatCannotBeStartedIsToldOfEveryPhoto)
