@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <strings.h>
 
 namespace MenuExtension::Exif {
 
@@ -18,12 +19,37 @@ std::string assignment(std::string_view tag, std::string_view sign, std::string_
     return '-' + std::string(tag) + std::string(sign) + escaped(value);
 }
 
-/// One for each store of the field that is always written, or is there.
-void assign(std::vector<std::string>& arguments, Field field, const Tags& tags, std::string_view value)
+/// The authors that a text names, or the one text that it is.
+std::vector<std::string> valuesIn(Field field, std::string_view text)
 {
+    if (field != Field::Author)
+        return {std::string(text)};
+    constexpr std::string_view spaces = " \t\r\n";
+    std::vector<std::string> authors;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(';'), text.size());
+        std::string_view author = text.substr(0, end);
+        author.remove_prefix(std::min(author.find_first_not_of(spaces), author.size()));
+        author = author.substr(0, author.find_last_not_of(spaces) + 1);
+        if (!author.empty())
+            authors.emplace_back(author);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return authors;
+}
+
+/// One for each store of the field that is always written, or is there, and there one for each author.
+void assign(std::vector<std::string>& arguments, Field field, const Tags& tags, std::string_view text)
+{
+    const std::vector<std::string> values = valuesIn(field, text);
+    std::string all;
+    for (const std::string& value : values)
+        all.append(all.empty() ? "" : valueSeparator).append(value);
     for (const Store& store : storesOf(field)) {
         const bool isThere = tags.find(store.key) != nullptr;
-        if (value.empty() ? isThere : isThere || store.always)
+        if (!isThere && (all.empty() || !store.always))
+            continue;
+        for (const std::string& value : store.isList && !all.empty() ? values : std::vector{all})
             arguments.push_back(assignment(store.written, set, value));
     }
 }
@@ -89,6 +115,11 @@ std::string asRead(std::string text)
 {
     std::erase(text, '\r');
     text.resize(text.find_last_not_of(" \n") + 1);
+    // ExifTool prints these two as no texts, however they are written.
+    for (const char* const word : {"true", "false"}) {
+        if (::strcasecmp(text.c_str(), word) == 0)
+            return word;
+    }
     return text;
 }
 
@@ -105,7 +136,7 @@ bool isMade(Field field, const std::string& wanted, const Tags& after)
         const auto time = photoTime(wanted);
         return time ? photoTime(textOf(field, after)) == time : textOf(field, after).empty();
     }
-    return asRead(textOf(field, after)) == asRead(wanted);
+    return std::ranges::equal(valuesIn(field, textOf(field, after)), valuesIn(field, wanted), {}, asRead, asRead);
 }
 
 } // namespace

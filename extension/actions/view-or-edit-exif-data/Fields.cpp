@@ -21,8 +21,8 @@ constexpr std::array descriptionStores{
     Store{"PNG:Description", "PNG:Description", false},
 };
 constexpr std::array authorStores{
-    Store{"XMP-dc:Creator", "XMP-dc:Creator", true}, Store{"IFD0:Artist", "EXIF:Artist", true},
-    Store{"IPTC:By-line", "IPTC:By-line", false},    Store{"PNG:Author", "PNG:Author", false},
+    Store{"XMP-dc:Creator", "XMP-dc:Creator", true, true}, Store{"IFD0:Artist", "EXIF:Artist", true},
+    Store{"IPTC:By-line", "IPTC:By-line", false, true},    Store{"PNG:Author", "PNG:Author", false},
     Store{"IFD0:XPAuthor", "EXIF:XPAuthor", false},
 };
 constexpr std::array copyrightStores{

@@ -52,16 +52,55 @@ protected:
     }
 
     /// Saves in a process that has done something to itself before.
-    [[nodiscard]] Kind inChild(const Path& path, const std::function<void()>& before) const
+    [[nodiscard]] Kind inChild(const Path& path, const std::function<void()>& before,
+                               const SaveOptions& options = {}) const
     {
         const pid_t child = ::fork();
         if (child == 0) {
             before();
-            ::_exit(static_cast<int>(save(path, everything())));
+            ::_exit(static_cast<int>(save(path, everything(), options)));
         }
         int status = 0;
         ::waitpid(child, &status, 0);
         return static_cast<Kind>(WEXITSTATUS(status));
+    }
+
+    /// The superuser may write everywhere otherwise, and so may what it starts.
+    static void loseRights()
+    {
+        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+        std::array<__user_cap_data_struct, 2> none{};
+        ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+        ::syscall(SYS_capset, &header, none.data());
+    }
+
+    /// Has ExifTool itself write tags, "NAME=VALUE" each.
+    static void write(const Path& path, const std::vector<std::string>& tags)
+    {
+        std::string command = "exiftool -q -overwrite_original";
+        for (const std::string& tag : tags)
+            command += " '-" + tag + '\'';
+        ASSERT_EQ(std::system((command + " '" + path.native() + '\'').c_str()), 0);
+    }
+
+    /// Of a tag that is not there, nothing.
+    static std::string valueOf(const Tags& tags, const std::string& key)
+    {
+        const std::string* const value = tags.find(key);
+        return value ? *value : "";
+    }
+    [[nodiscard]] std::string tag(const Path& path, const std::string& key) const
+    {
+        return valueOf(read(path).tags, key);
+    }
+
+    [[nodiscard]] Kind saveText(const Path& path, Field field, const std::string& value) const
+    {
+        return save(path, {.texts = {{field, value}}, .orientation = {}, .place = {}});
+    }
+    [[nodiscard]] Kind move(const Path& path, std::chrono::seconds shift) const
+    {
+        return save(path, {.texts = {}, .shift = shift, .orientation = {}, .place = {}});
     }
 
     static std::string withoutSpacesAround(const std::string& text)
@@ -129,6 +168,29 @@ TEST_F(SavePhotoTest, KeepsTheTextThatIsThereInEveryPlaceInStep)
     EXPECT_EQ(*tags.find("IFD0:ImageDescription"), "second");
     EXPECT_EQ(*tags.find("XMP-dc:Description"), "second");
     EXPECT_EQ(tags.find("IPTC:Caption-Abstract"), nullptr);
+}
+
+TEST_F(SavePhotoTest, AuthorsAreWrittenOneByOneHoweverTheyAreSeparated)
+{
+    for (const std::string authors : {"Ada;Bo", "Ada ;Bo", "Ada;  Bo", "Ada; Bo;", "; Ada; ; Bo"}) {
+        const Path path = photo("jpg");
+        write(path, {"IPTC:By-line=before", "IPTC:Keywords=one; two"});
+        EXPECT_EQ(saveText(path, Field::Author, authors), Kind::None) << authors;
+        const Tags tags = read(path).tags;
+        for (const char* key : {"XMP-dc:Creator", "IFD0:Artist", "IPTC:By-line"})
+            EXPECT_EQ(valueOf(tags, key), "Ada; Bo") << authors << key;
+    }
+}
+
+TEST_F(SavePhotoTest, WordsThatExifToolPrintsAsNoTextAreWritten)
+{
+    const Path path = photo("jpg");
+    for (const std::string value : {"True", "FALSE", "-0", "0", "-1"}) {
+        for (const Field field : {Field::Title, Field::Description, Field::Author, Field::Copyright})
+            EXPECT_EQ(saveText(path, field, value), Kind::None) << value;
+        EXPECT_NE(Files::read(path).find('>' + value + '<'), std::string::npos) << value;
+    }
+    EXPECT_EQ(saveText(path, Field::Author, "True; Ada"), Kind::None);
 }
 
 TEST_F(SavePhotoTest, RemovesATextFromEveryPlace)
@@ -535,13 +597,7 @@ TEST_F(SavePhotoTest, AFolderThatCannotBeWrittenIsToldOf)
     const Path path = photo("jpg");
     const std::string before = Files::read(path);
     fs::permissions(listed(), fs::perms(0500));
-    const Kind kind = inChild(path, [] {
-        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-        std::array<__user_cap_data_struct, 2> none{};
-        // The superuser may write everywhere otherwise, and so may what it starts.
-        ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
-        ::syscall(SYS_capset, &header, none.data());
-    });
+    const Kind kind = inChild(path, loseRights);
     fs::permissions(listed(), fs::perms(0700));
     EXPECT_EQ(kind, Kind::CannotBeSaved);
     EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
