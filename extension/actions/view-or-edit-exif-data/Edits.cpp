@@ -110,6 +110,41 @@ void shift(std::vector<std::string>& arguments, const Tags& tags, std::chrono::s
     }
 }
 
+/// What IPTC has where it does not say that it is UTF-8.
+bool isLatin(std::string_view text)
+{
+    constexpr unsigned char lastOfLatin = 0xc3;
+    return std::ranges::all_of(text, [](char byte) { return static_cast<unsigned char>(byte) <= lastOfLatin; });
+}
+
+bool isIptcText(const Tag& tag)
+{
+    return tag.group == "IPTC" && std::ranges::any_of(tag.value, [](char byte) { return (byte & 0x80) != 0; });
+}
+
+/// Has IPTC become UTF-8 where it is not and has to take other letters. ExifTool leaves the bytes of what is there.
+void encode(std::vector<std::string>& arguments, const Tags& tags)
+{
+    const auto writes = [&](const std::string& option) {
+        return std::ranges::any_of(arguments, [&](const std::string& each) { return each.starts_with(option); });
+    };
+    const bool isNeeded = std::ranges::any_of(
+        arguments, [](const std::string& each) { return each.starts_with("-IPTC:") && !isLatin(each); });
+    const std::string* const encoding = tags.find("IPTC:CodedCharacterSet");
+    if (!isNeeded || (encoding && *encoding == "UTF8"))
+        return;
+    std::vector<std::string> anew;
+    for (const Tag& tag : tags) {
+        const std::string option = "-IPTC:" + tag.name;
+        if (isIptcText(tag) && !writes(option + '='))
+            anew.push_back(option);
+    }
+    if (!anew.empty())
+        anew.insert(anew.begin(), {"-TagsFromFile", "@"});
+    arguments.insert(arguments.begin(), anew.begin(), anew.end());
+    arguments.emplace_back("-IPTC:CodedCharacterSet=UTF8");
+}
+
 /// As a file gives it back: without the spaces at its end, on lines that end in one way.
 std::string asRead(std::string text)
 {
@@ -156,6 +191,9 @@ std::vector<std::string> keysFor(const Edits& edits)
         add(Field::Date);
     if (edits.orientation)
         add(Field::Orientation);
+    // What may have to be written anew.
+    if (std::ranges::any_of(edits.texts, [](const auto& text) { return !isLatin(text.second); }))
+        keys.emplace_back("IPTC:all");
     return keys;
 }
 
@@ -180,9 +218,7 @@ std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
                                             !isSame(edits.place->place, placeOf(tags)));
     if (movesPlace)
         assignPlace(arguments, tags, edits.place->place);
-    // Else what is no ASCII is lost there.
-    if (std::ranges::any_of(arguments, [](const std::string& each) { return each.starts_with("-IPTC:"); }))
-        arguments.emplace_back("-IPTC:CodedCharacterSet=UTF8");
+    encode(arguments, tags);
     return arguments;
 }
 
@@ -202,7 +238,15 @@ bool areMade(const Edits& edits, const Tags& before, const Tags& after)
             (kind == Kind::Place && edits.place) || (kind == Kind::People && edits.texts.contains(Field::Author));
         return kind && (goesWithPlace || (edits.removesPersonalData && !isSetAnew));
     });
-    return textsAreMade && isShifted && isTurned && isPlaced && isRemoved;
+    const bool othersStay = std::ranges::all_of(before, [&](const Tag& tag) {
+        const std::string* const value = isIptcText(tag) ? after.find("IPTC:" + tag.name) : nullptr;
+        const bool isEdited = std::ranges::any_of(edits.texts, [&](const auto& text) {
+            return std::ranges::any_of(storesOf(text.first),
+                                       [&](const Store& store) { return matches(store.key, tag); });
+        });
+        return !value || isEdited || *value == tag.value;
+    });
+    return textsAreMade && isShifted && isTurned && isPlaced && isRemoved && othersStay;
 }
 
 } // namespace MenuExtension::Exif

@@ -182,6 +182,50 @@ TEST_F(SavePhotoTest, AuthorsAreWrittenOneByOneHoweverTheyAreSeparated)
     }
 }
 
+TEST_F(SavePhotoTest, IptcTextsInAnotherEncodingStayWhatTheyAre)
+{
+    for (const std::string title : {"Neu", "Müller", "Жук"}) {
+        const Path path = photo("jpg");
+        write(path, {"IPTC:City=Köln", "IPTC:Keywords=Grün; x", "IPTC:Keywords=y", "IPTC:ObjectName=alt",
+                     "IPTC:By-line=Zoë", "IPTC:TimeCreated=01:30:00+02:00"});
+        ASSERT_NE(Files::read(path).find("K\xf6ln"), std::string::npos);
+        ASSERT_EQ(
+            save(path,
+                 {.texts = {{Field::Title, title}, {Field::Author, "Émile; Bo"}}, .orientation = {}, .place = {}}),
+            Kind::None)
+            << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:ObjectName"), title);
+        EXPECT_EQ(tag(path, "IPTC:By-line"), "Émile; Bo") << title;
+        EXPECT_EQ(tag(path, "IPTC:City"), "Köln") << title;
+        EXPECT_EQ(tag(path, "IPTC:Keywords"), "Grün; x; y") << title;
+        EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "01:30:00+02:00") << title;
+        const bool isLatin = title != "Жук";
+        EXPECT_NE(Files::read(path).find(isLatin ? "Gr\xfcn; x" : "Grün; x"), std::string::npos) << "is one keyword";
+        EXPECT_EQ(tag(path, "IPTC:CodedCharacterSet"), isLatin ? "" : "UTF8");
+    }
+}
+
+TEST_F(SavePhotoTest, IptcTextsInAnotherEncodingStayWhatTheyAreWhereOthersGo)
+{
+    const Path path = photo("jpg");
+    const std::vector<std::string> tags{"IPTC:City=Köln", "IPTC:Keywords=Grün", "IPTC:By-line=Zoë",
+                                        "EXIF:DateTimeOriginal=2024:01:31 01:30:00", "IPTC:DateCreated=2024:01:31"};
+    write(path, tags);
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "IPTC:City"), "Köln");
+    for (const std::string author : {"", "Жук"}) {
+        write(path, tags);
+        Edits edits;
+        edits.removesPersonalData = true;
+        if (!author.empty())
+            edits.texts = {{Field::Author, author}, {Field::Title, "Neu"}};
+        ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:Keywords"), "Grün");
+        EXPECT_EQ(tag(path, "IPTC:City"), "");
+        EXPECT_EQ(tag(path, "IPTC:By-line"), author);
+    }
+}
+
 TEST_F(SavePhotoTest, WordsThatExifToolPrintsAsNoTextAreWritten)
 {
     const Path path = photo("jpg");
