@@ -13,6 +13,11 @@ namespace MenuExtension::Exif {
 namespace {
 
 constexpr std::string_view set = "=";
+constexpr std::size_t lengthOfDay = std::string_view("2024:02:29").size();
+
+/// What Exif has of a date besides the date.
+constexpr std::array<std::string_view, 2> fractions{"SubSecTimeOriginal", "SubSecTimeDigitized"};
+constexpr std::array<std::string_view, 2> zones{"OffsetTimeOriginal", "OffsetTimeDigitized"};
 
 std::string assignment(std::string_view tag, std::string_view sign, std::string_view value)
 {
@@ -54,6 +59,34 @@ void assign(std::vector<std::string>& arguments, Field field, const Tags& tags, 
     }
 }
 
+/// The time zone at its end; empty where there is none.
+std::string_view zoneOf(std::string_view date)
+{
+    constexpr std::size_t length = std::string_view("+02:00").size();
+    const std::string_view end = date.substr(date.size() - std::min(date.size(), length));
+    if (end.size() == length && (end[0] == '+' || end[0] == '-') && end[3] == ':')
+        return end;
+    return date.substr(date.size() - (date.ends_with('Z') ? 1 : 0));
+}
+
+/// Each store keeps its time zone, but for a date that is removed.
+void assignDate(std::vector<std::string>& arguments, const Tags& tags, const std::string& date)
+{
+    for (const Store& store : storesOf(Field::Date)) {
+        const std::string* const value = tags.find(store.key);
+        if (value || (!date.empty() && store.always))
+            arguments.push_back(
+                assignment(store.written, set, date.empty() || !value ? date : date + std::string(zoneOf(*value))));
+    }
+    const auto remove = [&](std::string_view name) {
+        if (tags.find("ExifIFD:" + std::string(name)))
+            arguments.push_back(assignment("EXIF:" + std::string(name), set, {}));
+    };
+    std::ranges::for_each(fractions, remove);
+    if (date.empty())
+        std::ranges::for_each(zones, remove);
+}
+
 void assignPlace(std::vector<std::string>& arguments, const Tags& tags, const std::optional<Place>& place)
 {
     if (!place) {
@@ -93,20 +126,26 @@ std::string durationText(std::chrono::seconds duration)
 
 void shift(std::vector<std::string>& arguments, const Tags& tags, std::chrono::seconds duration)
 {
-    // A date and a time in two tags do not move together.
+    const std::string text = textOf(Field::Date, tags);
+    const auto date = photoTime(text);
+    if (!date)
+        return;
+    const std::string moved = textOf(*date + duration);
+    const bool isWholeDays = (duration % std::chrono::days(1)).count() == 0;
     for (const Store& store : storesOf(Field::Date)) {
-        const std::string* value = tags.find(store.key);
-        const auto time = value && !store.key.starts_with("IPTC:") ? photoTime(*value) : std::nullopt;
-        if (time)
+        const std::string* const value = tags.find(store.key);
+        if (!value)
+            continue;
+        const bool isTime = photoTime(*value).has_value();
+        const bool isDay = isTime && value->size() == lengthOfDay;
+        // A day without its time does not move by less, nor do a date and a time in two tags move together.
+        if (isDay && (text.size() > lengthOfDay || isWholeDays))
+            arguments.push_back(assignment(store.written, set, moved.substr(0, lengthOfDay)));
+        else if (isDay || store.key.starts_with("IPTC:"))
+            arguments.push_back(assignment(store.written, set, moved + std::string(zoneOf(*value))));
+        else if (isTime)
             arguments.push_back(
                 assignment(store.written, duration.count() < 0 ? "-=" : "+=", durationText(duration)));
-    }
-    const auto date = photoTime(textOf(Field::Date, tags));
-    if (date) {
-        for (const Store& store : storesOf(Field::Date)) {
-            if (store.key.starts_with("IPTC:") && tags.find(store.key))
-                arguments.push_back(assignment(store.written, set, textOf(*date + duration)));
-        }
     }
 }
 
@@ -191,6 +230,12 @@ std::vector<std::string> keysFor(const Edits& edits)
         add(Field::Date);
     if (edits.orientation)
         add(Field::Orientation);
+    if (edits.texts.contains(Field::Date)) {
+        for (const auto& names : {fractions, zones}) {
+            for (const std::string_view name : names)
+                keys.push_back("ExifIFD:" + std::string(name));
+        }
+    }
     // What may have to be written anew.
     if (std::ranges::any_of(edits.texts, [](const auto& text) { return !isLatin(text.second); }))
         keys.emplace_back("IPTC:all");
@@ -207,7 +252,11 @@ std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
     }
     for (const auto& [field, value] : edits.texts) {
         // What is there already may go with the rest.
-        if (edits.removesPersonalData || !isMade(field, value, tags))
+        if (!edits.removesPersonalData && isMade(field, value, tags))
+            continue;
+        if (field == Field::Date)
+            assignDate(arguments, tags, value);
+        else
             assign(arguments, field, tags, value);
     }
     if (edits.shift.count() != 0)

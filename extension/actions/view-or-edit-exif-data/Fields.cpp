@@ -114,8 +114,12 @@ std::string textOf(Field field, const Tags& tags)
         return place ? textOf(*place) : "";
     }
     for (const Store& store : storesOf(field)) {
-        if (const std::string* value = tags.find(store.key); value && !value->empty())
-            return *value;
+        const std::string* const value = tags.find(store.key);
+        if (!value || value->empty())
+            continue;
+        // A date and its time are two there.
+        const std::string* const time = store.key == "IPTC:DateCreated" ? tags.find("IPTC:TimeCreated") : nullptr;
+        return time ? *value + ' ' + *time : *value;
     }
     return {};
 }

@@ -307,6 +307,61 @@ TEST_F(SavePhotoTest, MovesEveryDateByADurationInBothDirections)
     EXPECT_EQ(*tags.find("ExifIFD:DateTimeOriginal"), "2022:11:27 00:14:59");
 }
 
+TEST_F(SavePhotoTest, ADayWithoutATimeMovesToo)
+{
+    const Path path = photo("jpg");
+    const std::string key = "XMP-photoshop:DateCreated";
+    write(path, {"EXIF:DateTimeOriginal=2024:01:31 23:30:00", key + "=2024:01:31"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:DateTimeOriginal"), "2024:02:01 00:30:00");
+    EXPECT_EQ(tag(path, key), "2024:02:01");
+
+    const Path alone = photo("jpg", "alone.jpg");
+    write(alone, {key + "=2024:01:31"});
+    ASSERT_EQ(move(alone, 24h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(alone, key), "2024:02:01");
+    ASSERT_EQ(move(alone, -1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(alone, key), "2024:01:31 23:00:00");
+}
+
+TEST_F(SavePhotoTest, ADateKeepsItsTimeZone)
+{
+    for (const bool isAlone : {false, true}) {
+        const Path path = photo("jpg");
+        write(path, {"IPTC:DateCreated=2024:01:31", "IPTC:TimeCreated=23:30:00-03:30"});
+        if (!isAlone)
+            write(path, {"EXIF:DateTimeOriginal=2024:01:31 23:30:00",
+                         "XMP-photoshop:DateCreated=2024:01:31 23:30:00.25-03:30"});
+        ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:DateCreated"), "2024:02:01");
+        EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "00:30:00-03:30");
+        EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"), isAlone ? "" : "2024:02:01 00:30:00.25-03:30");
+        ASSERT_EQ(saveText(path, Field::Date, "2025:06:07 08:09:10"), Kind::None) << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:DateCreated"), "2025:06:07");
+        EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "08:09:10-03:30");
+        EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"),
+                  isAlone ? "2025:06:07 08:09:10" : "2025:06:07 08:09:10-03:30");
+    }
+}
+
+TEST_F(SavePhotoTest, WhatBelongsToADateGoesWithIt)
+{
+    const Path path = photo("jpg");
+    write(path, {"EXIF:DateTimeOriginal=2024:01:31 23:30:00", "EXIF:SubSecTimeOriginal=25",
+                 "EXIF:OffsetTimeOriginal=+02:00", "EXIF:CreateDate=2024:01:31 23:30:00",
+                 "EXIF:SubSecTimeDigitized=25", "EXIF:OffsetTimeDigitized=+02:00"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:SubSecTimeOriginal"), "25");
+    ASSERT_EQ(saveText(path, Field::Date, "2025:06:07 08:09:10"), Kind::None) << lastWords();
+    for (const std::string which : {"Original", "Digitized"}) {
+        EXPECT_EQ(tag(path, "ExifIFD:SubSecTime" + which), "");
+        EXPECT_EQ(tag(path, "ExifIFD:OffsetTime" + which), "+02:00");
+    }
+    ASSERT_EQ(saveText(path, Field::Date, ""), Kind::None) << lastWords();
+    for (const std::string which : {"Original", "Digitized"})
+        EXPECT_EQ(tag(path, "ExifIFD:OffsetTime" + which), "");
+}
+
 TEST_F(SavePhotoTest, ADateThatIsNotThereCannotBeMoved)
 {
     Edits edits;
