@@ -8,14 +8,15 @@ namespace MenuExtension::Exif {
 
 namespace {
 
+// Without its language, XMP's default, a text would be written in the place of its translations.
 constexpr std::array titleStores{
-    Store{"XMP-dc:Title", "XMP-dc:Title", true},
+    Store{"XMP-dc:Title", "XMP-dc:Title-x-default", true},
     Store{"IPTC:ObjectName", "IPTC:ObjectName", false},
     Store{"PNG:Title", "PNG:Title", false},
     Store{"IFD0:XPTitle", "EXIF:XPTitle", false},
 };
 constexpr std::array descriptionStores{
-    Store{"XMP-dc:Description", "XMP-dc:Description", true},
+    Store{"XMP-dc:Description", "XMP-dc:Description-x-default", true},
     Store{"IFD0:ImageDescription", "EXIF:ImageDescription", true},
     Store{"IPTC:Caption-Abstract", "IPTC:Caption-Abstract", false},
     Store{"PNG:Description", "PNG:Description", false},
@@ -26,7 +27,7 @@ constexpr std::array authorStores{
     Store{"IFD0:XPAuthor", "EXIF:XPAuthor", false},
 };
 constexpr std::array copyrightStores{
-    Store{"XMP-dc:Rights", "XMP-dc:Rights", true},
+    Store{"XMP-dc:Rights", "XMP-dc:Rights-x-default", true},
     Store{"IFD0:Copyright", "EXIF:Copyright", true},
     Store{"IPTC:CopyrightNotice", "IPTC:CopyrightNotice", false},
     Store{"PNG:Copyright", "PNG:Copyright", false},

@@ -226,6 +226,26 @@ TEST_F(SavePhotoTest, IptcTextsInAnotherEncodingStayWhatTheyAreWhereOthersGo)
     }
 }
 
+TEST_F(SavePhotoTest, ATextKeepsItsTranslations)
+{
+    for (const auto& [field, key] :
+         {std::pair(Field::Title, "XMP-dc:Title"), std::pair(Field::Description, "XMP-dc:Description"),
+          std::pair(Field::Copyright, "XMP-dc:Rights")}) {
+        for (const bool hasDefault : {true, false}) {
+            const Path path = photo("jpg");
+            const std::string german = std::string(key) + "-de";
+            write(path,
+                  {german + "=deutsch", hasDefault ? std::string(key) + "-x-default=english" : german + "=deutsch"});
+            ASSERT_EQ(saveText(path, field, "new"), Kind::None) << lastWords();
+            EXPECT_EQ(tag(path, key), "new");
+            EXPECT_EQ(tag(path, german), "deutsch") << hasDefault;
+            ASSERT_EQ(saveText(path, field, ""), Kind::None) << lastWords();
+            EXPECT_EQ(text(field, path), "");
+            EXPECT_EQ(tag(path, german), "deutsch") << hasDefault;
+        }
+    }
+}
+
 TEST_F(SavePhotoTest, WordsThatExifToolPrintsAsNoTextAreWritten)
 {
     const Path path = photo("jpg");
