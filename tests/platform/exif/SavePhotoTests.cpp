@@ -586,6 +586,20 @@ TEST_F(SavePhotoTest, TheOriginalIsKeptBesideItWhateverIsThere)
     EXPECT_EQ(Files::read(path.native() + "_original 3"), second);
 }
 
+TEST_F(SavePhotoTest, NoOriginalIsKeptOfAPhotoThatCannotBeReplaced)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser can have another's photo";
+    const Path path = photo("jpg");
+    constexpr uid_t another = 65534;
+    ASSERT_EQ(::chown(path.c_str(), another, another), 0);
+    ASSERT_EQ(::chown(listed().c_str(), another, another), 0);
+    // As folders are that are everybody's.
+    fs::permissions(listed(), fs::perms(01777));
+    EXPECT_EQ(inChild(path, loseRights, {.keepsOriginal = true}), Kind::CannotBeSaved);
+    EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+}
+
 TEST_F(SavePhotoTest, AnOriginalThatIsKeptAlreadyIsKeptOnce)
 {
     const Path path = photo("jpg");
