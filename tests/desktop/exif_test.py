@@ -319,10 +319,12 @@ class Exif(ExifWindow, DesktopTestCase):
             before = file.read()
         self.open(path)
         self.to_edit_page()
-        self.go_to("Date taken")
-        self.hands.type("yesterday")
-        self.save()
-        self.assertTells("The date is to be written as 2026-12-31 23:59:59.")
+        for typed in "yesterday", "2024-02-29 11:30:00 pm":
+            self.go_to("Date taken")
+            self.hands.press("ctrl+a")
+            self.hands.type(typed)
+            self.save()
+            self.assertTells("The date is to be written as 2026-12-31 23:59:59.")
         self.assertReadsWell(self.window)
         with open(path, "rb") as file:
             self.assertEqual(file.read(), before)

@@ -268,7 +268,7 @@ std::optional<Edits> EditForm::edits()
 {
     Edits edits = written();
     if (const auto date = edits.texts.find(Field::Date); date != edits.texts.end() && !date->second.empty()) {
-        const auto time = photoTime(date->second);
+        const auto time = typedTime(date->second);
         if (!time) {
             refuse(m_lines[Field::Date], tr("The date is to be written as 2026-12-31 23:59:59."));
             return std::nullopt;
