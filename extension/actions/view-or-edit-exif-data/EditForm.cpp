@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 namespace MenuExtension::Exif {
 
@@ -221,9 +222,14 @@ void EditForm::showFields(const Merged& merged)
 
 void EditForm::setBusy(bool busy)
 {
+    QWidget* const focused = window()->focusWidget();
+    if (busy && focused && isAncestorOf(focused))
+        m_focused = focused;
     m_fields->setEnabled(!busy);
     m_remove->setEnabled(!busy);
     m_save->setEnabled(!busy);
+    if (!busy && m_focused)
+        std::exchange(m_focused, nullptr)->setFocus();
 }
 
 SaveOptions EditForm::options() const
