@@ -83,6 +83,25 @@ class Exif(ExifWindow, DesktopTestCase):
             self.hands.press("Tab")
             eventually(lambda name=name: self.window.focused().name == name, f"“{name}” to have the keyboard")
 
+    def test_the_keyboard_stays_where_it_was_when_it_has_been_saved(self):
+        path = self.photo()
+        self.open(path)
+        self.to_edit_page()
+        for name in "Title", "Description":
+            self.go_to(name)
+            self.hands.type("one")
+            self.go_to("Save")
+            self.hands.press("space")
+            eventually(lambda name=name: self.tags(path).get(name) == "one", "the photo to be saved")
+            eventually(lambda: self.window.focused() and self.window.focused().name == "Save",
+                       "“Save” to have the keyboard again")
+        self.go_to("Title")
+        self.hands.type("two")
+        self.hands.press("Return")
+        eventually(lambda: "two" in self.tags(path)["Title"], "the photo to be saved")
+        eventually(lambda: self.window.focused() and self.window.focused().name == "Title",
+                   "“Title” to have the keyboard again")
+
     def test_what_became_of_it_is_told_to_those_who_listen(self):
         self.open(self.photo())
         self.to_edit_page()
@@ -319,10 +338,12 @@ class Exif(ExifWindow, DesktopTestCase):
             before = file.read()
         self.open(path)
         self.to_edit_page()
-        self.go_to("Date taken")
-        self.hands.type("yesterday")
-        self.save()
-        self.assertTells("The date is to be written as 2026-12-31 23:59:59.")
+        for typed in "yesterday", "2024-02-29 11:30:00 pm":
+            self.go_to("Date taken")
+            self.hands.press("ctrl+a")
+            self.hands.type(typed)
+            self.save()
+            self.assertTells("The date is to be written as 2026-12-31 23:59:59.")
         self.assertReadsWell(self.window)
         with open(path, "rb") as file:
             self.assertEqual(file.read(), before)

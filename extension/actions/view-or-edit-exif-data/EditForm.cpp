@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 namespace MenuExtension::Exif {
 
@@ -221,9 +222,14 @@ void EditForm::showFields(const Merged& merged)
 
 void EditForm::setBusy(bool busy)
 {
+    QWidget* const focused = window()->focusWidget();
+    if (busy && focused && isAncestorOf(focused))
+        m_focused = focused;
     m_fields->setEnabled(!busy);
     m_remove->setEnabled(!busy);
     m_save->setEnabled(!busy);
+    if (!busy && m_focused)
+        std::exchange(m_focused, nullptr)->setFocus();
 }
 
 SaveOptions EditForm::options() const
@@ -268,7 +274,7 @@ std::optional<Edits> EditForm::edits()
 {
     Edits edits = written();
     if (const auto date = edits.texts.find(Field::Date); date != edits.texts.end() && !date->second.empty()) {
-        const auto time = photoTime(date->second);
+        const auto time = typedTime(date->second);
         if (!time) {
             refuse(m_lines[Field::Date], tr("The date is to be written as 2026-12-31 23:59:59."));
             return std::nullopt;

@@ -29,7 +29,7 @@ public:
 
     /// What the photos say; what was typed and not saved is forgotten.
     void showFields(const Merged& merged);
-    /// While something runs nothing can be typed.
+    /// While something runs nothing can be typed; after that the keyboard is where it was.
     void setBusy(bool busy);
 
     [[nodiscard]] SaveOptions options() const;
@@ -65,6 +65,8 @@ private:
     QPushButton* m_remove;
     QPushButton* m_save;
     QWidget* m_fields;
+    /// What had the keyboard before it was busy.
+    QWidget* m_focused = nullptr;
 };
 
 } // namespace MenuExtension::Exif

@@ -6,26 +6,85 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <strings.h>
 
 namespace MenuExtension::Exif {
 
 namespace {
 
 constexpr std::string_view set = "=";
+constexpr std::size_t lengthOfDay = std::string_view("2024:02:29").size();
+
+/// What Exif has of a date besides the date.
+constexpr std::array<std::string_view, 2> fractions{"SubSecTimeOriginal", "SubSecTimeDigitized"};
+constexpr std::array<std::string_view, 2> zones{"OffsetTimeOriginal", "OffsetTimeDigitized"};
 
 std::string assignment(std::string_view tag, std::string_view sign, std::string_view value)
 {
     return '-' + std::string(tag) + std::string(sign) + escaped(value);
 }
 
-/// One for each store of the field that is always written, or is there.
-void assign(std::vector<std::string>& arguments, Field field, const Tags& tags, std::string_view value)
+/// The authors that a text names, or the one text that it is.
+std::vector<std::string> valuesIn(Field field, std::string_view text)
 {
+    if (field != Field::Author)
+        return {std::string(text)};
+    constexpr std::string_view spaces = " \t\r\n";
+    std::vector<std::string> authors;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(';'), text.size());
+        std::string_view author = text.substr(0, end);
+        author.remove_prefix(std::min(author.find_first_not_of(spaces), author.size()));
+        author = author.substr(0, author.find_last_not_of(spaces) + 1);
+        if (!author.empty())
+            authors.emplace_back(author);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return authors;
+}
+
+/// One for each store of the field that is always written, or is there, and there one for each author.
+void assign(std::vector<std::string>& arguments, Field field, const Tags& tags, std::string_view text)
+{
+    const std::vector<std::string> values = valuesIn(field, text);
+    std::string all;
+    for (const std::string& value : values)
+        all.append(all.empty() ? "" : valueSeparator).append(value);
     for (const Store& store : storesOf(field)) {
         const bool isThere = tags.find(store.key) != nullptr;
-        if (value.empty() ? isThere : isThere || store.always)
+        if (!isThere && (all.empty() || !store.always))
+            continue;
+        for (const std::string& value : store.isList && !all.empty() ? values : std::vector{all})
             arguments.push_back(assignment(store.written, set, value));
     }
+}
+
+/// The time zone at its end; empty where there is none.
+std::string_view zoneOf(std::string_view date)
+{
+    constexpr std::size_t length = std::string_view("+02:00").size();
+    const std::string_view end = date.substr(date.size() - std::min(date.size(), length));
+    if (end.size() == length && (end[0] == '+' || end[0] == '-') && end[3] == ':')
+        return end;
+    return date.substr(date.size() - (date.ends_with('Z') ? 1 : 0));
+}
+
+/// Each store keeps its time zone, but for a date that is removed.
+void assignDate(std::vector<std::string>& arguments, const Tags& tags, const std::string& date)
+{
+    for (const Store& store : storesOf(Field::Date)) {
+        const std::string* const value = tags.find(store.key);
+        if (value || (!date.empty() && store.always))
+            arguments.push_back(
+                assignment(store.written, set, date.empty() || !value ? date : date + std::string(zoneOf(*value))));
+    }
+    const auto remove = [&](std::string_view name) {
+        if (tags.find("ExifIFD:" + std::string(name)))
+            arguments.push_back(assignment("EXIF:" + std::string(name), set, {}));
+    };
+    std::ranges::for_each(fractions, remove);
+    if (date.empty())
+        std::ranges::for_each(zones, remove);
 }
 
 void assignPlace(std::vector<std::string>& arguments, const Tags& tags, const std::optional<Place>& place)
@@ -67,21 +126,62 @@ std::string durationText(std::chrono::seconds duration)
 
 void shift(std::vector<std::string>& arguments, const Tags& tags, std::chrono::seconds duration)
 {
-    // A date and a time in two tags do not move together.
+    const std::string text = textOf(Field::Date, tags);
+    const auto date = photoTime(text);
+    if (!date)
+        return;
+    const std::string moved = textOf(*date + duration);
+    const bool isWholeDays = (duration % std::chrono::days(1)).count() == 0;
     for (const Store& store : storesOf(Field::Date)) {
-        const std::string* value = tags.find(store.key);
-        const auto time = value && !store.key.starts_with("IPTC:") ? photoTime(*value) : std::nullopt;
-        if (time)
+        const std::string* const value = tags.find(store.key);
+        if (!value)
+            continue;
+        const bool isTime = photoTime(*value).has_value();
+        const bool isDay = isTime && value->size() == lengthOfDay;
+        // A day without its time does not move by less, nor do a date and a time in two tags move together.
+        if (isDay && (text.size() > lengthOfDay || isWholeDays))
+            arguments.push_back(assignment(store.written, set, moved.substr(0, lengthOfDay)));
+        else if (isDay || store.key.starts_with("IPTC:"))
+            arguments.push_back(assignment(store.written, set, moved + std::string(zoneOf(*value))));
+        else if (isTime)
             arguments.push_back(
                 assignment(store.written, duration.count() < 0 ? "-=" : "+=", durationText(duration)));
     }
-    const auto date = photoTime(textOf(Field::Date, tags));
-    if (date) {
-        for (const Store& store : storesOf(Field::Date)) {
-            if (store.key.starts_with("IPTC:") && tags.find(store.key))
-                arguments.push_back(assignment(store.written, set, textOf(*date + duration)));
-        }
+}
+
+/// What IPTC has where it does not say that it is UTF-8.
+bool isLatin(std::string_view text)
+{
+    constexpr unsigned char lastOfLatin = 0xc3;
+    return std::ranges::all_of(text, [](char byte) { return static_cast<unsigned char>(byte) <= lastOfLatin; });
+}
+
+bool isIptcText(const Tag& tag)
+{
+    return tag.group == "IPTC" && std::ranges::any_of(tag.value, [](char byte) { return (byte & 0x80) != 0; });
+}
+
+/// Has IPTC become UTF-8 where it is not and has to take other letters. ExifTool leaves the bytes of what is there.
+void encode(std::vector<std::string>& arguments, const Tags& tags)
+{
+    const auto writes = [&](const std::string& option) {
+        return std::ranges::any_of(arguments, [&](const std::string& each) { return each.starts_with(option); });
+    };
+    const bool isNeeded = std::ranges::any_of(
+        arguments, [](const std::string& each) { return each.starts_with("-IPTC:") && !isLatin(each); });
+    const std::string* const encoding = tags.find("IPTC:CodedCharacterSet");
+    if (!isNeeded || (encoding && *encoding == "UTF8"))
+        return;
+    std::vector<std::string> anew;
+    for (const Tag& tag : tags) {
+        const std::string option = "-IPTC:" + tag.name;
+        if (isIptcText(tag) && !writes(option + '='))
+            anew.push_back(option);
     }
+    if (!anew.empty())
+        anew.insert(anew.begin(), {"-TagsFromFile", "@"});
+    arguments.insert(arguments.begin(), anew.begin(), anew.end());
+    arguments.emplace_back("-IPTC:CodedCharacterSet=UTF8");
 }
 
 /// As a file gives it back: without the spaces at its end, on lines that end in one way.
@@ -89,6 +189,11 @@ std::string asRead(std::string text)
 {
     std::erase(text, '\r');
     text.resize(text.find_last_not_of(" \n") + 1);
+    // ExifTool prints these two as no texts, however they are written.
+    for (const char* const word : {"true", "false"}) {
+        if (::strcasecmp(text.c_str(), word) == 0)
+            return word;
+    }
     return text;
 }
 
@@ -105,7 +210,7 @@ bool isMade(Field field, const std::string& wanted, const Tags& after)
         const auto time = photoTime(wanted);
         return time ? photoTime(textOf(field, after)) == time : textOf(field, after).empty();
     }
-    return asRead(textOf(field, after)) == asRead(wanted);
+    return std::ranges::equal(valuesIn(field, textOf(field, after)), valuesIn(field, wanted), {}, asRead, asRead);
 }
 
 } // namespace
@@ -125,6 +230,15 @@ std::vector<std::string> keysFor(const Edits& edits)
         add(Field::Date);
     if (edits.orientation)
         add(Field::Orientation);
+    if (edits.texts.contains(Field::Date)) {
+        for (const auto& names : {fractions, zones}) {
+            for (const std::string_view name : names)
+                keys.push_back("ExifIFD:" + std::string(name));
+        }
+    }
+    // What may have to be written anew.
+    if (std::ranges::any_of(edits.texts, [](const auto& text) { return !isLatin(text.second); }))
+        keys.emplace_back("IPTC:all");
     return keys;
 }
 
@@ -138,7 +252,11 @@ std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
     }
     for (const auto& [field, value] : edits.texts) {
         // What is there already may go with the rest.
-        if (edits.removesPersonalData || !isMade(field, value, tags))
+        if (!edits.removesPersonalData && isMade(field, value, tags))
+            continue;
+        if (field == Field::Date)
+            assignDate(arguments, tags, value);
+        else
             assign(arguments, field, tags, value);
     }
     if (edits.shift.count() != 0)
@@ -149,9 +267,7 @@ std::vector<std::string> argumentsFor(const Edits& edits, const Tags& tags)
                                             !isSame(edits.place->place, placeOf(tags)));
     if (movesPlace)
         assignPlace(arguments, tags, edits.place->place);
-    // Else what is no ASCII is lost there.
-    if (std::ranges::any_of(arguments, [](const std::string& each) { return each.starts_with("-IPTC:"); }))
-        arguments.emplace_back("-IPTC:CodedCharacterSet=UTF8");
+    encode(arguments, tags);
     return arguments;
 }
 
@@ -171,7 +287,15 @@ bool areMade(const Edits& edits, const Tags& before, const Tags& after)
             (kind == Kind::Place && edits.place) || (kind == Kind::People && edits.texts.contains(Field::Author));
         return kind && (goesWithPlace || (edits.removesPersonalData && !isSetAnew));
     });
-    return textsAreMade && isShifted && isTurned && isPlaced && isRemoved;
+    const bool othersStay = std::ranges::all_of(before, [&](const Tag& tag) {
+        const std::string* const value = isIptcText(tag) ? after.find("IPTC:" + tag.name) : nullptr;
+        const bool isEdited = std::ranges::any_of(edits.texts, [&](const auto& text) {
+            return std::ranges::any_of(storesOf(text.first),
+                                       [&](const Store& store) { return matches(store.key, tag); });
+        });
+        return !value || isEdited || *value == tag.value;
+    });
+    return textsAreMade && isShifted && isTurned && isPlaced && isRemoved && othersStay;
 }
 
 } // namespace MenuExtension::Exif

@@ -8,25 +8,26 @@ namespace MenuExtension::Exif {
 
 namespace {
 
+// Without its language, XMP's default, a text would be written in the place of its translations.
 constexpr std::array titleStores{
-    Store{"XMP-dc:Title", "XMP-dc:Title", true},
+    Store{"XMP-dc:Title", "XMP-dc:Title-x-default", true},
     Store{"IPTC:ObjectName", "IPTC:ObjectName", false},
     Store{"PNG:Title", "PNG:Title", false},
     Store{"IFD0:XPTitle", "EXIF:XPTitle", false},
 };
 constexpr std::array descriptionStores{
-    Store{"XMP-dc:Description", "XMP-dc:Description", true},
+    Store{"XMP-dc:Description", "XMP-dc:Description-x-default", true},
     Store{"IFD0:ImageDescription", "EXIF:ImageDescription", true},
     Store{"IPTC:Caption-Abstract", "IPTC:Caption-Abstract", false},
     Store{"PNG:Description", "PNG:Description", false},
 };
 constexpr std::array authorStores{
-    Store{"XMP-dc:Creator", "XMP-dc:Creator", true}, Store{"IFD0:Artist", "EXIF:Artist", true},
-    Store{"IPTC:By-line", "IPTC:By-line", false},    Store{"PNG:Author", "PNG:Author", false},
+    Store{"XMP-dc:Creator", "XMP-dc:Creator", true, true}, Store{"IFD0:Artist", "EXIF:Artist", true},
+    Store{"IPTC:By-line", "IPTC:By-line", false, true},    Store{"PNG:Author", "PNG:Author", false},
     Store{"IFD0:XPAuthor", "EXIF:XPAuthor", false},
 };
 constexpr std::array copyrightStores{
-    Store{"XMP-dc:Rights", "XMP-dc:Rights", true},
+    Store{"XMP-dc:Rights", "XMP-dc:Rights-x-default", true},
     Store{"IFD0:Copyright", "EXIF:Copyright", true},
     Store{"IPTC:CopyrightNotice", "IPTC:CopyrightNotice", false},
     Store{"PNG:Copyright", "PNG:Copyright", false},
@@ -114,8 +115,12 @@ std::string textOf(Field field, const Tags& tags)
         return place ? textOf(*place) : "";
     }
     for (const Store& store : storesOf(field)) {
-        if (const std::string* value = tags.find(store.key); value && !value->empty())
-            return *value;
+        const std::string* const value = tags.find(store.key);
+        if (!value || value->empty())
+            continue;
+        // A date and its time are two there.
+        const std::string* const time = store.key == "IPTC:DateCreated" ? tags.find("IPTC:TimeCreated") : nullptr;
+        return time ? *value + ' ' + *time : *value;
     }
     return {};
 }

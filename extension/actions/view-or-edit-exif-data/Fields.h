@@ -21,6 +21,8 @@ struct Store {
     std::string_view written;
     /// False for one that is kept in step where it is there already.
     bool always;
+    /// Whether each of several values is one of its own there.
+    bool isList = false;
 };
 
 /// Where a field is stored, the one that counts first. A place is more than a text, and has none.

@@ -27,9 +27,8 @@ bool takeOneOf(std::string_view& text, std::string_view characters)
     return true;
 }
 
-} // namespace
-
-std::optional<PhotoTime> photoTime(std::string_view text)
+/// Takes a date, and the time if there is one, from the beginning.
+std::optional<PhotoTime> takeTime(std::string_view& text)
 {
     using namespace std::chrono;
     const auto yearNumber = takeNumber(text, 4);
@@ -52,9 +51,22 @@ std::optional<PhotoTime> photoTime(std::string_view text)
                                                        : std::nullopt;
     if (!second || *hour > 23 || *minute > 59 || *second > 59)
         return std::nullopt;
-    if (!text.empty() && text.find_first_of(".+-Z ") != 0)
-        return std::nullopt;
     return midnight + hours(*hour) + minutes(*minute) + seconds(*second);
+}
+
+} // namespace
+
+std::optional<PhotoTime> photoTime(std::string_view text)
+{
+    const auto time = takeTime(text);
+    const bool isWhole = text.empty() || text.find_first_of(".+-Z ") == 0;
+    return isWhole ? time : std::nullopt;
+}
+
+std::optional<PhotoTime> typedTime(std::string_view text)
+{
+    const auto time = takeTime(text);
+    return text.empty() ? time : std::nullopt;
 }
 
 std::string textOf(PhotoTime time)

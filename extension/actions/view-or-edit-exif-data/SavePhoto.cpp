@@ -82,21 +82,22 @@ bool copyTo(int from, const FileDescriptor& folder, const std::string& name, con
            ::fsync(copy.get()) == 0;
 }
 
-/// Gives it the first name that is free. False, with errno.
-bool nameOriginal(const OpenedFile& photo, const std::function<bool(const char*)>& give)
+/// Gives it the first name that is free, and says which. Nothing, with errno.
+std::optional<std::string> nameOriginal(const OpenedFile& photo, const std::function<bool(const char*)>& give)
 {
     const std::string original = photo.name + std::string(originalSuffix);
     if (give(original.c_str()))
-        return true;
+        return original;
     for (int number = 2; errno == EEXIST; ++number) {
-        if (give((original + ' ' + std::to_string(number)).c_str()))
-            return true;
+        std::string name = original + ' ' + std::to_string(number);
+        if (give(name.c_str()))
+            return name;
     }
-    return false;
+    return std::nullopt;
 }
 
-/// False, with errno.
-bool keepOriginal(const OpenedFile& photo, const struct stat& status)
+/// The name under which it is kept. Nothing, with errno.
+std::optional<std::string> keepOriginal(const OpenedFile& photo, const struct stat& status)
 {
     const int folder = photo.folder.get();
     const auto isPhoto = [&](const char* name) {
@@ -105,18 +106,18 @@ bool keepOriginal(const OpenedFile& photo, const struct stat& status)
                there.st_ino == status.st_ino;
     };
     // A save that did not come to its end may have kept it.
-    if (nameOriginal(photo, [&](const char* name) {
-            return ::linkat(folder, photo.name.c_str(), folder, name, 0) == 0 || (errno == EEXIST && isPhoto(name));
-        }))
-        return true;
-    if (errno != EPERM && errno != EMLINK && !isUnsupported())
-        return false;
+    auto name = nameOriginal(photo, [&](const char* given) {
+        return ::linkat(folder, photo.name.c_str(), folder, given, 0) == 0 || (errno == EEXIST && isPhoto(given));
+    });
+    if (name || (errno != EPERM && errno != EMLINK && !isUnsupported()))
+        return name;
     // A file has one name there.
     const TemporaryName temporary(photo.folder, {});
-    return copyTo(photo.file.get(), photo.folder, temporary.name(), status) &&
-           nameOriginal(photo, [&](const char* name) {
-               return ::renameat2(folder, temporary.name().c_str(), folder, name, RENAME_NOREPLACE) == 0;
-           });
+    if (!copyTo(photo.file.get(), photo.folder, temporary.name(), status))
+        return std::nullopt;
+    return nameOriginal(photo, [&](const char* given) {
+        return ::renameat2(folder, temporary.name().c_str(), folder, given, RENAME_NOREPLACE) == 0;
+    });
 }
 
 /// What can be known before anything is written.
@@ -223,15 +224,24 @@ public:
 
     void place(const SaveOptions& options, const std::stop_token& stop)
     {
-        if (stop.stop_requested())
+        if (stop.stop_requested()) {
             m_trouble = {.kind = Trouble::Kind::Cancelled};
-        else if (!m_photo.isUnchanged())
+            return;
+        }
+        if (!m_photo.isUnchanged()) {
             m_trouble = {.kind = Trouble::Kind::Changed};
-        else if (options.keepsOriginal && !keepOriginal(m_photo, m_status))
+            return;
+        }
+        const int folder = m_photo.folder.get();
+        const auto original = options.keepsOriginal ? keepOriginal(m_photo, m_status) : std::nullopt;
+        if (options.keepsOriginal && !original) {
             m_trouble = {.kind = Trouble::Kind::OriginalCannotBeKept, .error = errno};
-        else if (::renameat(m_photo.folder.get(), m_temporary->name().c_str(), m_photo.folder.get(),
-                            m_photo.name.c_str()) != 0)
+        } else if (::renameat(folder, m_temporary->name().c_str(), folder, m_photo.name.c_str()) != 0) {
             m_trouble = cannotBeSaved();
+            // As in a folder where only its owner may replace a photo.
+            if (original)
+                ::unlinkat(folder, original->c_str(), 0);
+        }
     }
 
     /// Makes the new name durable; `flushed` are the folders of which that has been done.

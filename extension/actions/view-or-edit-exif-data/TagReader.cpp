@@ -155,8 +155,8 @@ std::vector<Reading> TagReader::read(std::span<const Source> sources, const std:
 std::vector<Trouble> TagReader::write(std::span<const Copy> copies, const std::string& folder,
                                       const std::vector<std::string>& changes, const std::stop_token& stop)
 {
-    // Values are escaped; lists are split; what IPTC holds is UTF-8 from now on.
-    std::vector<std::string> arguments{"-E", "-sep", std::string(valueSeparator), "-q", "-o", folder + '/'};
+    // Values are escaped.
+    std::vector<std::string> arguments{"-E", "-q", "-o", folder + '/'};
     arguments.insert(arguments.end(), changes.begin(), changes.end());
     std::vector<Link> links;
     for (const Copy& copy : copies) {

@@ -37,7 +37,8 @@ public:
 
     bool null() { return true; }
     bool boolean(bool value) { return add(value ? "true" : "false"); }
-    bool number_integer(number_integer_t value) { return add(std::to_string(value)); }
+    // One that is not negative comes unsigned, but for "-0".
+    bool number_integer(number_integer_t value) { return add(value == 0 ? "-0" : std::to_string(value)); }
     bool number_unsigned(number_unsigned_t value) { return add(std::to_string(value)); }
     // As it is written: a title may be 1.50.
     bool number_float(number_float_t, string_t text)

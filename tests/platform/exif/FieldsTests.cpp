@@ -31,6 +31,18 @@ TEST(PhotoTime, WhatIsNoTimeIsNone)
         EXPECT_FALSE(photoTime(text)) << text;
 }
 
+TEST(PhotoTime, WhatAPersonTypesIsNothingButATime)
+{
+    for (const char* text : {"2024-02-29 13:05:59", "2024:02:29T13:05:59"})
+        EXPECT_EQ(typedTime(text), photoTime("2024:02:29 13:05:59")) << text;
+    EXPECT_EQ(typedTime("2024-02-29"), photoTime("2024:02:29"));
+    EXPECT_EQ(typedTime("2024-02-29 13:05"), photoTime("2024:02:29 13:05:00"));
+    for (const char* text :
+         {"", "yesterday", "2024-02-29 11:30:00 pm", "2024-02-29 23:59:59 garbage", "2024-02-29 13:05:59+02:00",
+          "2024-02-29 13:05:59Z", "2024-02-29 13:05:59.25", "2024-02-29 13:05 x", "2024-02-29 13:05:59 "})
+        EXPECT_FALSE(typedTime(text)) << text;
+}
+
 TEST(Place, IsReadFromTwoNumbersOnEarth)
 {
     ASSERT_TRUE(placeFrom("48.5, -2.25"));

@@ -52,16 +52,55 @@ protected:
     }
 
     /// Saves in a process that has done something to itself before.
-    [[nodiscard]] Kind inChild(const Path& path, const std::function<void()>& before) const
+    [[nodiscard]] Kind inChild(const Path& path, const std::function<void()>& before,
+                               const SaveOptions& options = {}) const
     {
         const pid_t child = ::fork();
         if (child == 0) {
             before();
-            ::_exit(static_cast<int>(save(path, everything())));
+            ::_exit(static_cast<int>(save(path, everything(), options)));
         }
         int status = 0;
         ::waitpid(child, &status, 0);
         return static_cast<Kind>(WEXITSTATUS(status));
+    }
+
+    /// The superuser may write everywhere otherwise, and so may what it starts.
+    static void loseRights()
+    {
+        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+        std::array<__user_cap_data_struct, 2> none{};
+        ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+        ::syscall(SYS_capset, &header, none.data());
+    }
+
+    /// Has ExifTool itself write tags, "NAME=VALUE" each.
+    static void write(const Path& path, const std::vector<std::string>& tags)
+    {
+        std::string command = "exiftool -q -overwrite_original";
+        for (const std::string& tag : tags)
+            command += " '-" + tag + '\'';
+        ASSERT_EQ(std::system((command + " '" + path.native() + '\'').c_str()), 0);
+    }
+
+    /// Of a tag that is not there, nothing.
+    static std::string valueOf(const Tags& tags, const std::string& key)
+    {
+        const std::string* const value = tags.find(key);
+        return value ? *value : "";
+    }
+    [[nodiscard]] std::string tag(const Path& path, const std::string& key) const
+    {
+        return valueOf(read(path).tags, key);
+    }
+
+    [[nodiscard]] Kind saveText(const Path& path, Field field, const std::string& value) const
+    {
+        return save(path, {.texts = {{field, value}}, .orientation = {}, .place = {}});
+    }
+    [[nodiscard]] Kind move(const Path& path, std::chrono::seconds shift) const
+    {
+        return save(path, {.texts = {}, .shift = shift, .orientation = {}, .place = {}});
     }
 
     static std::string withoutSpacesAround(const std::string& text)
@@ -129,6 +168,93 @@ TEST_F(SavePhotoTest, KeepsTheTextThatIsThereInEveryPlaceInStep)
     EXPECT_EQ(*tags.find("IFD0:ImageDescription"), "second");
     EXPECT_EQ(*tags.find("XMP-dc:Description"), "second");
     EXPECT_EQ(tags.find("IPTC:Caption-Abstract"), nullptr);
+}
+
+TEST_F(SavePhotoTest, AuthorsAreWrittenOneByOneHoweverTheyAreSeparated)
+{
+    for (const std::string authors : {"Ada;Bo", "Ada ;Bo", "Ada;  Bo", "Ada; Bo;", "; Ada; ; Bo"}) {
+        const Path path = photo("jpg");
+        write(path, {"IPTC:By-line=before", "IPTC:Keywords=one; two"});
+        EXPECT_EQ(saveText(path, Field::Author, authors), Kind::None) << authors;
+        const Tags tags = read(path).tags;
+        for (const char* key : {"XMP-dc:Creator", "IFD0:Artist", "IPTC:By-line"})
+            EXPECT_EQ(valueOf(tags, key), "Ada; Bo") << authors << key;
+    }
+}
+
+TEST_F(SavePhotoTest, IptcTextsInAnotherEncodingStayWhatTheyAre)
+{
+    for (const std::string title : {"Neu", "Müller", "Жук"}) {
+        const Path path = photo("jpg");
+        write(path, {"IPTC:City=Köln", "IPTC:Keywords=Grün; x", "IPTC:Keywords=y", "IPTC:ObjectName=alt",
+                     "IPTC:By-line=Zoë", "IPTC:TimeCreated=01:30:00+02:00"});
+        ASSERT_NE(Files::read(path).find("K\xf6ln"), std::string::npos);
+        ASSERT_EQ(
+            save(path,
+                 {.texts = {{Field::Title, title}, {Field::Author, "Émile; Bo"}}, .orientation = {}, .place = {}}),
+            Kind::None)
+            << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:ObjectName"), title);
+        EXPECT_EQ(tag(path, "IPTC:By-line"), "Émile; Bo") << title;
+        EXPECT_EQ(tag(path, "IPTC:City"), "Köln") << title;
+        EXPECT_EQ(tag(path, "IPTC:Keywords"), "Grün; x; y") << title;
+        EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "01:30:00+02:00") << title;
+        const bool isLatin = title != "Жук";
+        EXPECT_NE(Files::read(path).find(isLatin ? "Gr\xfcn; x" : "Grün; x"), std::string::npos) << "is one keyword";
+        EXPECT_EQ(tag(path, "IPTC:CodedCharacterSet"), isLatin ? "" : "UTF8");
+    }
+}
+
+TEST_F(SavePhotoTest, IptcTextsInAnotherEncodingStayWhatTheyAreWhereOthersGo)
+{
+    const Path path = photo("jpg");
+    const std::vector<std::string> tags{"IPTC:City=Köln", "IPTC:Keywords=Grün", "IPTC:By-line=Zoë",
+                                        "EXIF:DateTimeOriginal=2024:01:31 01:30:00", "IPTC:DateCreated=2024:01:31"};
+    write(path, tags);
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "IPTC:City"), "Köln");
+    for (const std::string author : {"", "Жук"}) {
+        write(path, tags);
+        Edits edits;
+        edits.removesPersonalData = true;
+        if (!author.empty())
+            edits.texts = {{Field::Author, author}, {Field::Title, "Neu"}};
+        ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:Keywords"), "Grün");
+        EXPECT_EQ(tag(path, "IPTC:City"), "");
+        EXPECT_EQ(tag(path, "IPTC:By-line"), author);
+    }
+}
+
+TEST_F(SavePhotoTest, ATextKeepsItsTranslations)
+{
+    for (const auto& [field, key] :
+         {std::pair(Field::Title, "XMP-dc:Title"), std::pair(Field::Description, "XMP-dc:Description"),
+          std::pair(Field::Copyright, "XMP-dc:Rights")}) {
+        for (const bool hasDefault : {true, false}) {
+            const Path path = photo("jpg");
+            const std::string german = std::string(key) + "-de";
+            write(path,
+                  {german + "=deutsch", hasDefault ? std::string(key) + "-x-default=english" : german + "=deutsch"});
+            ASSERT_EQ(saveText(path, field, "new"), Kind::None) << lastWords();
+            EXPECT_EQ(tag(path, key), "new");
+            EXPECT_EQ(tag(path, german), "deutsch") << hasDefault;
+            ASSERT_EQ(saveText(path, field, ""), Kind::None) << lastWords();
+            EXPECT_EQ(text(field, path), "");
+            EXPECT_EQ(tag(path, german), "deutsch") << hasDefault;
+        }
+    }
+}
+
+TEST_F(SavePhotoTest, WordsThatExifToolPrintsAsNoTextAreWritten)
+{
+    const Path path = photo("jpg");
+    for (const std::string value : {"True", "FALSE", "-0", "0", "-1"}) {
+        for (const Field field : {Field::Title, Field::Description, Field::Author, Field::Copyright})
+            EXPECT_EQ(saveText(path, field, value), Kind::None) << value;
+        EXPECT_NE(Files::read(path).find('>' + value + '<'), std::string::npos) << value;
+    }
+    EXPECT_EQ(saveText(path, Field::Author, "True; Ada"), Kind::None);
 }
 
 TEST_F(SavePhotoTest, RemovesATextFromEveryPlace)
@@ -199,6 +325,61 @@ TEST_F(SavePhotoTest, MovesEveryDateByADurationInBothDirections)
     ASSERT_EQ(save(path, edits), Kind::None) << lastWords();
     tags = read(path).tags;
     EXPECT_EQ(*tags.find("ExifIFD:DateTimeOriginal"), "2022:11:27 00:14:59");
+}
+
+TEST_F(SavePhotoTest, ADayWithoutATimeMovesToo)
+{
+    const Path path = photo("jpg");
+    const std::string key = "XMP-photoshop:DateCreated";
+    write(path, {"EXIF:DateTimeOriginal=2024:01:31 23:30:00", key + "=2024:01:31"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:DateTimeOriginal"), "2024:02:01 00:30:00");
+    EXPECT_EQ(tag(path, key), "2024:02:01");
+
+    const Path alone = photo("jpg", "alone.jpg");
+    write(alone, {key + "=2024:01:31"});
+    ASSERT_EQ(move(alone, 24h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(alone, key), "2024:02:01");
+    ASSERT_EQ(move(alone, -1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(alone, key), "2024:01:31 23:00:00");
+}
+
+TEST_F(SavePhotoTest, ADateKeepsItsTimeZone)
+{
+    for (const bool isAlone : {false, true}) {
+        const Path path = photo("jpg");
+        write(path, {"IPTC:DateCreated=2024:01:31", "IPTC:TimeCreated=23:30:00-03:30"});
+        if (!isAlone)
+            write(path, {"EXIF:DateTimeOriginal=2024:01:31 23:30:00",
+                         "XMP-photoshop:DateCreated=2024:01:31 23:30:00.25-03:30"});
+        ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:DateCreated"), "2024:02:01");
+        EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "00:30:00-03:30");
+        EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"), isAlone ? "" : "2024:02:01 00:30:00.25-03:30");
+        ASSERT_EQ(saveText(path, Field::Date, "2025:06:07 08:09:10"), Kind::None) << lastWords();
+        EXPECT_EQ(tag(path, "IPTC:DateCreated"), "2025:06:07");
+        EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "08:09:10-03:30");
+        EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"),
+                  isAlone ? "2025:06:07 08:09:10" : "2025:06:07 08:09:10-03:30");
+    }
+}
+
+TEST_F(SavePhotoTest, WhatBelongsToADateGoesWithIt)
+{
+    const Path path = photo("jpg");
+    write(path, {"EXIF:DateTimeOriginal=2024:01:31 23:30:00", "EXIF:SubSecTimeOriginal=25",
+                 "EXIF:OffsetTimeOriginal=+02:00", "EXIF:CreateDate=2024:01:31 23:30:00",
+                 "EXIF:SubSecTimeDigitized=25", "EXIF:OffsetTimeDigitized=+02:00"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:SubSecTimeOriginal"), "25");
+    ASSERT_EQ(saveText(path, Field::Date, "2025:06:07 08:09:10"), Kind::None) << lastWords();
+    for (const std::string which : {"Original", "Digitized"}) {
+        EXPECT_EQ(tag(path, "ExifIFD:SubSecTime" + which), "");
+        EXPECT_EQ(tag(path, "ExifIFD:OffsetTime" + which), "+02:00");
+    }
+    ASSERT_EQ(saveText(path, Field::Date, ""), Kind::None) << lastWords();
+    for (const std::string which : {"Original", "Digitized"})
+        EXPECT_EQ(tag(path, "ExifIFD:OffsetTime" + which), "");
 }
 
 TEST_F(SavePhotoTest, ADateThatIsNotThereCannotBeMoved)
@@ -405,6 +586,20 @@ TEST_F(SavePhotoTest, TheOriginalIsKeptBesideItWhateverIsThere)
     EXPECT_EQ(Files::read(path.native() + "_original 3"), second);
 }
 
+TEST_F(SavePhotoTest, NoOriginalIsKeptOfAPhotoThatCannotBeReplaced)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser can have another's photo";
+    const Path path = photo("jpg");
+    constexpr uid_t another = 65534;
+    ASSERT_EQ(::chown(path.c_str(), another, another), 0);
+    ASSERT_EQ(::chown(listed().c_str(), another, another), 0);
+    // As folders are that are everybody's.
+    fs::permissions(listed(), fs::perms(01777));
+    EXPECT_EQ(inChild(path, loseRights, {.keepsOriginal = true}), Kind::CannotBeSaved);
+    EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+}
+
 TEST_F(SavePhotoTest, AnOriginalThatIsKeptAlreadyIsKeptOnce)
 {
     const Path path = photo("jpg");
@@ -535,13 +730,7 @@ TEST_F(SavePhotoTest, AFolderThatCannotBeWrittenIsToldOf)
     const Path path = photo("jpg");
     const std::string before = Files::read(path);
     fs::permissions(listed(), fs::perms(0500));
-    const Kind kind = inChild(path, [] {
-        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-        std::array<__user_cap_data_struct, 2> none{};
-        // The superuser may write everywhere otherwise, and so may what it starts.
-        ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
-        ::syscall(SYS_capset, &header, none.data());
-    });
+    const Kind kind = inChild(path, loseRights);
     fs::permissions(listed(), fs::perms(0700));
     EXPECT_EQ(kind, Kind::CannotBeSaved);
     EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
