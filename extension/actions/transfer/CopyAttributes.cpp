@@ -22,6 +22,12 @@ bool isImpossible(int error)
            error == E2BIG || error == ERANGE;
 }
 
+/// Said of an attribute too where a file system keeps them in little room; a full disk is met by the bytes.
+bool isTooLarge(int error)
+{
+    return error == ENOSPC || error == EDQUOT || error == E2BIG || error == ERANGE;
+}
+
 } // namespace
 
 bool AttributeCopier::copy(int from, const struct stat& source, int to, const struct stat& made)
@@ -86,9 +92,13 @@ bool AttributeCopier::read(int from, Extended& extended)
 
 bool AttributeCopier::giveExtended(const Extended& extended, int to)
 {
+    m_hadNoRoom = false;
     return std::ranges::all_of(extended, [&](const auto& attribute) {
         const auto& [name, value] = attribute;
-        return m_calls.setAttribute(to, name.c_str(), value.data(), value.size()) == 0 || isImpossible(errno);
+        if (m_calls.setAttribute(to, name.c_str(), value.data(), value.size()) == 0)
+            return true;
+        m_hadNoRoom |= isTooLarge(errno);
+        return isTooLarge(errno) || isImpossible(errno);
     });
 }
 

@@ -103,7 +103,10 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         note(name, error);
         return false;
     }
-    m_copied.add(source, m_folder, name);
+    if (m_attributes.hadNoRoom())
+        noteWithoutAttributes(name);
+    else
+        m_copied.add(source, m_folder, name);
     ++m_progress.files;
     return true;
 }
@@ -182,6 +185,8 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
     // What is in it is whole nevertheless.
     if (!isWhole)
         note(name, errno);
+    if (m_attributes.hadNoRoom())
+        noteWithoutAttributes(name);
     // Nobody knows then what of its files is on the disk.
     if (!flushed(copy.get()))
         m_fatalError = errno;
@@ -245,6 +250,11 @@ void TreeCopier::note(const char* name, int error)
                       : error == ENODEV ? Problem::Kind::IsDevice
                                         : Problem::Kind::NotTransferred;
     m_problems.add({kind, *name == '\0' ? m_path : m_path + '/' + name, error});
+}
+
+void TreeCopier::noteWithoutAttributes(const char* name)
+{
+    m_problems.add({Problem::Kind::WithoutAttributes, m_path + '/' + name});
 }
 
 } // namespace MenuExtension::Transfers

@@ -58,6 +58,7 @@ private:
     void rememberCopy(const struct stat& source, const char* newName);
     [[nodiscard]] bool flushed(int file);
     void note(const char* name, int error);
+    void noteWithoutAttributes(const char* name);
 
     struct Copy {
         std::string path;

@@ -891,6 +891,39 @@ TEST_F(UnusualCopies, AreMadeAnewWhereTheFileChangesOnce)
     EXPECT_FALSE(fs::exists(item));
 }
 
+class CopiesToADisk : public TransferTest {
+protected:
+    CopiesToADisk() : TransferTest(Disks::Two) {}
+};
+
+TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
+{
+    const std::string large(20'000, 'x');
+    const auto hasLarge = [&](const fs::path& item) {
+        return ::setxattr(item.c_str(), "user.large", large.data(), large.size(), 0) == 0;
+    };
+    const fs::path item = file(target() / "folder/1");
+    file(target() / "folder/2");
+    if (!hasLarge(item) || hasLarge(file(source() / "probe")))
+        GTEST_SKIP() << "no disk without room for large attributes";
+    const Tree before = treeOf(target() / "folder");
+    Result result = run(What::Copy, {target() / "folder"}, source());
+    EXPECT_EQ(kindsOf(result), std::vector{Kind::WithoutAttributes});
+    EXPECT_EQ(result.problems.kept()[0].path, item);
+    EXPECT_EQ(namesIn(source() / "folder"), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(contentOf(source() / "folder/1"), "content");
+    EXPECT_EQ(treeOf(target() / "folder"), before);
+
+    fs::remove_all(source() / "folder");
+    const fs::path other = file(target() / "other");
+    result = run(What::Move, {target() / "folder", other}, source());
+    EXPECT_EQ(kindsOf(result), (std::vector{Kind::WithoutAttributes, Kind::NotRemoved}));
+    EXPECT_EQ(result.done, 2U);
+    EXPECT_EQ(namesIn(target() / "folder"), std::vector<std::string>{"1"});
+    EXPECT_EQ(treeOf(target() / "folder").at("/1"), before.at("/1"));
+    EXPECT_FALSE(fs::exists(other));
+}
+
 TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
 {
     file(source() / "folder/old", "old");
