@@ -44,7 +44,8 @@ bool AttributeCopier::give(const struct stat& source, const Extended& extended, 
     if (!giveExtended(extended, to))
         return false;
     // A change of the owner may have taken some of them.
-    if ((hasOwner && mode == (made.st_mode & permissions)) || m_calls.setMode(to, mode) == 0 || isImpossible(errno))
+    if ((hasOwner && mode == (made.st_mode & permissions)) || m_calls.setMode(to, "", mode) == 0 ||
+        isImpossible(errno))
         return copyTimes(source, to, "");
     return false;
 }
@@ -56,6 +57,10 @@ bool AttributeCopier::copyUnopened(const struct stat& source, int folder, const 
     if (m_calls.status(folder, name, made) != 0)
         return false;
     if ((source.st_uid != made.st_uid || source.st_gid != made.st_gid) && !copyOwner(source, folder, name, mode))
+        return false;
+    // A link has none of its own, and what is made anew not all of them.
+    if (!S_ISLNK(source.st_mode) && mode != (made.st_mode & permissions) &&
+        m_calls.setMode(folder, name, mode) != 0 && !isImpossible(errno))
         return false;
     return copyTimes(source, folder, name);
 }

@@ -121,8 +121,8 @@ bool TreeCopier::copyFile(int from, const char* name, int to, const char* newNam
         errno = EBUSY;
         return false;
     }
-    // Nobody else comes into the folder where it is made.
-    FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, source.st_mode & 0777U);
+    // Nobody else comes into the folder where it is made. What its owner cannot write to takes no attributes.
+    FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, (source.st_mode & 0777U) | S_IWUSR);
     if (!made)
         return false;
     if (!fillFile(original, source, made) || !made.close())
@@ -180,7 +180,7 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
     bool isWhole = m_attributes.copy(original.get(), source, copy.get(), made);
     if (isWhole && isOutermost && (mode & S_IWUSR) == 0) {
         m_finalMode = mode;
-        isWhole = m_calls.setMode(copy.get(), mode | S_IWUSR) == 0;
+        isWhole = m_calls.setMode(copy.get(), "", mode | S_IWUSR) == 0;
     }
     // What is in it is whole nevertheless.
     if (!isWhole)

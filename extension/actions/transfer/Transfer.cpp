@@ -365,7 +365,7 @@ void Transfer::placeStaged(std::size_t number)
     }
     if (staged.finalMode) {
         const FileDescriptor folder = m_calls.open(task.target->get(), task.newName.c_str(), O_RDONLY | O_DIRECTORY);
-        if (!folder || m_calls.setMode(folder.get(), *staged.finalMode) != 0)
+        if (!folder || m_calls.setMode(folder.get(), "", *staged.finalMode) != 0)
             m_result.problems.add({Problem::Kind::NotTransferred, task.source->pathOf(task.name), errno});
     }
     m_placed.emplace_back(number, m_journal.size());

@@ -17,15 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Files in memory have them since Linux 6.6.
-bool haveAttributes()
-{
-    std::string path = "/dev/shm/orvik-transfer-XXXXXX";
-    const LinuxDesktop::FileDescriptor file(::mkstemp(path.data()));
-    ::unlink(path.c_str());
-    return ::fsetxattr(file.get(), "user.orvik", "a", 1, 0) == 0;
-}
-
 std::string attributesOf(const fs::path& path)
 {
     std::array<char, 4096> names{};
@@ -67,6 +58,14 @@ std::string described(const fs::path& path, bool withFolderTimes)
 
 } // namespace
 
+bool haveAttributes()
+{
+    std::string path = "/dev/shm/orvik-transfer-XXXXXX";
+    const LinuxDesktop::FileDescriptor file(::mkstemp(path.data()));
+    ::unlink(path.c_str());
+    return ::fsetxattr(file.get(), "user.orvik", "a", 1, 0) == 0;
+}
+
 std::string contentOf(const fs::path& path)
 {
     std::string content(fs::file_size(path), '\0');
@@ -94,6 +93,29 @@ std::vector<std::string> namesIn(const fs::path& folder)
         names.push_back(entry.path().filename());
     std::ranges::sort(names);
     return names;
+}
+
+OrdinaryUser::OrdinaryUser(const std::vector<fs::path>& folders)
+{
+    if (::geteuid() != 0)
+        return;
+    constexpr uid_t nobody = 65534;
+    const auto give = [](const fs::path& item) { EXPECT_EQ(::lchown(item.c_str(), nobody, nobody), 0) << item; };
+    for (const fs::path& folder : folders) {
+        if (folder.empty())
+            continue;
+        give(folder);
+        for (const auto& entry : fs::recursive_directory_iterator(folder))
+            give(entry.path());
+    }
+    EXPECT_EQ(::setegid(nobody), 0);
+    EXPECT_EQ(::seteuid(nobody), 0);
+}
+
+OrdinaryUser::~OrdinaryUser()
+{
+    EXPECT_EQ(::seteuid(::getuid()), 0);
+    EXPECT_EQ(::setegid(::getgid()), 0);
 }
 
 Decision Answers::decide(const Conflict& conflict)

@@ -66,6 +66,26 @@ TEST_P(Transfers, KeepEverythingOfEveryKindOfItem)
     expectNoLeftovers();
 }
 
+TEST_P(Transfers, OfAnOrdinaryUserKeepEverythingToo)
+{
+    const fs::path item = file(source() / "all/read-only");
+    fs::permissions(item, fs::perms(0444));
+    if (haveAttributes()) {
+        EXPECT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
+    }
+    // More than a new one gets.
+    for (const mode_t kind : {S_IFIFO, S_IFSOCK}) {
+        const fs::path node = source() / "all" / std::to_string(kind);
+        EXPECT_EQ(::mknod(node.c_str(), kind | 0600U, 0), 0);
+        fs::permissions(node, fs::perms(0666));
+    }
+    const OrdinaryUser user = becomeOrdinaryUser();
+    const Tree before = treeOf(source() / "all");
+    expectDone(run({source() / "all"}));
+    EXPECT_EQ(treeOf(target() / "all"), before);
+    expectAtSource(source() / "all", !isMove());
+}
+
 TEST_P(Transfers, CanBeUndone)
 {
     makeEveryKind(source() / "all");
