@@ -38,6 +38,14 @@ bool isFatal(int error)
     return error == ENOSPC || error == EDQUOT || error == EROFS || error == ECANCELED;
 }
 
+/// Whether an item is a link to the existing one, in whose place it would lead to itself.
+bool isLinkTo(const struct stat& existing, const Folder& folder, const std::string& name, const struct stat& status)
+{
+    struct stat reached = {};
+    return S_ISLNK(status.st_mode) && ::fstatat(folder.get(), name.c_str(), &reached, 0) == 0 &&
+           identityOf(reached) == identityOf(existing);
+}
+
 SharedPath shared(SharedPath& last, const std::string& path)
 {
     if (!last || *last != path)
@@ -195,7 +203,8 @@ void Transfer::transfer(Task task)
 bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
 {
     Conflict conflict{.source = {task.source->pathOf(task.name), task.status},
-                      .target = {task.target->pathOf(task.newName), existing}};
+                      .target = {task.target->pathOf(task.newName), existing},
+                      .canReplace = !isLinkTo(existing, *task.source, task.name, task.status)};
     const bool wasFolder = S_ISDIR(existing.st_mode);
     const bool isFolder = S_ISDIR(task.status.st_mode);
     if (wasFolder) {
@@ -204,7 +213,7 @@ bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
             return false;
         }
         const auto above = foldersAbove(m_calls, task.source->get());
-        conflict.canReplace = std::ranges::find(above, identityOf(existing)) == above.end();
+        conflict.canReplace &= std::ranges::find(above, identityOf(existing)) == above.end();
         conflict.canMerge = canMerge && isFolder && conflict.canReplace;
     }
     auto& forAll = m_forAll.at(isFolder != wasFolder ? 2 : isFolder ? 1 : 0);

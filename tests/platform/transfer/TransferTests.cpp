@@ -411,6 +411,27 @@ TEST_P(Transfers, DoNotReplaceTheFolderThatTheItemLiesIn)
     expectAtSource(item, !isMove());
 }
 
+TEST_P(Transfers, DoNotReplaceWhatTheLinkLeadsTo)
+{
+    file(target() / "file", "old");
+    file(target() / "folder/file", "old");
+    fs::create_symlink("file", target() / "first link");
+    fs::create_symlink(target() / "first link", source() / "file");
+    fs::create_symlink(target() / "folder", source() / "folder");
+    fs::create_symlink("nowhere", source() / "another");
+    file(target() / "another");
+    std::map<std::string, bool> canReplace;
+    answers.each = [&](const Conflict& conflict) {
+        canReplace[fs::path(conflict.source.path).filename()] = conflict.canReplace;
+        return Decision{conflict.canReplace ? Resolution::Replace : Resolution::KeepBoth, true};
+    };
+    expectDone(run({source() / "another", source() / "file", source() / "folder"}), 3);
+    EXPECT_EQ(canReplace, (std::map<std::string, bool>{{"another", true}, {"file", false}, {"folder", false}}));
+    EXPECT_EQ(contentOf(target() / "file"), "old");
+    EXPECT_EQ(contentOf(target() / "file 2"), "old");
+    EXPECT_EQ(contentOf(target() / "folder 2/file"), "old");
+}
+
 TEST_P(Transfers, RefuseAFolderIntoItself)
 {
     const fs::path item = folder(source() / "outer/inner").parent_path();
