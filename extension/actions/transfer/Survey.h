@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <sys/vfs.h>
+#include <unistd.h>
 #include <vector>
 
 namespace MenuExtension::Transfers {
@@ -42,6 +43,9 @@ private:
 /// The folder and those above it, innermost first.
 [[nodiscard]] std::vector<Identity> foldersAbove(SystemCalls& calls, int folder);
 
+/// Whether only another user may take the item away from the folder, since everybody may write to that.
+[[nodiscard]] bool isAnothers(const struct stat& item, const struct stat& folder);
+
 /// Counts what an item holds, which it tells as it goes, and looks whether the target can take it. What it finds
 /// wrong it adds to `problems`.
 class Survey {
@@ -50,7 +54,7 @@ public:
         : m_calls(calls), m_progress(progress), m_target(target), m_isMove(isMove), m_problems(problems)
     {}
 
-    /// False where nothing of it is to be transferred.
+    /// False where nothing of it is to be transferred. Whether it may leave the folder itself is not looked at.
     [[nodiscard]] bool look(const Folder& folder, const std::string& name);
 
     /// Folders are some too.
@@ -59,14 +63,16 @@ public:
     [[nodiscard]] std::uint64_t room() const { return m_room; }
 
 private:
-    void lookAt(int folder, const char* name);
-    void lookAtFolder(int folder, const char* name);
+    void lookAt(int folder, const struct stat& folderStatus, const char* name);
+    void lookAtFile(int folder, const char* name, const struct stat& status);
+    void lookAtFolder(int folder, const char* name, const struct stat& status);
     void refuse(Problem::Kind kind, const char* name, int error = 0);
 
     SystemCalls& m_calls;
     Progress& m_progress;
     const Target& m_target;
     const bool m_isMove;
+    const uid_t m_user = ::geteuid();
     Problems& m_problems;
     std::string m_path;
     std::size_t m_depth = 0;

@@ -160,6 +160,9 @@ bool Transfer::lookAtItem(const Order::Item& item, Survey& survey, std::uint64_t
         return refuse(Problem::Kind::NameTooLong);
     if (m_isMove && ::faccessat(folder->get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
         return refuse(Problem::Kind::CannotLeave, errno);
+    struct stat folderStatus = {};
+    if (m_isMove && m_calls.status(folder->get(), "", folderStatus) == 0 && isAnothers(status, folderStatus))
+        return refuse(Problem::Kind::CannotLeave, EPERM);
     if (m_isMove && folder->identity.device == m_target->folder()->identity.device &&
         folder->mount == m_target->folder()->mount) {
         ++m_progress.totalFiles;

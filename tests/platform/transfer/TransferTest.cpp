@@ -100,7 +100,13 @@ OrdinaryUser::OrdinaryUser(const std::vector<fs::path>& folders)
     if (::geteuid() != 0)
         return;
     constexpr uid_t nobody = 65534;
-    const auto give = [](const fs::path& item) { EXPECT_EQ(::lchown(item.c_str(), nobody, nobody), 0) << item; };
+    const auto give = [](const fs::path& item) {
+        struct stat status = {};
+        EXPECT_EQ(::lstat(item.c_str(), &status), 0) << item;
+        if (status.st_uid == 0) {
+            EXPECT_EQ(::lchown(item.c_str(), nobody, nobody), 0) << item;
+        }
+    };
     for (const fs::path& folder : folders) {
         if (folder.empty())
             continue;

@@ -24,7 +24,8 @@ using Tree = std::map<std::string, std::string>;
 /// The names in a folder, hidden ones too, sorted.
 [[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path& folder);
 
-/// Root may do everything; while this lives the process is another user, when it was root, and owns `folders`.
+/// Root may do everything; while this lives the process is another user, when it was root, and owns `folders` but for
+/// what is somebody else's already.
 class OrdinaryUser {
 public:
     explicit OrdinaryUser(const std::vector<std::filesystem::path>& folders);

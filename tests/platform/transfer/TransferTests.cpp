@@ -464,6 +464,56 @@ TEST_P(Transfers, SayBeforeAnythingIsWrittenWhatCannotBeDone)
     EXPECT_EQ(namesIn(inner), std::vector<std::string>{"good"});
 }
 
+TEST_P(Transfers, SayBeforeAnythingIsWrittenWhatCannotBeRead)
+{
+    const fs::path secret = file(source() / "folder/secret");
+    fs::permissions(secret, fs::perms(0));
+    file(source() / "folder/file");
+    const OrdinaryUser user = becomeOrdinaryUser();
+    if (isMove() && !isBetweenTwo()) {
+        expectDone(run({source() / "folder"}));
+        return;
+    }
+    answers.goesOn = false;
+    EXPECT_TRUE(run({source() / "folder"}).isCancelled);
+    ASSERT_EQ(answers.told.size(), 1U);
+    EXPECT_EQ(answers.told[0].kind, Kind::SourceUnusable);
+    EXPECT_EQ(answers.told[0].path, secret);
+    EXPECT_EQ(answers.told[0].error, EACCES);
+    EXPECT_EQ(namesIn(source() / "folder").size(), 2U);
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+
+    progress.cancelled = false;
+    EXPECT_TRUE(run({secret}).isRefused);
+}
+
+TEST_P(Transfers, SayBeforeAnythingIsWrittenWhatIsHeldForItsOwner)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can be somebody else";
+    constexpr uid_t another = 65533;
+    const fs::path shared = folder(source() / "folder/shared");
+    const fs::path others = file(shared / "theirs");
+    const fs::path own = file(shared / "own");
+    for (const fs::path& item : {shared, others})
+        ASSERT_EQ(::chown(item.c_str(), another, another), 0);
+    fs::permissions(shared, fs::perms(01777));
+    const OrdinaryUser user = becomeOrdinaryUser();
+    const Result result = run({others, own});
+    EXPECT_EQ(result.done, isMove() ? 1U : 2U);
+    expectAtSource(others, true);
+    expectAtSource(own, !isMove());
+    ASSERT_EQ(answers.told.size(), isMove() ? 1U : 0U);
+    if (isMove()) {
+        EXPECT_EQ(answers.told[0].kind, Kind::CannotLeave);
+        EXPECT_EQ(answers.told[0].path, others);
+    }
+
+    EXPECT_EQ(run({source() / "folder"}).isRefused, isMove() && isBetweenTwo());
+    EXPECT_EQ(fs::exists(target() / "folder"), !isMove() || !isBetweenTwo());
+    expectAtSource(others, !isMove() || isBetweenTwo());
+}
+
 TEST_P(Transfers, RefuseATargetThatIsNoFolder)
 {
     const fs::path item = file(source() / "item");
