@@ -234,12 +234,17 @@ Result TransferTest::run(What what, const std::vector<fs::path>& items, const st
 
 Result TransferTest::undo()
 {
-    const auto moveToTrash = [this](const std::string& path) {
-        if (!trashTrouble) {
-            trashed.push_back(path);
-            EXPECT_GT(fs::remove_all(path), 0U);
-        }
-        return trashTrouble;
+    const auto moveToTrash = [this](const std::string& path) -> std::optional<std::string> {
+        if (trashTrouble)
+            return trashTrouble;
+        const fs::path place = folder(trash()) / std::to_string(trashed.size());
+        std::error_code error;
+        fs::remove_all(place);
+        fs::rename(path, place, error);
+        if (error)
+            return error.message();
+        trashed.push_back(path);
+        return std::nullopt;
     };
     return m_transfer->undo(moveToTrash);
 }

@@ -68,6 +68,8 @@ protected:
     [[nodiscard]] const Path& source() const { return m_source; }
     [[nodiscard]] const Path& target() const { return m_target; }
     [[nodiscard]] const Path& records() const { return m_records; }
+    /// Where what has gone to it lies by numbers.
+    [[nodiscard]] Path trash() const { return m_target.parent_path() / "trash"; }
 
     /// Makes a file, with the folders above it.
     static Path file(const Path& path, const std::string& content = "content");

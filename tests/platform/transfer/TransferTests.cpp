@@ -682,6 +682,23 @@ TEST_F(Moves, KeepWhatTheyReplacedWhereItCannotComeBack)
     EXPECT_EQ(contentOf(target() / "name 2"), "old");
 }
 
+TEST_F(Copies, OfWriteProtectedFoldersCanBeUndone)
+{
+    const fs::path item = file(source() / "folder/file").parent_path();
+    fs::permissions(item, fs::perms(0555));
+    const OrdinaryUser user = becomeOrdinaryUser();
+    EXPECT_EQ(run(What::Copy, {item}).done, 1U);
+    trashTrouble = "no trash here";
+    EXPECT_EQ(kindsOf(undo()), std::vector{Kind::NotTrashed});
+    EXPECT_EQ(fs::status(target() / "folder").permissions(), fs::perms(0555));
+
+    EXPECT_EQ(run(What::Copy, {item}, folder(target() / "other")).done, 1U);
+    trashTrouble.reset();
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(namesIn(target() / "other"), std::vector<std::string>{});
+    EXPECT_EQ(contentOf(trash() / "0/file"), "content");
+}
+
 TEST_F(Copies, ThatTheTrashDoesNotTakeStay)
 {
     run(What::Copy, {file(source() / "item")});
