@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <unordered_set>
 #include <utility>
 
 namespace MenuExtension::Transfers {
@@ -53,7 +54,31 @@ SharedPath shared(SharedPath& last, const std::string& path)
     return last;
 }
 
+/// Whether it lies in a folder that is one of the items. What a link leads to stays.
+bool goesWithAnother(const std::string& path, const std::unordered_set<std::string_view>& items)
+{
+    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1)) {
+        const std::string above = path.substr(0, end);
+        struct stat status = {};
+        if (items.contains(above) && ::lstat(above.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
+
+std::vector<std::string> outermost(const std::vector<std::string>& paths)
+{
+    const std::unordered_set<std::string_view> items(paths.begin(), paths.end());
+    std::unordered_set<std::string_view> met;
+    std::vector<std::string> outer;
+    for (const std::string& path : paths) {
+        if (met.insert(path).second && !goesWithAnother(path, items))
+            outer.push_back(path);
+    }
+    return outer;
+}
 
 Transfer::Transfer(SystemCalls& calls, StagingRecord& record, OpenFolderOf openFolderOf, Progress& progress,
                    Asked& asked)

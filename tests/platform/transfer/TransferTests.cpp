@@ -615,6 +615,24 @@ TEST_P(Transfers, TakeAPersonsOwnItemsOfASimilarName)
     expectAtSource(source() / "album", !isMove());
 }
 
+class Orders : public TransferTest {};
+
+TEST_F(Orders, AreOfTheOutermostItems)
+{
+    const fs::path item = file(source() / "folder/below/inner");
+    file(source() / "folder 2");
+    fs::create_directory_symlink(source() / "folder", source() / "link");
+    const auto pathsOf = [&](const std::vector<std::string>& names) {
+        std::vector<std::string> paths;
+        for (const std::string& name : names)
+            paths.push_back(source() / name);
+        return paths;
+    };
+    EXPECT_EQ(outermost(pathsOf({"folder/below/inner", "folder 2", "folder", "folder/below", "folder"})),
+              pathsOf({"folder 2", "folder"}));
+    EXPECT_EQ(outermost(pathsOf({"link", "link/below/inner"})), pathsOf({"link", "link/below/inner"}));
+}
+
 class Copies : public TransferTest {};
 
 TEST_F(Copies, WithinTheSameFolderHaveAnotherName)
