@@ -100,6 +100,10 @@ bool removeTree(SystemCalls& calls, int folder, const char* name)
 
 bool removeCopied(SystemCalls& calls, const Folder& folder, const std::string& name, Stamps& copied)
 {
+    // It may have another name by now.
+    struct stat status = {};
+    if (calls.status(folder.get(), name.c_str(), status) != 0)
+        return false;
     TreeRemover remover(calls, &copied);
     remover.remove(folder.get(), folder.identity.file, name.c_str());
     return result(remover);

@@ -1075,6 +1075,18 @@ TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
     EXPECT_FALSE(fs::exists(target() / "folder"));
 }
 
+TEST_F(UnusualCopies, AreNoMovesOfWhatHasAnotherNameMeanwhile)
+{
+    file(source() / "folder/file");
+    unusual.changeStatus = [&](const std::string&, struct stat&) {
+        if (fs::exists(target() / "folder") && fs::exists(source() / "folder"))
+            fs::rename(source() / "folder", source() / "renamed");
+    };
+    EXPECT_EQ(kindsOf(run(What::Move, {source() / "folder"})), std::vector{Kind::NotRemoved});
+    EXPECT_EQ(contentOf(source() / "renamed/file"), "content");
+    EXPECT_EQ(contentOf(target() / "folder/file"), "content");
+}
+
 TEST_F(UnusualCopies, EndSoonWhenTheyAreCancelled)
 {
     file(source() / "folder/one", Files::noise(700'000));
