@@ -2831,6 +2831,10 @@
         <source>%1 was not put back.</source>
         <translation>لم يُعَد %1 إلى مكانه.</translation>
     </message>
+    <message>
+        <source>%1 was copied without some of its extended attributes: the disk has no room for them.</source>
+        <translation>نُسخ %1 من دون بعض سماته الموسّعة: لا مكان لها على القرص.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

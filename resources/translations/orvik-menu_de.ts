@@ -2719,6 +2719,10 @@
         <source>%1 was not put back.</source>
         <translation>%1 wurde nicht zurückgelegt.</translation>
     </message>
+    <message>
+        <source>%1 was copied without some of its extended attributes: the disk has no room for them.</source>
+        <translation>%1 wurde ohne einige seiner erweiterten Attribute kopiert: Der Datenträger hat keinen Platz dafür.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

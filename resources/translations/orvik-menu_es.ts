@@ -2719,6 +2719,10 @@
         <source>%1 was not put back.</source>
         <translation>%1 no se ha devuelto a su lugar.</translation>
     </message>
+    <message>
+        <source>%1 was copied without some of its extended attributes: the disk has no room for them.</source>
+        <translation>Se copió %1 sin algunos de sus atributos extendidos: el disco no tiene espacio para ellos.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

@@ -2719,6 +2719,10 @@
         <source>%1 was not put back.</source>
         <translation>%1 n’a pas été remis en place.</translation>
     </message>
+    <message>
+        <source>%1 was copied without some of its extended attributes: the disk has no room for them.</source>
+        <translation>%1 a été copié sans certains de ses attributs étendus&#xa0;: le disque n’a pas de place pour eux.</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

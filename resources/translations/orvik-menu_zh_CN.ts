@@ -2691,6 +2691,10 @@
         <source>%1 was not put back.</source>
         <translation>%1未放回原处。</translation>
     </message>
+    <message>
+        <source>%1 was copied without some of its extended attributes: the disk has no room for them.</source>
+        <translation>已复制%1，但缺少部分扩展属性：磁盘上没有存放它们的空间。</translation>
+    </message>
 </context>
 <context>
     <name>TroubleWords</name>

@@ -37,6 +37,14 @@ class MoveAndCopy(TransferTestCase):
         self.assertEqual(self.contents(), before)
         self.assertEqual(self.notifications.shown(), [])
 
+    def test_what_lies_in_another_item_goes_with_it(self):
+        self.start()
+        inner, folder = self.make("from/folder/inner"), os.path.join(self.home.files, "from/folder")
+        self.run_action(MOVE, folder, inner, folder)
+        told = self.notifications.only()
+        self.assertEqual(told["words"], "“folder” was moved to “to”.")
+        self.assertEqual(self.contents(), {"to/folder/inner": b"new"})
+
     def test_a_copy_that_is_undone_goes_to_the_trash(self):
         self.start()
         path = self.make("from/one")

@@ -22,6 +22,12 @@ bool isImpossible(int error)
            error == E2BIG || error == ERANGE;
 }
 
+/// Said of an attribute too where a file system keeps them in little room; a full disk is met by the bytes.
+bool isTooLarge(int error)
+{
+    return error == ENOSPC || error == EDQUOT || error == E2BIG || error == ERANGE;
+}
+
 } // namespace
 
 bool AttributeCopier::copy(int from, const struct stat& source, int to, const struct stat& made)
@@ -38,7 +44,8 @@ bool AttributeCopier::give(const struct stat& source, const Extended& extended, 
     if (!giveExtended(extended, to))
         return false;
     // A change of the owner may have taken some of them.
-    if ((hasOwner && mode == (made.st_mode & permissions)) || m_calls.setMode(to, mode) == 0 || isImpossible(errno))
+    if ((hasOwner && mode == (made.st_mode & permissions)) || m_calls.setMode(to, "", mode) == 0 ||
+        isImpossible(errno))
         return copyTimes(source, to, "");
     return false;
 }
@@ -50,6 +57,10 @@ bool AttributeCopier::copyUnopened(const struct stat& source, int folder, const 
     if (m_calls.status(folder, name, made) != 0)
         return false;
     if ((source.st_uid != made.st_uid || source.st_gid != made.st_gid) && !copyOwner(source, folder, name, mode))
+        return false;
+    // A link has none of its own, and what is made anew not all of them.
+    if (!S_ISLNK(source.st_mode) && mode != (made.st_mode & permissions) &&
+        m_calls.setMode(folder, name, mode) != 0 && !isImpossible(errno))
         return false;
     return copyTimes(source, folder, name);
 }
@@ -86,9 +97,13 @@ bool AttributeCopier::read(int from, Extended& extended)
 
 bool AttributeCopier::giveExtended(const Extended& extended, int to)
 {
+    m_hadNoRoom = false;
     return std::ranges::all_of(extended, [&](const auto& attribute) {
         const auto& [name, value] = attribute;
-        return m_calls.setAttribute(to, name.c_str(), value.data(), value.size()) == 0 || isImpossible(errno);
+        if (m_calls.setAttribute(to, name.c_str(), value.data(), value.size()) == 0)
+            return true;
+        m_hadNoRoom |= isTooLarge(errno);
+        return isTooLarge(errno) || isImpossible(errno);
     });
 }
 

@@ -90,7 +90,10 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         note(name, error);
         return false;
     }
-    m_copied.add(source, m_folder, name);
+    if (m_attributes.hadNoRoom())
+        noteWithoutAttributes(name);
+    else
+        m_copied.add(source, m_folder, name);
     ++m_progress.files;
     return true;
 }
@@ -105,8 +108,8 @@ bool TreeCopier::copyFile(int from, const char* name, int to, const char* newNam
         errno = EBUSY;
         return false;
     }
-    // Nobody else comes into the folder where it is made.
-    FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, source.st_mode & 0777U);
+    // Nobody else comes into the folder where it is made. What its owner cannot write to takes no attributes.
+    FileDescriptor made = m_calls.open(to, newName, O_RDWR | O_CREAT | O_EXCL, (source.st_mode & 0777U) | S_IWUSR);
     if (!made)
         return false;
     struct stat copy = {};
@@ -169,11 +172,13 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
     bool isWhole = m_attributes.copy(original.get(), source, copy.get(), made);
     if (isWhole && isOutermost && (mode & S_IWUSR) == 0) {
         m_finalMode = mode;
-        isWhole = m_calls.setMode(copy.get(), mode | S_IWUSR) == 0;
+        isWhole = m_calls.setMode(copy.get(), "", mode | S_IWUSR) == 0;
     }
     // What is in it is whole nevertheless.
     if (!isWhole)
         note(name, errno);
+    if (m_attributes.hadNoRoom())
+        noteWithoutAttributes(name);
     // Nobody knows then what of its files is on the disk.
     if (!flushed(copy.get()))
         m_fatalError = errno;
@@ -253,6 +258,11 @@ void TreeCopier::note(const char* name, int error)
                       : error == ENODEV ? Problem::Kind::IsDevice
                                         : Problem::Kind::NotTransferred;
     m_problems.add({kind, *name == '\0' ? m_path : m_path + '/' + name, error});
+}
+
+void TreeCopier::noteWithoutAttributes(const char* name)
+{
+    m_problems.add({Problem::Kind::WithoutAttributes, m_path + '/' + name});
 }
 
 } // namespace MenuExtension::Transfers

@@ -64,6 +64,7 @@ private:
     void rememberCopy(const struct stat& source, const char* name, const struct stat& copy);
     [[nodiscard]] bool flushed(int file);
     void note(const char* name, int error);
+    void noteWithoutAttributes(const char* name);
 
     /// A size, and when it was changed last.
     using Version = std::tuple<off_t, time_t, long>;

@@ -30,6 +30,8 @@ struct Problem {
         Changed,
         /// The error says why.
         NotTransferred,
+        /// It was copied, but the target has no room for all its extended attributes. The original of a file stays.
+        WithoutAttributes,
         /// It was copied, but the original, or a part of it, is still there.
         NotRemoved,
         /// It is not where it was put any more, or the error says why.

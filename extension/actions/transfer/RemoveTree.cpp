@@ -63,11 +63,11 @@ private:
     LinuxDesktop::FileDescriptor withAllRights(int folder, const char* name, LinuxDesktop::FileDescriptor opened)
     {
         if (opened) {
-            static_cast<void>(m_calls.setMode(opened.get(), S_IRWXU));
+            static_cast<void>(m_calls.setMode(opened.get(), "", S_IRWXU));
             return opened;
         }
         // Its owner may not even open it.
-        if (::fchmodat(folder, name, S_IRWXU, 0) != 0)
+        if (m_calls.setMode(folder, name, S_IRWXU) != 0)
             return {};
         return m_calls.open(folder, name, O_RDONLY | O_DIRECTORY);
     }
@@ -100,6 +100,10 @@ bool removeTree(SystemCalls& calls, int folder, const char* name)
 
 bool removeCopied(SystemCalls& calls, const Folder& folder, const std::string& name, Stamps& copied)
 {
+    // It may have another name by now.
+    struct stat status = {};
+    if (calls.status(folder.get(), name.c_str(), status) != 0)
+        return false;
     TreeRemover remover(calls, &copied);
     remover.remove(folder.get(), folder.identity.file, name.c_str());
     return result(remover);

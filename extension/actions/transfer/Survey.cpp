@@ -88,6 +88,12 @@ std::vector<Identity> foldersAbove(SystemCalls& calls, int folder)
     }
 }
 
+bool isAnothers(const struct stat& item, const struct stat& folder)
+{
+    const uid_t user = ::geteuid();
+    return (folder.st_mode & S_ISVTX) != 0 && user != 0 && folder.st_uid != user && item.st_uid != user;
+}
+
 std::optional<Target> Target::open(SystemCalls& calls, const std::string& path)
 {
     Target target;
@@ -165,11 +171,11 @@ bool Survey::look(const Folder& folder, const std::string& name, bool takesRoom)
     m_takesRoom = takesRoom;
     m_path = folder.path == "/" ? std::string() : folder.path;
     m_isPossible = true;
-    lookAt(folder.get(), name.c_str());
+    lookAt(folder.get(), {}, name.c_str());
     return m_isPossible;
 }
 
-void Survey::lookAt(int folder, const char* name)
+void Survey::lookAt(int folder, const struct stat& folderStatus, const char* name)
 {
     struct stat status = {};
     if (m_calls.status(folder, name, status) != 0)
@@ -179,15 +185,26 @@ void Survey::lookAt(int folder, const char* name)
     ++m_files;
     if (std::string_view(name).size() > m_target.longestName())
         return refuse(Problem::Kind::NameTooLong, name);
+    if (m_isMove && isAnothers(status, folderStatus))
+        return refuse(Problem::Kind::CannotLeave, name, EPERM);
     if (S_ISDIR(status.st_mode)) {
-        lookAtFolder(folder, name, status.st_dev);
+        lookAtFolder(folder, name, status);
         return;
     }
     ++m_progress.totalFiles;
     if (S_ISBLK(status.st_mode) || S_ISCHR(status.st_mode))
         return refuse(Problem::Kind::IsDevice, name);
-    if (!S_ISREG(status.st_mode))
-        return;
+    if (S_ISREG(status.st_mode))
+        lookAtFile(folder, name, status);
+}
+
+void Survey::lookAtFile(int folder, const char* name, const struct stat& status)
+{
+    // Of the user's own files it is known without a call.
+    const bool isReadable = (status.st_uid == m_user && (status.st_mode & S_IRUSR) != 0) ||
+                            ::faccessat(folder, name, R_OK, AT_EACCESS) == 0;
+    if (!isReadable)
+        return refuse(Problem::Kind::SourceUnusable, name, errno);
     const auto size = static_cast<std::uint64_t>(status.st_size);
     if (size > m_target.largestFile())
         return refuse(Problem::Kind::TooLarge, name);
@@ -215,12 +232,12 @@ bool Survey::sharesBytes(int folder, dev_t device)
     return m_sharesBytes;
 }
 
-void Survey::lookAtFolder(int folder, const char* name, dev_t device)
+void Survey::lookAtFolder(int folder, const char* name, const struct stat& status)
 {
     const FileDescriptor opened = m_calls.open(folder, name, O_RDONLY | O_DIRECTORY);
     if (!opened)
         return refuse(Problem::Kind::SourceUnusable, name, errno);
-    if (m_takesRoom && !sharesBytes(opened.get(), device))
+    if (m_takesRoom && !sharesBytes(opened.get(), status.st_dev))
         m_room += m_target.roomFor(1);
     const std::size_t length = m_path.size();
     m_path.append("/").append(name);
@@ -231,7 +248,7 @@ void Survey::lookAtFolder(int folder, const char* name, dev_t device)
         if (m_progress.cancelled)
             break;
         isEmpty = false;
-        lookAt(opened.get(), entry);
+        lookAt(opened.get(), status, entry);
     }
     if (entries.error() != 0)
         refuse(Problem::Kind::SourceUnusable, "", entries.error());

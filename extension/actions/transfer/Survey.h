@@ -9,6 +9,7 @@
 #include <set>
 #include <string>
 #include <sys/vfs.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -46,6 +47,9 @@ private:
 /// The folder and those above it, innermost first.
 [[nodiscard]] std::vector<Identity> foldersAbove(SystemCalls& calls, int folder);
 
+/// Whether only another user may take the item away from the folder, since everybody may write to that.
+[[nodiscard]] bool isAnothers(const struct stat& item, const struct stat& folder);
+
 /// Counts what an item holds, which it tells as it goes, and looks whether the target can take it. What it finds
 /// wrong it adds to `problems`.
 class Survey {
@@ -54,7 +58,8 @@ public:
         : m_calls(calls), m_progress(progress), m_target(target), m_isMove(isMove), m_problems(problems)
     {}
 
-    /// False where nothing of it is to be transferred. Where it `takesRoom`, that is added to the room.
+    /// False where nothing of it is to be transferred. Whether it may leave the folder itself is not looked at. Where
+    /// it `takesRoom`, that is added to the room.
     [[nodiscard]] bool look(const Folder& folder, const std::string& name, bool takesRoom);
 
     /// Folders are some too, and a file of several names is one.
@@ -63,8 +68,9 @@ public:
     [[nodiscard]] std::uint64_t room() const { return m_room; }
 
 private:
-    void lookAt(int folder, const char* name);
-    void lookAtFolder(int folder, const char* name, dev_t device);
+    void lookAt(int folder, const struct stat& folderStatus, const char* name);
+    void lookAtFile(int folder, const char* name, const struct stat& status);
+    void lookAtFolder(int folder, const char* name, const struct stat& status);
     [[nodiscard]] bool isKnown(const struct stat& file);
     [[nodiscard]] bool sharesBytes(int folder, dev_t device);
     void refuse(Problem::Kind kind, const char* name, int error = 0);
@@ -73,6 +79,7 @@ private:
     Progress& m_progress;
     const Target& m_target;
     const bool m_isMove;
+    const uid_t m_user = ::geteuid();
     Problems& m_problems;
     std::string m_path;
     std::size_t m_depth = 0;

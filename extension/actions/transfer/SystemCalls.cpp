@@ -133,9 +133,9 @@ int SystemCalls::setOwner(int folder, const char* name, uid_t user, gid_t group)
     return ::fchownat(folder, name, user, group, flagsFor(name));
 }
 
-int SystemCalls::setMode(int file, mode_t mode)
+int SystemCalls::setMode(int folder, const char* name, mode_t mode)
 {
-    return ::fchmod(file, mode);
+    return *name == '\0' ? ::fchmod(folder, mode) : ::fchmodat(folder, name, mode, AT_SYMLINK_NOFOLLOW);
 }
 
 int SystemCalls::setTimes(int folder, const char* name, const std::array<timespec, 2>& times)

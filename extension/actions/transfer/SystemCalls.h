@@ -51,7 +51,7 @@ public:
     [[nodiscard]] virtual int remove(int folder, const char* name, int flags);
 
     [[nodiscard]] virtual int setOwner(int folder, const char* name, uid_t user, gid_t group);
-    [[nodiscard]] virtual int setMode(int file, mode_t mode);
+    [[nodiscard]] virtual int setMode(int folder, const char* name, mode_t mode);
     [[nodiscard]] virtual int setTimes(int folder, const char* name, const std::array<timespec, 2>& times);
     [[nodiscard]] virtual ssize_t listAttributes(int file, char* names, std::size_t size);
     [[nodiscard]] virtual ssize_t attribute(int file, const char* name, void* value, std::size_t size);

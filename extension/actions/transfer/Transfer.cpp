@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <unordered_set>
 #include <utility>
 
 namespace MenuExtension::Transfers {
@@ -38,6 +39,14 @@ bool isFatal(int error)
     return error == ENOSPC || error == EDQUOT || error == EROFS || error == ECANCELED;
 }
 
+/// Whether an item is a link to the existing one, in whose place it would lead to itself.
+bool isLinkTo(const struct stat& existing, const Folder& folder, const std::string& name, const struct stat& status)
+{
+    struct stat reached = {};
+    return S_ISLNK(status.st_mode) && ::fstatat(folder.get(), name.c_str(), &reached, 0) == 0 &&
+           identityOf(reached) == identityOf(existing);
+}
+
 SharedPath shared(SharedPath& last, const std::string& path)
 {
     if (!last || *last != path)
@@ -45,7 +54,31 @@ SharedPath shared(SharedPath& last, const std::string& path)
     return last;
 }
 
+/// Whether it lies in a folder that is one of the items. What a link leads to stays.
+bool goesWithAnother(const std::string& path, const std::unordered_set<std::string_view>& items)
+{
+    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1)) {
+        const std::string above = path.substr(0, end);
+        struct stat status = {};
+        if (items.contains(above) && ::lstat(above.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
+
+std::vector<std::string> outermost(const std::vector<std::string>& paths)
+{
+    const std::unordered_set<std::string_view> items(paths.begin(), paths.end());
+    std::unordered_set<std::string_view> met;
+    std::vector<std::string> outer;
+    for (const std::string& path : paths) {
+        if (met.insert(path).second && !goesWithAnother(path, items))
+            outer.push_back(path);
+    }
+    return outer;
+}
 
 Transfer::Transfer(SystemCalls& calls, StagingRecord& record, OpenFolderOf openFolderOf, Progress& progress,
                    Asked& asked)
@@ -150,6 +183,9 @@ bool Transfer::lookAtItem(const Order::Item& item, Survey& survey)
         return refuse(Problem::Kind::NameTooLong);
     if (m_isMove && ::faccessat(folder->get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
         return refuse(Problem::Kind::CannotLeave, errno);
+    struct stat folderStatus = {};
+    if (m_isMove && m_calls.status(folder->get(), "", folderStatus) == 0 && isAnothers(status, folderStatus))
+        return refuse(Problem::Kind::CannotLeave, EPERM);
     if (m_isMove && canRenameBetween(*folder, *m_target->folder())) {
         ++m_progress.totalFiles;
         return true;
@@ -189,7 +225,8 @@ void Transfer::transfer(Task task)
 bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
 {
     Conflict conflict{.source = {task.source->pathOf(task.name), task.status},
-                      .target = {task.target->pathOf(task.newName), existing}};
+                      .target = {task.target->pathOf(task.newName), existing},
+                      .canReplace = !isLinkTo(existing, *task.source, task.name, task.status)};
     const bool wasFolder = S_ISDIR(existing.st_mode);
     const bool isFolder = S_ISDIR(task.status.st_mode);
     if (wasFolder) {
@@ -198,7 +235,7 @@ bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
             return false;
         }
         const auto above = foldersAbove(m_calls, task.source->get());
-        conflict.canReplace = std::ranges::find(above, identityOf(existing)) == above.end();
+        conflict.canReplace &= std::ranges::find(above, identityOf(existing)) == above.end();
         conflict.canMerge = canMerge && isFolder && conflict.canReplace;
     }
     auto& forAll = m_forAll.at(isFolder != wasFolder ? 2 : isFolder ? 1 : 0);
@@ -359,7 +396,7 @@ void Transfer::placeStaged(std::size_t number)
     }
     if (staged.finalMode) {
         const FileDescriptor folder = m_calls.open(task.target->get(), task.newName.c_str(), O_RDONLY | O_DIRECTORY);
-        if (!folder || m_calls.setMode(folder.get(), *staged.finalMode) != 0)
+        if (!folder || m_calls.setMode(folder.get(), "", *staged.finalMode) != 0)
             m_result.problems.add({Problem::Kind::NotTransferred, task.source->pathOf(task.name), errno});
     }
     *staged.place = {AT_FDCWD, task.target->pathOf(task.newName)};

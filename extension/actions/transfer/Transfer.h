@@ -40,6 +40,9 @@ struct Order {
     std::string target;
 };
 
+/// The paths without those that come twice, and those of items that go with the folder of another.
+[[nodiscard]] std::vector<std::string> outermost(const std::vector<std::string>& paths);
+
 struct Result {
     /// Items of the order that are at the target now, whole or as far as the problems say.
     std::size_t done = 0;

@@ -79,6 +79,20 @@ std::optional<Identity> identityAt(SystemCalls& calls, const std::string& folder
     return identityOf(status);
 }
 
+/// A folder that its owner cannot write to cannot go to another folder. It keeps that right in the trash: it could
+/// not come back from there either.
+std::optional<std::string> trash(SystemCalls& calls, const std::string& path, const MoveToTrash& moveToTrash)
+{
+    struct stat status = {};
+    const bool isChanged = calls.status(AT_FDCWD, path.c_str(), status) == 0 && S_ISDIR(status.st_mode) &&
+                           (status.st_mode & S_IWUSR) == 0 &&
+                           calls.setMode(AT_FDCWD, path.c_str(), (status.st_mode & 07777U) | S_IWUSR) == 0;
+    auto trouble = moveToTrash(path);
+    if (trouble && isChanged)
+        static_cast<void>(calls.setMode(AT_FDCWD, path.c_str(), status.st_mode & 07777U));
+    return trouble;
+}
+
 } // namespace
 
 /// What was replaced comes out first, to a name beside its own: if this is as far as it comes it is there.
@@ -197,7 +211,7 @@ Result Transfer::undo(const MoveToTrash& moveToTrash)
                 moveBack(moves, result);
         } else if (m_progress.cancelled) {
             result.problems.add({Problem::Kind::NotUndone, path, ECANCELED});
-        } else if (auto words = moveToTrash(path)) {
+        } else if (auto words = trash(m_calls, path, moveToTrash)) {
             result.problems.add({Problem::Kind::NotTrashed, path, 0, *std::move(words)});
         } else {
             ++m_progress.files;

@@ -181,9 +181,9 @@ public:
     {
         return fails(Call::SetOwner) ? -1 : SystemCalls::setOwner(folder, name, user, group);
     }
-    int setMode(int file, mode_t mode) override
+    int setMode(int folder, const char* name, mode_t mode) override
     {
-        return fails(Call::SetMode) ? -1 : SystemCalls::setMode(file, mode);
+        return fails(Call::SetMode) ? -1 : SystemCalls::setMode(folder, name, mode);
     }
     int setTimes(int folder, const char* name, const std::array<timespec, 2>& times) override
     {

@@ -17,15 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Files in memory have them since Linux 6.6.
-bool haveAttributes()
-{
-    std::string path = "/dev/shm/orvik-transfer-XXXXXX";
-    const LinuxDesktop::FileDescriptor file(::mkstemp(path.data()));
-    ::unlink(path.c_str());
-    return ::fsetxattr(file.get(), "user.orvik", "a", 1, 0) == 0;
-}
-
 std::string attributesOf(const fs::path& path)
 {
     std::array<char, 4096> names{};
@@ -67,6 +58,14 @@ std::string described(const fs::path& path, bool withFolderTimes)
 
 } // namespace
 
+bool haveAttributes()
+{
+    std::string path = "/dev/shm/orvik-transfer-XXXXXX";
+    const LinuxDesktop::FileDescriptor file(::mkstemp(path.data()));
+    ::unlink(path.c_str());
+    return ::fsetxattr(file.get(), "user.orvik", "a", 1, 0) == 0;
+}
+
 std::string contentOf(const fs::path& path)
 {
     std::string content(fs::file_size(path), '\0');
@@ -94,6 +93,35 @@ std::vector<std::string> namesIn(const fs::path& folder)
         names.push_back(entry.path().filename());
     std::ranges::sort(names);
     return names;
+}
+
+OrdinaryUser::OrdinaryUser(const std::vector<fs::path>& folders)
+{
+    if (::geteuid() != 0)
+        return;
+    constexpr uid_t nobody = 65534;
+    const auto give = [](const fs::path& item) {
+        struct stat status = {};
+        EXPECT_EQ(::lstat(item.c_str(), &status), 0) << item;
+        if (status.st_uid == 0) {
+            EXPECT_EQ(::lchown(item.c_str(), nobody, nobody), 0) << item;
+        }
+    };
+    for (const fs::path& folder : folders) {
+        if (folder.empty())
+            continue;
+        give(folder);
+        for (const auto& entry : fs::recursive_directory_iterator(folder))
+            give(entry.path());
+    }
+    EXPECT_EQ(::setegid(nobody), 0);
+    EXPECT_EQ(::seteuid(nobody), 0);
+}
+
+OrdinaryUser::~OrdinaryUser()
+{
+    EXPECT_EQ(::seteuid(::getuid()), 0);
+    EXPECT_EQ(::setegid(::getgid()), 0);
 }
 
 Decision Answers::decide(const Conflict& conflict)
@@ -206,12 +234,17 @@ Result TransferTest::run(What what, const std::vector<fs::path>& items, const st
 
 Result TransferTest::undo()
 {
-    const auto moveToTrash = [this](const std::string& path) {
-        if (!trashTrouble) {
-            trashed.push_back(path);
-            EXPECT_GT(fs::remove_all(path), 0U);
-        }
-        return trashTrouble;
+    const auto moveToTrash = [this](const std::string& path) -> std::optional<std::string> {
+        if (trashTrouble)
+            return trashTrouble;
+        const fs::path place = folder(trash()) / std::to_string(trashed.size());
+        std::error_code error;
+        fs::remove_all(place);
+        fs::rename(path, place, error);
+        if (error)
+            return error.message();
+        trashed.push_back(path);
+        return std::nullopt;
     };
     return m_transfer->undo(moveToTrash);
 }

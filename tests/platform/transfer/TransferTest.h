@@ -17,10 +17,22 @@ using Tree = std::map<std::string, std::string>;
 /// The item and all that is in it, by their paths below it; the item's own is empty. A folder's time is left out
 /// where it is no part of what is looked at.
 [[nodiscard]] Tree treeOf(const std::filesystem::path& item, bool withFolderTimes = true);
+/// Whether files in memory can have extended attributes, which they can since Linux 6.6.
+[[nodiscard]] bool haveAttributes();
 /// What a file holds. Read in one piece, which is much faster.
 [[nodiscard]] std::string contentOf(const std::filesystem::path& path);
 /// The names in a folder, hidden ones too, sorted.
 [[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path& folder);
+
+/// Root may do everything; while this lives the process is another user, when it was root, and owns `folders` but for
+/// what is somebody else's already.
+class OrdinaryUser {
+public:
+    explicit OrdinaryUser(const std::vector<std::filesystem::path>& folders);
+    ~OrdinaryUser();
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+};
 
 /// Answers as it was told, and notes what it was asked.
 class Answers : public MenuExtension::Transfers::Asked {
@@ -56,10 +68,14 @@ protected:
     [[nodiscard]] const Path& source() const { return m_source; }
     [[nodiscard]] const Path& target() const { return m_target; }
     [[nodiscard]] const Path& records() const { return m_records; }
+    /// Where what has gone to it lies by numbers.
+    [[nodiscard]] Path trash() const { return m_target.parent_path() / "trash"; }
 
     /// Makes a file, with the folders above it.
     static Path file(const Path& path, const std::string& content = "content");
     static Path folder(const Path& path);
+    /// Whose they all are from then on, as long as it lives.
+    [[nodiscard]] OrdinaryUser becomeOrdinaryUser() const { return OrdinaryUser({m_root, m_otherRoot}); }
     /// A folder with an item of every kind in it.
     static void makeEveryKind(const Path& path);
 

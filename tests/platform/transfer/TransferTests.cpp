@@ -111,6 +111,26 @@ TEST_P(Transfers, KeepEverythingOfEveryKindOfItem)
     expectNoLeftovers();
 }
 
+TEST_P(Transfers, OfAnOrdinaryUserKeepEverythingToo)
+{
+    const fs::path item = file(source() / "all/read-only");
+    fs::permissions(item, fs::perms(0444));
+    if (haveAttributes()) {
+        EXPECT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
+    }
+    // More than a new one gets.
+    for (const mode_t kind : {S_IFIFO, S_IFSOCK}) {
+        const fs::path node = source() / "all" / std::to_string(kind);
+        EXPECT_EQ(::mknod(node.c_str(), kind | 0600U, 0), 0);
+        fs::permissions(node, fs::perms(0666));
+    }
+    const OrdinaryUser user = becomeOrdinaryUser();
+    const Tree before = treeOf(source() / "all");
+    expectDone(run({source() / "all"}));
+    EXPECT_EQ(treeOf(target() / "all"), before);
+    expectAtSource(source() / "all", !isMove());
+}
+
 TEST_P(Transfers, CanBeUndone)
 {
     makeEveryKind(source() / "all");
@@ -509,6 +529,27 @@ TEST_P(Transfers, DoNotReplaceTheFolderThatTheItemLiesIn)
     expectAtSource(item, !isMove());
 }
 
+TEST_P(Transfers, DoNotReplaceWhatTheLinkLeadsTo)
+{
+    file(target() / "file", "old");
+    file(target() / "folder/file", "old");
+    fs::create_symlink("file", target() / "first link");
+    fs::create_symlink(target() / "first link", source() / "file");
+    fs::create_symlink(target() / "folder", source() / "folder");
+    fs::create_symlink("nowhere", source() / "another");
+    file(target() / "another");
+    std::map<std::string, bool> canReplace;
+    answers.each = [&](const Conflict& conflict) {
+        canReplace[fs::path(conflict.source.path).filename()] = conflict.canReplace;
+        return Decision{conflict.canReplace ? Resolution::Replace : Resolution::KeepBoth, true};
+    };
+    expectDone(run({source() / "another", source() / "file", source() / "folder"}), 3);
+    EXPECT_EQ(canReplace, (std::map<std::string, bool>{{"another", true}, {"file", false}, {"folder", false}}));
+    EXPECT_EQ(contentOf(target() / "file"), "old");
+    EXPECT_EQ(contentOf(target() / "file 2"), "old");
+    EXPECT_EQ(contentOf(target() / "folder 2/file"), "old");
+}
+
 TEST_P(Transfers, RefuseAFolderIntoItself)
 {
     const fs::path item = folder(source() / "outer/inner").parent_path();
@@ -539,6 +580,56 @@ TEST_P(Transfers, SayBeforeAnythingIsWrittenWhatCannotBeDone)
     result = TransferTest::run(what(), {source() / "outer", source() / "gone", good}, inner);
     expectDone(result);
     EXPECT_EQ(namesIn(inner), std::vector<std::string>{"good"});
+}
+
+TEST_P(Transfers, SayBeforeAnythingIsWrittenWhatCannotBeRead)
+{
+    const fs::path secret = file(source() / "folder/secret");
+    fs::permissions(secret, fs::perms(0));
+    file(source() / "folder/file");
+    const OrdinaryUser user = becomeOrdinaryUser();
+    if (isMove() && !isBetweenTwo()) {
+        expectDone(run({source() / "folder"}));
+        return;
+    }
+    answers.goesOn = false;
+    EXPECT_TRUE(run({source() / "folder"}).isCancelled);
+    ASSERT_EQ(answers.told.size(), 1U);
+    EXPECT_EQ(answers.told[0].kind, Kind::SourceUnusable);
+    EXPECT_EQ(answers.told[0].path, secret);
+    EXPECT_EQ(answers.told[0].error, EACCES);
+    EXPECT_EQ(namesIn(source() / "folder").size(), 2U);
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{});
+
+    progress.cancelled = false;
+    EXPECT_TRUE(run({secret}).isRefused);
+}
+
+TEST_P(Transfers, SayBeforeAnythingIsWrittenWhatIsHeldForItsOwner)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can be somebody else";
+    constexpr uid_t another = 65533;
+    const fs::path shared = folder(source() / "folder/shared");
+    const fs::path others = file(shared / "theirs");
+    const fs::path own = file(shared / "own");
+    for (const fs::path& item : {shared, others})
+        ASSERT_EQ(::chown(item.c_str(), another, another), 0);
+    fs::permissions(shared, fs::perms(01777));
+    const OrdinaryUser user = becomeOrdinaryUser();
+    const Result result = run({others, own});
+    EXPECT_EQ(result.done, isMove() ? 1U : 2U);
+    expectAtSource(others, true);
+    expectAtSource(own, !isMove());
+    ASSERT_EQ(answers.told.size(), isMove() ? 1U : 0U);
+    if (isMove()) {
+        EXPECT_EQ(answers.told[0].kind, Kind::CannotLeave);
+        EXPECT_EQ(answers.told[0].path, others);
+    }
+
+    EXPECT_EQ(run({source() / "folder"}).isRefused, isMove() && isBetweenTwo());
+    EXPECT_EQ(fs::exists(target() / "folder"), !isMove() || !isBetweenTwo());
+    expectAtSource(others, !isMove() || isBetweenTwo());
 }
 
 TEST_P(Transfers, RefuseATargetThatIsNoFolder)
@@ -640,6 +731,24 @@ TEST_P(Transfers, TakeAPersonsOwnItemsOfASimilarName)
     EXPECT_EQ(contentOf(target() / "album/.orvik-menu-pictures/1"), "own");
     EXPECT_EQ(contentOf(target() / "album/.orvik-menu-0123456789abcdef"), "own");
     expectAtSource(source() / "album", !isMove());
+}
+
+class Orders : public TransferTest {};
+
+TEST_F(Orders, AreOfTheOutermostItems)
+{
+    const fs::path item = file(source() / "folder/below/inner");
+    file(source() / "folder 2");
+    fs::create_directory_symlink(source() / "folder", source() / "link");
+    const auto pathsOf = [&](const std::vector<std::string>& names) {
+        std::vector<std::string> paths;
+        for (const std::string& name : names)
+            paths.push_back(source() / name);
+        return paths;
+    };
+    EXPECT_EQ(outermost(pathsOf({"folder/below/inner", "folder 2", "folder", "folder/below", "folder"})),
+              pathsOf({"folder 2", "folder"}));
+    EXPECT_EQ(outermost(pathsOf({"link", "link/below/inner"})), pathsOf({"link", "link/below/inner"}));
 }
 
 class Copies : public TransferTest {};
@@ -745,6 +854,23 @@ TEST_F(Moves, MergeIntoAFolderWhereAnotherOfItsFileSystemIsMounted)
                           EXPECT_EQ(contentOf(below / "both"), "old");
                           EXPECT_EQ(contentOf(source() / "album/below/both"), "newer");
                       });
+}
+
+TEST_F(Copies, OfWriteProtectedFoldersCanBeUndone)
+{
+    const fs::path item = file(source() / "folder/file").parent_path();
+    fs::permissions(item, fs::perms(0555));
+    const OrdinaryUser user = becomeOrdinaryUser();
+    EXPECT_EQ(run(What::Copy, {item}).done, 1U);
+    trashTrouble = "no trash here";
+    EXPECT_EQ(kindsOf(undo()), std::vector{Kind::NotTrashed});
+    EXPECT_EQ(fs::status(target() / "folder").permissions(), fs::perms(0555));
+
+    EXPECT_EQ(run(What::Copy, {item}, folder(target() / "other")).done, 1U);
+    trashTrouble.reset();
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(namesIn(target() / "other"), std::vector<std::string>{});
+    EXPECT_EQ(contentOf(trash() / "0/file"), "content");
 }
 
 TEST_F(Copies, ThatTheTrashDoesNotTakeStay)
@@ -1092,6 +1218,39 @@ TEST_F(UnusualCopies, AreMadeAnewWhereTheFileChangesOnce)
     EXPECT_FALSE(fs::exists(item));
 }
 
+class CopiesToADisk : public TransferTest {
+protected:
+    CopiesToADisk() : TransferTest(Disks::Two) {}
+};
+
+TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
+{
+    const std::string large(20'000, 'x');
+    const auto hasLarge = [&](const fs::path& item) {
+        return ::setxattr(item.c_str(), "user.large", large.data(), large.size(), 0) == 0;
+    };
+    const fs::path item = file(target() / "folder/1");
+    file(target() / "folder/2");
+    if (!hasLarge(item) || hasLarge(file(source() / "probe")))
+        GTEST_SKIP() << "no disk without room for large attributes";
+    const Tree before = treeOf(target() / "folder");
+    Result result = run(What::Copy, {target() / "folder"}, source());
+    EXPECT_EQ(kindsOf(result), std::vector{Kind::WithoutAttributes});
+    EXPECT_EQ(result.problems.kept()[0].path, item);
+    EXPECT_EQ(namesIn(source() / "folder"), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(contentOf(source() / "folder/1"), "content");
+    EXPECT_EQ(treeOf(target() / "folder"), before);
+
+    fs::remove_all(source() / "folder");
+    const fs::path other = file(target() / "other");
+    result = run(What::Move, {target() / "folder", other}, source());
+    EXPECT_EQ(kindsOf(result), (std::vector{Kind::WithoutAttributes, Kind::NotRemoved}));
+    EXPECT_EQ(result.done, 2U);
+    EXPECT_EQ(namesIn(target() / "folder"), std::vector<std::string>{"1"});
+    EXPECT_EQ(treeOf(target() / "folder").at("/1"), before.at("/1"));
+    EXPECT_FALSE(fs::exists(other));
+}
+
 TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
 {
     file(source() / "folder/old", "old");
@@ -1115,6 +1274,18 @@ TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
     EXPECT_EQ(contentOf(source() / "folder/changed"), "as it is now, longer");
     EXPECT_EQ(contentOf(source() / "folder/changed 2"), "as it was copied");
     EXPECT_FALSE(fs::exists(target() / "folder"));
+}
+
+TEST_F(UnusualCopies, AreNoMovesOfWhatHasAnotherNameMeanwhile)
+{
+    file(source() / "folder/file");
+    unusual.changeStatus = [&](const std::string&, struct stat&) {
+        if (fs::exists(target() / "folder") && fs::exists(source() / "folder"))
+            fs::rename(source() / "folder", source() / "renamed");
+    };
+    EXPECT_EQ(kindsOf(run(What::Move, {source() / "folder"})), std::vector{Kind::NotRemoved});
+    EXPECT_EQ(contentOf(source() / "renamed/file"), "content");
+    EXPECT_EQ(contentOf(target() / "folder/file"), "content");
 }
 
 TEST_F(UnusualCopies, EndSoonWhenTheyAreCancelled)

@@ -27,6 +27,12 @@ constexpr auto betweenLooks = 100ms;
 /// Nobody wants it back after that, and what was replaced takes room until then.
 constexpr auto undoableFor = 10min;
 
+Request ofOutermost(Request request)
+{
+    request.paths = outermost(request.paths);
+    return request;
+}
+
 } // namespace
 
 Outcome performTransfer(const Request& request, Kind kind)
@@ -38,7 +44,7 @@ Outcome performTransfer(const Request& request, Kind kind)
 }
 
 TransferRunner::TransferRunner(const Request& request, Kind kind, LinuxDesktop::SessionBus& bus)
-    : m_request(request), m_isMove(kind == Kind::Move), m_work(request), m_notice(bus.connection())
+    : m_request(ofOutermost(request)), m_isMove(kind == Kind::Move), m_work(m_request), m_notice(bus.connection())
 {
     m_delay.setSingleShot(true);
     m_delay.setInterval(untilItShows);

@@ -107,6 +107,9 @@ QString problem(bool isMove, const Problem& problem)
     case Kind::NotTransferred:
         return isMove ? Transfer::tr("%1 could not be moved: %2.").arg(item, why)
                       : Transfer::tr("%1 could not be copied: %2.").arg(item, why);
+    case Kind::WithoutAttributes:
+        return Transfer::tr("%1 was copied without some of its extended attributes: the disk has no room for them.")
+            .arg(item);
     case Kind::NotRemoved:
         return problem.error == EBUSY
                    ? Transfer::tr(
