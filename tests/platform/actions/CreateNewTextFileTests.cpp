@@ -114,7 +114,7 @@ TEST_F(CreateNewTextFile, ItDoesNotApplyToFilesAndSeveralFolders)
     EXPECT_EQ(create(file("a"), false).kind, '2');
     EXPECT_EQ(run("create-new-text-file", {folder("b"), folder("c")}).kind, '2');
     // A file is no place either.
-    EXPECT_EQ(create(listed() / "a", true).kind, '1');
+    EXPECT_EQ(create(listed() / "a", true).kind, '2');
     EXPECT_EQ(namesIn(listed()), (std::vector<std::string>{"a", "b", "c"}));
 }
 
