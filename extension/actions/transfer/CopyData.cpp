@@ -54,12 +54,14 @@ bool DataCopier::copy(int from, const struct stat& source, int to)
 
 bool DataCopier::clone(int from, const struct stat& source, int to)
 {
-    if (!m_canClone || source.st_size == 0)
+    if (!m_canClone || source.st_dev == m_notClonedFrom || source.st_size == 0)
         return false;
     if (m_calls.clone(from, to) == 0)
         return true;
     // Other errors are of this file alone; if it cannot be copied either, that says so.
-    if (errno == EOPNOTSUPP || errno == ENOTTY || errno == EXDEV || errno == ENOSYS)
+    if (errno == EXDEV)
+        m_notClonedFrom = source.st_dev;
+    else if (errno == EOPNOTSUPP || errno == ENOTTY || errno == ENOSYS)
         m_canClone = false;
     return false;
 }

@@ -3,6 +3,7 @@
 #include "extension/actions/transfer/Progress.h"
 #include "extension/actions/transfer/SystemCalls.h"
 
+#include <optional>
 #include <vector>
 
 namespace MenuExtension::Transfers {
@@ -27,6 +28,8 @@ private:
     SystemCalls& m_calls;
     Progress& m_progress;
     bool m_canClone = true;
+    /// The last device that the target shares no bytes with.
+    std::optional<dev_t> m_notClonedFrom;
     bool m_canCopyRange = true;
     std::vector<char> m_buffer;
 };

@@ -234,6 +234,9 @@ bool TreeCopier::linkToCopy(const struct stat& source, int to, const char* newNa
 
 void TreeCopier::rememberCopy(const struct stat& source, const char* name, const struct stat& copy)
 {
+    // Names may never come that lie elsewhere.
+    if (m_several.size() >= mostSeveral)
+        return;
     m_several.insert_or_assign({m_root, source.st_dev, source.st_ino},
                                Copy{.place = m_place,
                                     .below = m_depth == 0 ? std::string() : m_path.substr(m_itemLength) + '/' + name,

@@ -50,6 +50,8 @@ public:
     /// Which files were copied since forgetCopied(), as they were then.
     [[nodiscard]] Stamps& copied() { return m_copied; }
     void forgetCopied() { m_copied.clear(); }
+    /// Names that come later are files of their own.
+    void forgetNames() { m_several.clear(); }
 
 private:
     [[nodiscard]] bool copyItem(int from, const char* name, int to, const char* newName);

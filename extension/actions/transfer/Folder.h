@@ -21,6 +21,9 @@ struct Identity {
     return {status.st_dev, status.st_ino};
 }
 
+/// So many files of several names are told apart, in some 50 MiB of memory. Each name of one beyond those is a file.
+constexpr std::size_t mostSeveral = 200'000;
+
 /// A folder that is open; its path is for what is said and noted about it.
 struct Folder {
     LinuxDesktop::FileDescriptor descriptor;

@@ -44,9 +44,6 @@ constexpr std::array local{long{EXT4_SUPER_MAGIC},
                            magicNtfs};
 constexpr std::array sharing{long{BTRFS_SUPER_MAGIC}, long{XFS_SUPER_MAGIC}, magicBcachefs};
 
-/// Some 30 MiB of memory. Those beyond count by each of their names.
-constexpr std::size_t mostSeveral = 500'000;
-
 template<std::size_t count>
 bool isOneOf(const std::array<long, count>& magics, long magic)
 {

@@ -7,10 +7,13 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <unordered_set>
 #include <utility>
 
 namespace MenuExtension::Transfers {
+
+namespace fs = std::filesystem;
 
 using LinuxDesktop::FileDescriptor;
 using LinuxDesktop::parentFolder;
@@ -39,12 +42,31 @@ bool isFatal(int error)
     return error == ENOSPC || error == EDQUOT || error == EROFS || error == ECANCELED;
 }
 
-/// Whether an item is a link to the existing one, in whose place it would lead to itself.
-bool isLinkTo(const struct stat& existing, const Folder& folder, const std::string& name, const struct stat& status)
+/// Whether a way leads over an item, or ends at it.
+bool isOver(const struct stat& item, const fs::path& way)
 {
-    struct stat reached = {};
-    return S_ISLNK(status.st_mode) && ::fstatat(folder.get(), name.c_str(), &reached, 0) == 0 &&
-           identityOf(reached) == identityOf(existing);
+    fs::path above;
+    return std::ranges::any_of(way, [&](const fs::path& component) {
+        struct stat status = {};
+        above /= component;
+        return ::lstat(above.c_str(), &status) == 0 && identityOf(status) == identityOf(item);
+    });
+}
+
+/// Whether a link leads over the existing item, in whose place it would lead to itself.
+bool isLinkOver(const struct stat& existing, fs::path link)
+{
+    constexpr int mostLinks = 40;
+    std::error_code error;
+    const fs::path end = fs::weakly_canonical(link, error);
+    if (isOver(existing, end))
+        return true;
+    for (int count = 0; count < mostLinks && fs::is_symlink(link, error); ++count) {
+        link = link.parent_path() / fs::read_symlink(link, error);
+        if (isOver(existing, link))
+            return true;
+    }
+    return false;
 }
 
 SharedPath shared(SharedPath& last, const std::string& path)
@@ -122,9 +144,14 @@ Result Transfer::run(const Order& order)
             m_result.problems.add({Problem::Kind::NotTransferred, order.target, errno});
         removeEmptied();
     }
-    // Else what was replaced is in there until it cannot be wanted back any more.
-    if (std::ranges::none_of(m_journal, [](const auto& step) { return std::holds_alternative<Replaced>(step); }))
+    m_copier.forgetNames();
+    m_lastFolder.reset();
+    // Else what was replaced is in there until it cannot be wanted back any more. A disk that has open folders cannot
+    // be taken away.
+    if (!hasReplaced()) {
         m_stagings.clear();
+        m_target.reset();
+    }
     m_result.isCancelled = m_progress.cancelled;
     m_result.isInPart = m_result.done == 0 && !m_journal.empty();
     return m_result;
@@ -226,7 +253,8 @@ bool Transfer::decide(Task& task, const struct stat& existing, bool canMerge)
 {
     Conflict conflict{.source = {task.source->pathOf(task.name), task.status},
                       .target = {task.target->pathOf(task.newName), existing},
-                      .canReplace = !isLinkTo(existing, *task.source, task.name, task.status)};
+                      .canReplace =
+                          !S_ISLNK(task.status.st_mode) || !isLinkOver(existing, task.source->pathOf(task.name))};
     const bool wasFolder = S_ISDIR(existing.st_mode);
     const bool isFolder = S_ISDIR(task.status.st_mode);
     if (wasFolder) {

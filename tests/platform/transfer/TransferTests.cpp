@@ -24,13 +24,26 @@ namespace {
 using namespace MenuExtension::Transfers;
 namespace fs = std::filesystem;
 
+/// For an ordinary user, who may mount something then.
+bool becomeRootOfOneself()
+{
+    const auto user = std::to_string(::geteuid());
+    const auto group = std::to_string(::getegid());
+    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+        return false;
+    Files::write("/proc/self/setgroups", "deny");
+    Files::write("/proc/self/uid_map", user + ' ' + user + " 1");
+    Files::write("/proc/self/gid_map", group + ' ' + group + " 1");
+    return true;
+}
+
 /// In a process of its own, whose mounts end with it.
 void expectAmongMounts(const std::function<bool()>& mount, const std::function<void()>& body)
 {
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-        const bool isMounted = (::unshare(CLONE_NEWNS) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+        const bool isMounted = (::unshare(CLONE_NEWNS) == 0 || becomeRootOfOneself()) &&
                                ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 && mount();
         if (!isMounted)
             ::_exit(3);
@@ -536,6 +549,11 @@ TEST_P(Transfers, DoNotReplaceWhatTheLinkLeadsTo)
     fs::create_symlink("file", target() / "first link");
     fs::create_symlink(target() / "first link", source() / "file");
     fs::create_symlink(target() / "folder", source() / "folder");
+    // On its way, and inside of it.
+    fs::create_symlink("file", target() / "way");
+    fs::create_symlink(target() / "way", source() / "way");
+    file(target() / "inside/below/file", "old");
+    fs::create_symlink(target() / "inside/below", source() / "inside");
     fs::create_symlink("nowhere", source() / "another");
     file(target() / "another");
     std::map<std::string, bool> canReplace;
@@ -544,10 +562,39 @@ TEST_P(Transfers, DoNotReplaceWhatTheLinkLeadsTo)
         return Decision{conflict.canReplace ? Resolution::Replace : Resolution::KeepBoth, true};
     };
     expectDone(run({source() / "another", source() / "file", source() / "folder"}), 3);
-    EXPECT_EQ(canReplace, (std::map<std::string, bool>{{"another", true}, {"file", false}, {"folder", false}}));
+    expectDone(run({source() / "inside"}), 1);
+    expectDone(run({source() / "way"}), 1);
+    EXPECT_EQ(canReplace,
+              (std::map<std::string, bool>{
+                  {"another", true}, {"file", false}, {"folder", false}, {"inside", false}, {"way", false}}));
     EXPECT_EQ(contentOf(target() / "file"), "old");
     EXPECT_EQ(contentOf(target() / "file 2"), "old");
     EXPECT_EQ(contentOf(target() / "folder 2/file"), "old");
+}
+
+TEST_P(Transfers, KeepNoFolderOpenThatNobodyNeeds)
+{
+    const auto areOpen = [&] {
+        const auto isBelow = [&](const fs::path& descriptor) {
+            std::error_code error;
+            const std::string path = fs::read_symlink(descriptor, error);
+            return path.starts_with(source().native()) || path.starts_with(target().native());
+        };
+        const fs::directory_iterator descriptors("/proc/self/fd");
+        return std::any_of(begin(descriptors), end(descriptors), isBelow);
+    };
+    file(source() / "folder/file");
+    file(source() / "file", "new");
+    expectDone(run({source() / "folder", source() / "file"}), 2);
+    EXPECT_FALSE(areOpen());
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+
+    file(target() / "file", "old");
+    answers.always = {Resolution::Replace};
+    expectDone(run({source() / "file"}), 1);
+    EXPECT_TRUE(areOpen()) << "what was replaced is kept";
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(contentOf(target() / "file"), "old");
 }
 
 TEST_P(Transfers, RefuseAFolderIntoItself)
@@ -893,6 +940,8 @@ public:
     bool canRenameNew = true;
     bool canLink = true;
     bool hasMountsByFolder = false;
+    /// As one that shares bytes, where it counts what it is asked to share.
+    std::optional<int> shared;
 
     std::uint64_t mount(int file) override
     {
@@ -924,6 +973,21 @@ public:
             return -1;
         }
         return SystemCalls::rename(from, name, to, newName, flags);
+    }
+    int clone(int from, int to) override
+    {
+        struct stat one = {};
+        struct stat other = {};
+        if (!shared || ::fstat(from, &one) != 0 || ::fstat(to, &other) != 0)
+            return SystemCalls::clone(from, to);
+        if (one.st_dev != other.st_dev) {
+            errno = EXDEV;
+            return -1;
+        }
+        ++*shared;
+        return ::copy_file_range(from, nullptr, to, nullptr, static_cast<std::size_t>(one.st_size), 0) == one.st_size
+                   ? 0
+                   : -1;
     }
     int link(int from, const char* name, int to, const char* newName) override
     {
@@ -1170,6 +1234,16 @@ TEST_F(UnusualCopies, OfAFileOfSeveralNamesTakeTheRoomOfOne)
                           EXPECT_EQ(treeOf(target() / "item"), treeOf(source() / "item"));
                           EXPECT_EQ(progress.files, progress.totalFiles);
                       });
+}
+
+TEST_F(UnusualCopies, ShareBytesAfterOneThatCannot)
+{
+    unusual.shared = 0;
+    const fs::path own = file(target() / "own/item", "content");
+    const fs::path elsewhere = file(source() / "another", "content");
+    EXPECT_EQ(run(What::Copy, {elsewhere, own}).done, 2U);
+    EXPECT_EQ(unusual.shared, 1);
+    EXPECT_EQ(contentOf(target() / "item"), "content");
 }
 
 TEST_F(UnusualCopies, OfDevicesAreNotMade)
