@@ -117,8 +117,9 @@ void Companion::takeSettings(const std::optional<NS::Value::Dictionary>& values)
 void Companion::offerActions()
 {
     OfferedActions offered = offeredActions(m_state.settings.menuItems, folderOfActions());
+    if (m_needs.follow(std::move(offered.needs)))
+        offered = offeredActions(m_state.settings.menuItems, folderOfActions());
     m_state.actions = std::move(offered.actions);
-    m_needs.follow(std::move(offered.needs));
 }
 
 void Companion::offerActionsAnew()

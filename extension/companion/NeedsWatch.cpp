@@ -40,16 +40,16 @@ std::vector<bool> areMet(const std::vector<ActionNeed>& needs)
 NeedsWatch::NeedsWatch(sd_event& event, std::function<void()> changed) : m_event(event), m_changed(std::move(changed))
 {}
 
-void NeedsWatch::follow(std::vector<ActionNeed> needs)
+bool NeedsWatch::follow(std::vector<ActionNeed> needs)
 {
     if (needs == m_needs)
-        return;
+        return false;
     m_needs = std::move(needs);
     m_events.reset();
     m_inotify.reset();
-    m_areMet = areMet(m_needs);
+    m_areMet.clear();
     if (m_needs.empty())
-        return;
+        return true;
     m_inotify.emplace();
     for (const ActionNeed& need : m_needs) {
         for (const std::string& folder : foldersFor(need))
@@ -63,6 +63,8 @@ void NeedsWatch::follow(std::vector<ActionNeed> needs)
     // Without a queue, it is found at the next change of the settings.
     if (sd_event_add_io(&m_event, &source, m_inotify->descriptor(), EPOLLIN, happened, this) >= 0)
         m_events.reset(source);
+    m_areMet = areMet(m_needs);
+    return true;
 }
 
 void NeedsWatch::look()

@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>Most pixels, larger file</source>
-        <translation>Le plus de pixels, plus lourde</translation>
+        <translation>Le plus de pixels, fichier plus volumineux</translation>
     </message>
     <message>
         <source>Oldest of the same size</source>

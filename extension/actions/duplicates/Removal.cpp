@@ -9,8 +9,10 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <memory>
 #include <sys/file.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 #include <utility>
 
@@ -70,10 +72,20 @@ bool isAt(const std::string& path, const FileState& state)
     return ::lstat(path.c_str(), &status) == 0 && FileState::of(status) == state;
 }
 
-/// Whether two file systems may show one file, as one that is laid over the other does: then no file has the number
+/// Whether the file system keeps the time of a file's content as that of its last change, which a copy may share.
+bool hasNoTimeOfChange(const FileDescriptor& file)
+{
+    struct statfs system = {};
+    return ::fstatfs(file.get(), &system) == 0 &&
+           (system.f_type == MSDOS_SUPER_MAGIC || system.f_type == EXFAT_SUPER_MAGIC);
+}
+
+/// Whether two file systems may show one file, as one that is laid over the other does: then neither has the number
 /// of the other, but both changed in the same moment, which a copy did not.
 bool mayBeOneFile(const FileDescriptor& one, const FileDescriptor& other)
 {
+    if (hasNoTimeOfChange(one) && hasNoTimeOfChange(other))
+        return false;
     struct stat first = {};
     struct stat second = {};
     return ::fstat(one.get(), &first) != 0 || ::fstat(other.get(), &second) != 0 ||

@@ -1,6 +1,7 @@
 #include "extension/actions/photos/PhotoReading.h"
 
 #include "extension/actions/photos/SmallJpeg.h"
+#include "extension/actions/photos/TiffDirectory.h"
 #include "platform/LocalizedString.h"
 
 #include <algorithm>
@@ -14,13 +15,14 @@ namespace {
 
 constexpr const char* jpegReader = "VipsForeignLoadJpeg";
 constexpr const char* pngReader = "VipsForeignLoadPng";
+constexpr const char* tiffReader = "VipsForeignLoadTiff";
 constexpr const char* jpeg2000Reader = "VipsForeignLoadJp2k";
 /// The classes of the library that read the formats which photos come in.
 constexpr std::array readers{
     jpegReader,
     pngReader,
     "VipsForeignLoadWebp",
-    "VipsForeignLoadTiff",
+    tiffReader,
     "VipsForeignLoadHeif",
     "VipsForeignLoadNsgif",
     jpeg2000Reader,
@@ -75,13 +77,27 @@ Image readThumbnail(const OpenedPhoto& photo, int longest)
     return Image(read);
 }
 
+/// Whether a TIFF file of so many directories has another picture than the first, and not only smaller copies.
+bool holdsAnother(std::string_view file, int directories)
+{
+    TiffDirectory directory(file);
+    for (int number = 1; number < directories; ++number) {
+        if (!directory.goOn() || !directory.isOfCopy())
+            return true;
+    }
+    return false;
+}
+
 bool holdsSeveral(const OpenedPhoto& photo, std::string_view reader)
 {
+    const int pages = vips_image_get_n_pages(photo.header.get());
     // The library reads only the first picture of a PNG file.
     if (reader.starts_with(pngReader))
         return !chunksOfPng(bytesOf(photo), {"acTL"}).empty();
+    if (reader.starts_with(tiffReader))
+        return holdsAnother(bytesOf(photo), pages);
     // What it calls pages there are the sizes of one.
-    return !reader.starts_with(jpeg2000Reader) && vips_image_get_n_pages(photo.header.get()) > 1;
+    return !reader.starts_with(jpeg2000Reader) && pages > 1;
 }
 
 } // namespace

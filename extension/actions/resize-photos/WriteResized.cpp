@@ -1,6 +1,7 @@
 #include "WriteResized.h"
 
 #include "extension/actions/photos/PhotoReading.h"
+#include "extension/actions/photos/TiffDirectory.h"
 #include "platform/LocalizedString.h"
 
 #include <algorithm>
@@ -93,32 +94,6 @@ bool writeAll(int file, std::string_view rest)
     return true;
 }
 
-/// A number in a file that begins with its most, or with its least significant byte; 0 beyond its end.
-std::uint64_t numberAt(std::string_view file, std::uint64_t place, std::size_t size, bool isLeastFirst)
-{
-    if (place > file.size() || size > file.size() - place)
-        return 0;
-    std::uint64_t value = 0;
-    for (std::size_t index = 0; index < size; ++index)
-        value = value << 8U | static_cast<unsigned char>(file[place + (isLeastFirst ? size - 1 - index : index)]);
-    return value;
-}
-
-/// Where the entry of a TIFF file's first directory begins that has that tag; nothing where there is none.
-std::optional<std::uint64_t> placeOfTag(std::string_view file, std::uint64_t tag)
-{
-    const bool isLeastFirst = file.starts_with("II");
-    const bool isBig = numberAt(file, 2, 2, isLeastFirst) == 43;
-    const std::uint64_t directory = isBig ? numberAt(file, 8, 8, isLeastFirst) : numberAt(file, 4, 4, isLeastFirst);
-    const std::uint64_t count = numberAt(file, directory, isBig ? 8 : 2, isLeastFirst);
-    std::uint64_t entry = directory + (isBig ? 8 : 2);
-    for (std::uint64_t index = 0; index < count && entry < file.size(); ++index, entry += isBig ? 20 : 12) {
-        if (numberAt(file, entry, 2, isLeastFirst) == tag)
-            return entry;
-    }
-    return std::nullopt;
-}
-
 /// Whether a TIFF file has data that the library neither reads nor writes.
 bool hasMoreData(std::string_view file)
 {
@@ -126,7 +101,8 @@ bool hasMoreData(std::string_view file)
     constexpr std::array<std::uint64_t, 17> tags{0x10d,  0x10f,  0x110,  0x131,  0x132,  0x13b,
                                                  0x13c,  0x8298, 0x83bb, 0x8649, 0x8769, 0x8825,
                                                  0x9c9b, 0x9c9c, 0x9c9d, 0x9c9e, 0x9c9f};
-    return std::ranges::any_of(tags, [file](std::uint64_t tag) { return placeOfTag(file, tag).has_value(); });
+    const Photos::TiffDirectory first(file);
+    return std::ranges::any_of(tags, [&](std::uint64_t tag) { return first.has(tag); });
 }
 
 /// Whether a photo would lose some of what it is as a thumbnail, which is for screens: it has more than eight bits a
@@ -140,12 +116,8 @@ bool isMoreThanForScreens(VipsImage* header)
 /// Whether a TIFF file is compressed as photos are, and can be so again.
 bool isJpegInTiff(const Photos::OpenedPhoto& photo)
 {
-    const std::string_view file = Photos::bytesOf(photo);
-    const bool isLeastFirst = file.starts_with("II");
-    const bool isBig = numberAt(file, 2, 2, isLeastFirst) == 43;
     constexpr std::uint64_t compression = 259;
-    const auto entry = placeOfTag(file, compression);
-    const std::uint64_t value = entry ? numberAt(file, *entry + (isBig ? 12 : 8), 2, isLeastFirst) : 0;
+    const std::uint64_t value = Photos::TiffDirectory(Photos::bytesOf(photo)).number(compression);
     const int bands = vips_image_get_bands(photo.header.get());
     return (value == 6 || value == 7) && !isMoreThanForScreens(photo.header.get()) && (bands == 1 || bands == 3);
 }

@@ -187,7 +187,8 @@ TEST_F(DuplicatePhotoFinderTest, AFileOfOnePictureInSeveralSizesIsFound)
 {
     const Heard::Paths same{write(Painting::of(1), "a.jpg"), write(Painting::of(1), "one.heic"),
                             write(Painting::of(1), "sizes.jp2"),
-                            write(Painting::of(1, 1280, 960), "sizes.tif[tile,pyramid,subifd]")};
+                            write(Painting::of(1, 1280, 960), "sizes.tif[tile,pyramid,subifd]"),
+                            write(Painting::of(1, 1280, 960), "more sizes.tif[tile,pyramid]")};
     auto search = finder();
     const auto heard = heardFrom(search);
     EXPECT_EQ(heard->groups(), Groups{same});
