@@ -57,14 +57,26 @@ bool areTheSame(const Conflict& conflict)
 /// Nobody is asked: what somebody has made meanwhile is kept, and folders that were moved in part become one again.
 class KeepingBoth : public Asked {
 public:
+    explicit KeepingBoth(SystemCalls& calls) : m_calls(calls) {}
+
     [[nodiscard]] Decision decide(const Conflict& conflict) override
     {
         if (conflict.canMerge)
             return {Resolution::Merge};
-        const bool isSame = !S_ISDIR(conflict.source.status.st_mode) && areTheSame(conflict);
-        return {isSame ? Resolution::Replace : Resolution::KeepBoth};
+        if (S_ISDIR(conflict.source.status.st_mode) || !areTheSame(conflict))
+            return {Resolution::KeepBoth};
+        // The original, which never went: it may have attributes that its copy lacks.
+        const std::string& copy = conflict.source.path;
+        if (m_calls.remove(AT_FDCWD, copy.c_str(), 0) != 0)
+            m_problems.add({Problem::Kind::NotUndone, copy, errno});
+        return {Resolution::Skip};
     }
     [[nodiscard]] bool goesOnWithout(const Problems&) override { return true; }
+    [[nodiscard]] const Problems& problems() const { return m_problems; }
+
+private:
+    SystemCalls& m_calls;
+    Problems m_problems;
 };
 
 /// So many take little memory at once.
@@ -159,14 +171,16 @@ void Transfer::moveBack(MovesByFolder& moves, Result& result)
     for (const auto& [folder, order] : moves) {
         // They are counted anew, with what is in them.
         m_progress.totalFiles -= order.items.size();
-        KeepingBoth asked;
+        KeepingBoth asked(m_calls);
         Transfer back(
             m_calls, m_record, [](const std::string& item) { return openFolder(LinuxDesktop::parentFolder(item)); },
             m_progress, asked);
         const Result moved = back.run(order);
         result.done += moved.done;
-        for (const Problem& problem : moved.problems.kept())
-            result.problems.add(problem);
+        for (const Problems* problems : {&asked.problems(), &moved.problems}) {
+            for (const Problem& problem : problems->kept())
+                result.problems.add(problem);
+        }
         struct stat status = {};
         for (const Order::Item& item : order.items) {
             if (moved.isCancelled && m_calls.status(AT_FDCWD, item.path.c_str(), status) == 0)

@@ -1249,6 +1249,12 @@ TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
     EXPECT_EQ(namesIn(target() / "folder"), std::vector<std::string>{"1"});
     EXPECT_EQ(treeOf(target() / "folder").at("/1"), before.at("/1"));
     EXPECT_FALSE(fs::exists(other));
+    // The original stays then too, and the copy goes.
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(namesIn(target() / "folder"), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(treeOf(target() / "folder").at("/1"), before.at("/1"));
+    EXPECT_TRUE(fs::exists(other));
+    EXPECT_FALSE(fs::exists(source() / "folder"));
 }
 
 TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
