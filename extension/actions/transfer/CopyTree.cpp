@@ -68,6 +68,7 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         return false;
     struct stat source = {};
     bool isMade = false;
+    m_lacksAttributes = false;
     if (m_calls.status(from, name, source) == 0) {
         if (S_ISDIR(source.st_mode) && m_depth > 0 && isStagingName(name))
             return false;
@@ -90,7 +91,7 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         note(name, error);
         return false;
     }
-    if (m_attributes.hadNoRoom())
+    if (m_lacksAttributes)
         noteWithoutAttributes(name);
     else
         m_copied.add(source, m_folder, name);
@@ -132,8 +133,10 @@ bool TreeCopier::fillFile(const FileDescriptor& from, struct stat& source, const
             return false;
     }
     struct stat made = {};
-    return m_calls.status(to.get(), "", made) == 0 && m_attributes.copy(from.get(), source, to.get(), made) &&
-           flushed(to.get());
+    if (m_calls.status(to.get(), "", made) != 0 || !m_attributes.copy(from.get(), source, to.get(), made))
+        return false;
+    m_lacksAttributes = m_attributes.hadNoRoom();
+    return flushed(to.get());
 }
 
 bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newName)
@@ -177,7 +180,7 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
     // What is in it is whole nevertheless.
     if (!isWhole)
         note(name, errno);
-    if (m_attributes.hadNoRoom())
+    else if (m_attributes.hadNoRoom())
         noteWithoutAttributes(name);
     // Nobody knows then what of its files is on the disk.
     if (!flushed(copy.get()))

@@ -161,8 +161,11 @@ bool Transfer::restore(const Emptied& emptied)
 {
     const FileDescriptor folder = m_calls.open(AT_FDCWD, emptied.path.c_str(), O_RDONLY | O_DIRECTORY);
     struct stat made = {};
-    return folder && m_calls.status(folder.get(), "", made) == 0 &&
-           m_attributes.give(*emptied.status, emptied.extended, folder.get(), made);
+    if (!folder || m_calls.status(folder.get(), "", made) != 0 ||
+        !m_attributes.give(*emptied.status, emptied.extended, folder.get(), made))
+        return false;
+    errno = ENOSPC;
+    return !m_attributes.hadNoRoom();
 }
 
 /// Moves items back to where they were; of those that it was told to leave it is said that they are not there.

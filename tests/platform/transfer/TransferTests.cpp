@@ -892,6 +892,8 @@ public:
     bool canExchange = true;
     bool canRenameNew = true;
     bool canLink = true;
+    bool hasRoomForAttributes = true;
+    bool canSetTimes = true;
     bool hasMountsByFolder = false;
 
     std::uint64_t mount(int file) override
@@ -932,6 +934,21 @@ public:
             return -1;
         }
         return SystemCalls::link(from, name, to, newName);
+    }
+    int setAttribute(int file, const char* name, const void* value, std::size_t size) override
+    {
+        if (hasRoomForAttributes)
+            return SystemCalls::setAttribute(file, name, value, size);
+        errno = ENOSPC;
+        return -1;
+    }
+    int setTimes(int folder, const char* name, const std::array<timespec, 2>& times) override
+    {
+        // Of what is open.
+        if (canSetTimes || *name != '\0')
+            return SystemCalls::setTimes(folder, name, times);
+        errno = EIO;
+        return -1;
     }
 };
 
@@ -1255,6 +1272,39 @@ TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
     EXPECT_EQ(treeOf(target() / "folder").at("/1"), before.at("/1"));
     EXPECT_TRUE(fs::exists(other));
     EXPECT_FALSE(fs::exists(source() / "folder"));
+}
+
+TEST_F(UnusualCopies, DoNotLackAttributesThatAnotherLacked)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path item = file(source() / "1");
+    ASSERT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
+    const fs::path link = source() / "2";
+    fs::create_symlink("nowhere", link);
+    unusual.hasRoomForAttributes = false;
+    unusual.canSetTimes = false;
+    EXPECT_EQ(kindsOf(run(What::Move, {item, link})), std::vector{Kind::NotTransferred});
+    EXPECT_EQ(namesIn(source()), std::vector<std::string>{"1"});
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{"2"});
+}
+
+TEST_F(UnusualCopies, SayWhichFolderIsNotBackWithAllItsAttributes)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path merged = file(source() / "folder/file").parent_path();
+    ASSERT_EQ(::setxattr(merged.c_str(), "user.orvik", "a value", 7, 0), 0);
+    folder(target() / "folder");
+    answers.always = {Resolution::Merge};
+    EXPECT_EQ(kindsOf(run(What::Move, {merged})), std::vector<Kind>{});
+    EXPECT_FALSE(fs::exists(merged));
+    unusual.hasRoomForAttributes = false;
+    const Result undone = undo();
+    ASSERT_EQ(kindsOf(undone), std::vector{Kind::NotUndone});
+    EXPECT_EQ(undone.problems.kept()[0].path, merged);
+    EXPECT_EQ(undone.problems.kept()[0].error, ENOSPC);
+    EXPECT_EQ(namesIn(merged), std::vector<std::string>{"file"});
 }
 
 TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
