@@ -229,6 +229,7 @@ bool TreeCopier::linkToCopy(const struct stat& source, int to, const char* newNa
         static_cast<void>(m_calls.remove(to, newName, 0));
         return false;
     }
+    m_lacksAttributes = copy.lacksAttributes;
     m_progress.bytes += static_cast<std::uint64_t>(source.st_size);
     if (--copy.namesLeft == 0)
         m_several.erase(found);
@@ -243,6 +244,7 @@ void TreeCopier::rememberCopy(const struct stat& source, const char* name, const
                                     .original = versionOf(source),
                                     .made = versionOf(copy),
                                     .identity = identityOf(copy),
+                                    .lacksAttributes = m_lacksAttributes,
                                     .namesLeft = source.st_nlink - 1});
 }
 

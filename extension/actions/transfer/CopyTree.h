@@ -76,6 +76,7 @@ private:
         Version original;
         Version made;
         Identity identity;
+        bool lacksAttributes;
         /// That were not copied yet.
         nlink_t namesLeft;
     };

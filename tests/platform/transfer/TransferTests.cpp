@@ -1274,6 +1274,23 @@ TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
     EXPECT_FALSE(fs::exists(source() / "folder"));
 }
 
+TEST_F(UnusualCopies, KeepEachNameOfAFileThatTheyLackAttributesOf)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path first = file(source() / "1");
+    ASSERT_EQ(::setxattr(first.c_str(), "user.orvik", "a value", 7, 0), 0);
+    const fs::path second = source() / "2";
+    fs::create_hard_link(first, second);
+    unusual.hasRoomForAttributes = false;
+    const Result result = run(What::Move, {first, second});
+    ASSERT_EQ(kindsOf(result),
+              (std::vector{Kind::WithoutAttributes, Kind::WithoutAttributes, Kind::NotRemoved, Kind::NotRemoved}));
+    EXPECT_EQ(result.problems.kept()[1].path, second);
+    EXPECT_EQ(namesIn(source()), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(fs::hard_link_count(target() / "1"), 2U);
+}
+
 TEST_F(UnusualCopies, DoNotLackAttributesThatAnotherLacked)
 {
     if (!haveAttributes())
