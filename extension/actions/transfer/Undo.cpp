@@ -71,7 +71,12 @@ public:
             m_problems.add({Problem::Kind::NotUndone, copy, errno});
         return {Resolution::Skip};
     }
-    [[nodiscard]] bool goesOnWithout(const Problems&) override { return true; }
+    [[nodiscard]] bool goesOnWithout(const Problems& problems) override
+    {
+        m_problems = problems;
+        return true;
+    }
+    /// Which the result does not tell of.
     [[nodiscard]] const Problems& problems() const { return m_problems; }
 
 private:
@@ -180,8 +185,11 @@ void Transfer::moveBack(MovesByFolder& moves, Result& result)
             m_progress, asked);
         const Result moved = back.run(order);
         result.done += moved.done;
-        for (const Problems* problems : {&asked.problems(), &moved.problems}) {
-            for (const Problem& problem : problems->kept())
+        for (const Problem& problem : moved.problems.kept())
+            result.problems.add(problem);
+        // What is wrong within a folder may be met again.
+        for (const Problem& problem : asked.problems().kept()) {
+            if (std::ranges::find(moved.problems.kept(), problem.path, &Problem::path) == moved.problems.kept().end())
                 result.problems.add(problem);
         }
         struct stat status = {};

@@ -803,6 +803,25 @@ TEST_F(Moves, NeverComeBackInThePlaceOfAnother)
     EXPECT_EQ(contentOf(source() / "item 2"), "moved");
 }
 
+TEST_F(Moves, SayWhatCannotComeBack)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can be somebody else";
+    constexpr uid_t another = 65533;
+    const fs::path others = file(source() / "theirs");
+    const fs::path own = file(source() / "own");
+    for (const fs::path& item : {others, target()})
+        ASSERT_EQ(::chown(item.c_str(), another, another), 0);
+    fs::permissions(target(), fs::perms(01777));
+    const OrdinaryUser user = becomeOrdinaryUser();
+    EXPECT_EQ(kindsOf(run(What::Move, {others, own})), std::vector<Kind>{});
+    const Result undone = undo();
+    ASSERT_EQ(kindsOf(undone), std::vector{Kind::CannotLeave});
+    EXPECT_EQ(undone.problems.kept()[0].path, target() / "theirs");
+    EXPECT_EQ(namesIn(source()), std::vector<std::string>{"own"});
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{"theirs"});
+}
+
 TEST_F(Moves, KeepWhatTheyReplacedWhereItCannotComeBack)
 {
     const fs::path item = file(source() / "album/name", "new").parent_path();
