@@ -913,6 +913,7 @@ public:
     bool canLink = true;
     bool hasRoomForAttributes = true;
     bool canSetTimes = true;
+    bool canRemoveByPath = true;
     bool hasMountsByFolder = false;
 
     std::uint64_t mount(int file) override
@@ -953,6 +954,13 @@ public:
             return -1;
         }
         return SystemCalls::link(from, name, to, newName);
+    }
+    int remove(int folder, const char* name, int flags) override
+    {
+        if (canRemoveByPath || folder != AT_FDCWD)
+            return SystemCalls::remove(folder, name, flags);
+        errno = EIO;
+        return -1;
     }
     int setAttribute(int file, const char* name, const void* value, std::size_t size) override
     {
@@ -1308,6 +1316,23 @@ TEST_F(UnusualCopies, KeepEachNameOfAFileThatTheyLackAttributesOf)
     EXPECT_EQ(result.problems.kept()[1].path, second);
     EXPECT_EQ(namesIn(source()), (std::vector<std::string>{"1", "2"}));
     EXPECT_EQ(fs::hard_link_count(target() / "1"), 2U);
+}
+
+TEST_F(UnusualCopies, ThatCannotGoAgainAreTold)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path item = file(source() / "folder/file");
+    ASSERT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
+    const Tree before = treeOf(item);
+    unusual.hasRoomForAttributes = false;
+    run(What::Move, {source() / "folder"});
+    unusual.canRemoveByPath = false;
+    const Result undone = undo();
+    ASSERT_EQ(kindsOf(undone), std::vector{Kind::NotUndone});
+    EXPECT_EQ(undone.problems.kept()[0].path, target() / "folder/file");
+    EXPECT_EQ(treeOf(item), before);
+    EXPECT_EQ(contentOf(target() / "folder/file"), "content");
 }
 
 TEST_F(UnusualCopies, DoNotLackAttributesThatAnotherLacked)
