@@ -23,8 +23,8 @@ public:
     /// The same in two steps, for where the original goes before the copy is there.
     [[nodiscard]] bool read(int from, Extended& extended);
     [[nodiscard]] bool give(const struct stat& source, const Extended& extended, int to, const struct stat& made);
-    /// Whether the last one that was given any lacks extended attributes since they are too large; asked once.
-    [[nodiscard]] bool hadNoRoom() { return std::exchange(m_hadNoRoom, false); }
+    /// Whether the one that was just given them lacks extended attributes since they are too large.
+    [[nodiscard]] bool hadNoRoom() const { return m_hadNoRoom; }
     /// The same for what is not opened: a link, a pipe. Of a link what a link can have.
     [[nodiscard]] bool copyUnopened(const struct stat& source, int folder, const char* name);
 

@@ -68,6 +68,7 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         return false;
     struct stat source = {};
     bool isMade = false;
+    m_lacksAttributes = false;
     if (m_calls.status(from, name, source) == 0) {
         if (S_ISDIR(source.st_mode) && m_depth > 0 && isStagingName(name))
             return false;
@@ -90,7 +91,7 @@ bool TreeCopier::copyItem(int from, const char* name, int to, const char* newNam
         note(name, error);
         return false;
     }
-    if (m_attributes.hadNoRoom())
+    if (m_lacksAttributes)
         noteWithoutAttributes(name);
     else
         m_copied.add(source, m_folder, name);
@@ -132,8 +133,10 @@ bool TreeCopier::fillFile(const FileDescriptor& from, struct stat& source, const
             return false;
     }
     struct stat made = {};
-    return m_calls.status(to.get(), "", made) == 0 && m_attributes.copy(from.get(), source, to.get(), made) &&
-           flushed(to.get());
+    if (m_calls.status(to.get(), "", made) != 0 || !m_attributes.copy(from.get(), source, to.get(), made))
+        return false;
+    m_lacksAttributes = m_attributes.hadNoRoom();
+    return flushed(to.get());
 }
 
 bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newName)
@@ -177,7 +180,7 @@ bool TreeCopier::copyFolder(int from, const char* name, int to, const char* newN
     // What is in it is whole nevertheless.
     if (!isWhole)
         note(name, errno);
-    if (m_attributes.hadNoRoom())
+    else if (m_attributes.hadNoRoom())
         noteWithoutAttributes(name);
     // Nobody knows then what of its files is on the disk.
     if (!flushed(copy.get()))
@@ -226,6 +229,7 @@ bool TreeCopier::linkToCopy(const struct stat& source, int to, const char* newNa
         static_cast<void>(m_calls.remove(to, newName, 0));
         return false;
     }
+    m_lacksAttributes = copy.lacksAttributes;
     m_progress.bytes += static_cast<std::uint64_t>(source.st_size);
     if (--copy.namesLeft == 0)
         m_several.erase(found);
@@ -243,6 +247,7 @@ void TreeCopier::rememberCopy(const struct stat& source, const char* name, const
                                     .original = versionOf(source),
                                     .made = versionOf(copy),
                                     .identity = identityOf(copy),
+                                    .lacksAttributes = m_lacksAttributes,
                                     .namesLeft = source.st_nlink - 1});
 }
 

@@ -78,6 +78,7 @@ private:
         Version original;
         Version made;
         Identity identity;
+        bool lacksAttributes;
         /// That were not copied yet.
         nlink_t namesLeft;
     };
@@ -98,6 +99,8 @@ private:
     std::string m_path;
     std::size_t m_itemLength = 0;
     std::size_t m_depth = 0;
+    /// What was copied last, if no folder, since the target has no room for them.
+    bool m_lacksAttributes = false;
     std::optional<mode_t> m_finalMode;
     int m_fatalError = 0;
     Flush m_flush = Flush::Each;

@@ -57,14 +57,31 @@ bool areTheSame(const Conflict& conflict)
 /// Nobody is asked: what somebody has made meanwhile is kept, and folders that were moved in part become one again.
 class KeepingBoth : public Asked {
 public:
+    explicit KeepingBoth(SystemCalls& calls) : m_calls(calls) {}
+
     [[nodiscard]] Decision decide(const Conflict& conflict) override
     {
         if (conflict.canMerge)
             return {Resolution::Merge};
-        const bool isSame = !S_ISDIR(conflict.source.status.st_mode) && areTheSame(conflict);
-        return {isSame ? Resolution::Replace : Resolution::KeepBoth};
+        if (S_ISDIR(conflict.source.status.st_mode) || !areTheSame(conflict))
+            return {Resolution::KeepBoth};
+        // The original, which never went: it may have attributes that its copy lacks.
+        const std::string& copy = conflict.source.path;
+        if (m_calls.remove(AT_FDCWD, copy.c_str(), 0) != 0)
+            m_problems.add({Problem::Kind::NotUndone, copy, errno});
+        return {Resolution::Skip};
     }
-    [[nodiscard]] bool goesOnWithout(const Problems&) override { return true; }
+    [[nodiscard]] bool goesOnWithout(const Problems& problems) override
+    {
+        m_problems = problems;
+        return true;
+    }
+    /// Which the result does not tell of.
+    [[nodiscard]] const Problems& problems() const { return m_problems; }
+
+private:
+    SystemCalls& m_calls;
+    Problems m_problems;
 };
 
 /// So many take little memory at once.
@@ -149,8 +166,11 @@ bool Transfer::restore(const Emptied& emptied)
 {
     const FileDescriptor folder = m_calls.open(AT_FDCWD, emptied.path.c_str(), O_RDONLY | O_DIRECTORY);
     struct stat made = {};
-    return folder && m_calls.status(folder.get(), "", made) == 0 &&
-           m_attributes.give(*emptied.status, emptied.extended, folder.get(), made);
+    if (!folder || m_calls.status(folder.get(), "", made) != 0 ||
+        !m_attributes.give(*emptied.status, emptied.extended, folder.get(), made))
+        return false;
+    errno = ENOSPC;
+    return !m_attributes.hadNoRoom();
 }
 
 /// Moves items back to where they were; of those that it was told to leave it is said that they are not there.
@@ -159,7 +179,7 @@ void Transfer::moveBack(MovesByFolder& moves, Result& result)
     for (const auto& [folder, order] : moves) {
         // They are counted anew, with what is in them.
         m_progress.totalFiles -= order.items.size();
-        KeepingBoth asked;
+        KeepingBoth asked(m_calls);
         Transfer back(
             m_calls, m_record, [](const std::string& item) { return openFolder(LinuxDesktop::parentFolder(item)); },
             m_progress, asked);
@@ -167,6 +187,11 @@ void Transfer::moveBack(MovesByFolder& moves, Result& result)
         result.done += moved.done;
         for (const Problem& problem : moved.problems.kept())
             result.problems.add(problem);
+        // What is wrong within a folder may be met again.
+        for (const Problem& problem : asked.problems().kept()) {
+            if (std::ranges::find(moved.problems.kept(), problem.path, &Problem::path) == moved.problems.kept().end())
+                result.problems.add(problem);
+        }
         struct stat status = {};
         for (const Order::Item& item : order.items) {
             if (moved.isCancelled && m_calls.status(AT_FDCWD, item.path.c_str(), status) == 0)

@@ -850,6 +850,25 @@ TEST_F(Moves, NeverComeBackInThePlaceOfAnother)
     EXPECT_EQ(contentOf(source() / "item 2"), "moved");
 }
 
+TEST_F(Moves, SayWhatCannotComeBack)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can be somebody else";
+    constexpr uid_t another = 65533;
+    const fs::path others = file(source() / "theirs");
+    const fs::path own = file(source() / "own");
+    for (const fs::path& item : {others, target()})
+        ASSERT_EQ(::chown(item.c_str(), another, another), 0);
+    fs::permissions(target(), fs::perms(01777));
+    const OrdinaryUser user = becomeOrdinaryUser();
+    EXPECT_EQ(kindsOf(run(What::Move, {others, own})), std::vector<Kind>{});
+    const Result undone = undo();
+    ASSERT_EQ(kindsOf(undone), std::vector{Kind::CannotLeave});
+    EXPECT_EQ(undone.problems.kept()[0].path, target() / "theirs");
+    EXPECT_EQ(namesIn(source()), std::vector<std::string>{"own"});
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{"theirs"});
+}
+
 TEST_F(Moves, KeepWhatTheyReplacedWhereItCannotComeBack)
 {
     const fs::path item = file(source() / "album/name", "new").parent_path();
@@ -939,6 +958,9 @@ public:
     bool canExchange = true;
     bool canRenameNew = true;
     bool canLink = true;
+    bool hasRoomForAttributes = true;
+    bool canSetTimes = true;
+    bool canRemoveByPath = true;
     bool hasMountsByFolder = false;
     /// As one that shares bytes, where it counts what it is asked to share.
     std::optional<int> shared;
@@ -996,6 +1018,28 @@ public:
             return -1;
         }
         return SystemCalls::link(from, name, to, newName);
+    }
+    int remove(int folder, const char* name, int flags) override
+    {
+        if (canRemoveByPath || folder != AT_FDCWD)
+            return SystemCalls::remove(folder, name, flags);
+        errno = EIO;
+        return -1;
+    }
+    int setAttribute(int file, const char* name, const void* value, std::size_t size) override
+    {
+        if (hasRoomForAttributes)
+            return SystemCalls::setAttribute(file, name, value, size);
+        errno = ENOSPC;
+        return -1;
+    }
+    int setTimes(int folder, const char* name, const std::array<timespec, 2>& times) override
+    {
+        // Of what is open.
+        if (canSetTimes || *name != '\0')
+            return SystemCalls::setTimes(folder, name, times);
+        errno = EIO;
+        return -1;
     }
 };
 
@@ -1323,6 +1367,79 @@ TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
     EXPECT_EQ(namesIn(target() / "folder"), std::vector<std::string>{"1"});
     EXPECT_EQ(treeOf(target() / "folder").at("/1"), before.at("/1"));
     EXPECT_FALSE(fs::exists(other));
+    // The original stays then too, and the copy goes.
+    EXPECT_EQ(kindsOf(undo()), std::vector<Kind>{});
+    EXPECT_EQ(namesIn(target() / "folder"), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(treeOf(target() / "folder").at("/1"), before.at("/1"));
+    EXPECT_TRUE(fs::exists(other));
+    EXPECT_FALSE(fs::exists(source() / "folder"));
+}
+
+TEST_F(UnusualCopies, KeepEachNameOfAFileThatTheyLackAttributesOf)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path first = file(source() / "1");
+    ASSERT_EQ(::setxattr(first.c_str(), "user.orvik", "a value", 7, 0), 0);
+    const fs::path second = source() / "2";
+    fs::create_hard_link(first, second);
+    unusual.hasRoomForAttributes = false;
+    const Result result = run(What::Move, {first, second});
+    ASSERT_EQ(kindsOf(result),
+              (std::vector{Kind::WithoutAttributes, Kind::WithoutAttributes, Kind::NotRemoved, Kind::NotRemoved}));
+    EXPECT_EQ(result.problems.kept()[1].path, second);
+    EXPECT_EQ(namesIn(source()), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(fs::hard_link_count(target() / "1"), 2U);
+}
+
+TEST_F(UnusualCopies, ThatCannotGoAgainAreTold)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path item = file(source() / "folder/file");
+    ASSERT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
+    const Tree before = treeOf(item);
+    unusual.hasRoomForAttributes = false;
+    run(What::Move, {source() / "folder"});
+    unusual.canRemoveByPath = false;
+    const Result undone = undo();
+    ASSERT_EQ(kindsOf(undone), std::vector{Kind::NotUndone});
+    EXPECT_EQ(undone.problems.kept()[0].path, target() / "folder/file");
+    EXPECT_EQ(treeOf(item), before);
+    EXPECT_EQ(contentOf(target() / "folder/file"), "content");
+}
+
+TEST_F(UnusualCopies, DoNotLackAttributesThatAnotherLacked)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path item = file(source() / "1");
+    ASSERT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
+    const fs::path link = source() / "2";
+    fs::create_symlink("nowhere", link);
+    unusual.hasRoomForAttributes = false;
+    unusual.canSetTimes = false;
+    EXPECT_EQ(kindsOf(run(What::Move, {item, link})), std::vector{Kind::NotTransferred});
+    EXPECT_EQ(namesIn(source()), std::vector<std::string>{"1"});
+    EXPECT_EQ(namesIn(target()), std::vector<std::string>{"2"});
+}
+
+TEST_F(UnusualCopies, SayWhichFolderIsNotBackWithAllItsAttributes)
+{
+    if (!haveAttributes())
+        GTEST_SKIP() << "files in memory have no attributes";
+    const fs::path merged = file(source() / "folder/file").parent_path();
+    ASSERT_EQ(::setxattr(merged.c_str(), "user.orvik", "a value", 7, 0), 0);
+    folder(target() / "folder");
+    answers.always = {Resolution::Merge};
+    EXPECT_EQ(kindsOf(run(What::Move, {merged})), std::vector<Kind>{});
+    EXPECT_FALSE(fs::exists(merged));
+    unusual.hasRoomForAttributes = false;
+    const Result undone = undo();
+    ASSERT_EQ(kindsOf(undone), std::vector{Kind::NotUndone});
+    EXPECT_EQ(undone.problems.kept()[0].path, merged);
+    EXPECT_EQ(undone.problems.kept()[0].error, ENOSPC);
+    EXPECT_EQ(namesIn(merged), std::vector<std::string>{"file"});
 }
 
 TEST_F(UnusualCopies, NeverTakeAwayWhatCameOrChangedAfterwards)
