@@ -124,26 +124,44 @@ std::string durationText(std::chrono::seconds duration)
            std::to_string(clock.seconds().count());
 }
 
+/// The date of a store, also where IPTC has its time, or that alone, in another tag.
+std::string dateOf(const Store& store, const std::string& value, const std::string& first, const Tags& tags)
+{
+    if (store.key == "IPTC:TimeCreated") {
+        const std::string* const day = tags.find("IPTC:DateCreated");
+        return (day ? *day : first.substr(0, lengthOfDay)) + ' ' + value;
+    }
+    const std::string* const time = store.key == "IPTC:DateCreated" ? tags.find("IPTC:TimeCreated") : nullptr;
+    return time ? value + ' ' + *time : value;
+}
+
 void shift(std::vector<std::string>& arguments, const Tags& tags, std::chrono::seconds duration)
 {
-    const std::string text = textOf(Field::Date, tags);
-    const auto date = photoTime(text);
-    if (!date)
+    using std::chrono::days;
+    const std::string first = textOf(Field::Date, tags);
+    const auto firstTime = photoTime(first);
+    if (!firstTime)
         return;
-    const std::string moved = textOf(*date + duration);
-    const bool isWholeDays = (duration % std::chrono::days(1)).count() == 0;
+    const auto wholeDays = std::chrono::duration_cast<days>(duration);
     for (const Store& store : storesOf(Field::Date)) {
         const std::string* const value = tags.find(store.key);
-        if (!value)
+        const std::string date = value ? dateOf(store, *value, first, tags) : "";
+        const auto time = photoTime(date);
+        if (!time)
             continue;
-        const bool isTime = photoTime(*value).has_value();
-        const bool isDay = isTime && value->size() == lengthOfDay;
+        const auto write = [&](const std::string& moved) {
+            arguments.push_back(assignment(store.written, set, moved));
+        };
+        const bool isDay = date.size() == lengthOfDay;
+        const bool isOfFirst = std::chrono::floor<days>(*firstTime) == *time;
         // A day without its time does not move by less, nor do a date and a time in two tags move together.
-        if (isDay && (text.size() > lengthOfDay || isWholeDays))
-            arguments.push_back(assignment(store.written, set, moved.substr(0, lengthOfDay)));
+        if (isDay && !isOfFirst)
+            write(textOf(*time + wholeDays).substr(0, lengthOfDay));
+        else if (isDay && (first.size() > lengthOfDay || duration == wholeDays))
+            write(textOf(*firstTime + duration).substr(0, lengthOfDay));
         else if (isDay || store.key.starts_with("IPTC:"))
-            arguments.push_back(assignment(store.written, set, moved + std::string(zoneOf(*value))));
-        else if (isTime)
+            write(textOf(*time + duration) + std::string(zoneOf(*value)));
+        else
             arguments.push_back(
                 assignment(store.written, duration.count() < 0 ? "-=" : "+=", durationText(duration)));
     }

@@ -344,6 +344,38 @@ TEST_F(SavePhotoTest, ADayWithoutATimeMovesToo)
     EXPECT_EQ(tag(alone, key), "2024:01:31 23:00:00");
 }
 
+TEST_F(SavePhotoTest, AnotherDayMovesByItselfAlone)
+{
+    const Path path = photo("jpg");
+    const std::string first = "EXIF:DateTimeOriginal=2024:01:31 23:30:00";
+    write(path, {first, "XMP-photoshop:DateCreated=1950:06:01", "XMP-xmp:CreateDate=1951:06:01",
+                 "IPTC:DateCreated=1952:06:01"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:DateTimeOriginal"), "2024:02:01 00:30:00");
+    EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"), "1950:06:01");
+    EXPECT_EQ(tag(path, "XMP-xmp:CreateDate"), "1951:06:01");
+    EXPECT_EQ(tag(path, "IPTC:DateCreated"), "1952:06:01");
+    ASSERT_EQ(move(path, -25h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:DateTimeOriginal"), "2024:01:30 23:30:00");
+    EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"), "1950:05:31");
+    EXPECT_EQ(tag(path, "XMP-xmp:CreateDate"), "1951:05:31");
+    EXPECT_EQ(tag(path, "IPTC:DateCreated"), "1952:05:31");
+
+    write(path, {first, "IPTC:DateCreated=1952:06:01", "IPTC:TimeCreated=00:10:00+02:00"});
+    ASSERT_EQ(move(path, -1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "IPTC:DateCreated"), "1952:05:31");
+    EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "23:10:00+02:00");
+    write(path, {first, "IPTC:DateCreated=", "IPTC:TimeCreated=00:10:00+02:00"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "01:10:00+02:00");
+
+    const Path days = photo("jpg", "days.jpg");
+    write(days, {"XMP-photoshop:DateCreated=2024:01:31", "XMP-xmp:CreateDate=1951:06:01"});
+    ASSERT_EQ(move(days, 24h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(days, "XMP-photoshop:DateCreated"), "2024:02:01");
+    EXPECT_EQ(tag(days, "XMP-xmp:CreateDate"), "1951:06:02");
+}
+
 TEST_F(SavePhotoTest, ADateKeepsItsTimeZone)
 {
     for (const bool isAlone : {false, true}) {
