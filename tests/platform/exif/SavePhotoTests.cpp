@@ -75,9 +75,9 @@ protected:
     }
 
     /// Has ExifTool itself write tags, "NAME=VALUE" each.
-    static void write(const Path& path, const std::vector<std::string>& tags)
+    static void write(const Path& path, const std::vector<std::string>& tags, const std::string& options = {})
     {
-        std::string command = "exiftool -q -overwrite_original";
+        std::string command = "exiftool -q -overwrite_original " + options;
         for (const std::string& tag : tags)
             command += " '-" + tag + '\'';
         ASSERT_EQ(std::system((command + " '" + path.native() + '\'').c_str()), 0);
@@ -202,6 +202,31 @@ TEST_F(SavePhotoTest, IptcTextsInAnotherEncodingStayWhatTheyAre)
         const bool isLatin = title != "Жук";
         EXPECT_NE(Files::read(path).find(isLatin ? "Gr\xfcn; x" : "Grün; x"), std::string::npos) << "is one keyword";
         EXPECT_EQ(tag(path, "IPTC:CodedCharacterSet"), isLatin ? "" : "UTF8");
+    }
+}
+
+TEST_F(SavePhotoTest, IptcTextsInUtf8ThatDoNotSaySoStayWhatTheyAre)
+{
+    // Some of its bytes are no letters elsewhere.
+    const std::string city = "Köln, Ýstad Ö–Жя";
+    for (const std::string title : {"Neu", "Müller", "Жук"}) {
+        for (const bool hasTitle : {false, true}) {
+            const Path path = photo("jpg");
+            write(path,
+                  {"IPTC:City=" + city, "IPTC:Keywords=Grün",
+                   std::string("IPTC:ObjectName=") + (hasTitle ? "früher" : "alt")},
+                  "-charset iptc=UTF8");
+            ASSERT_NE(Files::read(path).find(city), std::string::npos);
+            ASSERT_EQ(saveText(path, Field::Title, title), Kind::None) << title << lastWords();
+            EXPECT_NE(Files::read(path).find(city), std::string::npos) << title;
+            const bool isMarked = title != "Neu";
+            EXPECT_EQ(tag(path, "IPTC:CodedCharacterSet"), isMarked ? "UTF8" : "");
+            EXPECT_EQ(tag(path, "IPTC:ObjectName"), title);
+            if (isMarked) {
+                EXPECT_EQ(tag(path, "IPTC:City"), city);
+                EXPECT_EQ(tag(path, "IPTC:Keywords"), "Grün");
+            }
+        }
     }
 }
 
