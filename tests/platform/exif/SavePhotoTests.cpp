@@ -10,6 +10,8 @@
 #include <fcntl.h>
 #include <linux/capability.h>
 #include <random>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -655,6 +657,51 @@ TEST_F(SavePhotoTest, NoOriginalIsKeptOfAPhotoThatCannotBeReplaced)
     fs::permissions(listed(), fs::perms(01777));
     EXPECT_EQ(inChild(path, loseRights, {.keepsOriginal = true}), Kind::CannotBeSaved);
     EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+}
+
+TEST_F(SavePhotoTest, NoOriginalIsKeptOfAPhotoThatEverybodyWritesAndItsOwnerReplaces)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser can have another's photo";
+    const Path path = photo("jpg");
+    const std::string before = Files::read(path);
+    constexpr uid_t another = 65534;
+    constexpr uid_t person = 65533;
+    ASSERT_EQ(::chown(path.c_str(), another, another), 0);
+    ASSERT_EQ(::chown(listed().c_str(), another, another), 0);
+    fs::permissions(listed().parent_path(), fs::perms(0755));
+    fs::permissions(listed(), fs::perms(01777));
+    fs::permissions(path, fs::perms(0666));
+    const auto becomePerson = [] {
+        ASSERT_EQ(::setresuid(person, person, person), 0);
+        // So that what it starts sees its files.
+        ASSERT_EQ(::prctl(PR_SET_DUMPABLE, 1), 0);
+    };
+    EXPECT_EQ(inChild(path, becomePerson, {.keepsOriginal = true}), Kind::CannotBeSaved);
+    EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+    EXPECT_EQ(Files::read(path), before);
+    // Either may be the person's.
+    ASSERT_EQ(::chown(path.c_str(), person, person), 0);
+    EXPECT_EQ(inChild(path, becomePerson, {.keepsOriginal = true}), Kind::None);
+    EXPECT_EQ(Files::read(path.native() + "_original"), before);
+}
+
+TEST_F(SavePhotoTest, AnOriginalOfBeforeStaysWhereThePhotoCannotBeReplaced)
+{
+    const Path path = photo("jpg");
+    fs::create_hard_link(path, path.native() + "_original");
+    constexpr int noMounts = 99;
+    const auto mountPhoto = [&] {
+        // No name can take the place of one that is mounted on.
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount(path.c_str(), path.c_str(), nullptr, MS_BIND, nullptr) != 0)
+            ::_exit(noMounts);
+    };
+    const Kind kind = inChild(path, mountPhoto, {.keepsOriginal = true});
+    if (kind == static_cast<Kind>(noMounts))
+        GTEST_SKIP() << "no mounts here";
+    EXPECT_EQ(kind, Kind::CannotBeSaved);
+    EXPECT_EQ(names(), (std::vector<std::string>{"photo.jpg", "photo.jpg_original"}));
 }
 
 TEST_F(SavePhotoTest, AnOriginalThatIsKeptAlreadyIsKeptOnce)
