@@ -102,6 +102,44 @@ class Exif(ExifWindow, DesktopTestCase):
         eventually(lambda: self.window.focused() and self.window.focused().name == "Title",
                    "“Title” to have the keyboard again")
 
+    def test_the_keyboard_stays_where_it_is_taken_while_photos_are_saved(self):
+        flag = self.stall_exiftool()
+        path = self.photo()
+        self.open(path)
+        self.to_edit_page()
+        self.go_to("Title")
+        self.hands.type("one")
+        self.home.make_file(flag)
+        self.go_to("Save")
+        self.hands.press("space")
+        eventually(lambda: not self.window.find("push button", "Save").has("enabled"), "the photo to be saved")
+        self.hands.press("ctrl+Prior")
+        taken = eventually(self.window.focused, "something to have the keyboard")
+        os.remove(flag)
+        self.assertTells("1 photo was saved.")
+        self.assertEqual(self.tags(path)["Title"], "one")
+        eventually(lambda: "one" in self.cells(), "the photo to be read again")
+        self.assertEqual(self.window.focused(), taken)
+
+    def test_the_keyboard_is_not_taken_where_photos_are_read_later(self):
+        flag = self.stall_exiftool()
+        self.open(self.photo("a.jpg", Title="a"), self.photo("b.jpg", Title="b"))
+        self.to_edit_page()
+        self.go_to("Author")
+        self.hands.type("Ada")
+        self.home.make_file(flag)
+        self.go_to("Save")
+        self.hands.press("space")
+        self.cancel()
+        self.assertTells("It was ended; the photos that were not saved yet are as they were.")
+        self.cancel()
+        self.assertTells("Reading was cancelled. Choose photos to read them.")
+        os.remove(flag)
+        self.go_to("Photos")
+        self.hands.press("End")
+        eventually(lambda: self.window.find("text", "Title").has("enabled"), "the photo that is chosen")
+        self.assertEqual(self.window.focused().name, "Photos")
+
     def test_what_became_of_it_is_told_to_those_who_listen(self):
         self.open(self.photo())
         self.to_edit_page()
@@ -367,7 +405,7 @@ class Exif(ExifWindow, DesktopTestCase):
         real = os.path.realpath(program)
         os.unlink(program)
         with open(program, "w", encoding="utf-8") as file:
-            file.write(f'#!/bin/bash\n[ -e "{flag}" ] && exec /bin/sleep 600\nexec {real} "$@"\n')
+            file.write(f'#!/bin/bash\nwhile [ -e "{flag}" ]; do /bin/sleep 0.1; done\nexec {real} "$@"\n')
         os.chmod(program, 0o755)
         return flag
 

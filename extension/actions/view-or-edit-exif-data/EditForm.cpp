@@ -186,6 +186,9 @@ void EditForm::addPlace(QFormLayout& form)
 
 void EditForm::showFields(const Merged& merged)
 {
+    // What is chosen later is not what it was in.
+    if (merged.photos() == 0)
+        m_focused = nullptr;
     const QString different = tr("Different values");
     for (const auto& [field, line] : m_lines) {
         const Merged::Value& value = merged.field(field);
@@ -223,13 +226,16 @@ void EditForm::showFields(const Merged& merged)
 void EditForm::setBusy(bool busy)
 {
     QWidget* const focused = window()->focusWidget();
-    if (busy && focused && isAncestorOf(focused))
-        m_focused = focused;
+    // Wherever else it is, the person has taken it there.
+    if (focused && focused != m_focusedWhileBusy)
+        m_focused = isAncestorOf(focused) ? focused : nullptr;
     m_fields->setEnabled(!busy);
     m_remove->setEnabled(!busy);
     m_save->setEnabled(!busy);
-    if (!busy && m_focused)
-        std::exchange(m_focused, nullptr)->setFocus();
+    m_focusedWhileBusy = busy ? window()->focusWidget() : nullptr;
+    QWidget* const before = busy ? nullptr : std::exchange(m_focused, nullptr);
+    if (before && before->isVisible())
+        before->setFocus();
 }
 
 SaveOptions EditForm::options() const

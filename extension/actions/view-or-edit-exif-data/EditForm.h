@@ -4,6 +4,7 @@
 #include "Merged.h"
 #include "SavePhoto.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <map>
@@ -29,7 +30,8 @@ public:
 
     /// What the photos say; what was typed and not saved is forgotten.
     void showFields(const Merged& merged);
-    /// While something runs nothing can be typed; after that the keyboard is where it was.
+    /// While something runs nothing can be typed; after that the keyboard is where it was, unless the person has
+    /// taken it elsewhere.
     void setBusy(bool busy);
 
     [[nodiscard]] SaveOptions options() const;
@@ -67,6 +69,8 @@ private:
     QWidget* m_fields;
     /// What had the keyboard before it was busy.
     QWidget* m_focused = nullptr;
+    /// Where the toolkit put it then.
+    QPointer<QWidget> m_focusedWhileBusy;
 };
 
 } // namespace MenuExtension::Exif

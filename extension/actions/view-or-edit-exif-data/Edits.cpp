@@ -124,26 +124,44 @@ std::string durationText(std::chrono::seconds duration)
            std::to_string(clock.seconds().count());
 }
 
+/// The date of a store, also where IPTC has its time, or that alone, in another tag.
+std::string dateOf(const Store& store, const std::string& value, const std::string& first, const Tags& tags)
+{
+    if (store.key == "IPTC:TimeCreated") {
+        const std::string* const day = tags.find("IPTC:DateCreated");
+        return (day ? *day : first.substr(0, lengthOfDay)) + ' ' + value;
+    }
+    const std::string* const time = store.key == "IPTC:DateCreated" ? tags.find("IPTC:TimeCreated") : nullptr;
+    return time ? value + ' ' + *time : value;
+}
+
 void shift(std::vector<std::string>& arguments, const Tags& tags, std::chrono::seconds duration)
 {
-    const std::string text = textOf(Field::Date, tags);
-    const auto date = photoTime(text);
-    if (!date)
+    using std::chrono::days;
+    const std::string first = textOf(Field::Date, tags);
+    const auto firstTime = photoTime(first);
+    if (!firstTime)
         return;
-    const std::string moved = textOf(*date + duration);
-    const bool isWholeDays = (duration % std::chrono::days(1)).count() == 0;
+    const auto wholeDays = std::chrono::duration_cast<days>(duration);
     for (const Store& store : storesOf(Field::Date)) {
         const std::string* const value = tags.find(store.key);
-        if (!value)
+        const std::string date = value ? dateOf(store, *value, first, tags) : "";
+        const auto time = photoTime(date);
+        if (!time)
             continue;
-        const bool isTime = photoTime(*value).has_value();
-        const bool isDay = isTime && value->size() == lengthOfDay;
+        const auto write = [&](const std::string& moved) {
+            arguments.push_back(assignment(store.written, set, moved));
+        };
+        const bool isDay = date.size() == lengthOfDay;
+        const bool isOfFirst = std::chrono::floor<days>(*firstTime) == *time;
         // A day without its time does not move by less, nor do a date and a time in two tags move together.
-        if (isDay && (text.size() > lengthOfDay || isWholeDays))
-            arguments.push_back(assignment(store.written, set, moved.substr(0, lengthOfDay)));
+        if (isDay && !isOfFirst)
+            write(textOf(*time + wholeDays).substr(0, lengthOfDay));
+        else if (isDay && (first.size() > lengthOfDay || duration == wholeDays))
+            write(textOf(*firstTime + duration).substr(0, lengthOfDay));
         else if (isDay || store.key.starts_with("IPTC:"))
-            arguments.push_back(assignment(store.written, set, moved + std::string(zoneOf(*value))));
-        else if (isTime)
+            write(textOf(*time + duration) + std::string(zoneOf(*value)));
+        else
             arguments.push_back(
                 assignment(store.written, duration.count() < 0 ? "-=" : "+=", durationText(duration)));
     }
@@ -156,26 +174,88 @@ bool isLatin(std::string_view text)
     return std::ranges::all_of(text, [](char byte) { return static_cast<unsigned char>(byte) <= lastOfLatin; });
 }
 
-bool isIptcText(const Tag& tag)
+bool isAscii(std::string_view text)
 {
-    return tag.group == "IPTC" && std::ranges::any_of(tag.value, [](char byte) { return (byte & 0x80) != 0; });
+    return std::ranges::none_of(text, [](char byte) { return (byte & 0x80) != 0; });
 }
 
-/// Has IPTC become UTF-8 where it is not and has to take other letters. ExifTool leaves the bytes of what is there.
+bool isIptcText(const Tag& tag)
+{
+    return tag.group == "IPTC" && !isAscii(tag.value);
+}
+
+/// The first character of UTF-8 text; nothing where there is none.
+std::string_view firstOf(std::string_view text)
+{
+    const auto lead = static_cast<unsigned char>(text.empty() ? 0xff : text.front());
+    const std::size_t size = lead < 0x80                   ? 1
+                             : lead >= 0xc2 && lead < 0xe0 ? 2
+                             : lead >= 0xe0 && lead < 0xf0 ? 3
+                             : lead >= 0xf0 && lead < 0xf5 ? 4
+                                                           : 0;
+    if (size == 0 || size > text.size())
+        return {};
+    const std::string_view character = text.substr(0, size);
+    const auto continues = [](char byte) { return (byte & 0xc0) == 0x80; };
+    return std::ranges::all_of(character.substr(1), continues) ? character : std::string_view();
+}
+
+bool isUtf8(std::string_view text)
+{
+    for (std::string_view first = firstOf(text); !first.empty(); first = firstOf(text))
+        text.remove_prefix(first.size());
+    return text.empty();
+}
+
+/// The bytes of a text that was read as Latin.
+std::string latinBytes(std::string_view text)
+{
+    // From 0x80 to 0x9f, of which some are no characters.
+    constexpr std::array<std::string_view, 32> windows{"€", "",  "‚", "ƒ", "„", "…", "†", "‡", "ˆ", "‰", "Š",
+                                                       "‹", "Œ", "",  "Ž", "",  "",  "‘", "’", "“", "”", "•",
+                                                       "–", "—", "˜", "™", "š", "›", "œ", "",  "ž", "Ÿ"};
+    std::string bytes;
+    for (std::string_view first = firstOf(text); !first.empty(); first = firstOf(text)) {
+        const auto* const found = std::ranges::find(windows, first);
+        const auto code = found != windows.end()    ? 0x80 + (found - windows.begin())
+                          : first.front() == '\xc3' ? first.back() + 0x40
+                                                    : first.back();
+        bytes += static_cast<char>(code);
+        text.remove_prefix(first.size());
+    }
+    return bytes;
+}
+
+/// Whether IPTC is UTF-8 and does not say so: ExifTool has read it as Latin then.
+bool isUnmarked(const Tags& tags)
+{
+    bool hasText = false;
+    for (const Tag& tag : tags) {
+        if (isIptcText(tag) && !isUtf8(latinBytes(tag.value)))
+            return false;
+        hasText = hasText || isIptcText(tag);
+    }
+    return hasText && !tags.find("IPTC:CodedCharacterSet");
+}
+
+/// Has IPTC become UTF-8 where it is not and has to take other letters, and say so where it is. ExifTool leaves the
+/// bytes of what is there.
 void encode(std::vector<std::string>& arguments, const Tags& tags)
 {
     const auto writes = [&](const std::string& option) {
         return std::ranges::any_of(arguments, [&](const std::string& each) { return each.starts_with(option); });
     };
-    const bool isNeeded = std::ranges::any_of(
-        arguments, [](const std::string& each) { return each.starts_with("-IPTC:") && !isLatin(each); });
+    const bool lacksMark = isUnmarked(tags);
+    const bool isNeeded = std::ranges::any_of(arguments, [&](const std::string& each) {
+        return each.starts_with("-IPTC:") && !(lacksMark ? isAscii(each) : isLatin(each));
+    });
     const std::string* const encoding = tags.find("IPTC:CodedCharacterSet");
     if (!isNeeded || (encoding && *encoding == "UTF8"))
         return;
     std::vector<std::string> anew;
     for (const Tag& tag : tags) {
         const std::string option = "-IPTC:" + tag.name;
-        if (isIptcText(tag) && !writes(option + '='))
+        if (!lacksMark && isIptcText(tag) && !writes(option + '='))
             anew.push_back(option);
     }
     if (!anew.empty())
@@ -236,8 +316,8 @@ std::vector<std::string> keysFor(const Edits& edits)
                 keys.push_back("ExifIFD:" + std::string(name));
         }
     }
-    // What may have to be written anew.
-    if (std::ranges::any_of(edits.texts, [](const auto& text) { return !isLatin(text.second); }))
+    // What may have to be written anew, or to say what it is.
+    if (std::ranges::any_of(edits.texts, [](const auto& text) { return !isAscii(text.second); }))
         keys.emplace_back("IPTC:all");
     return keys;
 }
@@ -287,13 +367,14 @@ bool areMade(const Edits& edits, const Tags& before, const Tags& after)
             (kind == Kind::Place && edits.place) || (kind == Kind::People && edits.texts.contains(Field::Author));
         return kind && (goesWithPlace || (edits.removesPersonalData && !isSetAnew));
     });
+    const bool isMarked = isUnmarked(before) && after.find("IPTC:CodedCharacterSet");
     const bool othersStay = std::ranges::all_of(before, [&](const Tag& tag) {
         const std::string* const value = isIptcText(tag) ? after.find("IPTC:" + tag.name) : nullptr;
         const bool isEdited = std::ranges::any_of(edits.texts, [&](const auto& text) {
             return std::ranges::any_of(storesOf(text.first),
                                        [&](const Store& store) { return matches(store.key, tag); });
         });
-        return !value || isEdited || *value == tag.value;
+        return !value || isEdited || *value == (isMarked ? latinBytes(tag.value) : tag.value);
     });
     return textsAreMade && isShifted && isTurned && isPlaced && isRemoved && othersStay;
 }

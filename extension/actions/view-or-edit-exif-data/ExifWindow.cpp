@@ -226,8 +226,9 @@ void ExifWindow::showRead(const PhotoWork::Progress& progress)
 
 void ExifWindow::save(const Edits& edits)
 {
-    m_form->setBusy(true);
+    // Before the form, from which the keyboard would go there.
     m_photos->setEnabled(false);
+    m_form->setBusy(true);
     clearResult();
     m_progress->start(tr("Saving photos"));
     m_work.save(selected(), edits, m_form->options());

@@ -96,8 +96,14 @@ std::optional<std::string> nameOriginal(const OpenedFile& photo, const std::func
     return std::nullopt;
 }
 
-/// The name under which it is kept. Nothing, with errno.
-std::optional<std::string> keepOriginal(const OpenedFile& photo, const struct stat& status)
+struct Original {
+    std::string name;
+    /// From an earlier save.
+    bool wasThere = false;
+};
+
+/// Keeps it. Nothing, with errno.
+std::optional<Original> keepOriginal(const OpenedFile& photo, const struct stat& status)
 {
     const int folder = photo.folder.get();
     const auto isPhoto = [&](const char* name) {
@@ -106,18 +112,32 @@ std::optional<std::string> keepOriginal(const OpenedFile& photo, const struct st
                there.st_ino == status.st_ino;
     };
     // A save that did not come to its end may have kept it.
-    auto name = nameOriginal(photo, [&](const char* given) {
-        return ::linkat(folder, photo.name.c_str(), folder, given, 0) == 0 || (errno == EEXIST && isPhoto(given));
+    bool wasThere = false;
+    const auto link = nameOriginal(photo, [&](const char* given) {
+        if (::linkat(folder, photo.name.c_str(), folder, given, 0) == 0)
+            return true;
+        wasThere = errno == EEXIST && isPhoto(given);
+        return wasThere;
     });
-    if (name || (errno != EPERM && errno != EMLINK && !isUnsupported()))
-        return name;
+    if (link)
+        return Original{*link, wasThere};
+    if (errno != EPERM && errno != EMLINK && !isUnsupported())
+        return std::nullopt;
     // A file has one name there.
     const TemporaryName temporary(photo.folder, {});
     if (!copyTo(photo.file.get(), photo.folder, temporary.name(), status))
         return std::nullopt;
-    return nameOriginal(photo, [&](const char* given) {
+    const auto copy = nameOriginal(photo, [&](const char* given) {
         return ::renameat2(folder, temporary.name().c_str(), folder, given, RENAME_NOREPLACE) == 0;
     });
+    return copy ? std::optional(Original{*copy}) : std::nullopt;
+}
+
+/// Whether it is another's in a folder where only its owner may replace it, or remove another name of it.
+bool isGuarded(const struct stat& photo, const struct stat& folder)
+{
+    const uid_t person = ::geteuid();
+    return (folder.st_mode & S_ISVTX) != 0 && person != 0 && person != folder.st_uid && person != photo.st_uid;
 }
 
 /// What can be known before anything is written.
@@ -232,15 +252,18 @@ public:
             m_trouble = {.kind = Trouble::Kind::Changed};
             return;
         }
+        if (options.keepsOriginal && isGuarded(m_status, m_folder)) {
+            m_trouble = {.kind = Trouble::Kind::CannotBeSaved, .error = EPERM};
+            return;
+        }
         const int folder = m_photo.folder.get();
         const auto original = options.keepsOriginal ? keepOriginal(m_photo, m_status) : std::nullopt;
         if (options.keepsOriginal && !original) {
             m_trouble = {.kind = Trouble::Kind::OriginalCannotBeKept, .error = errno};
         } else if (::renameat(folder, m_temporary->name().c_str(), folder, m_photo.name.c_str()) != 0) {
             m_trouble = cannotBeSaved();
-            // As in a folder where only its owner may replace a photo.
-            if (original)
-                ::unlinkat(folder, original->c_str(), 0);
+            if (original && !original->wasThere)
+                ::unlinkat(folder, original->name.c_str(), 0);
         }
     }
 

@@ -10,6 +10,8 @@
 #include <fcntl.h>
 #include <linux/capability.h>
 #include <random>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -75,9 +77,9 @@ protected:
     }
 
     /// Has ExifTool itself write tags, "NAME=VALUE" each.
-    static void write(const Path& path, const std::vector<std::string>& tags)
+    static void write(const Path& path, const std::vector<std::string>& tags, const std::string& options = {})
     {
-        std::string command = "exiftool -q -overwrite_original";
+        std::string command = "exiftool -q -overwrite_original " + options;
         for (const std::string& tag : tags)
             command += " '-" + tag + '\'';
         ASSERT_EQ(std::system((command + " '" + path.native() + '\'').c_str()), 0);
@@ -202,6 +204,31 @@ TEST_F(SavePhotoTest, IptcTextsInAnotherEncodingStayWhatTheyAre)
         const bool isLatin = title != "Жук";
         EXPECT_NE(Files::read(path).find(isLatin ? "Gr\xfcn; x" : "Grün; x"), std::string::npos) << "is one keyword";
         EXPECT_EQ(tag(path, "IPTC:CodedCharacterSet"), isLatin ? "" : "UTF8");
+    }
+}
+
+TEST_F(SavePhotoTest, IptcTextsInUtf8ThatDoNotSaySoStayWhatTheyAre)
+{
+    // Some of its bytes are no letters elsewhere.
+    const std::string city = "Köln, Ýstad Ö–Жя";
+    for (const std::string title : {"Neu", "Müller", "Жук"}) {
+        for (const bool hasTitle : {false, true}) {
+            const Path path = photo("jpg");
+            write(path,
+                  {"IPTC:City=" + city, "IPTC:Keywords=Grün",
+                   std::string("IPTC:ObjectName=") + (hasTitle ? "früher" : "alt")},
+                  "-charset iptc=UTF8");
+            ASSERT_NE(Files::read(path).find(city), std::string::npos);
+            ASSERT_EQ(saveText(path, Field::Title, title), Kind::None) << title << lastWords();
+            EXPECT_NE(Files::read(path).find(city), std::string::npos) << title;
+            const bool isMarked = title != "Neu";
+            EXPECT_EQ(tag(path, "IPTC:CodedCharacterSet"), isMarked ? "UTF8" : "");
+            EXPECT_EQ(tag(path, "IPTC:ObjectName"), title);
+            if (isMarked) {
+                EXPECT_EQ(tag(path, "IPTC:City"), city);
+                EXPECT_EQ(tag(path, "IPTC:Keywords"), "Grün");
+            }
+        }
     }
 }
 
@@ -342,6 +369,38 @@ TEST_F(SavePhotoTest, ADayWithoutATimeMovesToo)
     EXPECT_EQ(tag(alone, key), "2024:02:01");
     ASSERT_EQ(move(alone, -1h), Kind::None) << lastWords();
     EXPECT_EQ(tag(alone, key), "2024:01:31 23:00:00");
+}
+
+TEST_F(SavePhotoTest, AnotherDayMovesByItselfAlone)
+{
+    const Path path = photo("jpg");
+    const std::string first = "EXIF:DateTimeOriginal=2024:01:31 23:30:00";
+    write(path, {first, "XMP-photoshop:DateCreated=1950:06:01", "XMP-xmp:CreateDate=1951:06:01",
+                 "IPTC:DateCreated=1952:06:01"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:DateTimeOriginal"), "2024:02:01 00:30:00");
+    EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"), "1950:06:01");
+    EXPECT_EQ(tag(path, "XMP-xmp:CreateDate"), "1951:06:01");
+    EXPECT_EQ(tag(path, "IPTC:DateCreated"), "1952:06:01");
+    ASSERT_EQ(move(path, -25h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "ExifIFD:DateTimeOriginal"), "2024:01:30 23:30:00");
+    EXPECT_EQ(tag(path, "XMP-photoshop:DateCreated"), "1950:05:31");
+    EXPECT_EQ(tag(path, "XMP-xmp:CreateDate"), "1951:05:31");
+    EXPECT_EQ(tag(path, "IPTC:DateCreated"), "1952:05:31");
+
+    write(path, {first, "IPTC:DateCreated=1952:06:01", "IPTC:TimeCreated=00:10:00+02:00"});
+    ASSERT_EQ(move(path, -1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "IPTC:DateCreated"), "1952:05:31");
+    EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "23:10:00+02:00");
+    write(path, {first, "IPTC:DateCreated=", "IPTC:TimeCreated=00:10:00+02:00"});
+    ASSERT_EQ(move(path, 1h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(path, "IPTC:TimeCreated"), "01:10:00+02:00");
+
+    const Path days = photo("jpg", "days.jpg");
+    write(days, {"XMP-photoshop:DateCreated=2024:01:31", "XMP-xmp:CreateDate=1951:06:01"});
+    ASSERT_EQ(move(days, 24h), Kind::None) << lastWords();
+    EXPECT_EQ(tag(days, "XMP-photoshop:DateCreated"), "2024:02:01");
+    EXPECT_EQ(tag(days, "XMP-xmp:CreateDate"), "1951:06:02");
 }
 
 TEST_F(SavePhotoTest, ADateKeepsItsTimeZone)
@@ -598,6 +657,51 @@ TEST_F(SavePhotoTest, NoOriginalIsKeptOfAPhotoThatCannotBeReplaced)
     fs::permissions(listed(), fs::perms(01777));
     EXPECT_EQ(inChild(path, loseRights, {.keepsOriginal = true}), Kind::CannotBeSaved);
     EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+}
+
+TEST_F(SavePhotoTest, NoOriginalIsKeptOfAPhotoThatEverybodyWritesAndItsOwnerReplaces)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser can have another's photo";
+    const Path path = photo("jpg");
+    const std::string before = Files::read(path);
+    constexpr uid_t another = 65534;
+    constexpr uid_t person = 65533;
+    ASSERT_EQ(::chown(path.c_str(), another, another), 0);
+    ASSERT_EQ(::chown(listed().c_str(), another, another), 0);
+    fs::permissions(listed().parent_path(), fs::perms(0755));
+    fs::permissions(listed(), fs::perms(01777));
+    fs::permissions(path, fs::perms(0666));
+    const auto becomePerson = [] {
+        ASSERT_EQ(::setresuid(person, person, person), 0);
+        // So that what it starts sees its files.
+        ASSERT_EQ(::prctl(PR_SET_DUMPABLE, 1), 0);
+    };
+    EXPECT_EQ(inChild(path, becomePerson, {.keepsOriginal = true}), Kind::CannotBeSaved);
+    EXPECT_EQ(names(), std::vector<std::string>{"photo.jpg"});
+    EXPECT_EQ(Files::read(path), before);
+    // Either may be the person's.
+    ASSERT_EQ(::chown(path.c_str(), person, person), 0);
+    EXPECT_EQ(inChild(path, becomePerson, {.keepsOriginal = true}), Kind::None);
+    EXPECT_EQ(Files::read(path.native() + "_original"), before);
+}
+
+TEST_F(SavePhotoTest, AnOriginalOfBeforeStaysWhereThePhotoCannotBeReplaced)
+{
+    const Path path = photo("jpg");
+    fs::create_hard_link(path, path.native() + "_original");
+    constexpr int noMounts = 99;
+    const auto mountPhoto = [&] {
+        // No name can take the place of one that is mounted on.
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount(path.c_str(), path.c_str(), nullptr, MS_BIND, nullptr) != 0)
+            ::_exit(noMounts);
+    };
+    const Kind kind = inChild(path, mountPhoto, {.keepsOriginal = true});
+    if (kind == static_cast<Kind>(noMounts))
+        GTEST_SKIP() << "no mounts here";
+    EXPECT_EQ(kind, Kind::CannotBeSaved);
+    EXPECT_EQ(names(), (std::vector<std::string>{"photo.jpg", "photo.jpg_original"}));
 }
 
 TEST_F(SavePhotoTest, AnOriginalThatIsKeptAlreadyIsKeptOnce)
