@@ -18,8 +18,8 @@ public:
     NeedsWatch(const NeedsWatch&) = delete;
     NeedsWatch& operator=(const NeedsWatch&) = delete;
 
-    /// Follows these from now on, and no others. True where it did not before: what was looked at before that may have
-    /// changed untold.
+    /// Follows these from now on, and no others. True where it did not before: what was looked at before that may
+    /// have changed untold.
     bool follow(std::vector<ActionNeed> needs);
 
 private:
