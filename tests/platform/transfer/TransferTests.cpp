@@ -1349,8 +1349,8 @@ TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
     };
     const fs::path item = file(target() / "folder/1");
     file(target() / "folder/2");
-    if (!hasLarge(item) || hasLarge(file(source() / "probe")))
-        GTEST_SKIP() << "no disk without room for large attributes";
+    ASSERT_TRUE(hasLarge(item)) << "files in memory have no attributes";
+    ASSERT_FALSE(hasLarge(file(source() / "probe"))) << "the disk has room for large attributes";
     const Tree before = treeOf(target() / "folder");
     Result result = run(What::Copy, {target() / "folder"}, source());
     EXPECT_EQ(kindsOf(result), std::vector{Kind::WithoutAttributes});
@@ -1377,8 +1377,7 @@ TEST_F(CopiesToADisk, GoOnWithoutAnAttributeThatItHasNoRoomFor)
 
 TEST_F(UnusualCopies, KeepEachNameOfAFileThatTheyLackAttributesOf)
 {
-    if (!haveAttributes())
-        GTEST_SKIP() << "files in memory have no attributes";
+    ASSERT_TRUE(haveAttributes()) << "files in memory have no attributes";
     const fs::path first = file(source() / "1");
     ASSERT_EQ(::setxattr(first.c_str(), "user.orvik", "a value", 7, 0), 0);
     const fs::path second = source() / "2";
@@ -1394,8 +1393,7 @@ TEST_F(UnusualCopies, KeepEachNameOfAFileThatTheyLackAttributesOf)
 
 TEST_F(UnusualCopies, ThatCannotGoAgainAreTold)
 {
-    if (!haveAttributes())
-        GTEST_SKIP() << "files in memory have no attributes";
+    ASSERT_TRUE(haveAttributes()) << "files in memory have no attributes";
     const fs::path item = file(source() / "folder/file");
     ASSERT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
     const Tree before = treeOf(item);
@@ -1411,8 +1409,7 @@ TEST_F(UnusualCopies, ThatCannotGoAgainAreTold)
 
 TEST_F(UnusualCopies, DoNotLackAttributesThatAnotherLacked)
 {
-    if (!haveAttributes())
-        GTEST_SKIP() << "files in memory have no attributes";
+    ASSERT_TRUE(haveAttributes()) << "files in memory have no attributes";
     const fs::path item = file(source() / "1");
     ASSERT_EQ(::setxattr(item.c_str(), "user.orvik", "a value", 7, 0), 0);
     const fs::path link = source() / "2";
@@ -1426,8 +1423,7 @@ TEST_F(UnusualCopies, DoNotLackAttributesThatAnotherLacked)
 
 TEST_F(UnusualCopies, SayWhichFolderIsNotBackWithAllItsAttributes)
 {
-    if (!haveAttributes())
-        GTEST_SKIP() << "files in memory have no attributes";
+    ASSERT_TRUE(haveAttributes()) << "files in memory have no attributes";
     const fs::path merged = file(source() / "folder/file").parent_path();
     ASSERT_EQ(::setxattr(merged.c_str(), "user.orvik", "a value", 7, 0), 0);
     folder(target() / "folder");
